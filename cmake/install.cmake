@@ -1,0 +1,21 @@
+# cmake --install: library with its links, header, CMake package, pkg-config file and the catalogue as data.
+include(CMakePackageConfigHelpers)
+
+install(FILES include/vonkk3.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(TARGETS vonkk3 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES ${PROJECT_BINARY_DIR}/libvonkk3.so.4 ${PROJECT_BINARY_DIR}/libvonkk3.so
+        DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES ${PROJECT_BINARY_DIR}/src/generated/functions.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vonkk3)
+
+set(package ${CMAKE_INSTALL_LIBDIR}/cmake/vonkk3)
+configure_package_config_file(cmake/vonkk3-config.cmake.in ${PROJECT_BINARY_DIR}/vonkk3-config.cmake
+                              INSTALL_DESTINATION ${package}
+                              PATH_VARS CMAKE_INSTALL_INCLUDEDIR CMAKE_INSTALL_LIBDIR)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/vonkk3-config-version.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/vonkk3-config.cmake ${PROJECT_BINARY_DIR}/vonkk3-config-version.cmake
+        DESTINATION ${package})
+
+# Paths relative to the file itself, so that an installed tree may be moved.
+file(RELATIVE_PATH VONKK3_PREFIX_FROM_PKGCONFIG /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+configure_file(cmake/vonkk3.pc.in ${PROJECT_BINARY_DIR}/vonkk3.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/vonkk3.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,1596 @@
+/* vonkk3: linear algebra on very many small matrices and vectors.
+ *
+ * Generated from the catalogue of functions; do not edit.
+ *
+ * Names: vonk<Op>_<operands>_<type>[_<size>][_<layout>]
+ *
+ *   operands  one group per source: m matrix, v vector, c constant; `a` behind m or v makes it an array of `count` like
+ *             objects, `T` reads it transposed. The result is an array if any source is.
+ *   type      32f float, 64f double
+ *   size      3x3 to 6x6, or 3x1 to 6x1 for vectors; without it the size is a parameter
+ *   layout    where element (i, j) of object n lies; p is the operand's pointer, e the element's size in bytes:
+ *               (none)  p + n * ObjStride + i * RowStride + j * e
+ *               S2      p + n * ObjStride + i * RowStride + j * ElemStride
+ *               P       p[i * cols + j] + Shift + n * e                one pointer per element position
+ *               PS2     p[i * cols + j] + Shift + n * ObjStride
+ *               L       p[n] + Shift + i * RowStride + j * e           one pointer per object
+ *               LS2     p[n] + Shift + i * RowStride + j * ElemStride
+ *             A vector has no i. A single operand has no n: no ObjStride, and in L and LS2 a plain pointer without Shift.
+ *
+ * Units: every stride and shift is in BYTES, may be negative or zero, and is never tested. Sizes are in elements, `count`
+ * in objects. Elements may lie at any address.
+ *
+ * A call allocates nothing, keeps nothing, takes no lock and may run beside any other that does not write the same
+ * memory. float works in single precision, double in the 80-bit type; rounding mode and precision control are the
+ * caller's and are left alone.
+ *
+ * Tests, in this order: pointers (vonkErrNullPtr), sizes (vonkErrSize), entries of tables where the family tests them
+ * (vonkErrNullPtr), `count` 0 (vonkOk with nothing done). A failing call undoes nothing.
+ *
+ * In C, a table of pointers to elements that are not const needs a cast where a source table is expected:
+ * (const float *const *)table.
+ */
+#ifndef VONKK3_H
+#define VONKK3_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+typedef int32_t VonkStatus;
+
+enum {
+    vonkOk = 0,               /* done */
+    vonkErrSize = -6,         /* a size is zero, or sizes do not fit each other */
+    vonkErrNullPtr = -8,      /* a null pointer among the operands */
+    vonkErrSingular = -10,    /* a pivot or divisor is below the family's tolerance */
+    vonkErrNotPosDef = -179   /* the matrix is not positive definite */
+};
+
+/* Which build of the library this is. The record is constant and lives as long as the library is loaded. */
+typedef struct VonkLibVersion {
+    int32_t versionMajor;
+    int32_t versionMinor;
+    int32_t buildMajor;
+    int32_t buildNumber;
+    char cpuTag[4]; /* processor variant, zero-terminated */
+    const char *libraryName;
+    const char *versionText;
+    const char *buildDateText;
+} VonkLibVersion;
+
+const VonkLibVersion *vonkGetLibVersion(void);
+
+/* ---- Vector and vector ----------------------------------------------------------------------------------------------
+ *
+ * vonkAdd: dst(n, j) = src1(n, j) + src2(n, j)
+ * vonkSub: dst(n, j) = src1(n, j) - src2(n, j)
+ *
+ * for j below `len` and each object n; one rounded operation per element. Groups: `vv` two vectors, `vav` an array and a
+ * vector, `vva` a vector and an array (vonkSub only), `vava` two arrays. A single vector serves all objects.
+ *
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or list
+ * entry is null: in `vv` `P` entry by entry just before each element, earlier elements being final; in `P` and `PS2` of
+ * arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the object's turn
+ * comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - vonkAdd_vv_32f and vonkSub_vv_32f are built for length: from 11 elements on, with a `dst` that overlaps no source and
+ *   lies at a multiple of 4, they bring `dst` to a 16-byte boundary and work blocks of eight in four-lane registers. The
+ *   results are those of the plain loop, which all other calls take.
+ * - `32f` of fixed size, standard layout and `L`, with a single operand (`vav`, `vva`): the operand is loaded once, ahead
+ *   of all objects. Everywhere else it is read anew for each object.
+ * - `32f` of fixed size, standard layout and `L`, but for `3x1` of `vav` and `vva`: an object is loaded whole before it is
+ *   stored.
+ * - vonkAdd_vv_32f_4x1 alone looks at the alignment of its operands (vonkSub_vv_32f_4x1 does not), and
+ *   vonkSub_vava_32f_3x1 alone takes objects in blocks of four with a prefetch. Neither changes a result.
+ *
+ * Overlap: `dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending order, so
+ * a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L` load an object
+ * whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.
+ *
+ * Read beyond the operands: Nothing.
+ */
+
+VonkStatus vonkAdd_vv_32f(const float *src1, const float *src2, float *dst, uint32_t len);
+VonkStatus vonkAdd_vv_32f_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
+    float *dst, int32_t dstElemStride, uint32_t len);
+VonkStatus vonkAdd_vv_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t len);
+VonkStatus vonkAdd_vv_32f_3x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkAdd_vv_32f_3x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
+    float *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vv_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_vv_32f_4x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkAdd_vv_32f_4x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
+    float *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vv_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_vv_32f_5x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkAdd_vv_32f_5x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
+    float *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vv_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_vv_32f_6x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkAdd_vv_32f_6x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
+    float *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vv_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_vv_64f(const double *src1, const double *src2, double *dst, uint32_t len);
+VonkStatus vonkAdd_vv_64f_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
+    double *dst, int32_t dstElemStride, uint32_t len);
+VonkStatus vonkAdd_vv_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t len);
+VonkStatus vonkAdd_vv_64f_3x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkAdd_vv_64f_3x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
+    double *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vv_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_vv_64f_4x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkAdd_vv_64f_4x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
+    double *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vv_64f_4x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_vv_64f_5x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkAdd_vv_64f_5x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
+    double *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vv_64f_5x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_vv_64f_6x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkAdd_vv_64f_6x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
+    double *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vv_64f_6x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_vav_32f(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_32f_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vav_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vav_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vav_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vav_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vav_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_32f_5x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_32f_6x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vav_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vav_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_32f_6x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkAdd_vav_64f(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_64f_L(const double *const *src1, int32_t src1Shift, const double *src2, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vav_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vav_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vav_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_64f_3x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_64f_4x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vav_64f_4x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vav_64f_4x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_64f_4x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_64f_4x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vav_64f_5x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vav_64f_5x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_64f_5x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_64f_5x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_64f_6x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vav_64f_6x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vav_64f_6x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vav_64f_6x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vav_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkAdd_vava_32f(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_32f_L(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkAdd_vava_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkAdd_vava_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkAdd_vava_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_5x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_6x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkAdd_vava_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_32f_6x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_vava_64f(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_64f_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vava_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_3x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_4x1(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_4x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_4x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_4x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_64f_4x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_5x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_5x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_5x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_64f_5x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_6x1(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_6x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_6x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vava_64f_6x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_vv_32f(const float *src1, const float *src2, float *dst, uint32_t len);
+VonkStatus vonkSub_vv_32f_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
+    float *dst, int32_t dstElemStride, uint32_t len);
+VonkStatus vonkSub_vv_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t len);
+VonkStatus vonkSub_vv_32f_3x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkSub_vv_32f_3x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
+    float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vv_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_vv_32f_4x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkSub_vv_32f_4x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
+    float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vv_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_vv_32f_5x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkSub_vv_32f_5x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
+    float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vv_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_vv_32f_6x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkSub_vv_32f_6x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
+    float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vv_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_vv_64f(const double *src1, const double *src2, double *dst, uint32_t len);
+VonkStatus vonkSub_vv_64f_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
+    double *dst, int32_t dstElemStride, uint32_t len);
+VonkStatus vonkSub_vv_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t len);
+VonkStatus vonkSub_vv_64f_3x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkSub_vv_64f_3x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
+    double *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vv_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_vv_64f_4x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkSub_vv_64f_4x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
+    double *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vv_64f_4x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_vv_64f_5x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkSub_vv_64f_5x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
+    double *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vv_64f_5x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_vv_64f_6x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkSub_vv_64f_6x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
+    double *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vv_64f_6x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_vav_32f(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_32f_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vav_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vav_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vav_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vav_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vav_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_32f_5x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_32f_6x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vav_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vav_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_32f_6x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkSub_vav_64f(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_64f_L(const double *const *src1, int32_t src1Shift, const double *src2, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vav_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vav_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vav_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_64f_3x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_64f_4x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vav_64f_4x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vav_64f_4x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_64f_4x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_64f_4x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vav_64f_5x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vav_64f_5x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_64f_5x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_64f_5x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_64f_6x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vav_64f_6x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vav_64f_6x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vav_64f_6x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vav_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkSub_vva_32f(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_32f_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_32f_L(const float *src1, const float *const *src2, int32_t src2Shift, float *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_32f_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_32f_3x1(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vva_32f_3x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vva_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_32f_3x1_L(const float *src1, const float *const *src2, int32_t src2Shift, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_32f_3x1_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_32f_4x1(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vva_32f_4x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vva_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_32f_4x1_L(const float *src1, const float *const *src2, int32_t src2Shift, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_32f_4x1_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_32f_5x1(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vva_32f_5x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vva_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_32f_5x1_L(const float *src1, const float *const *src2, int32_t src2Shift, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_32f_5x1_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_32f_6x1(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vva_32f_6x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vva_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_32f_6x1_L(const float *src1, const float *const *src2, int32_t src2Shift, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_32f_6x1_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkSub_vva_64f(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_64f_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len,
+    uint32_t count);
+VonkStatus vonkSub_vva_64f_L(const double *src1, const double *const *src2, int32_t src2Shift, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_64f_LS2(const double *src1, int32_t src1ElemStride, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vva_64f_3x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vva_64f_3x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vva_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_64f_3x1_L(const double *src1, const double *const *src2, int32_t src2Shift, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_64f_3x1_LS2(const double *src1, int32_t src1ElemStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_64f_4x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vva_64f_4x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vva_64f_4x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_64f_4x1_L(const double *src1, const double *const *src2, int32_t src2Shift, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_64f_4x1_LS2(const double *src1, int32_t src1ElemStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_64f_5x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vva_64f_5x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vva_64f_5x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_64f_5x1_L(const double *src1, const double *const *src2, int32_t src2Shift, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_64f_5x1_LS2(const double *src1, int32_t src1ElemStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_64f_6x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vva_64f_6x1_S2(const double *src1, int32_t src1ElemStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vva_64f_6x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vva_64f_6x1_L(const double *src1, const double *const *src2, int32_t src2Shift, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vva_64f_6x1_LS2(const double *src1, int32_t src1ElemStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkSub_vava_32f(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_32f_L(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vava_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vava_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vava_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_5x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_6x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSub_vava_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_32f_6x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_vava_64f(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_64f_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vava_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_3x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_4x1(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_4x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_4x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_4x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_64f_4x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_5x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_5x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_5x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_64f_5x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_6x1(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_6x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_6x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vava_64f_6x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+/* ---- LU decomposition -----------------------------------------------------------------------------------------------
+ *
+ * vonkLUDecomp factors each matrix of `src`, `order` by `order`, into a unit lower and an upper triangular factor by
+ * Gaussian elimination with partial pivoting. Rows are never moved: `pivots`, `order` row indices per object and packed in
+ * every layout, tells that logical row k lies in row pivots[k] of `dst`. With p the block of an object, element (p[i], j)
+ * of `dst` is the multiplier L(i, j) for j < i and U(i, j) for j >= i; the unit diagonal of L is not stored, and
+ * A(p[i], j) is the sum over k of L(i, k) U(k, j).
+ *
+ * The pivot of a column is the element of largest magnitude, the first of equals. One below 2^-23 = 1.1920928955078125e-7,
+ * an absolute number and the same for both types, ends the call with vonkErrSingular; so does a NaN in its place.
+ *
+ * Status: vonkErrNullPtr if `src`, `pivots` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a table entry
+ * is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`); `count` 0 gives
+ * vonkOk. vonkErrSingular leaves the objects before the failing one complete, that one as far as it got (a failure at the
+ * last pivot leaves it complete), and those after it untouched, in `dst` and in `pivots`.
+ *
+ * Members that behave unlike their siblings:
+ * - Arrays: the test of the LAST pivot of object n looks n * `order` columns beyond it (see what is read). The last pivot
+ *   of an object other than the first is thus not tested, and an innocent object fails if what lies there is too small.
+ * - `64f`, 3x3 to 5x5: rows are updated with the unrounded quotient; run-time size and 6x6 use the stored multiplier.
+ * - `64f`, candidates for the pivot come in pairs; if the first of a pair and the best so far are unordered (a NaN), 3x3 to
+ *   5x5 take the candidate's position but not its value, run-time size and 6x6 take the value in `m` and value and
+ *   position in `ma`. `32f` forms pass over a NaN.
+ * - A zero multiplier is negated to +0 in `32f` and to -0 in `64f`.
+ *
+ * Overlap: `dst` may be `src` itself, with the same strides or tables. A partial overlap behaves as the copy from `src` to `dst` that
+ * each object begins with: element by element, forward. `pivots` must overlap neither.
+ *
+ * Read beyond the operands: Arrays: with the last pivot of object n at row r of `dst`, one element is read n * `order` * element size bytes behind it
+ * (standard and `L`), n * `order` * `dstElemStride` bytes behind it (`S2`, `LS2`), or through slot (r + n) * `order` +
+ * `order` - 1 of the `dst` table (`P`, `PS2`). At the end of an array or table that lies beyond it: leave readable memory
+ * there, and mind that its value decides over vonkErrSingular.
+ */
+
+VonkStatus vonkLUDecomp_m_32f(const float *src, int32_t srcRowStride, uint32_t *pivots, float *dst,
+    int32_t dstRowStride, uint32_t order);
+VonkStatus vonkLUDecomp_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
+    float *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t order);
+VonkStatus vonkLUDecomp_m_32f_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
+    int32_t dstShift, uint32_t order);
+VonkStatus vonkLUDecomp_m_32f_3x3(const float *src, int32_t srcRowStride, uint32_t *pivots, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkLUDecomp_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
+    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkLUDecomp_m_32f_3x3_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkLUDecomp_m_32f_4x4(const float *src, int32_t srcRowStride, uint32_t *pivots, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkLUDecomp_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
+    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkLUDecomp_m_32f_4x4_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkLUDecomp_m_32f_5x5(const float *src, int32_t srcRowStride, uint32_t *pivots, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkLUDecomp_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
+    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkLUDecomp_m_32f_5x5_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkLUDecomp_m_32f_6x6(const float *src, int32_t srcRowStride, uint32_t *pivots, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkLUDecomp_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
+    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkLUDecomp_m_32f_6x6_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkLUDecomp_m_64f(const double *src, int32_t srcRowStride, uint32_t *pivots, double *dst,
+    int32_t dstRowStride, uint32_t order);
+VonkStatus vonkLUDecomp_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t order);
+VonkStatus vonkLUDecomp_m_64f_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
+    int32_t dstShift, uint32_t order);
+VonkStatus vonkLUDecomp_m_64f_3x3(const double *src, int32_t srcRowStride, uint32_t *pivots, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkLUDecomp_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkLUDecomp_m_64f_3x3_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkLUDecomp_m_64f_4x4(const double *src, int32_t srcRowStride, uint32_t *pivots, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkLUDecomp_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkLUDecomp_m_64f_4x4_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkLUDecomp_m_64f_5x5(const double *src, int32_t srcRowStride, uint32_t *pivots, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkLUDecomp_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkLUDecomp_m_64f_5x5_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkLUDecomp_m_64f_6x6(const double *src, int32_t srcRowStride, uint32_t *pivots, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkLUDecomp_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkLUDecomp_m_64f_6x6_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkLUDecomp_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t *pivots, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t order,
+    uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
+    int32_t dstShift, uint32_t order, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t *pivots,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_3x3_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_4x4_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_5x5_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_6x6_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkLUDecomp_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t *pivots, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t order,
+    uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
+    int32_t dstShift, uint32_t order, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t *pivots,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_3x3_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_4x4_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_5x5_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_6x6_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkLUDecomp_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+
+/* ---- LU back substitution -------------------------------------------------------------------------------------------
+ *
+ * vonkLUBackSubst solves A x = b with what vonkLUDecomp left: `src1` the factors in their unpermuted rows, `pivots` the
+ * permutation, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system; `mva` one
+ * factored matrix with its `pivots` for `count` right-hand sides; `mava` a factored matrix and `order` pivots per object.
+ *
+ * Forward: x(i) = b(p[i]) - s, s the sum of A(p[i], j) x(j) over j < i. Backward, from the last row up:
+ * x(i) = (x(i) - s) / A(p[i], i), s the sum over j > i. Sums grow from 0 in ascending j, divisions are true divisions, and
+ * x is its own scratch space. Entries of `pivots` are trusted to be below `order`.
+ *
+ * Status: vonkErrNullPtr if `src1`, `pivots`, `src2` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a
+ * table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`); `count` 0
+ * gives vonkOk. The numbers are not tested: a zero pivot divides through to an infinity or a NaN with vonkOk.
+ *
+ * Members that behave unlike their siblings:
+ * - `mva` in the standard layout, `S2`, `L` and `LS2` has a word behind `src1` (`src1ObjStride` or `src1Shift`) that is
+ *   accepted and never read, so that `mva` and `mava` have one parameter list. In `L` and `LS2` `src1` is a plain pointer.
+ * - `mva` of `64f` in `L`, of every size, steps through the columns of `src1` by 4 bytes: element (i, j) is the double at
+ *   i * `src1RowStride` + j * 4. `LS2` and all other forms step by the element.
+ * - `64f` sums: array forms of fixed size, but for `L` and `LS2`, never round them; all other forms round a sum to 64 bits
+ *   after its pairs of terms, and again after an odd last term. At 53-bit precision there is no difference but in range.
+ *
+ * Overlap: `dst` must not be `src2` unless the permutation is the identity: x(i) is written while b(p[i]) of later rows is still
+ * needed. Nothing tests overlap; sweeps read what memory holds by then.
+ *
+ * Read beyond the operands: Nothing.
+ */
+
+VonkStatus vonkLUBackSubst_mv_32f(const float *src1, int32_t src1RowStride, const uint32_t *pivots, const float *src2,
+    float *dst, uint32_t order);
+VonkStatus vonkLUBackSubst_mv_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride,
+    uint32_t order);
+VonkStatus vonkLUBackSubst_mv_32f_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order);
+VonkStatus vonkLUBackSubst_mv_32f_3x3(const float *src1, int32_t src1RowStride, const uint32_t *pivots,
+    const float *src2, float *dst);
+VonkStatus vonkLUBackSubst_mv_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkLUBackSubst_mv_32f_3x3_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkLUBackSubst_mv_32f_4x4(const float *src1, int32_t src1RowStride, const uint32_t *pivots,
+    const float *src2, float *dst);
+VonkStatus vonkLUBackSubst_mv_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkLUBackSubst_mv_32f_4x4_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkLUBackSubst_mv_32f_5x5(const float *src1, int32_t src1RowStride, const uint32_t *pivots,
+    const float *src2, float *dst);
+VonkStatus vonkLUBackSubst_mv_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkLUBackSubst_mv_32f_5x5_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkLUBackSubst_mv_32f_6x6(const float *src1, int32_t src1RowStride, const uint32_t *pivots,
+    const float *src2, float *dst);
+VonkStatus vonkLUBackSubst_mv_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkLUBackSubst_mv_32f_6x6_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkLUBackSubst_mv_64f(const double *src1, int32_t src1RowStride, const uint32_t *pivots, const double *src2,
+    double *dst, uint32_t order);
+VonkStatus vonkLUBackSubst_mv_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride,
+    uint32_t order);
+VonkStatus vonkLUBackSubst_mv_64f_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order);
+VonkStatus vonkLUBackSubst_mv_64f_3x3(const double *src1, int32_t src1RowStride, const uint32_t *pivots,
+    const double *src2, double *dst);
+VonkStatus vonkLUBackSubst_mv_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkLUBackSubst_mv_64f_3x3_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkLUBackSubst_mv_64f_4x4(const double *src1, int32_t src1RowStride, const uint32_t *pivots,
+    const double *src2, double *dst);
+VonkStatus vonkLUBackSubst_mv_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkLUBackSubst_mv_64f_4x4_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkLUBackSubst_mv_64f_5x5(const double *src1, int32_t src1RowStride, const uint32_t *pivots,
+    const double *src2, double *dst);
+VonkStatus vonkLUBackSubst_mv_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkLUBackSubst_mv_64f_5x5_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkLUBackSubst_mv_64f_6x6(const double *src1, int32_t src1RowStride, const uint32_t *pivots,
+    const double *src2, double *dst);
+VonkStatus vonkLUBackSubst_mv_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkLUBackSubst_mv_64f_6x6_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkLUBackSubst_mva_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t order,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_PS2(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_L(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
+    uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_3x3_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_3x3_L(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_3x3_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_4x4_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_4x4_L(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_4x4_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_5x5_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_5x5_L(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_5x5_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_6x6_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_6x6_L(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_32f_6x6_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkLUBackSubst_mva_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
+    uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_PS2(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_L(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
+    uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t order,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_3x3_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_3x3_L(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_3x3_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_4x4_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_4x4_L(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_4x4_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_5x5_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_5x5_L(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_5x5_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_6x6_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_6x6_L(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mva_64f_6x6_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkLUBackSubst_mava_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t order,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
+    uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_3x3_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_4x4_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_5x5_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_6x6_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkLUBackSubst_mava_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
+    uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
+    uint32_t order, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t order,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_3x3_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_4x4_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_5x5_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_6x6_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkLUBackSubst_mava_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

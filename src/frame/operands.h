@@ -1,0 +1,83 @@
+// The operands of a call: matrices and vectors, one or an array of them, in the six layouts. An operand is made from
+// its words in the order of the parameter list and hands out the view of object n.
+//
+// Words are 32-bit, signed in meaning and never validated; they are sign-extended and enter address arithmetic only.
+#pragma once
+
+#include "frame/views.h"
+
+#include <concepts>
+
+namespace vonkk3 {
+
+enum class Layout { Standard, S2, P, PS2, L, LS2 };
+
+enum class Shape { vector, matrix };
+
+template <class T, Layout memory, Shape shape, bool isArrayOperand> class Operand {
+public:
+    using Element = std::remove_const_t<T>;
+    static constexpr Layout layout = memory;
+    static constexpr bool isArray = isArrayOperand;
+    static constexpr bool isTable = layout == Layout::P || layout == Layout::PS2;
+    static constexpr bool isList = isArray && (layout == Layout::L || layout == Layout::LS2);
+    static constexpr bool isStrided = layout == Layout::S2 || layout == Layout::LS2;
+    using Pointer = std::conditional_t<isTable || isList, T *const *, T *>;
+
+    // The pointer, then those of shift, object stride, row stride and element stride that the form has.
+    explicit Operand(Pointer pointer, std::same_as<std::int32_t> auto... words) : pointer(pointer) {
+        static_assert(sizeof...(words) == hasShift + hasObjectStride + hasRowStride + isStrided);
+        const std::int32_t list[] = {words..., 0};
+        const std::int32_t *next = list;
+        if constexpr (hasShift) shift = *next++;
+        if constexpr (hasObjectStride) objectStride = *next++;
+        if constexpr (hasRowStride) rowStride = *next++;
+        if constexpr (isStrided) elementStride = *next++;
+    }
+
+    bool isNull() const { return pointer == nullptr; }
+
+    // Entry of the table for one element position.
+    bool tableHasNull(std::size_t position) const {
+        if constexpr (isTable) return view(0).hasNullEntry(position);
+        else return false;
+    }
+
+    // Entry of the list for object n.
+    bool listHasNull(std::size_t n) const {
+        if constexpr (isList) return loadAt<T *>(listSlot(n)) == nullptr;
+        else return false;
+    }
+
+    // Object n. A matrix in a pointer layout needs to know how many columns make a row of its table.
+    auto view(std::size_t n, [[maybe_unused]] std::size_t columns = 0) const {
+        if constexpr (isTable) return TableView<T>(pointer, columns, shift + std::ptrdiff_t(n) * objectStride);
+        else if constexpr (isStrided) return StridedView<T>(base(n), rowStride, elementStride);
+        else return RowsView<T>(base(n), rowStride);
+    }
+
+private:
+    static constexpr bool hasShift = isTable || isList;
+    static constexpr bool hasObjectStride = isArray && !isList && layout != Layout::P;
+    static constexpr bool hasRowStride = shape == Shape::matrix && !isTable;
+
+    Pointer pointer;
+    std::ptrdiff_t shift = 0;
+    std::ptrdiff_t objectStride = isArray && layout == Layout::P ? sizeof(T) : 0; // P packs its objects
+    std::ptrdiff_t rowStride = 0;
+    std::ptrdiff_t elementStride = sizeof(T);
+
+    ByteOf<T> *base(std::size_t n) const {
+        if constexpr (isList) return reinterpret_cast<ByteOf<T> *>(loadAt<T *>(listSlot(n))) + shift;
+        else return reinterpret_cast<ByteOf<T> *>(pointer) + std::ptrdiff_t(n) * objectStride;
+    }
+
+    const std::byte *listSlot(std::size_t n) const { return reinterpret_cast<const std::byte *>(pointer + n); }
+};
+
+template <class T, Layout layout> using Matrix = Operand<T, layout, Shape::matrix, false>;
+template <class T, Layout layout> using Matrices = Operand<T, layout, Shape::matrix, true>;
+template <class T, Layout layout> using Vector = Operand<T, layout, Shape::vector, false>;
+template <class T, Layout layout> using Vectors = Operand<T, layout, Shape::vector, true>;
+
+} // namespace vonkk3

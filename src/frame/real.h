@@ -1,0 +1,39 @@
+// Elements, the arithmetic they are worked in, and the one way to move them to and from memory.
+//
+// Real32 is worked in Real32: every operation rounds. Real64 is worked in the 80-bit type, and a rounding to 64 bits
+// happens only where round() is written. Both inherit the caller's rounding mode and precision control.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+namespace vonkk3 {
+
+using Real32 = float;
+using Real64 = double;
+using Wide = long double;
+
+static_assert(sizeof(Real32) == 4 && sizeof(Real64) == 8);
+static_assert(__LDBL_MANT_DIG__ == 64, "Real64 is worked in the 80-bit extended type");
+
+// The type in which elements of type T are worked.
+template <class T> using Working = std::conditional_t<std::is_same_v<T, Real64>, Wide, Real32>;
+
+// const std::byte for what is only read, std::byte for what is written.
+template <class T> using ByteOf = std::conditional_t<std::is_const_v<T>, const std::byte, std::byte>;
+
+// To 64 bits for Real64; Real32 is rounded already.
+template <class T> inline T round(Working<T> value) { return static_cast<T>(value); }
+
+// Elements lie at any address, so they are moved byte for byte; that is one instruction all the same, and it keeps the
+// bits of a signalling NaN, which a detour through the 80-bit stack would not.
+template <class T> inline T loadAt(const std::byte *address) {
+    T value;
+    __builtin_memcpy(&value, address, sizeof value);
+    return value;
+}
+
+template <class T> inline void storeAt(std::byte *address, T value) { __builtin_memcpy(address, &value, sizeof value); }
+
+} // namespace vonkk3

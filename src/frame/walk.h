@@ -1,0 +1,44 @@
+// The road of every call: null tests of the pointers, tests of the dimensions, scan of the tables, test of `count`,
+// walk over the objects. A family states its road in a line per step, and stops at the first that fails:
+//
+//     if (anyNull(src, pivots, dst)) return vonkErrNullPtr;
+//     if (order.isZero()) return vonkErrSize;
+//     if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
+//     return forEachObject(count, src, dst, ...);
+#pragma once
+
+#include "frame/operands.h"
+#include "frame/size.h"
+#include "vonkk3.h"
+
+#include <utility>
+
+namespace vonkk3 {
+
+template <class T> inline bool isNull(T *pointer) { return pointer == nullptr; }
+template <class T> inline bool isNull(const T &operand) { return operand.isNull(); }
+
+template <class... Pointers> inline bool anyNull(const Pointers &...pointers) { return (isNull(pointers) || ...); }
+
+// Scans the tables of the operands side by side; operands without a table pass.
+template <class... Operands> inline bool anyTableEntryNull(std::size_t positions, const Operands &...operands) {
+    if constexpr ((Operands::isTable || ...)) {
+        for (std::size_t position = 0; position < positions; ++position)
+            if ((operands.tableHasNull(position) || ...)) return true;
+    }
+    return false;
+}
+
+// Does the work for the objects in ascending order. The list entries of an object are tested when its turn comes, so
+// the objects before it are complete; `work` gets the object's number and returns a status, which ends the walk if it
+// is a failure. At `count` 0 nothing happens.
+template <class Count, class Work, class... Operands>
+inline VonkStatus forEachObject(Count count, Work work, const Operands &...operands) {
+    for (std::size_t n = 0; n < count; ++n) {
+        if ((operands.listHasNull(n) || ...)) return vonkErrNullPtr;
+        if (const VonkStatus status = work(n); status != vonkOk) return status;
+    }
+    return vonkOk;
+}
+
+} // namespace vonkk3

@@ -1,0 +1,94 @@
+// Solving A x = b with the factors of an LU decomposition: a forward sweep through the unit lower factor, with the
+// permutation applied on the fly, and a backward sweep through the upper one. The solution is its own scratch space.
+// Nothing about the numbers is tested: a zero pivot divides through.
+#pragma once
+
+#include "frame/walk.h"
+#include "lu/permutation.h"
+
+namespace vonkk3::lu {
+
+// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+
+// Real64 sums: the unrolled forms never round them; the looped ones round after the pairs of terms and again after an
+// odd last term. Unrolled are the array forms of fixed size but for the list layouts. The rounding shows at the full
+// precision of the 80-bit unit only, and where a sum leaves the Real64 range.
+template <class Solution, class Order>
+inline constexpr bool keepsSumWide =
+    Order::isFixed &&Solution::isArray &&Solution::layout != Layout::L &&Solution::layout != Layout::LS2;
+
+// One matrix for all right-hand sides: vonkLUBackSubst_mva in the list layout, Real64, of every size, steps through its
+// columns by 4 bytes instead of 8. Its strided twin and all other forms step properly.
+template <class Factors, class Solution>
+inline constexpr bool stepsHalfColumns =
+    std::is_same_v<typename Factors::Element, Real64> &&Factors::layout == Layout::L && !Factors::isArray &&
+    Solution::isArray;
+
+template <class Solution, class Factors, class Order>
+inline auto factorsOfObject(const Factors &factors, std::size_t n, Order order) {
+    const auto view = factors.view(n, order);
+    if constexpr (stepsHalfColumns<Factors, Solution>)
+        return StridedView<const Real64>(view.base, view.rowStride, sizeof(Real64) / 2);
+    else return view;
+}
+
+// ---- One object -----------------------------------------------------------------------------------------------------
+
+// Sum over j from `from` to `to` - 1 of factors(row, j) * x(j), ascending from zero. Terms read what x holds by then.
+template <bool keepsWide, class T, class Factors, class Solution>
+inline Working<T> sumOfProducts(const Factors &factors, std::size_t row, const Solution &x, std::size_t from,
+                                std::size_t to) {
+    using W = Working<T>;
+    W sum = 0;
+    const auto addTerm = [&](std::size_t j) { sum = sum + W(factors.load(row, j)) * W(x.load(j)); };
+    std::size_t j = from;
+    for (; j + 1 < to; j += 2) addTerm(j), addTerm(j + 1);
+    if constexpr (!keepsWide) sum = round<T>(sum);
+    if (j < to) {
+        addTerm(j);
+        if constexpr (!keepsWide) sum = round<T>(sum);
+    }
+    return sum;
+}
+
+template <bool keepsWide, class T, class Factors, class RightSide, class Solution, class Order>
+inline void solveObject(const Factors &factors, const std::byte *pivots, const RightSide &b, const Solution &x,
+                        Order order) {
+    using W = Working<T>;
+    x.store(0, b.load(loadPivot(pivots, 0)));
+    for (std::size_t i = 1; i < order; ++i) {
+        const std::size_t row = loadPivot(pivots, i);
+        const W sum = sumOfProducts<keepsWide, T>(factors, row, x, 0, i);
+        x.store(i, round<T>(W(b.load(row)) - sum));
+    }
+    const std::size_t lastRow = loadPivot(pivots, order - 1);
+    x.store(order - 1, round<T>(W(x.load(order - 1)) / W(factors.load(lastRow, order - 1))));
+    for (std::size_t i = order - 1; i-- > 0;) {
+        const std::size_t row = loadPivot(pivots, i);
+        const W sum = sumOfProducts<keepsWide, T>(factors, row, x, i + 1, order);
+        x.store(i, round<T>((W(x.load(i)) - sum) / W(factors.load(row, i))));
+    }
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+// One factored matrix serves all right-hand sides (mva), or each has its own, with its own block of pivots (mava).
+template <class Factors, class RightSide, class Solution, class Order, class Count>
+inline VonkStatus backSubstitute(const Factors &src1, const std::uint32_t *pivots, const RightSide &src2,
+                                 const Solution &dst, Order order, Count count) {
+    if (anyNull(src1, pivots, src2, dst)) return vonkErrNullPtr;
+    if (order.isZero()) return vonkErrSize;
+    if (anyTableEntryNull(order * order, src1)) return vonkErrNullPtr;
+    if (anyTableEntryNull(order, src2, dst)) return vonkErrNullPtr;
+    return forEachObject(
+        count,
+        [&](std::size_t n) {
+            const std::byte *block = pivotBlock(pivots, Factors::isArray ? n : 0, order);
+            solveObject<keepsSumWide<Solution, Order>, typename Solution::Element>(
+                factorsOfObject<Solution>(src1, n, order), block, src2.view(n), dst.view(n), order);
+            return vonkOk;
+        },
+        src1, src2, dst);
+}
+
+} // namespace vonkk3::lu

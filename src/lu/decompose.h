@@ -1,0 +1,121 @@
+// LU decomposition by Gaussian elimination with partial pivoting (unit lower factor, updates row by row), through a
+// permutation instead of row exchanges. The factors stay in the rows where the matrix had them.
+#pragma once
+
+#include "frame/walk.h"
+#include "lu/permutation.h"
+
+namespace vonkk3::lu {
+
+// Pivots below this are taken for zero: an absolute number, and the same for both element types.
+inline constexpr Real32 pivotTolerance = 0x1p-23F;
+
+// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+
+// The Real64 search takes candidates in pairs. When the first of a pair and the best so far are unordered (one is a
+// NaN), the forms part: some take the candidate's value, some its position, some both. Real32 forms take neither.
+struct UnorderedCandidate {
+    bool replacesValue;
+    bool replacesPosition;
+};
+
+template <class T, bool isArray, class Order> constexpr UnorderedCandidate unorderedCandidate() {
+    if (std::is_same_v<T, Real32>) return {false, false};
+    if (Order::value >= 3 && Order::value <= 5) return {false, true};
+    return {true, isArray};
+}
+
+// Real64 of 3x3, 4x4 and 5x5 updates with the quotient as the division left it; run-time size and 6x6 with the rounded
+// multiplier that the matrix keeps. At reduced precision that still shows where the quotient leaves the Real64 range.
+template <class Order> inline constexpr bool updatesWithRoundedMultiplier = Order::value<3 || Order::value> 5;
+
+// The last pivot test of object n in an array does not look at that pivot but n * order columns beyond it: in another
+// row, in another object, or behind the array. Only object 0 has its own last pivot tested.
+inline std::size_t testedLastColumn(std::size_t order, std::size_t n) { return order - 1 + n * order; }
+
+// ---- One object -----------------------------------------------------------------------------------------------------
+
+inline Real32 magnitude(Real32 value) { return __builtin_fabsf(value); }
+inline Wide magnitude(Wide value) { return __builtin_fabsl(value); }
+
+// A NaN does not pass.
+template <class W> inline bool passesAsPivot(W value) { return magnitude(value) >= W(pivotTolerance); }
+
+// A zero Real32 multiplier is negated to +0, a zero Real64 one to -0 (of a zero the other way round).
+inline Real32 negated(Real32 multiplier) { return 0.0F - multiplier; }
+inline Wide negated(Wide multiplier) { return -multiplier; }
+
+// The position below k of the row whose element in column k is largest in magnitude; the first of equals.
+template <bool isArray, class T, class Factors, class Rows, class Order>
+inline std::size_t findPivot(const Factors &factors, const Rows &rows, std::size_t k, Order order) {
+    using W = Working<T>;
+    constexpr UnorderedCandidate unordered = unorderedCandidate<T, isArray, Order>();
+    W best = magnitude(W(factors.load(rows[k], k)));
+    std::size_t position = k;
+    const auto consider = [&](std::size_t i, UnorderedCandidate whenUnordered) {
+        const W candidate = magnitude(W(factors.load(rows[i], k)));
+        if (candidate > best) best = candidate, position = i;
+        else if (whenUnordered.replacesPosition || whenUnordered.replacesValue)
+            if (__builtin_isunordered(candidate, best)) {
+                if (whenUnordered.replacesValue) best = candidate;
+                if (whenUnordered.replacesPosition) position = i;
+            }
+    };
+    std::size_t i = k + 1;
+    for (; i + 1 < order; i += 2) {
+        consider(i, unordered);
+        consider(i + 1, {false, false});
+    }
+    if (i < order) consider(i, {false, false});
+    return position;
+}
+
+// Takes the multiple of pivot row k that clears column k out of row i, and keeps the multiplier in its place.
+template <class T, class Factors, class Order>
+inline void eliminateRow(const Factors &factors, std::size_t pivotRow, std::size_t row, std::size_t k, Order order,
+                         Working<T> pivot) {
+    using W = Working<T>;
+    const W quotient = W(factors.load(row, k)) / pivot;
+    const T multiplier = round<T>(quotient);
+    factors.store(row, k, multiplier);
+    const W factor = negated(updatesWithRoundedMultiplier<Order> ? W(multiplier) : quotient);
+    for (std::size_t j = k + 1; j < order; ++j)
+        factors.store(row, j, round<T>(W(factors.load(pivotRow, j)) * factor + W(factors.load(row, j))));
+}
+
+template <bool isArray, class T, class Source, class Factors, class Order>
+inline VonkStatus decomposeObject(const Source &source, const Factors &factors, std::byte *pivots, Order order,
+                                  std::size_t n) {
+    using W = Working<T>;
+    for (std::size_t i = 0; i < order; ++i)
+        for (std::size_t j = 0; j < order; ++j) factors.store(i, j, source.load(i, j));
+
+    GrowingPermutation<Order> rows(pivots, order);
+    for (std::size_t k = 0; k + 1 < order; ++k) {
+        rows.exchange(k, findPivot<isArray, T>(factors, rows, k, order));
+        const W pivot = factors.load(rows[k], k);
+        if (!passesAsPivot(pivot)) return vonkErrSingular;
+        for (std::size_t i = k + 1; i < order; ++i) eliminateRow<T>(factors, rows[k], rows[i], k, order, pivot);
+    }
+    const W last = factors.load(rows[order - 1], testedLastColumn(order, n));
+    return passesAsPivot(last) ? vonkOk : vonkErrSingular;
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+// Objects one after the other, each through all its steps; the first singular one ends the call.
+template <class Source, class Factors, class Order, class Count>
+inline VonkStatus decompose(const Source &src, std::uint32_t *pivots, const Factors &dst, Order order, Count count) {
+    if (anyNull(src, pivots, dst)) return vonkErrNullPtr;
+    if (order.isZero()) return vonkErrSize;
+    if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
+    return forEachObject(
+        count,
+        [&](std::size_t n) {
+            return decomposeObject<Count::isArray, typename Factors::Element>(src.view(n, order), dst.view(n, order),
+                                                                              pivotBlock(pivots, n, order), order, n);
+        },
+        src, dst);
+}
+
+} // namespace vonkk3::lu

@@ -1,0 +1,16 @@
+// What the generator writes, each from the catalogue alone: the public header, the export stubs, the list of exports,
+// functions.json and the reference pages.
+#pragma once
+
+#include <map>
+#include <string>
+
+namespace emit {
+
+std::string header();                           // include/vonkk3.h
+std::map<std::string, std::string> stubs();     // source files by name, one per operation and type
+std::string exports();                          // exported names, one a line, sorted
+std::string functionsJson();                    // the catalogue as data for bindings and editors
+std::map<std::string, std::string> reference(); // Markdown pages by name
+
+} // namespace emit

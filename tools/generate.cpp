@@ -1,0 +1,54 @@
+// The generator: writes what follows from the catalogue.
+//
+//     generate tree ROOT     the files that are checked in: include/vonkk3.h and docs/reference/
+//     generate build FOLDER  the files of one build: stubs/*.cpp, exports.txt and functions.json
+//
+// A file that would not change is left alone, so that nothing is compiled again for it.
+#include "emit.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <stdexcept>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+void write(const fs::path &path, const std::string &content) {
+    std::stringstream present;
+    present << std::ifstream(path, std::ios::binary).rdbuf();
+    if (present.str() == content) return;
+    fs::create_directories(path.parent_path());
+    std::ofstream file(path, std::ios::binary);
+    file << content;
+    if (!file.flush()) throw std::runtime_error("cannot write " + path.string());
+}
+
+void writeTree(const fs::path &root) {
+    write(root / "include/vonkk3.h", emit::header());
+    for (const auto &[name, content] : emit::reference()) write(root / "docs/reference" / name, content);
+}
+
+void writeBuild(const fs::path &folder) {
+    for (const auto &[name, content] : emit::stubs()) write(folder / "stubs" / name, content);
+    write(folder / "exports.txt", emit::exports());
+    write(folder / "functions.json", emit::functionsJson());
+}
+
+} // namespace
+
+int main(int count, char **arguments) try {
+    const std::string what = count == 3 ? arguments[1] : "";
+    if (what == "tree") writeTree(arguments[2]);
+    else if (what == "build") writeBuild(arguments[2]);
+    else {
+        std::cerr << "usage: generate tree ROOT | generate build FOLDER\n";
+        return 2;
+    }
+    return 0;
+} catch (const std::exception &error) {
+    std::cerr << "generate: " << error.what() << "\n";
+    return 1;
+}
