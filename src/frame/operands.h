@@ -51,10 +51,19 @@ public:
 
     // Object n. A matrix in a pointer layout needs to know how many columns make a row of its table.
     auto view(std::size_t n, [[maybe_unused]] std::size_t columns = 0) const {
-        if constexpr (isTable) return TableView<T>(pointer, columns, shift + std::ptrdiff_t(n) * objectStride);
+        if constexpr (isTable) return TableView<T>(pointer, columns, shift + strides(n, objectStride));
         else if constexpr (isStrided) return StridedView<T>(base(n), rowStride, elementStride);
         else return RowsView<T>(base(n), rowStride);
     }
+
+    // The operand with the object stride of another one that is known to have the same: where the compiler sees that
+    // two strides are one value, it keeps one running offset instead of two.
+    template <class Other> Operand spacedAs(const Other &other) const {
+        Operand copy = *this;
+        copy.objectStride = other.objectSpacing();
+        return copy;
+    }
+    std::ptrdiff_t objectSpacing() const { return objectStride; }
 
 private:
     static constexpr bool hasShift = isTable || isList;
@@ -69,7 +78,7 @@ private:
 
     ByteOf<T> *base(std::size_t n) const {
         if constexpr (isList) return reinterpret_cast<ByteOf<T> *>(loadAt<T *>(listSlot(n))) + shift;
-        else return reinterpret_cast<ByteOf<T> *>(pointer) + std::ptrdiff_t(n) * objectStride;
+        else return reinterpret_cast<ByteOf<T> *>(pointer) + strides(n, objectStride);
     }
 
     const std::byte *listSlot(std::size_t n) const { return reinterpret_cast<const std::byte *>(pointer + n); }

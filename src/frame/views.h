@@ -8,6 +8,12 @@
 
 namespace vonkk3 {
 
+// So many strides, in bytes. Multiplied without sign, which wraps at the width of a pointer as addresses do, and which
+// a compiler can turn into a running sum.
+inline std::ptrdiff_t strides(std::size_t number, std::ptrdiff_t stride) {
+    return std::ptrdiff_t(number * std::size_t(stride));
+}
+
 // What the three views share: moving elements to and from the addresses that View::at gives.
 template <class View, class T> struct ElementAccess {
     using Element = std::remove_const_t<T>;
@@ -30,7 +36,7 @@ template <class T> struct RowsView : ElementAccess<RowsView<T>, T> {
 
     ByteOf<T> *at(std::size_t column) const { return base + column * sizeof(T); }
     ByteOf<T> *at(std::size_t row, std::size_t column) const {
-        return base + std::ptrdiff_t(row) * rowStride + column * sizeof(T);
+        return base + strides(row, rowStride) + column * sizeof(T);
     }
     static constexpr bool hasNullEntry(std::size_t) { return false; }
 };
@@ -44,9 +50,9 @@ template <class T> struct StridedView : ElementAccess<StridedView<T>, T> {
     StridedView(ByteOf<T> *base, std::ptrdiff_t rowStride, std::ptrdiff_t elementStride)
         : base(base), rowStride(rowStride), elementStride(elementStride) {}
 
-    ByteOf<T> *at(std::size_t column) const { return base + std::ptrdiff_t(column) * elementStride; }
+    ByteOf<T> *at(std::size_t column) const { return base + strides(column, elementStride); }
     ByteOf<T> *at(std::size_t row, std::size_t column) const {
-        return base + std::ptrdiff_t(row) * rowStride + std::ptrdiff_t(column) * elementStride;
+        return base + strides(row, rowStride) + strides(column, elementStride);
     }
     static constexpr bool hasNullEntry(std::size_t) { return false; }
 };

@@ -41,4 +41,34 @@ inline VonkStatus forEachObject(Count count, Work work, const Operands &...opera
     return vonkOk;
 }
 
+#ifdef __clang__
+#define VONKK3_UNROLL_FOURFOLD _Pragma("unroll 4")
+#else
+#define VONKK3_UNROLL_FOURFOLD _Pragma("GCC unroll 4")
+#endif
+
+// The same for objects that take only a few instructions and cannot fail: the loop is unrolled, or its own counting
+// would cost as much as the work.
+template <class Work, class... Operands>
+inline VonkStatus forEachLightObject(OneObject, Work work, const Operands &...) {
+    return work(0), vonkOk;
+}
+
+template <class Work, class... Operands>
+inline VonkStatus forEachLightObject(Objects count, Work work, const Operands &...operands) {
+    const std::size_t objects = count;
+    VONKK3_UNROLL_FOURFOLD
+    for (std::size_t n = 0; n < objects; ++n) {
+        if ((operands.listHasNull(n) || ...)) return vonkErrNullPtr;
+        work(n);
+    }
+    return vonkOk;
+}
+
+// Whether arrays lie equally spaced. One running offset then serves all of them, which leaves a light object's loop
+// bound by its loads and stores alone; see Operand::spacedAs.
+template <class First, class... Others> inline bool equallySpaced(const First &first, const Others &...others) {
+    return ((others.objectSpacing() == first.objectSpacing()) && ...);
+}
+
 } // namespace vonkk3

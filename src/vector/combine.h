@@ -112,54 +112,45 @@ inline VonkStatus combineInBlocksOfFour(const A &a, const B &b, const D &d, Coun
     return vonkOk;
 }
 
-// Lanes for every object; a single operand is loaded once, ahead of the objects.
-template <class Operation, class A, class B, class D, std::size_t length, class Count>
-inline VonkStatus combineAllLanes(const A &a, const B &b, const D &d, Fixed<length>, Count count, Operation operation) {
-    using L = Lanes<length>;
-    if constexpr (A::isArray == B::isArray)
-        return forEachObject(
-            count,
-            [&](std::size_t n) {
-                combineLanes(L::load(a.view(n).base), L::load(b.view(n).base), operation).store(d.view(n).base);
-                return vonkOk;
-            },
-            a, b, d);
-    else if constexpr (A::isArray)
-        return forEachObject(
-            count,
-            [&, held = L::load(b.view(0).base)](std::size_t n) {
-                combineLanes(L::load(a.view(n).base), held, operation).store(d.view(n).base);
-                return vonkOk;
-            },
-            a, b, d);
-    else
-        return forEachObject(
-            count,
-            [&, held = L::load(a.view(0).base)](std::size_t n) {
-                combineLanes(held, L::load(b.view(n).base), operation).store(d.view(n).base);
-                return vonkOk;
-            },
-            a, b, d);
+// What hands out an operand of object n: as lanes, or as something with load(j). A single operand is taken out of
+// memory once, here, and held.
+template <std::size_t length, class Operand> inline auto lanesOf(const Operand &operand) {
+    if constexpr (Operand::isArray) return [&](std::size_t n) { return Lanes<length>::load(operand.view(n).base); };
+    else return [held = Lanes<length>::load(operand.view(0).base)](std::size_t) { return held; };
 }
 
-// Element by element for every object, the single operand held in registers meanwhile.
+template <std::size_t length, class Operand> inline auto elementsOf(const Operand &operand) {
+    if constexpr (Operand::isArray) return [&](std::size_t n) { return operand.view(n); };
+    else return [held = Held<length>(operand.view(0))](std::size_t) { return held; };
+}
+
+template <class Operation, class A, class B, class D, std::size_t length, class Count>
+inline VonkStatus combineInLanes(const A &a, const B &b, const D &d, Fixed<length>, Count count, Operation operation) {
+    const auto first = lanesOf<length>(a);
+    const auto second = lanesOf<length>(b);
+    const auto combineObject = [&](std::size_t n) {
+        combineLanes(first(n), second(n), operation).store(d.view(n).base);
+    };
+    return forEachLightObject(count, combineObject, a, b, d);
+}
+
+// The same for two arrays, which are equally spaced more often than not.
+template <class Operation, class A, class B, class D, std::size_t length, class Count>
+inline VonkStatus combineArraysInLanes(const A &a, const B &b, const D &d, Fixed<length> size, Count count,
+                                       Operation operation) {
+    if (equallySpaced(a, b, d)) return combineInLanes(a, b.spacedAs(a), d.spacedAs(a), size, count, operation);
+    return combineInLanes(a, b, d, size, count, operation);
+}
+
 template <class Operation, class A, class B, class D, std::size_t length, class Count>
 inline VonkStatus combineHeld(const A &a, const B &b, const D &d, Fixed<length> size, Count count,
                               Operation operation) {
-    if constexpr (A::isArray)
-        return forEachObject(
-            count,
-            [&, held = Held<length>(b.view(0))](std::size_t n) {
-                return combineElements<false>(a.view(n), held, d.view(n), size, operation);
-            },
-            a, b, d);
-    else
-        return forEachObject(
-            count,
-            [&, held = Held<length>(a.view(0))](std::size_t n) {
-                return combineElements<false>(held, b.view(n), d.view(n), size, operation);
-            },
-            a, b, d);
+    const auto first = elementsOf<length>(a);
+    const auto second = elementsOf<length>(b);
+    const auto combineObject = [&](std::size_t n) {
+        return combineElements<false>(first(n), second(n), d.view(n), size, operation);
+    };
+    return forEachObject(count, combineObject, a, b, d);
 }
 
 // d(n, j) = operation(a(n, j), b(n, j)); a single operand serves all objects.
@@ -177,18 +168,17 @@ inline VonkStatus combine(const A &a, const B &b, const D &d, Length length, Cou
         if (isAligned(a.view(0).base) && isAligned(b.view(0).base) && isAligned(d.view(0).base))
             return combineFourAligned(a.view(0).base, b.view(0).base, d.view(0).base, operation), vonkOk;
 
+    const auto combineObject = [&](std::size_t n) {
+        return combineElements<!Count::isArray>(a.view(n), b.view(n), d.view(n), length, operation);
+    };
     if constexpr (walksInBlocks<F>)
         return walkBlocks(a.view(0).base, b.view(0).base, d.view(0).base, length, operation), vonkOk;
     else if constexpr (takesBlocksOfFour<F>) return combineInBlocksOfFour(a, b, d, count, operation);
-    else if constexpr (worksInLanes<F>) return combineAllLanes(a, b, d, length, count, operation);
+    else if constexpr (worksInLanes<F> && F::isStandard && F::isArray && !F::sharesOne)
+        return combineArraysInLanes(a, b, d, length, count, operation);
+    else if constexpr (worksInLanes<F>) return combineInLanes(a, b, d, length, count, operation);
     else if constexpr (holdsSingleOperand<F>) return combineHeld(a, b, d, length, count, operation);
-    else
-        return forEachObject(
-            count,
-            [&](std::size_t n) {
-                return combineElements<!Count::isArray>(a.view(n), b.view(n), d.view(n), length, operation);
-            },
-            a, b, d);
+    else return forEachObject(count, combineObject, a, b, d);
 }
 
 } // namespace vonkk3::vector
