@@ -11,7 +11,7 @@ constexpr std::string_view bothTypes = "32f 64f";
 constexpr std::string_view matrixSizes = "- 3x3 4x4 5x5 6x6";
 constexpr std::string_view vectorSizes = "- 3x1 4x1 5x1 6x1";
 constexpr std::string_view runTimeSize = "-";
-constexpr std::string_view sixLayouts = ""; // what the group's product gives
+constexpr std::string_view sixLayouts; // empty: what the group's product gives
 
 constexpr std::string_view sumGroups = "mm mmT mTm mTmT mam mamT maTm maTmT mama mamaT maTma maTmaT";
 constexpr std::string_view differenceGroups = "mm mmT mTm mTmT mma mmaT mTma mTmaT "

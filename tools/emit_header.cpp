@@ -22,10 +22,11 @@ constexpr std::string_view opening = R"(/* vonkk3: linear algebra on very many s
  *               PS2     p[i * cols + j] + Shift + n * ObjStride
  *               L       p[n] + Shift + i * RowStride + j * e           one pointer per object
  *               LS2     p[n] + Shift + i * RowStride + j * ElemStride
- *             A vector has no i. A single operand has no n: no ObjStride, and in L and LS2 a plain pointer without Shift.
+ *             A vector has no i. A single operand has no n: no ObjStride, and in L and LS2 a plain pointer without
+ *             Shift.
  *
- * Units: every stride and shift is in BYTES, may be negative or zero, and is never tested. Sizes are in elements, `count`
- * in objects. Elements may lie at any address.
+ * Units: every stride and shift is in BYTES, may be negative or zero, and is never tested. Sizes are in elements,
+ * `count` in objects. Elements may lie at any address.
  *
  * A call allocates nothing, keeps nothing, takes no lock and may run beside any other that does not write the same
  * memory. float works in single precision, double in the 80-bit type; rounding mode and precision control are the
@@ -83,8 +84,8 @@ std::string sectionComment(const catalogue::Section &section) {
     std::string rule = "/* ---- " + std::string(section.title) + " ";
     rule.append(text::lineWidth - rule.size(), '-');
     return rule + "\n *\n" + text::prefixLines(section.text, " * ") + " *\n" +
-           text::prefixLines("Overlap: " + std::string(section.overlap), " * ") + " *\n" +
-           text::prefixLines("Read beyond the operands: " + std::string(section.reads), " * ") + " */\n";
+           text::prefixLines("Overlap:\n" + std::string(section.overlap), " * ") + " *\n" +
+           text::prefixLines("Read beyond the operands:\n" + std::string(section.reads), " * ") + " */\n";
 }
 
 } // namespace

@@ -46,12 +46,11 @@ std::vector<std::string> arguments(const Function &function) {
         if (block) word.pop_back();
 
         const auto operand = std::ranges::find(function.operands, word, &Operand::name);
-        if (block) list.push_back(word);
-        else if (operand != function.operands.end())
+        if (operand != function.operands.end())
             list.push_back(operandExpression(function, int(operand - function.operands.begin())));
-        else if (word == "count") list.push_back(function.array() ? "Objects{count}" : "oneObject");
-        else if (dimension) list.push_back(function.order != 0 ? extent : "RunTime{" + word + "}");
-        else list.push_back(word);
+        else if (word == "count") list.emplace_back(function.array() ? "Objects{count}" : "oneObject");
+        else if (dimension && !block) list.push_back(function.order != 0 ? extent : "RunTime{" + word + "}");
+        else list.push_back(word); // a block or a constant goes as it is
     }
     return list;
 }

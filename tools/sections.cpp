@@ -10,27 +10,27 @@ constexpr std::array sectionTable = std::to_array<Section>({
      R"(vonkAdd: dst(n, j) = src1(n, j) + src2(n, j)
 vonkSub: dst(n, j) = src1(n, j) - src2(n, j)
 
-for j below `len` and each object n; one rounded operation per element. Groups: `vv` two vectors, `vav` an array and a
-vector, `vva` a vector and an array (vonkSub only), `vava` two arrays. A single vector serves all objects.
+for j below `len` and each object n; one rounded operation per element. Groups: `vv` two vectors, `vav` an array and
+a vector, `vva` a vector and an array (vonkSub only), `vava` two arrays. A single vector serves all objects.
 
-Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or list
-entry is null: in `vv` `P` entry by entry just before each element, earlier elements being final; in `P` and `PS2` of
-arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the object's turn
-comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
+list entry is null: in `vv` `P` entry by entry just before each element, earlier elements being final; in `P` and
+`PS2` of arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the
+object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
 
 Members that behave unlike their siblings:
-- vonkAdd_vv_32f and vonkSub_vv_32f are built for length: from 11 elements on, with a `dst` that overlaps no source and
-  lies at a multiple of 4, they bring `dst` to a 16-byte boundary and work blocks of eight in four-lane registers. The
-  results are those of the plain loop, which all other calls take.
-- `32f` of fixed size, standard layout and `L`, with a single operand (`vav`, `vva`): the operand is loaded once, ahead
-  of all objects. Everywhere else it is read anew for each object.
-- `32f` of fixed size, standard layout and `L`, but for `3x1` of `vav` and `vva`: an object is loaded whole before it is
-  stored.
+- vonkAdd_vv_32f and vonkSub_vv_32f are built for length: from 11 elements on, with a `dst` that overlaps no source
+  and lies at a multiple of 4, they bring `dst` to a 16-byte boundary and work blocks of eight in four-lane
+  registers. The results are those of the plain loop, which all other calls take.
+- `32f` of fixed size, standard layout and `L`, with a single operand (`vav`, `vva`): the operand is loaded once,
+  ahead of all objects. Everywhere else it is read anew for each object.
+- `32f` of fixed size, standard layout and `L`, but for `3x1` of `vav` and `vva`: an object is loaded whole before
+  it is stored.
 - vonkAdd_vv_32f_4x1 alone looks at the alignment of its operands (vonkSub_vv_32f_4x1 does not), and
   vonkSub_vava_32f_3x1 alone takes objects in blocks of four with a prefetch. Neither changes a result.)",
-     R"(`dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending order, so
-a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L` load an object
-whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.)",
+     R"(`dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
+order, so a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L`
+load an object whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.)",
      R"(Nothing.)", true},
     {"saxpy", "Saxpy", "a vector times a constant, plus a vector", "", "", "", false},
     {"linear-combination", "Linear combination", "linear combination of two vectors", "", "", "", false},
@@ -50,56 +50,64 @@ whole before they store it; how 5 and 6 elements meet a partial overlap is not p
     {"identity", "LoadIdentity", "identity matrices", "", "", "", false},
     {"lu-decomposition", "LU decomposition", "Gaussian elimination with partial pivoting",
      R"(vonkLUDecomp factors each matrix of `src`, `order` by `order`, into a unit lower and an upper triangular factor by
-Gaussian elimination with partial pivoting. Rows are never moved: `pivots`, `order` row indices per object and packed in
-every layout, tells that logical row k lies in row pivots[k] of `dst`. With p the block of an object, element (p[i], j)
-of `dst` is the multiplier L(i, j) for j < i and U(i, j) for j >= i; the unit diagonal of L is not stored, and
-A(p[i], j) is the sum over k of L(i, k) U(k, j).
+Gaussian elimination with partial pivoting. Rows are never moved: `pivots`, `order` row indices per object and
+packed in every layout, tells that logical row k lies in row pivots[k] of `dst`. With p the block of an object,
+element (p[i], j) of `dst` is the multiplier L(i, j) for j < i and U(i, j) for j >= i; the unit diagonal of L is not
+stored, and A(p[i], j) is the sum over k of L(i, k) U(k, j).
 
-The pivot of a column is the element of largest magnitude, the first of equals. One below 2^-23 = 1.1920928955078125e-7,
-an absolute number and the same for both types, ends the call with vonkErrSingular; so does a NaN in its place.
+The pivot of a column is the element of largest magnitude, the first of equals. One below 2^-23 =
+1.1920928955078125e-7, an absolute number and the same for both types, ends the call with vonkErrSingular; so does a
+NaN in its place. Method: Golub and Van Loan, Matrix Computations, "LU with partial pivoting", the outer-product
+form with row indices in place of row exchanges.
 
-Status: vonkErrNullPtr if `src`, `pivots` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a table entry
-is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`); `count` 0 gives
-vonkOk. vonkErrSingular leaves the objects before the failing one complete, that one as far as it got (a failure at the
-last pivot leaves it complete), and those after it untouched, in `dst` and in `pivots`.
+Status: vonkErrNullPtr if `src`, `pivots` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a table
+entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`); `count` 0
+gives vonkOk. vonkErrSingular leaves the objects before the failing one complete, that one as far as it got (a
+failure at the last pivot leaves it complete), and those after it untouched, in `dst` and in `pivots`.
 
 Members that behave unlike their siblings:
-- Arrays: the test of the LAST pivot of object n looks n * `order` columns beyond it (see what is read). The last pivot
-  of an object other than the first is thus not tested, and an innocent object fails if what lies there is too small.
+- Arrays: the test of the LAST pivot of object n looks n * `order` columns beyond it (see what is read). The last
+  pivot of an object other than the first is thus not tested, and an innocent object fails if what lies there is too
+  small.
 - `64f`, 3x3 to 5x5: rows are updated with the unrounded quotient; run-time size and 6x6 use the stored multiplier.
-- `64f`, candidates for the pivot come in pairs; if the first of a pair and the best so far are unordered (a NaN), 3x3 to
-  5x5 take the candidate's position but not its value, run-time size and 6x6 take the value in `m` and value and
-  position in `ma`. `32f` forms pass over a NaN.
+- `64f`, candidates for the pivot come in pairs; if the first of a pair and the best so far are unordered (a NaN),
+  3x3 to 5x5 take the candidate's position but not its value, run-time size and 6x6 take the value in `m` and value
+  and position in `ma`. `32f` forms pass over a NaN.
 - A zero multiplier is negated to +0 in `32f` and to -0 in `64f`.)",
-     R"(`dst` may be `src` itself, with the same strides or tables. A partial overlap behaves as the copy from `src` to `dst` that
-each object begins with: element by element, forward. `pivots` must overlap neither.)",
-     R"(Arrays: with the last pivot of object n at row r of `dst`, one element is read n * `order` * element size bytes behind it
-(standard and `L`), n * `order` * `dstElemStride` bytes behind it (`S2`, `LS2`), or through slot (r + n) * `order` +
-`order` - 1 of the `dst` table (`P`, `PS2`). At the end of an array or table that lies beyond it: leave readable memory
-there, and mind that its value decides over vonkErrSingular.)",
+     R"(`dst` may be `src` itself, with the same strides or tables. A partial overlap behaves as the copy from `src` to
+`dst` that each object begins with: element by element, forward. `pivots` must overlap neither.)",
+     R"(Arrays: with the last pivot of object n at row r of `dst`, one element is read n * `order` * element size bytes
+behind it (standard and `L`), n * `order` * `dstElemStride` bytes behind it (`S2`, `LS2`), or through slot (r + n) *
+`order` + `order` - 1 of the `dst` table (`P`, `PS2`). At the end of an array or table that lies beyond it: leave
+readable memory there, and mind that its value decides over vonkErrSingular.)",
      true},
     {"lu-back-substitution", "LU back substitution", "solving with the factors of an LU decomposition",
-     R"(vonkLUBackSubst solves A x = b with what vonkLUDecomp left: `src1` the factors in their unpermuted rows, `pivots` the
-permutation, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system; `mva` one
-factored matrix with its `pivots` for `count` right-hand sides; `mava` a factored matrix and `order` pivots per object.
+     R"(vonkLUBackSubst solves A x = b with what vonkLUDecomp left: `src1` the factors in their unpermuted rows, `pivots`
+the permutation, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system;
+`mva` one factored matrix with its `pivots` for `count` right-hand sides; `mava` a factored matrix and `order`
+pivots per object.
 
-Forward: x(i) = b(p[i]) - s, s the sum of A(p[i], j) x(j) over j < i. Backward, from the last row up:
-x(i) = (x(i) - s) / A(p[i], i), s the sum over j > i. Sums grow from 0 in ascending j, divisions are true divisions, and
-x is its own scratch space. Entries of `pivots` are trusted to be below `order`.
+Forward: x(i) = b(p[i]) - s, s the sum of A(p[i], j) x(j) over j < i. Backward, from the last row up: x(i) = (x(i) -
+s) / A(p[i], i), s the sum over j > i. Sums grow from 0 in ascending j, divisions are true divisions, and x is its
+own scratch space. Entries of `pivots` are trusted to be below `order`. Method: Golub and Van Loan, Matrix
+Computations, "Triangular systems", the row-oriented form.
 
-Status: vonkErrNullPtr if `src1`, `pivots`, `src2` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a
-table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`); `count` 0
-gives vonkOk. The numbers are not tested: a zero pivot divides through to an infinity or a NaN with vonkOk.
+Status: vonkErrNullPtr if `src1`, `pivots`, `src2` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if
+a table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`);
+`count` 0 gives vonkOk. The numbers are not tested: a zero pivot divides through to an infinity or a NaN with
+vonkOk.
 
 Members that behave unlike their siblings:
-- `mva` in the standard layout, `S2`, `L` and `LS2` has a word behind `src1` (`src1ObjStride` or `src1Shift`) that is
-  accepted and never read, so that `mva` and `mava` have one parameter list. In `L` and `LS2` `src1` is a plain pointer.
-- `mva` of `64f` in `L`, of every size, steps through the columns of `src1` by 4 bytes: element (i, j) is the double at
-  i * `src1RowStride` + j * 4. `LS2` and all other forms step by the element.
-- `64f` sums: array forms of fixed size, but for `L` and `LS2`, never round them; all other forms round a sum to 64 bits
-  after its pairs of terms, and again after an odd last term. At 53-bit precision there is no difference but in range.)",
-     R"(`dst` must not be `src2` unless the permutation is the identity: x(i) is written while b(p[i]) of later rows is still
-needed. Nothing tests overlap; sweeps read what memory holds by then.)",
+- `mva` in the standard layout, `S2`, `L` and `LS2` has a word behind `src1` (`src1ObjStride` or `src1Shift`) that
+  is accepted and never read, so that `mva` and `mava` have one parameter list. In `L` and `LS2` `src1` is a plain
+  pointer.
+- `mva` of `64f` in `L`, of every size, steps through the columns of `src1` by 4 bytes: element (i, j) is the double
+  at i * `src1RowStride` + j * 4. `LS2` and all other forms step by the element.
+- `64f` sums: array forms of fixed size, but for `L` and `LS2`, never round them; all other forms round a sum to 64
+  bits after its pairs of terms, and again after an odd last term. At 53-bit precision there is no difference but in
+  range.)",
+     R"(`dst` must not be `src2` unless the permutation is the identity: x(i) is written while b(p[i]) of later rows is
+still needed. Nothing tests overlap; sweeps read what memory holds by then.)",
      R"(Nothing.)", true},
     {"determinant", "Determinant", "determinant by LU decomposition", "", "", "", false},
     {"inverse", "Inverse", "inverse of a matrix", "", "", "", false},

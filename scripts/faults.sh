@@ -1,0 +1,108 @@
+#!/bin/sh
+# Proves that the tests can fail: applies one deliberate fault at a time to a copy of the sources, builds, and runs the
+# tests, of which at least one must turn red. Prints what caught each fault; ends in 'N passed, N failed', where a fault
+# that stays green has failed. Takes a few minutes; give words to run only the faults whose names contain one of them.
+set -u
+cd "$(dirname "$0")/.."
+tree=$PWD/build/faults/tree
+build=$PWD/build/faults/build
+log=$PWD/build/faults/log
+only=$*
+caught=0
+missed=0
+
+rm -rf "$tree" && mkdir -p "$tree" "$log"
+git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents -t "$tree"
+cmake -S "$tree" -B "$build" -DVONKK3_RANDOM_CALLS=60 >/dev/null || exit 2
+cmake --build "$build" --parallel "$(nproc)" >"$log/build" 2>&1 || { tail "$log/build"; exit 2; }
+run_tests() { ctest --test-dir "$build" --parallel "$(nproc)" --stop-on-failure >"$log/tests" 2>&1; }
+run_tests || { echo "the tests fail without a fault:"; tail "$log/tests"; exit 2; }
+
+chosen() {
+    [ -z "$only" ] && return 0
+    for word in $only; do case $1 in *"$word"*) return 0 ;; esac; done
+    return 1
+}
+
+fault() { # NAME FILE SED_SCRIPT
+    chosen "$1" || return 0
+    sed -E "$3" "$tree/$2" >"$log/changed"
+    if cmp -s "$log/changed" "$tree/$2"; then
+        echo "NOT APPLIED: $1 (the code has moved on: mend this script)"; missed=$((missed + 1)); return
+    fi
+    cp "$tree/$2" "$log/original"
+    cp "$log/changed" "$tree/$2"
+    if ! cmake --build "$build" --parallel "$(nproc)" >"$log/build" 2>&1; then
+        echo "NOT BUILT: $1"; grep -m 3 error "$log/build"; missed=$((missed + 1))
+    elif run_tests; then
+        echo "MISSED: $1"; missed=$((missed + 1))
+    else
+        red=$(sed -nE 's/^ *[0-9]+ - ([^ ]+) .*/\1/p' "$log/tests" | head -n 1)
+        echo "caught: $1, by $red"; caught=$((caught + 1))
+    fi
+    cp "$log/original" "$tree/$2"
+}
+
+# Checks and their order
+fault 'a null test is dropped (pivots)' src/lu/decompose.h 's/anyNull\(src, pivots, dst\)/anyNull(src, dst)/'
+fault 'sizes are tested ahead of pointers' src/vector/combine.h \
+    '/if \(anyNull\(a, b, d\)\)/{s/.*/    if (length.isZero()) return vonkErrSize;/;p;s/.*/    if (anyNull(a, b, d)) return vonkErrNullPtr;/}'
+fault 'the scan of tables leaves out its last entry' src/frame/walk.h 's/position < positions;/position + 1 < positions;/'
+fault 'count 0 wins over a null table entry' src/lu/back_substitute.h \
+    's/if \(anyTableEntryNull\(order, src2/if (count == 0) return vonkOk; if (anyTableEntryNull(order, src2/'
+fault 'list entries are not tested' src/frame/operands.h 's/return loadAt<T \*>\(listSlot\(n\)\) == nullptr/return false/'
+fault 'a table entry of a single vector is tested after its element' src/vector/combine.h \
+    's/a\.hasNullEntry\(j\) \|\| b\.hasNullEntry\(j\) \|\| d\.hasNullEntry\(j\)/(j + 1 < length \&\& (a.hasNullEntry(j + 1) || b.hasNullEntry(j + 1) || d.hasNullEntry(j + 1)))/'
+
+# Addressing
+fault 'row and element stride are swapped' src/frame/views.h \
+    's/strides\(row, rowStride\) \+ strides\(column, elementStride\)/strides(row, elementStride) + strides(column, rowStride)/'
+fault 'the shift is not added in list layouts' src/frame/operands.h 's/\(loadAt<T \*>\(listSlot\(n\)\)\) \+ shift/(loadAt<T *>(listSlot(n)))/'
+fault 'strides lose their sign' src/frame/operands.h 's/objectStride = \*next\+\+/objectStride = std::uint32_t(*next++)/'
+fault 'a table is read by columns' src/frame/views.h 's/at\(row \* columns \+ column\)/at(column * columns + row)/'
+fault 'packed tables step by 4 bytes' src/frame/operands.h 's/Layout::P \? sizeof\(T\)/Layout::P ? 4/'
+fault 'pivots of all objects share one block' src/lu/permutation.h 's/\+ n \* order \* sizeof\(Index\)/+ 0 * n * order/'
+fault 'two words change places in the catalogue' tools/catalogue.cpp 's/"src pivots\* dst order\? count"/"src dst pivots* order? count"/'
+
+# Arithmetic
+fault 'a product and a sum are fused' src/lu/decompose.h \
+    's/round<T>\(W\(factors\.load\(pivotRow, j\)\) \* factor \+ W\(factors\.load\(row, j\)\)\)/round<T>(W(__builtin_fmal(factors.load(pivotRow, j), factor, factors.load(row, j))))/'
+fault 'Real64 is worked in 64 bits' src/frame/real.h 's/std::is_same_v<T, Real64>, Wide, Real32>/std::is_same_v<T, Real64>, Real64, Real32>/'
+fault 'a sum grows from its far end' src/lu/back_substitute.h \
+    's/addTerm\(j\), addTerm\(j \+ 1\)/addTerm(j + 1), addTerm(j)/'
+fault 'looped sums stay wide' src/lu/back_substitute.h 's/if constexpr \(!keepsWide\) sum/if constexpr (false) sum/'
+fault 'unrolled sums are rounded' src/lu/back_substitute.h 's/constexpr bool keepsSumWide =/constexpr bool keepsSumWide = false \&\&/'
+fault 'a division becomes a product with the reciprocal' src/lu/back_substitute.h \
+    's/\(W\(x\.load\(i\)\) - sum\) \/ W\(factors\.load\(row, i\)\)/(W(x.load(i)) - sum) * (W(1) \/ W(factors.load(row, i)))/'
+fault 'every multiplier is rounded' src/lu/decompose.h 's/= Order::value < 3 \|\| Order::value > 5;/= true;/'
+fault 'a zero multiplier keeps its sign' src/lu/decompose.h 's/return 0\.0F - multiplier/return -multiplier/'
+
+# Irregular members
+fault 'a tie moves the pivot' src/lu/decompose.h 's/candidate > best\)/candidate >= best)/'
+fault 'an unordered candidate counts as a smaller one' src/lu/decompose.h 's/return \{true, isArray\}/return {false, false}/'
+fault 'every object has its own last pivot tested' src/lu/decompose.h 's/return order - 1 \+ n \* order/return order - 1 + 0 * n/'
+fault 'the tolerance is relative to the type' src/lu/decompose.h 's/W\(pivotTolerance\)/(sizeof(W) > 4 ? W(0x1p-52) : W(pivotTolerance))/'
+fault 'the half column step is levelled' src/lu/back_substitute.h 's/sizeof\(Real64\) \/ 2/sizeof(Real64)/'
+fault 'a single operand is read anew for each object' src/vector/combine.h \
+    's/return \[held = Lanes<length>::load\(operand\.view\(0\)\.base\)\]\(std::size_t\) \{ return held; \}/return [\&](std::size_t) { return Lanes<length>::load(operand.view(0).base); }/'
+
+# Loads, stores, blocks
+fault 'three lanes store a fourth' src/frame/lanes.h '/void store3/,/^}/s/store1\(address, lanes\);/store4(address, lanes);/'
+fault 'five lanes load an eighth' src/frame/lanes.h 's/length == 5\) return \{load4\(address\), load1\(address \+ 16\)\}/length == 5) return {load4(address), load4(address + 16)}/'
+fault 'blocks ignore an overlap with the second source' src/vector/block_walk.h 's/ \|\| overlap\(b, d, bytes\)//'
+fault 'blocks take destinations off the element grid' src/vector/block_walk.h 's/ \|\| pastBoundary % sizeof\(Real32\) != 0//'
+fault 'the last elements behind the blocks are left out' src/vector/block_walk.h 's/walkElements\(a, b, d, done, length, operation\)/walkElements(a, b, d, done, length - 1, operation)/'
+
+# The caller's floating-point state
+fault 'the precision control is left changed' src/lu/decompose.h \
+    's/(    if \(anyNull\(src, pivots, dst\)\))/    const std::uint16_t word = 0x027f; __asm__ volatile("fldcw %0" : : "m"(word));\n\1/'
+fault 'a value is left on the 80-bit stack' src/lu/back_substitute.h \
+    's/(    if \(anyNull\(src1, pivots, src2, dst\)\))/    __asm__ volatile("fldz");\n\1/'
+
+# The library file and what is generated
+fault 'a C++ symbol is exported' src/frame/version.cpp 's/^namespace \{/int strayFunction(int); __attribute__((visibility("default"))) int strayFunction(int x) { return x; }\nnamespace {/'
+fault 'the library has writable data' src/frame/version.cpp 's/^namespace \{/extern int calls; int calls = 1; __attribute__((constructor)) void countOne(); void countOne() { ++calls; }\nnamespace {/'
+fault 'the header is not brought up to date' tools/sections.cpp 's/element-wise sum and difference of vectors/sums and differences/;s/one rounded operation per element/one operation per element/'
+
+echo "$caught passed, $missed failed"
+[ "$missed" -eq 0 ]

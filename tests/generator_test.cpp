@@ -1,0 +1,95 @@
+// The generator: its text helpers, what its pieces look like, and that the files it writes into the source tree are
+// checked in as they would be written today.
+#include "emit.h"
+#include "text.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+const fs::path root = VONKK3_SOURCE_FOLDER;
+
+std::string read(const fs::path &path) {
+    std::stringstream content;
+    content << std::ifstream(path, std::ios::binary).rdbuf();
+    return content.str();
+}
+
+const char *const howToUpdate = "is not current: build the target `regenerate`";
+
+TEST(Text, WrapsAtTheLineWidthAndIndentsWhatFollows) {
+    const std::vector<std::string> pieces(12, "0123456789");
+    const std::string wrapped = text::joinWrapped("f(", pieces, ");", "    ");
+    std::istringstream lines(wrapped);
+    std::size_t count = 0;
+    for (std::string line; std::getline(lines, line); ++count) {
+        EXPECT_LE(line.size(), text::lineWidth);
+        if (count > 0) {
+            EXPECT_EQ(line.substr(0, 5), "    0");
+        }
+    }
+    EXPECT_EQ(count, 2U);
+    EXPECT_EQ(std::ranges::count(wrapped, '0'), 12);
+    EXPECT_EQ(wrapped.substr(wrapped.size() - 3), "9);");
+}
+
+TEST(Text, JoinsShortListsInOneLine) { EXPECT_EQ(text::joinWrapped("f(", {"a", "b"}, ")", "  "), "f(a, b)"); }
+
+TEST(Text, PrefixesEveryLineAndLeavesNoTrailingBlank) {
+    EXPECT_EQ(text::prefixLines("a\n\nb", " * "), " * a\n *\n * b\n");
+}
+
+TEST(Text, DeclaresPointersWithTheStarAtTheName) {
+    EXPECT_EQ(text::declaration({"src", "const float *const *", catalogue::Kind::table, 0}), "const float *const *src");
+    EXPECT_EQ(text::declaration({"len", "uint32_t", catalogue::Kind::size, -1}), "uint32_t len");
+}
+
+TEST(Stubs, BundleTheWordsOfEachOperandInTheOrderOfTheParameters) {
+    const std::string file = emit::stubs().at("lu-decomposition_LUDecomp_32f.cpp");
+    EXPECT_NE(file.find("{ return lu::decompose(Matrices<const Real32, L>{src, srcShift, srcRowStride}, pivots,\n"
+                        "    Matrices<Real32, L>{dst, dstShift, dstRowStride}, fixed<4>, Objects{count}); }"),
+              std::string::npos);
+    EXPECT_NE(file.find("RunTime{order}, oneObject); }"), std::string::npos);
+}
+
+TEST(Stubs, NeitherNameNorPassAWordThatIsNeverRead) {
+    const std::string file = emit::stubs().at("lu-back-substitution_LUBackSubst_64f.cpp");
+    EXPECT_NE(file.find("vonkLUBackSubst_mva_64f_L(const double *src1, int32_t, int32_t src1RowStride,"),
+              std::string::npos);
+    EXPECT_NE(file.find("Matrix<const Real64, L>{src1, src1RowStride}"), std::string::npos);
+}
+
+TEST(Exports, AreSortedAndHaveTheVersionFunction) {
+    std::istringstream lines(emit::exports());
+    std::vector<std::string> names;
+    for (std::string name; std::getline(lines, name);) names.push_back(name);
+    EXPECT_TRUE(std::ranges::is_sorted(names));
+    EXPECT_EQ(names.size(), catalogue::expandBuilt().size() + 1);
+    EXPECT_TRUE(std::ranges::binary_search(names, "vonkGetLibVersion"));
+}
+
+TEST(CheckedInFiles, TheHeaderIsCurrent) {
+    EXPECT_TRUE(read(root / "include/vonkk3.h") == emit::header()) << "include/vonkk3.h " << howToUpdate;
+}
+
+TEST(Header, KeepsToTheLineWidth) {
+    std::istringstream lines(emit::header());
+    for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), text::lineWidth) << line;
+}
+
+TEST(CheckedInFiles, TheReferencePagesAreCurrentAndThereIsNoOther) {
+    const auto pages = emit::reference();
+    EXPECT_GT(pages.size(), 1U);
+    for (const auto &[name, content] : pages)
+        EXPECT_TRUE(read(root / "docs/reference" / name) == content) << name << " " << howToUpdate;
+    for (const fs::directory_entry &entry : fs::directory_iterator(root / "docs/reference"))
+        EXPECT_TRUE(pages.contains(entry.path().filename().string())) << entry.path() << " is a page of no family";
+}
+
+} // namespace

@@ -1,0 +1,44 @@
+#!/bin/sh
+# Installs into a scratch prefix and uses the library from there as a stranger would: a C and a C++ program, each by
+# find_package and by pkg-config, and a program that opens the library by its names at run time.
+#
+#     install_test.sh BUILD_FOLDER TESTS_FOLDER C_COMPILER CXX_COMPILER
+set -eu
+build=$1
+tests=$2
+cc=$3
+cxx=$4
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+cmake --install "$build" --prefix "$scratch/first" >/dev/null
+mv "$scratch/first" "$scratch/moved" # nothing installed may remember where it was put
+prefix=$scratch/moved
+libraries=$(dirname "$(find "$prefix" -name vonkk3.so)")
+export LD_LIBRARY_PATH="$libraries"
+
+echo "by find_package"
+cmake -S "$tests/install" -B "$scratch/user" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_C_COMPILER="$cc" \
+    -DCMAKE_CXX_COMPILER="$cxx" >/dev/null
+cmake --build "$scratch/user" >/dev/null
+test "$("$scratch/user/c_program")" = v4.1
+"$scratch/user/cpp_program"
+
+echo "by pkg-config"
+export PKG_CONFIG_PATH="$libraries/pkgconfig"
+flags=$(pkg-config --cflags --libs vonkk3)
+# The flags are words, so they go unquoted.
+"$cc" -std=c99 -pedantic -Wall -Wextra -Werror "$tests/install/program.c" $flags -o "$scratch/c_program"
+"$cxx" -std=c++20 -Wall -Wextra -Werror "$tests/install/program.cpp" $flags -o "$scratch/cpp_program"
+test "$("$scratch/c_program")" = v4.1
+"$scratch/cpp_program"
+readelf -dW "$scratch/c_program" | grep -q 'NEEDED.*\[libvonkk3\.so\.4\]'
+
+echo "by dlopen"
+"$cc" -std=c99 -D_POSIX_C_SOURCE=200809L "$tests/install/opens.c" -ldl -o "$scratch/opens"
+"$scratch/opens" vonkk3.so libvonkk3.so libvonkk3.so.4
+
+echo "as data"
+cmake -DJSON="$prefix/share/vonkk3/functions.json" -DEXPORTS="$build/src/generated/exports.txt" \
+    -P "$tests/install/functions.cmake"
+echo "installed library works"

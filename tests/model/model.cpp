@@ -1,0 +1,54 @@
+// From a name to the family that carries the call out.
+#include "model/families.h"
+
+#include <stdexcept>
+
+namespace model {
+
+namespace {
+
+struct Family {
+    bool (*holds)(const Form &form);
+    Status (*carryOut)(const Execution &execution);
+};
+
+bool isVectorSum(const Form &form) {
+    return (form.operation == "Add" || form.operation == "Sub") && form.isOnVectors() && form.sources.size() == 2;
+}
+
+const Family families[] = {
+    {isVectorSum, addOrSubtractVectors},
+    {[](const Form &form) { return form.operation == "LUDecomp"; }, decomposeLu},
+    {[](const Form &form) { return form.operation == "LUBackSubst"; }, substituteBackLu},
+};
+
+const Family *findFamily(const Form &form) {
+    for (const Family &family : families)
+        if (family.holds(form))
+            return &family;
+    return nullptr;
+}
+
+} // namespace
+
+bool knows(const std::string &name) {
+    const Form *form = findForm(name);
+    return form != nullptr && findFamily(*form) != nullptr;
+}
+
+Outcome run(const Call &call) {
+    if (!knows(call.name))
+        throw std::invalid_argument("not in the model: " + call.name);
+    const Form &form = *findForm(call.name);
+    const Arguments arguments(parameters(call.name), call.words);
+    Outcome outcome{statusOk, {}, false, false};
+    Memory memory(outcome);
+    try {
+        outcome.status = findFamily(form)->carryOut({form, arguments, memory});
+    } catch (const Abandoned &) {
+        // The outcome is marked as open; what stands in memory by now means nothing.
+    }
+    return outcome;
+}
+
+} // namespace model

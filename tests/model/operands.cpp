@@ -1,0 +1,80 @@
+// Address arithmetic of the six layouts, written out once per kind of layout.
+#include "model/operands.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace model {
+
+static_assert(sizeof(std::uintptr_t) == 8, "tables hold 64-bit pointers, and addresses wrap at 64 bits");
+
+Arguments::Arguments(std::vector<Parameter> parameters, std::vector<std::uint64_t> words)
+    : parameters_(std::move(parameters)), words_(std::move(words)) {
+    if (parameters_.size() != words_.size())
+        throw std::invalid_argument("a call needs one word per parameter");
+}
+
+std::uint64_t Arguments::word(const std::string &name) const {
+    for (std::size_t i = 0; i < parameters_.size(); ++i)
+        if (parameters_[i].name == name)
+            return words_[i];
+    throw std::invalid_argument("no such parameter: " + name);
+}
+
+std::uint64_t Arguments::bytes(const std::string &name) const {
+    const auto narrow = static_cast<std::int32_t>(static_cast<std::uint32_t>(word(name)));
+    return static_cast<std::uint64_t>(static_cast<std::int64_t>(narrow));
+}
+
+bool Arguments::hasNullPointer() const {
+    for (std::size_t i = 0; i < parameters_.size(); ++i)
+        if (parameters_[i].word == Word::pointer && words_[i] == 0)
+            return true;
+    return false;
+}
+
+std::uintptr_t Operand::throughSlot(std::uint64_t n, std::uint64_t slot) const {
+    return memory->loadEntry(base + 8 * slot) + shift + n * objectStride;
+}
+
+std::uintptr_t Operand::element(std::uint64_t n, std::uint64_t i, std::uint64_t j) const {
+    if (isPointerLayout(layout))
+        return throughSlot(n, i * columns + j);
+    const std::uint64_t inObject = i * rowStride + j * elementStride;
+    if (isList())
+        return memory->loadEntry(base + 8 * n) + shift + inObject;
+    return base + n * objectStride + inObject;
+}
+
+bool Operand::anyEntryIsNull(std::uint64_t entries) const {
+    for (std::uint64_t entry = 0; entry < entries; ++entry)
+        if (entryIsNull(entry))
+            return true;
+    return false;
+}
+
+Operand makeOperand(const Form &form, const Arguments &arguments, Memory &memory, const std::string &name,
+                    std::uint64_t columns) {
+    Operand operand{};
+    operand.memory = &memory;
+    operand.layout = name == "dst" ? form.destinationLayout : form.layout;
+    operand.shape = form.slot(name);
+    operand.base = arguments.pointer(name);
+    operand.columns = columns;
+    const Layout layout = operand.layout;
+    if (isPointerLayout(layout) || operand.isList())
+        operand.shift = arguments.bytes(name + "Shift");
+    if (operand.shape.isArray && layout == Layout::pointer)
+        operand.objectStride = form.elementSize();
+    else if (operand.shape.isArray && !isListLayout(layout))
+        operand.objectStride = arguments.bytes(name + "ObjStride");
+    if (operand.shape.isMatrix && !isPointerLayout(layout))
+        operand.rowStride = arguments.bytes(name + "RowStride");
+    if (layout == Layout::strided || layout == Layout::stridedList)
+        operand.elementStride = arguments.bytes(name + "ElemStride");
+    else
+        operand.elementStride = form.elementSize();
+    return operand;
+}
+
+} // namespace model

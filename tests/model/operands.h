@@ -1,0 +1,59 @@
+// Where an element of an operand lies: the words of one operand of a call and the address arithmetic of the six
+// layouts. Addresses are 64-bit and wrap; strides and shifts are 32-bit words that are sign-extended first.
+#pragma once
+
+#include "model/grammar.h"
+#include "model/memory.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace model {
+
+// The words of a call by the names of their parameters.
+class Arguments {
+public:
+    Arguments(std::vector<Parameter> parameters, std::vector<std::uint64_t> words);
+
+    std::uintptr_t pointer(const std::string &name) const { return word(name); }
+    std::uint64_t bytes(const std::string &name) const; // sign-extended, to be added with wrapping
+    std::uint32_t size(const std::string &name) const { return static_cast<std::uint32_t>(word(name)); }
+    // Of any of the pointers, plain ones included.
+    bool hasNullPointer() const;
+
+private:
+    std::uint64_t word(const std::string &name) const;
+
+    std::vector<Parameter> parameters_;
+    std::vector<std::uint64_t> words_;
+};
+
+struct Operand {
+    Memory *memory;
+    Layout layout;
+    Shape shape;
+    std::uint64_t base;
+    std::uint64_t shift;
+    std::uint64_t objectStride; // 0 of a single operand, which does not advance
+    std::uint64_t rowStride;
+    std::uint64_t elementStride;
+    std::uint64_t columns; // entries in a row of a table of positions
+
+    // The address of element (i, j) of object n. Reads the table entry that leads there, if one does.
+    std::uintptr_t element(std::uint64_t n, std::uint64_t i, std::uint64_t j) const;
+    std::uintptr_t element(std::uint64_t n, std::uint64_t j) const { return element(n, 0, j); }
+
+    // In the layouts with a table of positions: the address to which one slot of the table leads for object n.
+    std::uintptr_t throughSlot(std::uint64_t n, std::uint64_t slot) const;
+
+    bool isList() const { return isListLayout(layout) && shape.isArray; }
+    bool entryIsNull(std::uint64_t entry) const { return memory->loadEntry(base + 8 * entry) == 0; }
+    bool anyEntryIsNull(std::uint64_t entries) const; // of the first so many
+};
+
+// The operand that a slot's words describe; columns is wanted of matrices only.
+Operand makeOperand(const Form &form, const Arguments &arguments, Memory &memory, const std::string &name,
+                    std::uint64_t columns = 0);
+
+} // namespace model

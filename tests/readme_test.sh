@@ -1,0 +1,23 @@
+#!/bin/sh
+# The README's C example compiles as it stands and prints the right solutions, and what it links to is there.
+#
+#     readme_test.sh SOURCE_FOLDER BUILD_FOLDER C_COMPILER
+set -eu
+source=$1
+build=$2
+cc=$3
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+awk '/^```c$/ { inside = 1; next } /^```$/ { inside = 0 } inside' "$source/README.md" >"$scratch/example.c"
+"$cc" -std=c99 -pedantic -Wall -Wextra -Werror -I"$source/include" "$scratch/example.c" -L"$build" -lvonkk3 \
+    -Wl,-rpath,"$build" -o "$scratch/example"
+"$scratch/example" >"$scratch/output"
+cat "$scratch/output"
+test "$(cat "$scratch/output")" = "status 0: x = 1 1 1 and 1 1 1"
+
+for page in README CONTRIBUTING; do
+    grep -oE '\]\([^)#]+\)' "$source/$page.md" | tr -d '()]' | while read -r link; do
+        test -e "$source/$link" || { echo "FAILED: $page.md links to $link, which is not there"; exit 1; }
+    done
+done
