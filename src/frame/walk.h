@@ -8,7 +8,7 @@
 #pragma once
 
 #include "frame/operands.h"
-#include "frame/size.h"
+#include "frame/unroll.h"
 #include "vonkk3.h"
 
 #include <utility>
@@ -33,7 +33,7 @@ template <class... Operands> inline bool anyTableEntryNull(std::size_t positions
 // the objects before it are complete; `work` gets the object's number and returns a status, which ends the walk if it
 // is a failure. At `count` 0 nothing happens.
 template <class Count, class Work, class... Operands>
-inline VonkStatus forEachObject(Count count, Work work, const Operands &...operands) {
+VONKK3_INLINE VonkStatus forEachObject(Count count, Work work, const Operands &...operands) {
     for (std::size_t n = 0; n < count; ++n) {
         if ((operands.listHasNull(n) || ...)) return vonkErrNullPtr;
         if (const VonkStatus status = work(n); status != vonkOk) return status;
@@ -41,21 +41,15 @@ inline VonkStatus forEachObject(Count count, Work work, const Operands &...opera
     return vonkOk;
 }
 
-#ifdef __clang__
-#define VONKK3_UNROLL_FOURFOLD _Pragma("unroll 4")
-#else
-#define VONKK3_UNROLL_FOURFOLD _Pragma("GCC unroll 4")
-#endif
-
 // The same for objects that take only a few instructions and cannot fail: the loop is unrolled, or its own counting
 // would cost as much as the work.
 template <class Work, class... Operands>
-inline VonkStatus forEachLightObject(OneObject, Work work, const Operands &...) {
+VONKK3_INLINE VonkStatus forEachLightObject(OneObject, Work work, const Operands &...) {
     return work(0), vonkOk;
 }
 
 template <class Work, class... Operands>
-inline VonkStatus forEachLightObject(Objects count, Work work, const Operands &...operands) {
+VONKK3_INLINE VonkStatus forEachLightObject(Objects count, Work work, const Operands &...operands) {
     const std::size_t objects = count;
     VONKK3_UNROLL_FOURFOLD
     for (std::size_t n = 0; n < objects; ++n) {

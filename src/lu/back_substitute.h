@@ -35,39 +35,39 @@ inline auto factorsOfObject(const Factors &factors, std::size_t n, Order order) 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
 // Sum over j from `from` to `to` - 1 of factors(row, j) * x(j), ascending from zero. Terms read what x holds by then.
-template <bool keepsWide, class T, class Factors, class Solution>
-inline Working<T> sumOfProducts(const Factors &factors, std::size_t row, const Solution &x, std::size_t from,
-                                std::size_t to) {
+template <bool keepsWide, class T, class Factors, class Solution, class Order>
+VONKK3_INLINE Working<T> sumOfProducts(const Factors &factors, std::size_t row, const Solution &x, std::size_t from,
+                                       std::size_t to, Order order) {
     using W = Working<T>;
     W sum = 0;
-    const auto addTerm = [&](std::size_t j) { sum = sum + W(factors.load(row, j)) * W(x.load(j)); };
-    std::size_t j = from;
-    for (; j + 1 < to; j += 2) addTerm(j), addTerm(j + 1);
-    if constexpr (!keepsWide) sum = round<T>(sum);
-    if (j < to) {
-        addTerm(j);
-        if constexpr (!keepsWide) sum = round<T>(sum);
+    const auto addTerm = [&](std::size_t j) VONKK3_INLINED { sum = sum + W(factors.load(row, j)) * W(x.load(j)); };
+    const std::size_t endOfPairs = from + (to - from) / 2 * 2;
+    forIndices(from, endOfPairs, order, addTerm);
+    if (!keepsWide) sum = round<T>(sum);
+    if (endOfPairs < to) {
+        addTerm(endOfPairs);
+        if (!keepsWide) sum = round<T>(sum);
     }
     return sum;
 }
 
 template <bool keepsWide, class T, class Factors, class RightSide, class Solution, class Order>
-inline void solveObject(const Factors &factors, const std::byte *pivots, const RightSide &b, const Solution &x,
-                        Order order) {
+VONKK3_INLINE void solveObject(const Factors &factors, const std::byte *pivots, const RightSide &b, const Solution &x,
+                               Order order) {
     using W = Working<T>;
-    x.store(0, b.load(loadPivot(pivots, 0)));
-    for (std::size_t i = 1; i < order; ++i) {
-        const std::size_t row = loadPivot(pivots, i);
-        const W sum = sumOfProducts<keepsWide, T>(factors, row, x, 0, i);
-        x.store(i, round<T>(W(b.load(row)) - sum));
-    }
-    const std::size_t lastRow = loadPivot(pivots, order - 1);
-    x.store(order - 1, round<T>(W(x.load(order - 1)) / W(factors.load(lastRow, order - 1))));
-    for (std::size_t i = order - 1; i-- > 0;) {
-        const std::size_t row = loadPivot(pivots, i);
-        const W sum = sumOfProducts<keepsWide, T>(factors, row, x, i + 1, order);
-        x.store(i, round<T>((W(x.load(i)) - sum) / W(factors.load(row, i))));
-    }
+    const Permutation<Order> rows(pivots, order);
+    x.store(0, b.load(rows[0]));
+    forIndices(1, order, order, [&](std::size_t i) VONKK3_INLINED {
+        const W sum = sumOfProducts<keepsWide, T>(factors, rows[i], x, 0, i, order);
+        x.store(i, round<T>(W(b.load(rows[i])) - sum));
+    });
+    const std::size_t last = order - 1;
+    x.store(last, round<T>(W(x.load(last)) / W(factors.load(rows[last], last))));
+    forIndices(1, order, order, [&](std::size_t above) VONKK3_INLINED {
+        const std::size_t i = last - above;
+        const W sum = sumOfProducts<keepsWide, T>(factors, rows[i], x, i + 1, order, order);
+        x.store(i, round<T>((W(x.load(i)) - sum) / W(factors.load(rows[i], i))));
+    });
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
@@ -82,7 +82,7 @@ inline VonkStatus backSubstitute(const Factors &src1, const std::uint32_t *pivot
     if (anyTableEntryNull(order, src2, dst)) return vonkErrNullPtr;
     return forEachObject(
         count,
-        [&](std::size_t n) {
+        [&](std::size_t n) VONKK3_INLINED {
             const std::byte *block = pivotBlock(pivots, Factors::isArray ? n : 0, order);
             solveObject<keepsSumWide<Solution, Order>, typename Solution::Element>(
                 factorsOfObject<Solution>(src1, n, order), block, src2.view(n), dst.view(n), order);

@@ -47,57 +47,64 @@ inline Wide negated(Wide multiplier) { return -multiplier; }
 
 // The position below k of the row whose element in column k is largest in magnitude; the first of equals.
 template <bool isArray, class T, class Factors, class Rows, class Order>
-inline std::size_t findPivot(const Factors &factors, const Rows &rows, std::size_t k, Order order) {
+VONKK3_INLINE std::size_t findPivot(const Factors &factors, const Rows &rows, std::size_t k, Order order) {
     using W = Working<T>;
     constexpr UnorderedCandidate unordered = unorderedCandidate<T, isArray, Order>();
     W best = magnitude(W(factors.load(rows[k], k)));
     std::size_t position = k;
-    const auto consider = [&](std::size_t i, UnorderedCandidate whenUnordered) {
+    forIndices(k + 1, order, order, [&](std::size_t i) VONKK3_INLINED {
         const W candidate = magnitude(W(factors.load(rows[i], k)));
-        if (candidate > best) best = candidate, position = i;
-        else if (whenUnordered.replacesPosition || whenUnordered.replacesValue)
-            if (__builtin_isunordered(candidate, best)) {
-                if (whenUnordered.replacesValue) best = candidate;
-                if (whenUnordered.replacesPosition) position = i;
-            }
-    };
-    std::size_t i = k + 1;
-    for (; i + 1 < order; i += 2) {
-        consider(i, unordered);
-        consider(i + 1, {false, false});
-    }
-    if (i < order) consider(i, {false, false});
+        bool replacesValue = candidate > best;
+        bool replacesPosition = replacesValue;
+        const bool isFirstOfPair = (i - k) % 2 == 1 && i + 1 < order;
+        if ((unordered.replacesValue || unordered.replacesPosition) && isFirstOfPair) {
+            const bool isUnordered = __builtin_isunordered(candidate, best);
+            replacesValue |= unordered.replacesValue && isUnordered;
+            replacesPosition |= unordered.replacesPosition && isUnordered;
+        }
+        best = replacesValue ? candidate : best;
+        position = replacesPosition ? i : position;
+    });
     return position;
 }
 
-// Takes the multiple of pivot row k that clears column k out of row i, and keeps the multiplier in its place.
+// Takes the multiple of the pivot row that clears column k out of a row, and keeps the multiplier in its place.
 template <class T, class Factors, class Order>
-inline void eliminateRow(const Factors &factors, std::size_t pivotRow, std::size_t row, std::size_t k, Order order,
-                         Working<T> pivot) {
+VONKK3_INLINE void eliminateRow(const Factors &factors, std::size_t pivotRow, std::size_t row, std::size_t k,
+                                Order order, Working<T> pivot) {
     using W = Working<T>;
     const W quotient = W(factors.load(row, k)) / pivot;
     const T multiplier = round<T>(quotient);
     factors.store(row, k, multiplier);
     const W factor = negated(updatesWithRoundedMultiplier<Order> ? W(multiplier) : quotient);
-    for (std::size_t j = k + 1; j < order; ++j)
+    forIndices(k + 1, order, order, [&](std::size_t j) VONKK3_INLINED {
         factors.store(row, j, round<T>(W(factors.load(pivotRow, j)) * factor + W(factors.load(row, j))));
+    });
+}
+
+// Brings the pivot of column k to position k and clears the column below it; false if the pivot is too small.
+template <bool isArray, class T, class Factors, class Rows, class Order>
+VONKK3_INLINE bool eliminateColumn(const Factors &factors, Rows &rows, std::size_t k, Order order) {
+    rows.exchange(k, findPivot<isArray, T>(factors, rows, k, order));
+    const Working<T> pivot = factors.load(rows[k], k);
+    if (!passesAsPivot(pivot)) return false;
+    forIndices(k + 1, order, order,
+               [&](std::size_t i) VONKK3_INLINED { eliminateRow<T>(factors, rows[k], rows[i], k, order, pivot); });
+    return true;
 }
 
 template <bool isArray, class T, class Source, class Factors, class Order>
-inline VonkStatus decomposeObject(const Source &source, const Factors &factors, std::byte *pivots, Order order,
-                                  std::size_t n) {
-    using W = Working<T>;
-    for (std::size_t i = 0; i < order; ++i)
-        for (std::size_t j = 0; j < order; ++j) factors.store(i, j, source.load(i, j));
-
+VONKK3_INLINE VonkStatus decomposeObject(const Source &source, const Factors &factors, std::byte *pivots, Order order,
+                                         std::size_t n) {
+    forIndices(0, order, order, [&](std::size_t i) VONKK3_INLINED {
+        forIndices(0, order, order, [&](std::size_t j) VONKK3_INLINED { factors.store(i, j, source.load(i, j)); });
+    });
     GrowingPermutation<Order> rows(pivots, order);
-    for (std::size_t k = 0; k + 1 < order; ++k) {
-        rows.exchange(k, findPivot<isArray, T>(factors, rows, k, order));
-        const W pivot = factors.load(rows[k], k);
-        if (!passesAsPivot(pivot)) return vonkErrSingular;
-        for (std::size_t i = k + 1; i < order; ++i) eliminateRow<T>(factors, rows[k], rows[i], k, order, pivot);
-    }
-    const W last = factors.load(rows[order - 1], testedLastColumn(order, n));
+    const bool regular = everyIndex(0, order - 1, order, [&](std::size_t k) VONKK3_INLINED {
+        return eliminateColumn<isArray, T>(factors, rows, k, order);
+    });
+    if (!regular) return vonkErrSingular;
+    const Working<T> last = factors.load(rows[order - 1], testedLastColumn(order, n));
     return passesAsPivot(last) ? vonkOk : vonkErrSingular;
 }
 
@@ -111,7 +118,7 @@ inline VonkStatus decompose(const Source &src, std::uint32_t *pivots, const Fact
     if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
     return forEachObject(
         count,
-        [&](std::size_t n) {
+        [&](std::size_t n) VONKK3_INLINED {
             return decomposeObject<Count::isArray, typename Factors::Element>(src.view(n, order), dst.view(n, order),
                                                                               pivotBlock(pivots, n, order), order, n);
         },

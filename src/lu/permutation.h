@@ -3,9 +3,7 @@
 #pragma once
 
 #include "frame/real.h"
-#include "frame/size.h"
-
-#include <utility>
+#include "frame/unroll.h"
 
 namespace vonkk3::lu {
 
@@ -42,18 +40,45 @@ private:
 
 template <std::size_t order> class GrowingPermutation<Fixed<order>> {
 public:
-    GrowingPermutation(std::byte *block, Fixed<order>) : block(block) {
-        for (std::size_t k = 0; k < order; ++k) storePivot(block, k, rows[k] = k);
+    VONKK3_INLINE GrowingPermutation(std::byte *block, Fixed<order>) : block(block) {
+        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED { storePivot(block, k, rows[k] = k); });
     }
     std::size_t operator[](std::size_t k) const { return rows[k]; }
-    void exchange(std::size_t a, std::size_t b) {
-        std::swap(rows[a], rows[b]);
+
+    // Position a is known when compiling, b is not: looking at every b keeps the rows in registers.
+    VONKK3_INLINE void exchange(std::size_t a, std::size_t b) {
+        const std::size_t row = rows[a];
+        forIndices(a + 1, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+            rows[a] = k == b ? rows[k] : rows[a];
+            rows[k] = k == b ? row : rows[k];
+        });
         storePivot(block, a, rows[a]);
-        storePivot(block, b, rows[b]);
+        storePivot(block, b, row);
     }
 
 private:
     std::byte *block;
+    std::size_t rows[order];
+};
+
+// The permutation of a finished decomposition. Of fixed order it is read once, not once a sweep.
+template <class Order> class Permutation {
+public:
+    Permutation(const std::byte *block, Order) : block(block) {}
+    std::size_t operator[](std::size_t k) const { return loadPivot(block, k); }
+
+private:
+    const std::byte *block;
+};
+
+template <std::size_t order> class Permutation<Fixed<order>> {
+public:
+    VONKK3_INLINE Permutation(const std::byte *block, Fixed<order>) {
+        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED { rows[k] = loadPivot(block, k); });
+    }
+    std::size_t operator[](std::size_t k) const { return rows[k]; }
+
+private:
     std::size_t rows[order];
 };
 

@@ -1,0 +1,156 @@
+// bits: the results of every export to the last bit, as a file of hashes that is kept with the tests.
+//
+// Writing it is a decision: whoever relies on the library relies on these bits. Checking it tells which exports no
+// longer give them.
+#include "support/arena.h"
+#include "support/bitstream.h"
+#include "support/invoke.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <fstream>
+#include <iomanip>
+#include <iostream>
+#include <map>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using catalogue::Function;
+
+// Exports whose results stand on the processor's estimate of a reciprocal, which differs between makers: their lines
+// hold on the processor that wrote them only.
+const std::vector<std::string_view> standOnEstimate{};
+
+constexpr std::string_view estimateHeading =
+    "# The exports below stand on the processor's estimate of a reciprocal; processors differ in it.\n";
+
+struct Line {
+    std::string results, calls;
+};
+
+using Hashes = std::map<std::string, Line>;
+
+bool standsOnEstimate(std::string_view name) {
+    return std::ranges::find(standOnEstimate, name) != standOnEstimate.end();
+}
+
+std::string hexadecimal(std::uint64_t value) {
+    std::ostringstream text;
+    text << std::hex << std::setfill('0') << std::setw(16) << value;
+    return text.str();
+}
+
+Hashes takeHashes(const std::vector<Function> &functions, const std::string &path) {
+    const support::Library library(path);
+    const support::Arena arena;
+    Hashes hashes;
+    for (const Function &function : functions) {
+        void *const address = library.find(function.name);
+        if (address == nullptr) throw std::runtime_error("the library has no export " + function.name);
+        const support::StreamHash hash = support::hashStream(
+            function, arena, [&](const support::Call &call) { return support::invoke(address, function, call.words); });
+        hashes[function.name] = {hexadecimal(hash.results), hexadecimal(hash.calls)};
+    }
+    return hashes;
+}
+
+std::string asComment(const std::string &text) {
+    std::istringstream lines(text);
+    std::string result;
+    for (std::string line; std::getline(lines, line);) result += "# " + line + "\n";
+    return result;
+}
+
+void writeFile(const std::string &path, const std::vector<Function> &functions, const Hashes &hashes) {
+    std::ofstream file(path);
+    file << asComment(support::bitstreamDescription());
+    for (const bool estimated : {false, true}) {
+        if (estimated) file << estimateHeading;
+        for (const Function &function : functions) {
+            const Line &line = hashes.at(function.name);
+            if (standsOnEstimate(function.name) == estimated)
+                file << function.name << " " << line.results << " " << line.calls << "\n";
+        }
+    }
+    if (!file.flush()) throw std::runtime_error("cannot write " + path);
+    std::cout << functions.size() << " exports written to " << path << "\n";
+}
+
+Hashes readFile(const std::string &path) {
+    std::ifstream file(path);
+    if (!file) throw std::runtime_error("cannot read " + path);
+    Hashes hashes;
+    for (std::string line; std::getline(file, line);) {
+        if (line.empty() || line.front() == '#') continue;
+        std::istringstream words(line);
+        std::string name, rest;
+        Line kept;
+        if (!(words >> name >> kept.results >> kept.calls) || words >> rest)
+            throw std::runtime_error(path + " has a line that is none: " + line);
+        if (!hashes.emplace(name, kept).second) throw std::runtime_error(path + " has two lines for " + name);
+    }
+    return hashes;
+}
+
+// What is to be said about an export whose line is kept, or nothing.
+std::string compareLines(const Line &now, const Line &kept) {
+    if (now.calls != kept.calls) return "makes other calls than those in the file, which tells nothing about results";
+    if (now.results != kept.results) return now.results + " now, " + kept.results + " in the file";
+    return "";
+}
+
+// Every difference, in the order of the exports; then the lines whose export is not there any more.
+std::vector<std::string> findDifferences(const std::vector<Function> &functions, const Hashes &now, Hashes kept) {
+    std::vector<std::string> found;
+    for (const Function &function : functions) {
+        const auto line = kept.find(function.name);
+        if (line == kept.end()) {
+            found.push_back(function.name + ": the file has no line for it");
+            continue;
+        }
+        const std::string sentence = compareLines(now.at(function.name), line->second);
+        if (!sentence.empty()) found.push_back(function.name + ": " + sentence);
+        kept.erase(line);
+    }
+    for (const auto &line : kept) found.push_back(line.first + ": a line without an export");
+    return found;
+}
+
+bool check(const std::string &path, const std::vector<Function> &functions, const Hashes &now) {
+    const std::vector<std::string> found = findDifferences(functions, now, readFile(path));
+    for (const std::string &line : found) std::cout << line << "\n";
+    if (!found.empty())
+        std::cout
+            << "The first difference is " << found.front().substr(0, found.front().find(':'))
+            << ". A changed line is a change of the contract, as callers rely on these bits, unless all that was\n"
+               "changed is how the tests make their calls: then a library that passed before writes the file anew.\n";
+    std::cout << functions.size() << " exports, " << found.size() << " differences" << std::endl;
+    return found.empty();
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    std::string toWrite, toCheck, library = support::defaultLibrary();
+    CLI::App app("Writes or checks the file of hashes over the results of every export.");
+    auto *const write = app.add_option("--write", toWrite, "File to write");
+    app.add_option("--check", toCheck, "File to compare with")->excludes(write);
+    app.add_option("--library", library, "Path of the shared library")->capture_default_str();
+    CLI11_PARSE(app, argc, argv);
+    try {
+        if (toWrite.empty() == toCheck.empty()) throw std::runtime_error("give --write FILE or --check FILE");
+        const std::vector<Function> functions = catalogue::expandBuilt();
+        const Hashes hashes = takeHashes(functions, library);
+        if (toCheck.empty()) return writeFile(toWrite, functions, hashes), 0;
+        return check(toCheck, functions, hashes) ? 0 : 1;
+    } catch (const std::exception &problem) {
+        std::cerr << "bits: " << problem.what() << "\n";
+        return 2;
+    }
+}

@@ -1,0 +1,238 @@
+// compare: every export against the model, over random calls at the same addresses.
+//
+// Status and every byte of the arena have to agree, and the processor's control state has to be as it was found. A
+// failing call is printed with the options that make it again; at the end stand the counts of what was compared how.
+#include "support/arena.h"
+#include "support/calls.h"
+#include "support/comparison.h"
+#include "support/invoke.h"
+#include "support/report.h"
+#include "support/tally.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <cstdio>
+#include <iostream>
+#include <regex.h>
+#include <stdexcept>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+using catalogue::Function;
+
+struct Options {
+    std::uint64_t calls = 200;
+    std::uint64_t seed = 1;
+    std::string only;
+    std::string library = support::defaultLibrary();
+    std::string replay;
+    bool list = false;
+};
+
+// --- what to print when a call never comes back
+
+constexpr unsigned patienceInSeconds = 60;
+std::array<char, 256> currentCall{};
+
+void dieInCall(int signal) {
+    const char *const what = signal == SIGALRM ? "\nA call does not come back: " : "\nA call crashed: ";
+    for (const char *text : {what, static_cast<const char *>(currentCall.data()), "\n0 passed, 1 failed\n"})
+        if (write(STDOUT_FILENO, text, std::char_traits<char>::length(text)) < 0) break;
+    _exit(1);
+}
+
+void watchCalls() {
+    for (const int signal : {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGALRM}) std::signal(signal, dieInCall);
+}
+
+void announce(const support::Call &call) {
+    std::snprintf(currentCall.data(), currentCall.size(), "compare --seed %llu --replay %s:%llu",
+                  static_cast<unsigned long long>(call.seed), call.function->name.c_str(),
+                  static_cast<unsigned long long>(call.index));
+    alarm(patienceInSeconds);
+}
+
+// --- the functions asked for
+
+// Of extended regular expressions.
+class Pattern {
+public:
+    explicit Pattern(const std::string &text) {
+        if (regcomp(&compiled, text.c_str(), REG_EXTENDED | REG_NOSUB) != 0)
+            throw std::runtime_error("no regular expression: " + text);
+    }
+    ~Pattern() { regfree(&compiled); }
+    Pattern(const Pattern &) = delete;
+    Pattern &operator=(const Pattern &) = delete;
+
+    bool occursIn(const std::string &name) const { return regexec(&compiled, name.c_str(), 0, nullptr, 0) == 0; }
+
+private:
+    regex_t compiled{};
+};
+
+std::vector<Function> selectFunctions(const Options &options) {
+    std::vector<Function> functions = catalogue::expandBuilt();
+    const Pattern wanted(options.only);
+    std::erase_if(functions, [&](const Function &function) { return !wanted.occursIn(function.name); });
+    return functions;
+}
+
+// Real64 arithmetic follows the precision control, so its functions are called at both of its settings.
+std::vector<support::Setting> settingsFor(const support::Call &call) {
+    if (call.function->type == catalogue::Type::real32) return {call.setting};
+    return {{support::Precision::bits53, call.setting.rounding}, {support::Precision::bits64, call.setting.rounding}};
+}
+
+class Session {
+public:
+    explicit Session(const Options &options)
+        : options(options), library(options.library),
+          comparison(
+              arena, [this](const support::Call &call) { return support::invoke(address, *call.function, call.words); },
+              model::run) {}
+
+    // Whether all went well.
+    bool compareAll();
+    bool replay();
+
+private:
+    bool prepare(const Function &function);
+    void compareExport(const Function &function);
+    void reportFailure(const support::Call &call, support::Setting setting, const support::Verdict &verdict);
+    void showProgress(std::size_t done, std::size_t all, const std::string &name) const;
+    bool conclude() const;
+
+    const Options &options;
+    support::Library library;
+    support::Arena arena;
+    support::Comparison comparison;
+    void *address = nullptr;
+    support::Tally total;
+    std::uint64_t shortOf = 0; // exports that are missing, or whose calls do not add up to enough
+};
+
+bool Session::prepare(const Function &function) {
+    address = library.find(function.name);
+    const bool modelled = model::knows(function.name);
+    if (address == nullptr) std::cout << function.name << ": the library has no such export\n";
+    if (!modelled) std::cout << function.name << ": the model does not know it\n";
+    return address != nullptr && modelled;
+}
+
+void Session::reportFailure(const support::Call &call, support::Setting setting, const support::Verdict &verdict) {
+    std::cout << "\nseed " << call.seed << ", " << call.function->name << ", call " << call.index << ", "
+              << support::describe(setting) << "\n"
+              << support::describeWords(call) << verdict.complaint << "  again: compare --library " << options.library
+              << " " << support::replayOptions(call) << "\n";
+}
+
+void Session::compareExport(const Function &function) {
+    constexpr std::uint64_t shownFailures = 3;
+    support::Tally tally;
+    for (std::uint64_t index = 0; index < options.calls; ++index) {
+        const support::Call call = support::makeCall(function, arena, options.seed, index);
+        announce(call);
+        for (const support::Setting setting : settingsFor(call)) {
+            const support::Verdict verdict = comparison.compare(call, setting);
+            tally.add(call, verdict);
+            if (!verdict.passed && tally.failed <= shownFailures) reportFailure(call, setting, verdict);
+        }
+    }
+    if (tally.failed > shownFailures)
+        std::cout << function.name << ": " << tally.failed << " calls failed, of which " << shownFailures
+                  << " are shown\n";
+    const std::vector<std::string> missing = support::shortcomings(tally, function);
+    for (const std::string &sentence : missing) std::cout << function.name << ": " << sentence << "\n";
+    if (!missing.empty()) ++shortOf;
+    total.add(tally);
+}
+
+void Session::showProgress(std::size_t done, std::size_t all, const std::string &name) const {
+    if (!isatty(STDERR_FILENO)) return;
+    std::fprintf(stderr, "\r\033[K%zu/%zu %s", done, all, name.c_str());
+    if (done == all) std::fprintf(stderr, "\r\033[K");
+}
+
+bool Session::conclude() const {
+    std::cout << support::summary(total);
+    if (shortOf != 0) std::cout << shortOf << " exports are missing or were not compared well enough\n";
+    const std::uint64_t failed = total.failed + shortOf;
+    std::cout << total.calls - total.failed << " passed, " << failed << " failed" << std::endl;
+    return failed == 0 && total.calls != 0;
+}
+
+bool Session::compareAll() {
+    const std::vector<Function> functions = selectFunctions(options);
+    std::size_t done = 0;
+    for (const Function &function : functions) {
+        showProgress(done++, functions.size(), function.name);
+        if (prepare(function)) compareExport(function);
+        else ++shortOf;
+    }
+    showProgress(functions.size(), functions.size(), "");
+    return conclude();
+}
+
+bool Session::replay() {
+    const std::size_t colon = options.replay.find(':');
+    if (colon == std::string::npos) throw std::runtime_error("--replay takes NAME:INDEX");
+    const std::string name = options.replay.substr(0, colon);
+    const std::vector<Function> functions = catalogue::expandBuilt();
+    const auto function = std::ranges::find(functions, name, &Function::name);
+    if (function == functions.end()) throw std::runtime_error("no export is called " + name);
+    if (!prepare(*function)) return false;
+
+    const support::Call call =
+        support::makeCall(*function, arena, options.seed, std::stoull(options.replay.substr(colon + 1)));
+    announce(call);
+    std::cout << name << ", call " << call.index << " of seed " << call.seed << "\n" << support::describeWords(call);
+    bool passed = true;
+    for (const support::Setting setting : settingsFor(call)) {
+        support::Image before;
+        arena.save(before);
+        std::cout << "at " << support::describe(setting) << "\nbefore\n"
+                  << support::describeOperands(call, before) << std::flush;
+        const support::Verdict verdict = comparison.compare(call, setting);
+        std::cout << "after, by the library\n"
+                  << support::describeOperands(call, comparison.imageByLibrary()) << "after, by the model\n"
+                  << support::describeOperands(call, comparison.imageByModel()) << "status " << verdict.status
+                  << (verdict.passed ? ", passed\n" : ", FAILED\n") << verdict.complaint;
+        passed &= verdict.passed;
+    }
+    std::cout << (passed ? "1 passed, 0 failed" : "0 passed, 1 failed") << std::endl;
+    return passed;
+}
+
+void listFunctions(const Options &options) {
+    for (const Function &function : selectFunctions(options)) std::cout << function.name << "\n";
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    Options options;
+    CLI::App app("Compares the library with the model of its contract over random calls.");
+    app.add_option("--calls", options.calls, "Random calls for each export")->capture_default_str();
+    app.add_option("--seed", options.seed, "Seed of the random calls")->capture_default_str();
+    app.add_option("--only", options.only, "Regular expression that the names of the exports have to match");
+    app.add_option("--library", options.library, "Path of the shared library")->capture_default_str();
+    app.add_option("--replay", options.replay, "Make one call again and print everything: NAME:INDEX");
+    app.add_flag("--list", options.list, "Print the names of the exports and stop");
+    CLI11_PARSE(app, argc, argv);
+    try {
+        if (options.list) return listFunctions(options), 0;
+        watchCalls();
+        Session session(options);
+        return (options.replay.empty() ? session.compareAll() : session.replay()) ? 0 : 1;
+    } catch (const std::exception &problem) {
+        std::cerr << "compare: " << problem.what() << "\n";
+        return 2;
+    }
+}

@@ -1,0 +1,38 @@
+// The memory that all operands of a test call lie in: at one fixed address, so that a call looks the same in every
+// run down to the pointers in its tables, with unreadable pages on both sides.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace support {
+
+using Image = std::vector<std::byte>; // a copy of the arena
+
+class Arena {
+public:
+    static constexpr std::size_t size = std::size_t{64} << 10;
+    static constexpr std::size_t margin = 512; // left free of operands at both ends
+    static constexpr std::uintptr_t address = 0x2000'0000'0000;
+
+    Arena(); // throws std::runtime_error where the address is taken
+    ~Arena();
+    Arena(const Arena &) = delete;
+    Arena &operator=(const Arena &) = delete;
+
+    std::span<std::byte> bytes() const { return {reinterpret_cast<std::byte *>(address), size}; }
+    static bool contains(std::uintptr_t where, std::size_t length = 1) {
+        return where >= address && where - address <= size && length <= size - (where - address);
+    }
+
+    void save(Image &image) const;
+    void restore(const Image &image) const;
+
+    // Gives every byte a value that depends on the key alone, such that floats and doubles at any address in it are
+    // ordinary numbers of middling size: a read beside an operand shows, yet fails no test of a magnitude.
+    void fill(std::uint64_t key) const;
+};
+
+} // namespace support

@@ -1,0 +1,499 @@
+// Building a call: sizes, then strides, then places, then contents, then faults. See calls.h.
+#include "calls.h"
+
+#include "families.h"
+#include "values.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
+#include <stdexcept>
+#include <utility>
+
+namespace support {
+namespace {
+
+using catalogue::Function;
+using catalogue::Kind;
+using catalogue::Operand;
+using catalogue::Parameter;
+
+enum class Fault { none, nullPointer, zeroDimension, nullEntry, zeroCount, trouble };
+
+// How one operand's memory lies to another's that gets its place first.
+struct Relation {
+    int leader = -1; // index of an operand, or -1 where the operand has a place of its own
+    std::int64_t delta = 0;
+    bool sharesTable = false;
+};
+
+// Something that gets a place in the arena: a group of operands, a table or a block.
+struct Item {
+    Reach reach;           // relative to the origin
+    std::uint32_t residue; // of the origin, modulo 16
+    std::uintptr_t origin = 0;
+};
+
+class Builder {
+public:
+    Builder(const Function &function, std::uint64_t seed, std::uint64_t index, const CallMixture &mixture)
+        : function(function), mixture(mixture), random(seed, function.name, index) {
+        call.function = &function;
+        call.seed = seed;
+        call.index = index;
+        elementSize = function.type == catalogue::Type::real32 ? 4 : 8;
+        // Each function starts its round of faults elsewhere.
+        const std::uint64_t place = (index + Random(seed, function.name, 0).next()) % faultRound;
+        constexpr std::array<Fault, 5> faults{Fault::nullPointer, Fault::zeroDimension, Fault::nullEntry,
+                                              Fault::zeroCount, Fault::trouble};
+        if (place % 4 == 1 && place / 4 < faults.size()) scheduled = faults[place / 4];
+    }
+
+    Call build(const Arena &arena);
+
+private:
+    bool meets(Fault fault) { return scheduled == fault || random.percent(1); }
+    int operandCount() const { return static_cast<int>(function.operands.size()); }
+    const Operand &described(int k) const { return function.operands[static_cast<std::size_t>(k)]; }
+    Placement &operand(int k) { return call.operands[static_cast<std::size_t>(k)]; }
+
+    void chooseSizes();
+    std::uint32_t chooseDimension();
+    Style chooseStyle(const Operand &operand);
+    bool isAlike(int a, int b);
+    int chooseLeader(int written);
+    void relate(int follower, int leader, Overlap overlap);
+    void layDestinationOn(int source, Overlap overlap);
+    void chooseRelations();
+    void layOutOperands();
+    void becomeCopy(int follower, int leader);
+    std::int64_t chooseDelta(int follower, int leader, bool alike);
+    std::uint32_t chooseResidue();
+    std::vector<Item> makeItems();
+    void place();
+    void placeItems(std::vector<Item> &items);
+    void writeTable(const Placement &placement);
+    void writeValues();
+    void chooseShift(Placement &placement);
+    std::uint64_t wordOf(const Parameter &parameter, const ValueSource &values);
+    std::uint64_t withRubbish(std::int64_t value);
+    void writeWords(const ValueSource &values);
+    void setSize(Kind kind, std::uint32_t value);
+    void makeNullPointer();
+    void makeNullEntry();
+    void makeZeroDimension();
+    void makeZeroCount();
+    void injectFaults();
+    void noteTraits();
+
+    const Function &function;
+    const CallMixture &mixture;
+    Random random;
+    Fault scheduled = Fault::none;
+    Call call;
+    Sizes sizes;
+    std::int64_t elementSize;
+    bool allAligned = false;
+    std::vector<Relation> relations;
+};
+
+// --- sizes
+
+std::uint32_t Builder::chooseDimension() {
+    const bool vectorsOnly = std::ranges::none_of(function.operands, &Operand::matrix);
+    const auto kind = random.below(100);
+    if (!vectorsOnly) return static_cast<std::uint32_t>(kind < 75 ? random.between(1, 6) : random.between(1, 9));
+    if (kind < 50) return static_cast<std::uint32_t>(random.between(1, 9));
+    return static_cast<std::uint32_t>(kind < 75 ? random.between(9, 20) : random.between(21, 40));
+}
+
+void Builder::chooseSizes() {
+    for (const Parameter &parameter : function.parameters)
+        if (parameter.kind == Kind::size) sizes.dimensions.push_back({parameter.name, chooseDimension()});
+    families::relateDimensions(function, sizes, random);
+    if (function.array())
+        sizes.count = static_cast<std::uint32_t>(random.percent(85) ? random.between(1, 6) : random.between(7, 9));
+}
+
+// --- strides and relations
+
+Style Builder::chooseStyle(const Operand &operand) {
+    Style style;
+    style.aligned = allAligned;
+    style.onGrid = operand.written && mixture.fixedOutcomesOnly;
+    // Equal rows are singular, and a destination on itself is open: both are to stay rare.
+    const unsigned share = operand.written ? 15 : families::hasTrouble(function) ? 20 : 60;
+    style.mayOverlap = random.percent(share) && !(operand.written && mixture.fixedOutcomesOnly);
+    return style;
+}
+
+bool Builder::isAlike(int a, int b) {
+    const Shape first = families::shapeOf(function, described(a), sizes);
+    const Shape second = families::shapeOf(function, described(b), sizes);
+    return described(a).layout == described(b).layout && described(a).matrix == described(b).matrix &&
+           described(a).array == described(b).array && first.rows == second.rows && first.cols == second.cols;
+}
+
+// A source to lay the destination on, or -1.
+int Builder::chooseLeader(int written) {
+    std::vector<int> possible;
+    for (int k = 0; k < written; ++k)
+        if (!mixture.fixedOutcomesOnly || (isAlike(k, written) && families::isFixedInPlace(function, described(k))))
+            possible.push_back(k);
+    return possible.empty() ? -1 : random.pick(std::span<const int>(possible));
+}
+
+// The destination is laid out ahead of the sources, so the source is the follower.
+void Builder::relate(int follower, int leader, Overlap overlap) {
+    const bool alike = isAlike(follower, leader);
+    if (overlap == Overlap::inPlace && !alike) overlap = mixture.fixedOutcomesOnly ? Overlap::none : Overlap::partial;
+    if (overlap == Overlap::none) return;
+    Relation &relation = relations[static_cast<std::size_t>(follower)];
+    relation.leader = leader;
+    if (overlap == Overlap::inPlace) {
+        becomeCopy(follower, leader);
+        relation.sharesTable = random.percent(50);
+    } else {
+        const bool sameStrides = alike && random.percent(65);
+        if (sameStrides) becomeCopy(follower, leader);
+        relation.delta = chooseDelta(follower, leader, sameStrides);
+    }
+}
+
+void Builder::becomeCopy(int follower, int leader) { operand(follower) = operand(leader); }
+
+std::int64_t Builder::chooseDelta(int follower, int leader, bool sameStrides) {
+    const Placement &first = operand(leader);
+    const Placement &second = operand(follower);
+    if (sameStrides) {
+        // By an element or a few, by a row, by an object, or by bytes that fit nothing.
+        const std::array<std::int64_t, 6> steps{elementSize,         elementSize * random.between(1, 8),
+                                                first.elementStride, first.rowStride,
+                                                first.objectStride,  random.between(1, 15)};
+        const std::int64_t step = std::abs(random.pick(std::span<const std::int64_t>(steps)));
+        const std::int64_t delta = step == 0 || step >= first.reach.length() ? elementSize : step;
+        return random.percent(50) ? delta : -delta;
+    }
+    if (random.percent(15)) return 0; // the same pointer with other strides
+    const std::int64_t delta = random.between(first.reach.low - second.reach.high + elementSize,
+                                              first.reach.high - second.reach.low - elementSize);
+    return random.percent(75) ? delta / elementSize * elementSize : delta;
+}
+
+void Builder::layOutOperands() {
+    for (int k = 0; k < operandCount(); ++k)
+        call.operands.push_back(layOut(function, k, sizes, chooseStyle(described(k)), random));
+}
+
+void Builder::layDestinationOn(int source, Overlap overlap) {
+    const int written = operandCount() - 1;
+    relate(source, written, overlap);
+    for (int k = 0; k < written && overlap == Overlap::inPlace; ++k) // now and then on two sources at once
+        if (k != source && isAlike(k, source) && random.percent(15)) relate(k, written, overlap);
+}
+
+void Builder::chooseRelations() {
+    relations.resize(function.operands.size());
+    const int written = operandCount() - 1;
+    if (operandCount() > 0 && described(written).written) {
+        const auto share = random.below(100);
+        const Overlap overlap = share < mixture.inPlace                     ? Overlap::inPlace
+                                : share < mixture.inPlace + mixture.partial ? Overlap::partial
+                                                                            : Overlap::none;
+        const int source = chooseLeader(written);
+        if (source >= 0 && overlap != Overlap::none) layDestinationOn(source, overlap);
+    }
+    // Two sources may be one.
+    for (int k = 1; k < operandCount(); ++k)
+        if (!described(k).written && isAlike(0, k) && relations[0].leader < 0 &&
+            relations[static_cast<std::size_t>(k)].leader < 0 && random.percent(8))
+            relate(k, 0, Overlap::inPlace);
+}
+
+// --- places
+
+std::uint32_t Builder::chooseResidue() {
+    if (allAligned || random.percent(40)) return 0;
+    const bool onGrid = random.percent(65);
+    return static_cast<std::uint32_t>(onGrid ? random.below(16 / static_cast<std::uint64_t>(elementSize)) *
+                                                   static_cast<std::uint64_t>(elementSize)
+                                             : random.below(16));
+}
+
+// In any order, with the free bytes spread between them at random.
+void Builder::placeItems(std::vector<Item> &items) {
+    std::vector<Item *> order;
+    std::int64_t spare = static_cast<std::int64_t>(Arena::size - 2 * Arena::margin);
+    for (Item &item : items) {
+        order.push_back(&item);
+        spare -= item.reach.length() + 15;
+    }
+    if (spare < 0) throw std::logic_error("the operands of a call do not fit the arena");
+    random.shuffle(order);
+    std::uintptr_t at = Arena::address + Arena::margin;
+    for (Item *item : order) {
+        const std::int64_t gap =
+            random.percent(30) ? 0 : random.between(0, spare / static_cast<std::int64_t>(items.size()));
+        item->origin = at + static_cast<std::uintptr_t>(gap - item->reach.low);
+        item->origin += (item->residue - item->origin) & 15;
+        at = item->origin + static_cast<std::uintptr_t>(item->reach.high);
+    }
+}
+
+// Operands, then tables, then blocks.
+std::vector<Item> Builder::makeItems() {
+    std::vector<Item> items;
+    for (const Placement &placement : call.operands) items.push_back({placement.reach, chooseResidue()});
+    for (std::size_t k = 0; k < call.operands.size(); ++k) { // a follower moves in with its leader
+        const Relation &relation = relations[k];
+        if (relation.leader < 0) continue;
+        const Reach own = std::exchange(items[k].reach, {});
+        items[static_cast<std::size_t>(relation.leader)].reach.include(
+            {own.low + relation.delta, own.high + relation.delta});
+    }
+    for (const Placement &placement : call.operands) { // with the word in front of the table
+        const auto entries = static_cast<std::int64_t>(placement.slots.size());
+        items.push_back({{entries == 0 ? 0 : -8, entries * 8}, random.percent(50) ? 0u : 8u});
+    }
+    for (const Parameter &parameter : function.parameters) {
+        if (parameter.kind != Kind::dense) continue;
+        call.blocks.push_back({parameter.name, 0, families::blockBytes(function, parameter.name, sizes)});
+        const bool elements = families::holdsElements(parameter.name);
+        items.push_back({{0, call.blocks.back().bytes}, elements ? chooseResidue() : random.percent(50) ? 0u : 8u});
+    }
+    return items;
+}
+
+void Builder::place() {
+    std::vector<Item> items = makeItems();
+    placeItems(items);
+    const std::size_t operands = call.operands.size();
+    for (std::size_t k = 0; k < operands; ++k) {
+        const Relation &relation = relations[k];
+        const std::size_t host = relation.leader < 0 ? k : static_cast<std::size_t>(relation.leader);
+        call.operands[k].origin = items[host].origin + static_cast<std::uintptr_t>(relation.delta);
+        call.operands[k].table = items[operands + k].origin;
+        chooseShift(call.operands[k]);
+    }
+    for (std::size_t k = 0; k < operands; ++k)
+        if (relations[k].sharesTable) {
+            call.operands[k].table = operand(relations[k].leader).table;
+            call.operands[k].shift = operand(relations[k].leader).shift;
+        }
+    for (std::size_t k = 0; k < call.blocks.size(); ++k) call.blocks[k].address = items[2 * operands + k].origin;
+}
+
+void Builder::chooseShift(Placement &placement) {
+    const auto kind = random.below(100);
+    if (kind < 30) placement.shift = 0;
+    else if (kind < 60) placement.shift = static_cast<std::int32_t>(random.between(-40, 40) * elementSize);
+    else if (kind < 85) placement.shift = static_cast<std::int32_t>(random.between(-300, 300));
+    else placement.shift = static_cast<std::int32_t>(random.next());
+}
+
+// --- contents
+
+void Builder::writeTable(const Placement &placement) {
+    for (std::size_t k = 0; k <= placement.slots.size(); ++k) {
+        // The word in front of the table leads to its first place.
+        const std::int64_t offset = placement.slots[k == 0 ? 0 : k - 1] - placement.shift;
+        const std::uintptr_t entry = placement.origin + static_cast<std::uintptr_t>(offset);
+        std::memcpy(reinterpret_cast<void *>(placement.table + 8 * k - 8), &entry, sizeof entry);
+    }
+}
+
+void Builder::writeValues() {
+    const ValueSource values(function.type, families::usualValues(function), random);
+    for (int k = 0; k < operandCount(); ++k) {
+        if (described(k).written && !random.percent(20)) continue;
+        for (const std::uintptr_t place : operand(k).elements())
+            storeElement(place, function.type, values.next(random));
+    }
+    if (families::hasTrouble(function) && (scheduled == Fault::trouble || random.percent(5))) {
+        families::makeTrouble(function, call.operands, random);
+        call.traits.trouble = true;
+    }
+    for (const Block &block : call.blocks)
+        families::fillBlock(function, block.parameter, {reinterpret_cast<std::byte *>(block.address), block.bytes},
+                            sizes, random);
+    for (const Placement &placement : call.operands)
+        if (placement.tabled) writeTable(placement);
+    writeWords(values);
+}
+
+// --- words
+
+std::uint64_t Builder::withRubbish(std::int64_t value) {
+    return static_cast<std::uint32_t>(value) | (random.next() & 0xffffffff00000000);
+}
+
+std::uint64_t Builder::wordOf(const Parameter &parameter, const ValueSource &values) {
+    const auto operandOf = [&]() -> Placement & { return operand(parameter.operand); };
+    switch (parameter.kind) {
+    case Kind::base: return operandOf().origin;
+    case Kind::table:
+    case Kind::list: return operandOf().table;
+    case Kind::dense: return std::ranges::find(call.blocks, parameter.name, &Block::parameter)->address;
+    case Kind::shift: return withRubbish(operandOf().shift);
+    case Kind::objectStride: return withRubbish(operandOf().objectStride);
+    case Kind::rowStride: return withRubbish(operandOf().rowStride);
+    case Kind::elementStride: return withRubbish(operandOf().elementStride);
+    case Kind::ignored: return random.next();
+    case Kind::size: return withRubbish(sizes[parameter.name]);
+    case Kind::count: return withRubbish(sizes.count);
+    case Kind::constant: break;
+    }
+    std::uint64_t bits = 0;
+    storeElement(reinterpret_cast<std::uintptr_t>(&bits), function.type, values.next(random));
+    return bits;
+}
+
+void Builder::writeWords(const ValueSource &values) {
+    for (const Parameter &parameter : function.parameters) call.words.push_back(wordOf(parameter, values));
+}
+
+// --- faults
+
+// Of the words of this kind, one.
+void Builder::setSize(Kind kind, std::uint32_t value) {
+    std::vector<std::size_t> possible;
+    for (std::size_t k = 0; k < function.parameters.size(); ++k)
+        if (function.parameters[k].kind == kind) possible.push_back(k);
+    if (!possible.empty()) call.words[random.pick(std::span<const std::size_t>(possible))] = withRubbish(value);
+}
+
+// Null pointers go first, so whatever the sizes are does not matter beside one.
+void Builder::makeNullPointer() {
+    if (!families::testsPointers(function)) return;
+    std::vector<std::size_t> possible;
+    for (std::size_t k = 0; k < function.parameters.size(); ++k) {
+        const Kind kind = function.parameters[k].kind;
+        if (kind == Kind::base || kind == Kind::table || kind == Kind::list || kind == Kind::dense)
+            possible.push_back(k);
+    }
+    do call.words[random.pick(std::span<const std::size_t>(possible))] = 0;
+    while (random.percent(15));
+    call.traits.nullPointer = true;
+    for (const Kind kind : {Kind::size, Kind::count})
+        if (random.percent(25)) {
+            setSize(kind, random.percent(30) ? 0 : static_cast<std::uint32_t>(random.next()) | 0x80000000);
+            call.traits.hugeSize = true;
+        }
+}
+
+void Builder::makeNullEntry() {
+    std::vector<int> possible;
+    for (int k = 0; k < operandCount(); ++k)
+        if (operand(k).tabled) possible.push_back(k);
+    if (possible.empty()) return;
+    const int k = random.pick(std::span<const int>(possible));
+    const Placement &placement = operand(k);
+    const bool positions = isTable(described(k).layout);
+    const std::uint32_t entries = positions ? placement.shape.rows * placement.shape.cols : placement.objects;
+    const auto entry = static_cast<std::uint32_t>(random.below(entries));
+    if (!families::testsEntry(function, described(k), entry)) return;
+    const std::uintptr_t null = 0;
+    std::memcpy(reinterpret_cast<void *>(placement.table + 8 * std::uintptr_t{entry}), &null, sizeof null);
+    call.traits.nullEntry = true;
+    if (random.percent(15) && function.array() && families::stopsAtNullEntry(function, described(k))) {
+        setSize(Kind::count, static_cast<std::uint32_t>(random.next()) | 0x80000000);
+        call.traits.hugeSize = true;
+    } else if (random.percent(20) && positions && sizes["len"] != 0) {
+        setSize(Kind::size, static_cast<std::uint32_t>(random.next()) | 0x80000000);
+        call.traits.hugeSize = true;
+    }
+}
+
+void Builder::makeZeroDimension() {
+    setSize(Kind::size, 0);
+    call.traits.zeroDimension = !sizes.dimensions.empty();
+}
+
+void Builder::makeZeroCount() {
+    setSize(Kind::count, 0);
+    call.traits.zeroCount = function.array();
+}
+
+// A size that a null entry made harmless is made zero at most, never the other way round.
+void Builder::injectFaults() {
+    if (meets(Fault::nullEntry)) makeNullEntry();
+    if (meets(Fault::zeroDimension)) makeZeroDimension();
+    if (meets(Fault::zeroCount)) makeZeroCount();
+    if (meets(Fault::nullPointer)) makeNullPointer();
+}
+
+void Builder::noteTraits() {
+    Traits &traits = call.traits;
+    traits.alignedBases = true;
+    for (std::size_t k = 0; k < function.parameters.size(); ++k) {
+        const Kind kind = function.parameters[k].kind;
+        const std::uint64_t word = call.words[k];
+        if (kind == Kind::base || kind == Kind::dense) {
+            traits.alignedBases &= word % 16 == 0;
+            traits.unalignedBases |= word % static_cast<std::uint64_t>(elementSize) != 0;
+        }
+        if (kind == Kind::objectStride || kind == Kind::rowStride || kind == Kind::elementStride)
+            traits.negativeStride |= (word & 0x80000000) != 0;
+    }
+}
+
+// Which way the destination lies to the sources, told from the addresses.
+bool shareMemory(const Placement &a, const Placement &b) {
+    return a.origin + static_cast<std::uintptr_t>(a.reach.low) < b.origin + static_cast<std::uintptr_t>(b.reach.high) &&
+           b.origin + static_cast<std::uintptr_t>(b.reach.low) < a.origin + static_cast<std::uintptr_t>(a.reach.high);
+}
+
+void noteOverlap(Call &call) {
+    if (call.operands.empty() || !call.function->operands.back().written) return;
+    const Placement &written = call.operands.back();
+    const std::uintptr_t size = written.elementSize;
+    for (std::size_t k = 0; k + 1 < call.operands.size(); ++k) {
+        const Placement &source = call.operands[k];
+        if (!shareMemory(written, source)) continue;
+        const std::vector<std::uintptr_t> to = written.elements();
+        std::vector<std::uintptr_t> from = source.elements();
+        const bool same = to == from;
+        std::ranges::sort(from);
+        bool any = false;
+        for (const std::uintptr_t place : to)
+            for (auto at = std::ranges::lower_bound(from, place - size + 1); at != from.end() && *at < place + size;
+                 ++at) {
+                any = true;
+                call.traits.crossesElements |= *at != place;
+            }
+        if (any && !same) call.traits.overlap = Overlap::partial;
+        else if (any && call.traits.overlap == Overlap::none) call.traits.overlap = Overlap::inPlace;
+    }
+}
+
+Setting chooseSetting(Random &random) {
+    Setting setting;
+    setting.precision = random.percent(50) ? Precision::bits53 : Precision::bits64;
+    if (random.percent(15)) setting.rounding = static_cast<Rounding>(random.between(1, 3));
+    return setting;
+}
+
+Call Builder::build(const Arena &arena) {
+    arena.fill(random.next());
+    allAligned = random.percent(30);
+    chooseSizes();
+    layOutOperands();
+    chooseRelations();
+    place();
+    writeValues();
+    injectFaults();
+    noteTraits();
+    noteOverlap(call);
+    call.setting = chooseSetting(random);
+    return std::move(call);
+}
+
+} // namespace
+
+Call makeCall(const Function &function, const Arena &arena, std::uint64_t seed, std::uint64_t index,
+              const CallMixture &mixture) {
+    return Builder(function, seed, index, mixture).build(arena);
+}
+
+} // namespace support

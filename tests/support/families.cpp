@@ -1,0 +1,224 @@
+// The answers, family by family. See families.h.
+#include "families.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstring>
+#include <numeric>
+
+namespace support::families {
+namespace {
+
+using catalogue::Function;
+using catalogue::Layout;
+using catalogue::Operand;
+
+constexpr std::int32_t ok = 0;
+constexpr std::int32_t badSize = -6;
+constexpr std::int32_t nullPointer = -8;
+constexpr std::int32_t singular = -10;
+constexpr std::int32_t notPositiveDefinite = -179;
+
+// Of LUDecomp, in both element types.
+constexpr double pivotTolerance = 0x1p-23;
+
+bool in(const Function &function, std::initializer_list<std::string_view> sections) {
+    return std::ranges::find(sections, function.section->id) != sections.end();
+}
+
+std::uint32_t elementSize(const Function &function) { return function.type == catalogue::Type::real32 ? 4 : 8; }
+
+std::uint32_t orderOf(const Function &function, const Sizes &sizes) {
+    return function.order != 0 ? static_cast<std::uint32_t>(function.order) : sizes.largest();
+}
+
+bool refusesZeroCount(const Function &function) {
+    if (!function.array()) return false;
+    return in(function, {"cholesky-decomposition", "cholesky-back-substitution", "extract", "identity"});
+}
+
+bool refusesZeroDimension(const Function &function) {
+    if (function.order != 0 || in(function, {"identity", "cross-product"})) return false;
+    if (in(function, {"copy"})) return function.group == "va";
+    return testsPointers(function);
+}
+
+} // namespace
+
+std::vector<std::int32_t> relevantStatuses(const Function &function) {
+    std::vector<std::int32_t> statuses{ok};
+    if (testsPointers(function)) statuses.push_back(nullPointer);
+    if (refusesZeroDimension(function) || refusesZeroCount(function)) statuses.push_back(badSize);
+    if (in(function, {"lu-decomposition", "inverse", "qr-decomposition"})) statuses.push_back(singular);
+    if (in(function, {"cholesky-decomposition"})) statuses.push_back(notPositiveDefinite);
+    return statuses;
+}
+
+// Where rows and columns trade places the operand gets a square that holds either.
+Shape shapeOf(const Function &function, const Operand &operand, const Sizes &sizes) {
+    const std::uint32_t side = orderOf(function, sizes);
+    const bool square = function.order != 0 || sizes["order"] != 0 ||
+                        in(function, {"matrix-product", "matrix-vector", "transpose", "extract", "identity"});
+    if (!operand.matrix) {
+        const std::uint32_t length = std::max(sizes["len"], square ? side : std::max(sizes["rows"], sizes["cols"]));
+        return {1, length};
+    }
+    if (square) return {side, side};
+    if (operand.transposed) return {sizes["cols"], sizes["rows"]};
+    return {sizes["rows"], sizes["cols"]};
+}
+
+void relateDimensions(const Function &function, Sizes &sizes, Random &random) {
+    if (!in(function, {"matrix-product", "matrix-vector"}) || random.percent(20)) return;
+    for (Sizes::Named &dimension : sizes.dimensions) dimension.value = sizes.dimensions.front().value;
+}
+
+std::uint32_t blockBytes(const Function &function, std::string_view parameter, const Sizes &sizes) {
+    const std::uint32_t order = orderOf(function, sizes);
+    if (parameter == "pivots") return sizes.count * order * 4;
+    if (parameter == "scratch") return order * order * elementSize(function) + order * 4;
+    if (parameter == "work") return order * elementSize(function);
+    if (!in(function, {"extract"})) return sizes.count * elementSize(function);
+    std::uint32_t elements = sizes.count;
+    for (const Sizes::Named &dimension : sizes.dimensions) elements *= dimension.value;
+    return elements * elementSize(function);
+}
+
+bool holdsElements(std::string_view parameter) { return parameter == "dst" || parameter == "work"; }
+
+bool isUnspecifiedAfterCall(const Function &, std::string_view parameter) { return parameter == "scratch"; }
+
+// The last pivot of object n is looked for in the table n rows further on.
+std::uint32_t extraEntries(const Function &function, const Operand &operand, const Sizes &sizes) {
+    const bool displaced =
+        in(function, {"lu-decomposition"}) && operand.written && operand.array && isTable(operand.layout);
+    return displaced ? sizes.count * orderOf(function, sizes) : 0;
+}
+
+// The last pivot of object n is looked for n packed rows further on.
+Reach extraReach(const Function &function, const Operand &operand, const Placement &placement) {
+    Reach reach = placement.reach;
+    if (!in(function, {"lu-decomposition"}) || !operand.written || !operand.array || isTable(operand.layout))
+        return reach;
+    const std::int64_t farthest =
+        (placement.objects - 1) * std::int64_t{placement.shape.cols} * placement.elementStride;
+    reach.low += std::min<std::int64_t>(farthest, 0);
+    reach.high += std::max<std::int64_t>(farthest, 0);
+    return reach;
+}
+
+bool testsPointers(const Function &function) {
+    static constexpr std::array<std::string_view, 5> untested{"vonkExtract_m_32f_P", "vonkExtract_m_64f_P",
+                                                              "vonkExtract_mT_32f_P", "vonkExtract_mT_64f_P",
+                                                              "vonkExtract_v_64f_P"};
+    return std::ranges::find(untested, function.name) == untested.end();
+}
+
+// Single forms that leave out tests are added here, by name.
+bool testsEntry(const Function &function, const Operand &, std::uint32_t) {
+    return !in(function, {"copy", "extract", "identity", "cholesky-decomposition", "cholesky-back-substitution"});
+}
+
+// Some forms of these run ahead of the object whose entries they test.
+bool stopsAtNullEntry(const Function &function, const Operand &operand) {
+    return isTable(operand.layout) ? !in(function, {"trace"}) : !in(function, {"matrix-matrix", "matrix-product"});
+}
+
+bool isFixedInPlace(const Function &function, const Operand &source) {
+    if (source.transposed) return false;
+    if (in(function, {"cholesky-back-substitution"})) return source.name == "src2";
+    return in(function, {"vector-constant", "vector-vector", "saxpy", "linear-combination", "matrix-matrix",
+                         "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition"});
+}
+
+// Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.
+ValueMixture usualValues(const Function &function) {
+    if (in(function, {"lu-decomposition", "inverse", "qr-decomposition"}))
+        return {.smallIntegers = 15, .wideExponents = 4, .ties = 5, .nearTies = 8, .specials = 15};
+    return {};
+}
+
+namespace {
+
+void fillPivots(std::span<std::byte> block, std::uint32_t order, Random &random) {
+    std::vector<std::uint32_t> rows(order);
+    for (std::size_t at = 0; at < block.size(); at += std::size_t{4} * order) {
+        std::iota(rows.begin(), rows.end(), 0);
+        if (random.percent(75)) random.shuffle(rows);
+        std::memcpy(block.data() + at, rows.data(), rows.size() * 4);
+    }
+}
+
+} // namespace
+
+void fillBlock(const Function &function, std::string_view parameter, std::span<std::byte> block, const Sizes &sizes,
+               Random &random) {
+    if (parameter == "pivots" && in(function, {"lu-back-substitution"}))
+        fillPivots(block, orderOf(function, sizes), random);
+}
+
+bool hasTrouble(const Function &function) { return in(function, {"lu-decomposition"}); }
+
+namespace {
+
+// One object of a matrix operand, by rows and columns.
+struct MatrixObject {
+    const Placement &placement;
+    catalogue::Type type;
+    std::uint32_t n;
+
+    std::uint32_t order() const { return placement.shape.rows; }
+    double get(std::uint32_t i, std::uint32_t j) const { return loadElement(placement.address(n, i, j), type); }
+    void set(std::uint32_t i, std::uint32_t j, double value) const {
+        storeElement(placement.address(n, i, j), type, value);
+    }
+};
+
+void repeatRow(const MatrixObject &matrix, Random &random) {
+    const auto from = static_cast<std::uint32_t>(random.below(matrix.order()));
+    const auto to = static_cast<std::uint32_t>(random.below(matrix.order()));
+    for (std::uint32_t j = 0; j < matrix.order(); ++j) matrix.set(to, j, from == to ? 0.0 : matrix.get(from, j));
+}
+
+void clearColumn(const MatrixObject &matrix, Random &random) {
+    const auto column = static_cast<std::uint32_t>(random.below(matrix.order()));
+    for (std::uint32_t i = 0; i < matrix.order(); ++i) matrix.set(i, column, 0.0);
+}
+
+double besideTolerance(catalogue::Type type, Random &random) {
+    const double side = random.percent(50) ? 0.0 : 1.0;
+    double value = pivotTolerance;
+    if (random.percent(67))
+        value = type == catalogue::Type::real32
+                    ? static_cast<double>(std::nextafterf(static_cast<float>(value), static_cast<float>(side)))
+                    : std::nextafter(value, side);
+    return random.percent(50) ? -value : value;
+}
+
+// Rows of an upper triangle in any order: no step changes a pivot, and one of them lies at the tolerance.
+void placePivotAtTolerance(const MatrixObject &matrix, Random &random) {
+    std::vector<std::uint32_t> rows(matrix.order());
+    std::iota(rows.begin(), rows.end(), 0);
+    random.shuffle(rows);
+    const auto critical = static_cast<std::uint32_t>(random.below(matrix.order()));
+    for (std::uint32_t i = 0; i < matrix.order(); ++i)
+        for (std::uint32_t j = 0; j < matrix.order(); ++j)
+            matrix.set(rows[i], j, j < i ? 0.0 : static_cast<double>(random.between(1, 3)));
+    matrix.set(rows[critical], critical, besideTolerance(matrix.type, random));
+}
+
+} // namespace
+
+void makeTrouble(const Function &function, std::span<const Placement> operands, Random &random) {
+    const Placement &source = operands.front();
+    const auto n = static_cast<std::uint32_t>(random.percent(50) ? 0 : random.below(source.objects));
+    const MatrixObject matrix{source, function.type, n};
+    switch (random.below(4)) {
+    case 0: return repeatRow(matrix, random);
+    case 1: return clearColumn(matrix, random);
+    default: return placePivotAtTolerance(matrix, random);
+    }
+}
+
+} // namespace support::families

@@ -1,0 +1,64 @@
+// What the random calls have to know of single families: everything that the catalogue does not say. One function a
+// question; a family without a case of its own gets the usual answer.
+#pragma once
+
+#include "catalogue.h"
+#include "geometry.h"
+#include "random.h"
+#include "values.h"
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace support::families {
+
+// Statuses that a large number of calls has to bring about.
+std::vector<std::int32_t> relevantStatuses(const catalogue::Function &function);
+
+// Rows and columns of an operand as far as a call may touch it.
+Shape shapeOf(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes);
+
+// Makes the dimensions fit one another, where a function compares them.
+void relateDimensions(const catalogue::Function &function, Sizes &sizes, Random &random);
+
+// Bytes of a dense block.
+std::uint32_t blockBytes(const catalogue::Function &function, std::string_view parameter, const Sizes &sizes);
+
+// Whether a dense block holds elements: then NaNs in it are as good as one another.
+bool holdsElements(std::string_view parameter);
+
+// Whether nothing is promised of the block's contents after a call.
+bool isUnspecifiedAfterCall(const catalogue::Function &function, std::string_view parameter);
+
+// Entries that a table of positions needs behind its last position.
+std::uint32_t extraEntries(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes);
+
+// Bytes that a call may touch beyond the elements of an operand, given its strides.
+Reach extraReach(const catalogue::Function &function, const catalogue::Operand &operand, const Placement &placement);
+
+// Whether a null pointer parameter is answered by a status.
+bool testsPointers(const catalogue::Function &function);
+
+// Whether a null at this entry of the operand's table is answered by a status.
+bool testsEntry(const catalogue::Function &function, const catalogue::Operand &operand, std::uint32_t entry);
+
+// Whether a call that finds a null entry is sure to stop there however large `count` is.
+bool stopsAtNullEntry(const catalogue::Function &function, const catalogue::Operand &operand);
+
+// Whether the result is fixed when the destination is this source, element on element.
+bool isFixedInPlace(const catalogue::Function &function, const catalogue::Operand &source);
+
+// How elements are chosen.
+ValueMixture usualValues(const catalogue::Function &function);
+
+// Fills a block that is read.
+void fillBlock(const catalogue::Function &function, std::string_view parameter, std::span<std::byte> block,
+               const Sizes &sizes, Random &random);
+
+// Whether some calls are to meet trouble in the numbers, and what makes it: matrices that are singular or nearly so.
+bool hasTrouble(const catalogue::Function &function);
+void makeTrouble(const catalogue::Function &function, std::span<const Placement> operands, Random &random);
+
+} // namespace support::families

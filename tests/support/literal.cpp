@@ -1,0 +1,379 @@
+// Laying out, making and judging one call. See literal.h.
+#include "literal.h"
+
+#include "invoke.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+#include <numeric>
+#include <stdexcept>
+
+namespace literal {
+namespace {
+
+using catalogue::Function;
+using catalogue::Kind;
+using catalogue::Layout;
+using catalogue::Type;
+
+// Floats and doubles of these bytes are ordinary numbers, 0.747 and 0.000477, that no result here happens to be.
+constexpr std::byte background{0x3f};
+constexpr std::uint32_t untouchedPivot = 0xc0ffee01;
+constexpr std::size_t pivotMargin = 8;
+
+// Stands above every 32-bit word of a call, where nobody may look.
+constexpr std::uint64_t rubbish = 0xa5c3'96e1'0000'0000;
+
+struct Reach {
+    std::ptrdiff_t low = 0;
+    std::ptrdiff_t high = 0;
+};
+
+void *exportOf(const Function &function) {
+    static const support::Library library(support::defaultLibrary());
+    void *const address = library.find(function.name);
+    if (address == nullptr) throw std::runtime_error("the library does not export " + function.name);
+    return address;
+}
+
+bool isList(const Place &place) { return catalogue::isList(place.operand->layout) && place.operand->array; }
+
+// From the origin to an element, with objects, rows and columns as the strides say.
+std::ptrdiff_t offset(const Place &place, std::uint32_t n, std::uint32_t i, std::uint32_t j) {
+    const auto times = [](std::int32_t stride, std::uint32_t times) { return std::ptrdiff_t{stride} * times; };
+    if (catalogue::isTable(place.operand->layout))
+        return times(place.positionStride, i * place.cols + j) + times(place.objectStride, n);
+    return times(place.objectStride, n) + times(place.rowStride, i) + times(place.elementStride, j);
+}
+
+// `objects` objects of the operand, also where it is a single one: a destination may be laid over it.
+Reach reachOf(const Place &place, std::uint32_t objects) {
+    Reach reach{0, place.elementSize};
+    for (std::uint32_t n : {0U, objects - 1})
+        for (std::uint32_t i = 0; i < place.rows; ++i)
+            for (std::uint32_t j = 0; j < place.cols; ++j) {
+                reach.low = std::min(reach.low, offset(place, n, i, j));
+                reach.high = std::max(reach.high, offset(place, n, i, j) + place.elementSize);
+            }
+    return reach;
+}
+
+// Objects beyond `count` have room too, for destinations that lie one object behind a source.
+void chooseStrides(Place &place, Geometry geometry, std::uint32_t count) {
+    const int e = place.elementSize;
+    const int cols = static_cast<int>(place.cols);
+    const int objects = static_cast<int>(count) + 1;
+    const Layout layout = place.operand->layout;
+    const bool free = layout == Layout::strided || layout == Layout::stridedList;
+    const int element = free ? e + geometry.padding : e;
+    const int row = cols * element * (geometry.roomy ? objects : 1) + 2 * geometry.padding;
+    const int object = static_cast<int>(place.rows) * row + 3 * geometry.padding;
+    place.elementStride = free ? geometry.direction * element : e;
+    place.rowStride = geometry.direction * row;
+    place.objectStride = geometry.direction * object;
+    if (!catalogue::isTable(layout)) return;
+    const int step = layout == Layout::pointer ? e : e + geometry.padding;
+    place.objectStride = layout == Layout::pointer ? e : geometry.direction * step;
+    place.positionStride = geometry.direction * (objects * step + geometry.padding);
+}
+
+} // namespace
+
+const std::vector<Function> &allMembers() {
+    static const std::vector<Function> functions = catalogue::expandBuilt();
+    return functions;
+}
+
+const Function &function(std::string_view name) {
+    const auto found = std::ranges::find(allMembers(), name, &Function::name);
+    if (found == allMembers().end()) throw std::out_of_range(std::string(name));
+    return *found;
+}
+
+std::vector<const Function *> members(std::string_view section) {
+    std::vector<const Function *> found;
+    for (const Function &candidate : allMembers())
+        if (candidate.section->id == section) found.push_back(&candidate);
+    if (found.empty()) throw std::out_of_range(std::string(section));
+    return found;
+}
+
+bool isPointer(Kind kind) {
+    return kind == Kind::base || kind == Kind::table || kind == Kind::list || kind == Kind::dense;
+}
+
+std::vector<std::uint32_t> sizesOf(const Function &function, std::vector<std::uint32_t> runTimeSizes) {
+    if (function.order == 0) return runTimeSizes;
+    return {static_cast<std::uint32_t>(function.order)};
+}
+
+bool Place::tabled() const { return catalogue::isTable(operand->layout) || isList(*this); }
+
+std::byte *Place::address(std::uint32_t n, std::uint32_t i, std::uint32_t j) const {
+    const std::uint32_t object = operand->array ? n : 0;
+    if (catalogue::isTable(operand->layout))
+        return entries[i * cols + j] + shift + std::ptrdiff_t{objectStride} * object;
+    if (isList(*this))
+        return entries[object] + shift + std::ptrdiff_t{rowStride} * i + std::ptrdiff_t{elementStride} * j;
+    return origin + offset(*this, object, i, j);
+}
+
+void Place::moveTo(std::byte *newOrigin) {
+    for (std::byte *&entry : entries) entry += newOrigin - origin;
+    origin = newOrigin;
+}
+
+Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geometry geometry)
+    : function_(literal::function(name)),
+      size_(function_.order == 0 ? size : static_cast<std::uint32_t>(function_.order)),
+      count_(function_.array() ? count : 1), pivots_(2 * pivotMargin + std::size_t{size_} * count_, untouchedPivot),
+      pivotsWord_(pivots_.data() + pivotMargin) {
+    for (const catalogue::Operand &operand : function_.operands) {
+        Place place;
+        place.operand = &operand;
+        shape(place);
+        chooseStrides(place, geometry, count_);
+        places_.push_back(place);
+    }
+    layOut(geometry);
+}
+
+void Call::shape(Place &place) {
+    place.elementSize = function_.type == Type::real32 ? 4 : 8;
+    place.rows = place.operand->matrix ? size_ : 1;
+    place.cols = size_;
+}
+
+// Operands lie behind one another at multiples of 16, far enough apart for reads of displaced pivots.
+void Call::layOut(Geometry geometry) {
+    const std::uint32_t objects = count_ + 1;
+    std::size_t end = 0;
+    std::vector<std::size_t> origins;
+    for (const Place &place : places_) {
+        const Reach reach = reachOf(place, objects);
+        const auto margin = static_cast<std::size_t>(256 + std::abs(place.elementStride) * static_cast<int>(objects * size_));
+        const std::size_t start = end + margin + static_cast<std::size_t>(-reach.low);
+        origins.push_back((start + 15) / 16 * 16);
+        end = origins.back() + static_cast<std::size_t>(reach.high) + margin;
+    }
+    memory_.assign(end + 64 * (std::size_t{count_} + 2), background);
+    spare_ = memory_.data() + end;
+    for (std::size_t k = 0; k < places_.size(); ++k) {
+        Place &place = places_[k];
+        place.origin = memory_.data() + origins[k];
+        if (!place.tabled()) continue;
+        place.shift = geometry.direction * (24 + 8 * static_cast<int>(k));
+        const std::uint32_t entries = isList(place) ? count_ : place.rows * place.cols;
+        for (std::uint32_t entry = 0; entry < entries; ++entry) {
+            const std::ptrdiff_t step = isList(place) ? place.objectStride : place.positionStride;
+            place.entries.push_back(place.origin + step * std::ptrdiff_t{entry} - place.shift);
+        }
+        // The displaced look at the last pivot goes beyond the positions, to a cell of its own for each object.
+        if (!isList(place) && writesPivots() && place.operand->written)
+            for (std::uint32_t n = 1; n < count_; ++n)
+                place.entries.insert(place.entries.end(), size_,
+                                     spareCell(n) - place.shift - std::ptrdiff_t{place.objectStride} * n);
+    }
+}
+
+std::uint32_t Call::objectsOf(std::string_view operand) { return (*this)[operand].operand->array ? count_ : 1; }
+
+Place &Call::operator[](std::string_view operand) {
+    for (Place &place : places_)
+        if (place.operand->name == operand) return place;
+    throw std::out_of_range(std::string(operand));
+}
+
+void Call::layOver(std::string_view source) {
+    Place &destination = (*this)["dst"];
+    const Place &target = (*this)[source];
+    destination.moveTo(target.origin);
+}
+
+void Call::setAt(std::byte *address, double value) {
+    const auto narrow = static_cast<float>(value);
+    if (function_.type == Type::real32) std::memcpy(address, &narrow, sizeof narrow);
+    else std::memcpy(address, &value, sizeof value);
+}
+
+double Call::getAt(const std::byte *address) const {
+    float narrow = 0;
+    double wide = 0;
+    if (function_.type == Type::real64) {
+        std::memcpy(&wide, address, sizeof wide);
+        return wide;
+    }
+    std::memcpy(&narrow, address, sizeof narrow);
+    return narrow;
+}
+
+void Call::set(std::string_view operand, std::uint32_t n, std::uint32_t i, std::uint32_t j, double value) {
+    const Place &place = (*this)[operand];
+    setAt(place.address(n, i, j) + place.alias, value);
+}
+
+void Call::set(std::string_view operand, std::uint32_t n, const std::vector<double> &values) {
+    const Place &place = (*this)[operand];
+    if (values.size() != std::size_t{place.rows} * place.cols) throw std::length_error("values of an object");
+    for (std::uint32_t k = 0; k < values.size(); ++k) set(operand, n, k / place.cols, k % place.cols, values[k]);
+}
+
+double Call::get(std::string_view operand, std::uint32_t n, std::uint32_t i, std::uint32_t j) {
+    const Place &place = (*this)[operand];
+    return getAt(place.address(n, i, j) + place.alias);
+}
+
+std::vector<double> Call::get(std::string_view operand, std::uint32_t n) {
+    const Place &place = (*this)[operand];
+    std::vector<double> values;
+    for (std::uint32_t k = 0; k < place.rows * place.cols; ++k)
+        values.push_back(get(operand, n, k / place.cols, k % place.cols));
+    return values;
+}
+
+std::vector<std::uint32_t> Call::pivots(std::uint32_t n) const {
+    const std::uint32_t *const first = pivots_.data() + pivotMargin + std::size_t{n} * size_;
+    return {first, first + size_};
+}
+
+void Call::setPivots(std::uint32_t n, const std::vector<std::uint32_t> &rows) {
+    std::ranges::copy(rows, pivots_.begin() + static_cast<std::ptrdiff_t>(pivotMargin + std::size_t{n} * size_));
+}
+
+std::uint64_t Call::wordOf(const catalogue::Parameter &parameter) {
+    const auto bytes = [](std::int32_t value) { return rubbish | static_cast<std::uint32_t>(value); };
+    const auto pointer = [](const void *address) { return reinterpret_cast<std::uintptr_t>(address); };
+    if (parameter.kind == Kind::dense) return pointer(pivotsWord_);
+    if (parameter.kind == Kind::size) return rubbish | size_;
+    if (parameter.kind == Kind::count) return rubbish | count_;
+    if (parameter.kind == Kind::ignored) return rubbish;
+    const Place &place = places_.at(static_cast<std::size_t>(parameter.operand));
+    switch (parameter.kind) {
+    case Kind::base: return pointer(place.origin);
+    case Kind::table:
+    case Kind::list: return pointer(place.table == nullptr ? place.entries.data() : place.table);
+    case Kind::shift: return bytes(place.shift);
+    case Kind::objectStride: return bytes(place.objectStride);
+    case Kind::rowStride: return bytes(place.rowStride);
+    case Kind::elementStride: return bytes(place.elementStride);
+    default: throw std::logic_error("no word for " + parameter.name);
+    }
+}
+
+std::vector<std::uint64_t> Call::words() {
+    std::vector<std::uint64_t> list;
+    for (const catalogue::Parameter &parameter : function_.parameters) {
+        const auto found = passed_.find(parameter.name);
+        if (found == passed_.end()) list.push_back(wordOf(parameter));
+        else list.push_back(isPointer(parameter.kind) ? found->second : rubbish | (found->second & 0xffffffff));
+    }
+    return list;
+}
+
+Call::Picture Call::picture() const {
+    Picture taken{memory_, pivots_, {}};
+    for (const Place &place : places_) taken.tables.push_back(place.entries);
+    return taken;
+}
+
+std::int32_t Call::run() {
+    const std::vector<std::uint64_t> list = words();
+    before_ = picture();
+    const std::int32_t status = support::invoke(exportOf(function_), function_, list);
+    after_ = picture();
+    return status;
+}
+
+bool Call::changedNothing() const { return before_ == after_; }
+
+bool Call::changedObject(std::uint32_t n) {
+    const Place &place = (*this)["dst"];
+    for (std::uint32_t i = 0; i < place.rows; ++i)
+        for (std::uint32_t j = 0; j < place.cols; ++j) {
+            const std::ptrdiff_t at = place.address(n, i, j) - memory_.data();
+            if (!std::equal(before_.memory.begin() + at, before_.memory.begin() + at + place.elementSize,
+                            after_.memory.begin() + at))
+                return true;
+        }
+    if (!writesPivots()) return false;
+    const auto first = static_cast<std::ptrdiff_t>(pivotMargin + std::size_t{n} * size_);
+    return !std::equal(before_.pivots.begin() + first, before_.pivots.begin() + first + size_,
+                       after_.pivots.begin() + first);
+}
+
+Stray Call::strayWrites() {
+    Picture expected = before_;
+    const Place &place = (*this)["dst"];
+    for (std::uint32_t n = 0; n < count_; ++n)
+        for (std::uint32_t k = 0; k < place.rows * place.cols; ++k) {
+            const std::ptrdiff_t at = place.address(n, k / place.cols, k % place.cols) - memory_.data();
+            std::copy_n(after_.memory.begin() + at, place.elementSize, expected.memory.begin() + at);
+        }
+    if (writesPivots())
+        std::copy_n(after_.pivots.begin() + pivotMargin, std::size_t{size_} * count_,
+                    expected.pivots.begin() + pivotMargin);
+    if (expected.tables != after_.tables) return {"an entry of a table was written"};
+    if (expected.pivots != after_.pivots) return {"a word of or beside the pivots was written"};
+    if (expected.memory != after_.memory) return {"a byte outside the elements of dst was written"};
+    return {};
+}
+
+bool same(double left, double right) {
+    if (std::isnan(left) || std::isnan(right)) return std::isnan(left) && std::isnan(right);
+    return left == right && std::signbit(left) == std::signbit(right);
+}
+
+Factors::Factors(std::uint32_t order, std::uint32_t variant) : order(order), variant(variant) {
+    for (std::uint32_t i = 0; i < order; ++i) permutation.push_back((2 * order - 1 - i + variant) % order);
+}
+
+void Factors::leaveLastRow(std::uint32_t row) {
+    std::swap(*std::ranges::find(permutation, row), permutation.back());
+}
+
+double Factors::lower(std::uint32_t i, std::uint32_t j) const {
+    constexpr double choices[3] = {0.5, -0.5, 0.25};
+    return i == j ? 1 : j > i ? 0 : choices[(i + 2 * j + variant) % 3];
+}
+
+double Factors::upper(std::uint32_t i, std::uint32_t j) const {
+    if (i == j) return i + 1 == order ? lastPivot : 8;
+    const double number = j < i ? 0 : static_cast<int>((i + 2 * j + variant) % 5) - 2;
+    return number == 0 && j + 1 == order && j > i ? 3 : number; // the last column of U has no zero
+}
+
+std::vector<double> Factors::matrix() const {
+    std::vector<double> product(std::size_t{order} * order);
+    for (std::uint32_t i = 0; i < order; ++i)
+        for (std::uint32_t j = 0; j < order; ++j)
+            for (std::uint32_t k = 0; k < order; ++k)
+                product[permutation[i] * order + j] += lower(i, k) * upper(k, j);
+    return product;
+}
+
+std::vector<double> Factors::factored() const {
+    std::vector<double> both(std::size_t{order} * order);
+    for (std::uint32_t i = 0; i < order; ++i)
+        for (std::uint32_t j = 0; j < order; ++j)
+            both[permutation[i] * order + j] = j < i ? lower(i, j) : upper(i, j);
+    return both;
+}
+
+std::vector<double> Factors::solution() const {
+    std::vector<double> x;
+    for (std::uint32_t j = 0; j < order; ++j) x.push_back(static_cast<int>((3 * j + variant) % 7) - 3);
+    return x;
+}
+
+std::vector<double> Factors::rightHandSide() const {
+    const std::vector<double> a = matrix();
+    const std::vector<double> x = solution();
+    std::vector<double> b(order);
+    for (std::uint32_t i = 0; i < order; ++i)
+        b[i] = std::inner_product(x.begin(), x.end(), a.begin() + static_cast<std::ptrdiff_t>(i * order), 0.0);
+    return b;
+}
+
+} // namespace literal

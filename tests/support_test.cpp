@@ -1,0 +1,449 @@
+// The comparison can fail, and the random calls reach what they are meant to reach.
+//
+// The model itself stands in for a faultless library; each test of a fault adds that one fault to it.
+#include "support/bitstream.h"
+#include "support/calls.h"
+#include "support/comparison.h"
+#include "support/control.h"
+#include "support/families.h"
+#include "support/invoke.h"
+#include "support/report.h"
+#include "support/tally.h"
+#include "support/values.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+
+namespace {
+
+using catalogue::Function;
+using support::Arena;
+using support::Call;
+using support::Extent;
+using support::Verdict;
+
+const Arena &arena() {
+    static const Arena one;
+    return one;
+}
+
+const std::vector<Function> &allFunctions() {
+    static const std::vector<Function> all = catalogue::expand();
+    return all;
+}
+
+const std::vector<Function> &builtFunctions() {
+    static const std::vector<Function> built = catalogue::expandBuilt();
+    return built;
+}
+
+const Function &named(const std::string &name) { return *std::ranges::find(allFunctions(), name, &Function::name); }
+
+std::int32_t faultless(const Call &call) { return model::run({call.function->name, call.words}).status; }
+
+std::byte *inArena(std::size_t offset) { return arena().bytes().data() + offset; }
+
+void spoil(std::byte *byte) { *byte ^= std::byte{0x01}; }
+
+// Compares one call, with the fault happening behind the faultless work.
+Verdict compareWith(const Call &call, const std::function<void()> &fault) {
+    support::Comparison comparison(
+        arena(),
+        [&](const Call &made) {
+            const std::int32_t status = faultless(made);
+            fault();
+            return status;
+        },
+        model::run);
+    return comparison.compare(call, call.setting);
+}
+
+// The first call of the function that meets the condition, with the arena made ready for it.
+Call findCall(const std::string &name, const std::function<bool(const Call &)> &wanted) {
+    for (std::uint64_t index = 0; index < 2000; ++index) {
+        Call call = support::makeCall(named(name), arena(), 7, index);
+        if (wanted(call)) return call;
+    }
+    throw std::runtime_error("no call of " + name + " meets the condition");
+}
+
+bool hasFault(const Call &call) {
+    const support::Traits &traits = call.traits;
+    return traits.nullPointer || traits.nullEntry || traits.zeroDimension || traits.zeroCount;
+}
+
+Call plainCall(const std::string &name) {
+    return findCall(name,
+                    [](const Call &call) { return !hasFault(call) && call.traits.overlap == support::Overlap::none; });
+}
+
+// --- the comparison
+
+TEST(Comparison, PassesTheFaultless) {
+    for (const Function &function : builtFunctions())
+        for (std::uint64_t index = 0; index < 4; ++index) {
+            const Call call = support::makeCall(function, arena(), 3, index);
+            const Verdict verdict = compareWith(call, [] {});
+            EXPECT_TRUE(verdict.passed) << support::replayOptions(call) << "\n" << verdict.complaint;
+        }
+}
+
+TEST(Comparison, LeavesTheArenaAsItFoundIt) {
+    const Call call = plainCall("vonkAdd_vv_32f");
+    support::Image before, after;
+    arena().save(before);
+    EXPECT_TRUE(compareWith(call, [] {}).worked);
+    arena().save(after);
+    EXPECT_EQ(before, after);
+}
+
+TEST(Comparison, ReportsAStrayStoreAnywhere) {
+    const Call call = plainCall("vonkAdd_vv_32f");
+    for (const std::size_t offset : {std::size_t{0}, Arena::size / 2, Arena::size - 1}) {
+        const Verdict verdict = compareWith(call, [=] { spoil(inArena(offset)); });
+        EXPECT_FALSE(verdict.passed);
+        EXPECT_NE(verdict.complaint.find("byte at arena + 0x"), std::string::npos);
+    }
+}
+
+TEST(Comparison, ReportsOneWrongBitInAResult) {
+    for (const char *name : {"vonkSub_vava_64f_LS2", "vonkLUDecomp_ma_32f_4x4", "vonkLUBackSubst_mva_64f_PS2"}) {
+        const Call call = plainCall(name);
+        const std::uintptr_t place = call.operands.back().address(0, 0, 0);
+        EXPECT_FALSE(compareWith(call, [=] { spoil(reinterpret_cast<std::byte *>(place)); }).passed) << name;
+    }
+}
+
+TEST(Comparison, ReportsAChangedSourceTableOrPivot) {
+    const Call call = plainCall("vonkLUBackSubst_mava_32f_P");
+    for (const std::uintptr_t place :
+         {call.operands[0].table, call.operands[0].address(0, 0, 0), call.blocks.front().address})
+        EXPECT_FALSE(compareWith(call, [=] { spoil(reinterpret_cast<std::byte *>(place)); }).passed);
+}
+
+TEST(Comparison, ReportsAWrongStatus) {
+    const Call call = plainCall("vonkLUDecomp_m_64f_3x3");
+    support::Comparison comparison(
+        arena(), [](const Call &made) { return faultless(made) == 0 ? -10 : 0; }, model::run);
+    const Verdict verdict = comparison.compare(call, call.setting);
+    EXPECT_FALSE(verdict.passed);
+    EXPECT_NE(verdict.complaint.find("status"), std::string::npos);
+}
+
+TEST(Comparison, ReportsASpoiledControlState) {
+    const Call call = plainCall("vonkAdd_vv_64f");
+    const support::MachineState before = support::MachineState::now();
+    EXPECT_FALSE(compareWith(call, [] { __asm__ volatile("fld1"); }).passed) << "an entry left on the register stack";
+    EXPECT_FALSE(compareWith(call, [] { __asm__ volatile("fincstp"); }).passed) << "the stack pointer moved";
+    EXPECT_FALSE(compareWith(call,
+                             [] {
+                                 const std::uint16_t word = 0x007f; // 24 bits, to nearest
+                                 __asm__ volatile("fldcw %0" : : "m"(word));
+                             })
+                     .passed)
+        << "the precision control";
+    EXPECT_FALSE(compareWith(call,
+                             [] {
+                                 const std::uint32_t word = 0xffc0; // flush to zero, rounding toward zero
+                                 __asm__ volatile("ldmxcsr %0" : : "m"(word));
+                             })
+                     .passed)
+        << "the lanes' control word";
+    EXPECT_EQ(before, support::MachineState::now()) << "the comparison takes the damage back";
+}
+
+TEST(Comparison, ReportsASetDirectionFlag) {
+    const Call call = plainCall("vonkAdd_vv_64f");
+    // With the flag set hardly any code may run, so neither side does anything else.
+    support::Comparison comparison(
+        arena(),
+        [](const Call &) {
+            __asm__ volatile("std");
+            return 0;
+        },
+        [](const model::Call &) {
+            return model::Outcome{0, {}, false, false};
+        });
+    const Verdict verdict = comparison.compare(call, call.setting);
+    EXPECT_FALSE(verdict.passed);
+    EXPECT_NE(verdict.complaint.find("direction"), std::string::npos);
+}
+
+// One element of the destination is a NaN of other signs on the two sides.
+Verdict compareNans(const Call &call, bool nanSeen, bool open, std::size_t strayOffset) {
+    const std::uintptr_t place = call.operands.back().address(0, 0, 0);
+    const auto put = [=](std::uint32_t bits) { std::memcpy(reinterpret_cast<void *>(place), &bits, sizeof bits); };
+    support::Comparison comparison(
+        arena(),
+        [=](const Call &) {
+            put(0xffc00000);
+            if (strayOffset != 0) spoil(inArena(strayOffset));
+            return 0;
+        },
+        [=](const model::Call &) {
+            put(0x7fc00000);
+            return model::Outcome{0, {{place, 4}}, nanSeen, open};
+        });
+    return comparison.compare(call, call.setting);
+}
+
+TEST(Comparison, ToleratesTheSignOfANanOnlyWhereTheModelMetOne) {
+    const Call call = plainCall("vonkAdd_vv_32f_4x1");
+    const Verdict met = compareNans(call, true, false, 0);
+    EXPECT_TRUE(met.passed);
+    EXPECT_EQ(met.extent, Extent::nanTolerated);
+    EXPECT_FALSE(compareNans(call, false, false, 0).passed);
+    EXPECT_FALSE(compareNans(call, true, false, 1).passed) << "a stray store beside the NaN";
+}
+
+TEST(Comparison, FindsStrayStoresInOpenCalls) {
+    const Call call = plainCall("vonkAdd_vv_32f_4x1");
+    const Verdict open = compareNans(call, false, true, 0);
+    EXPECT_TRUE(open.passed);
+    EXPECT_EQ(open.extent, Extent::statusOnly);
+    EXPECT_FALSE(compareNans(call, false, true, 1).passed);
+}
+
+TEST(Comparison, DoesNotTolerateANumberInTheNansPlace) {
+    const Call call = plainCall("vonkAdd_vv_32f_4x1");
+    const std::uintptr_t place = call.operands.back().address(0, 0, 0);
+    support::storeElement(place, catalogue::Type::real32, 1.0);
+    support::Comparison comparison(
+        arena(), [](const Call &) { return 0; },
+        [=](const model::Call &) {
+            std::memcpy(reinterpret_cast<void *>(place), &support::quietNan32, 4);
+            return model::Outcome{0, {{place, 4}}, true, false};
+        });
+    EXPECT_FALSE(comparison.compare(call, call.setting).passed);
+}
+
+// --- settings
+
+TEST(Control, SetsBothUnitsForAScope) {
+    const support::MachineState before = support::MachineState::now();
+    volatile float one = 1.0f, three = 3.0f;
+    volatile double first = 1.0, second = 0x1p-60;
+    {
+        const support::SettingScope scope({support::Precision::bits53, support::Rounding::up});
+        EXPECT_EQ(one / three, 0x1.555556p-2f);
+        const long double sum = static_cast<long double>(first) + static_cast<long double>(second);
+        EXPECT_EQ(sum, 1.0L + 0x1p-52L) << "53 bits, upward";
+    }
+    {
+        const support::SettingScope scope({support::Precision::bits64, support::Rounding::towardZero});
+        EXPECT_EQ(one / three, 0x1.555554p-2f);
+        const long double sum = static_cast<long double>(first) + static_cast<long double>(second);
+        EXPECT_EQ(sum, 1.0L + 0x1p-60L) << "64 bits hold it";
+    }
+    EXPECT_EQ(before, support::MachineState::now());
+}
+
+// --- invoking
+
+std::vector<std::uint64_t> received;
+
+std::uint64_t bitsOf(double value) {
+    std::uint64_t bits;
+    std::memcpy(&bits, &value, sizeof bits);
+    return bits;
+}
+
+extern "C" std::int32_t takeLinearCombination(const double *src1, std::int32_t src1Shift, std::int32_t src1Stride,
+                                              double val1, const double *src2, std::int32_t src2Shift,
+                                              std::int32_t src2Stride, double val2, double *dst, std::int32_t dstShift,
+                                              std::int32_t dstStride, std::uint32_t len, std::uint32_t count) {
+    const auto address = [](const double *pointer) { return reinterpret_cast<std::uint64_t>(pointer); };
+    const auto word = [](auto value) { return static_cast<std::uint64_t>(static_cast<std::uint32_t>(value)); };
+    received = {address(src1),   word(src1Shift),  word(src1Stride), bitsOf(val1), address(src2),
+                word(src2Shift), word(src2Stride), bitsOf(val2),     address(dst), word(dstShift),
+                word(dstStride), word(len),        word(count)};
+    return -77;
+}
+
+TEST(Invoke, PassesEveryWordInItsPlace) {
+    const Function &function = named("vonkLComb_vava_64f_LS2");
+    const std::vector<std::uint64_t> expected{1u << 20,      0xfffffff0, 3,  bitsOf(1.5), 5u << 20, 6, 7,
+                                              bitsOf(-2.25), 9u << 20,   10, 0x80000000,  12,       13};
+    std::vector<std::uint64_t> words = expected;
+    for (std::size_t k = 0; k < words.size(); ++k) // with rubbish above the narrow words
+        if (function.parameters[k].type.ends_with("32_t")) words[k] |= 0xdeadbeef00000000;
+    EXPECT_EQ(support::invoke(reinterpret_cast<void *>(&takeLinearCombination), function, words), -77);
+    EXPECT_EQ(received, expected);
+}
+
+extern "C" std::int32_t takeMultiple(const float *src, float val, float *dst, std::uint32_t len) {
+    return src == dst && val == 0.75f && len == 4 ? 1 : 0;
+}
+
+TEST(Invoke, PassesSingleConstants) {
+    const std::uint32_t bits = 0x3f400000;
+    EXPECT_EQ(support::invoke(reinterpret_cast<void *>(&takeMultiple), named("vonkMul_vc_32f"),
+                              std::vector<std::uint64_t>{64, bits, 64, 0xffffffff00000004}),
+              1);
+}
+
+// --- the random calls
+
+TEST(Calls, AreAFunctionOfSeedNameAndIndex) {
+    support::Image first, second;
+    for (const Function &function : builtFunctions()) {
+        const Call once = support::makeCall(function, arena(), 11, 5);
+        arena().save(first);
+        support::makeCall(function, arena(), 12, 6);
+        const Call again = support::makeCall(function, arena(), 11, 5);
+        arena().save(second);
+        ASSERT_EQ(once.words, again.words) << function.name;
+        ASSERT_EQ(first, second) << function.name;
+    }
+}
+
+// Of every function of the catalogue, built or not: the operands fit and lie inside.
+TEST(Calls, KeepEveryOperandInTheArena) {
+    for (const Function &function : allFunctions())
+        for (std::uint64_t index = 0; index < 6; ++index) {
+            const Call call = support::makeCall(function, arena(), 5, index);
+            ASSERT_EQ(call.words.size(), function.parameters.size());
+            for (const support::Placement &operand : call.operands) {
+                for (const std::uintptr_t place : operand.elements())
+                    ASSERT_TRUE(Arena::contains(place, operand.elementSize)) << support::replayOptions(call);
+                if (operand.tabled) {
+                    ASSERT_TRUE(Arena::contains(operand.table - 8, 8 * operand.slots.size() + 8));
+                }
+            }
+            for (const support::Block &block : call.blocks)
+                ASSERT_TRUE(Arena::contains(block.address, block.bytes)) << support::replayOptions(call);
+        }
+}
+
+TEST(Calls, ReachEveryKindOfCase) {
+    std::map<std::string, int> reached;
+    std::uint64_t calls = 0;
+    for (const Function &function : builtFunctions())
+        for (std::uint64_t index = 0; index < support::faultRound; ++index, ++calls) {
+            const Call call = support::makeCall(function, arena(), 9, index);
+            const support::Traits &traits = call.traits;
+            reached["in place"] += traits.overlap == support::Overlap::inPlace;
+            reached["partial overlap"] += traits.overlap == support::Overlap::partial;
+            reached["elements crossed"] += traits.crossesElements;
+            reached["null pointer"] += traits.nullPointer;
+            reached["null entry"] += traits.nullEntry;
+            reached["zero dimension"] += traits.zeroDimension;
+            reached["zero count"] += traits.zeroCount;
+            reached["huge size"] += traits.hugeSize;
+            reached["negative stride"] += traits.negativeStride;
+            reached["aligned pointers"] += traits.alignedBases;
+            reached["pointers off their element"] += traits.unalignedBases;
+            reached["trouble in the numbers"] += traits.trouble;
+            reached["other rounding"] += call.setting.rounding != support::Rounding::nearest;
+        }
+    EXPECT_EQ(reached.size(), 13u);
+    for (const auto &[what, times] : reached)
+        EXPECT_GT(static_cast<std::uint64_t>(times), calls / 100) << what << " in " << times << " of " << calls;
+}
+
+TEST(Calls, ReachEveryStatusOfEveryExport) {
+    for (const Function &function : builtFunctions()) {
+        std::set<std::int32_t> statuses;
+        for (std::uint64_t index = 0; index < 4 * support::faultRound; ++index) {
+            const Call call = support::makeCall(function, arena(), 13, index);
+            statuses.insert(faultless(call));
+        }
+        for (const std::int32_t status : support::families::relevantStatuses(function))
+            EXPECT_TRUE(statuses.contains(status)) << function.name << " never returned " << status;
+    }
+}
+
+// Around the length from which blocks are worth while, at every alignment of the destination, disjoint.
+TEST(Calls, CrossTheBlockLengthAtEveryAlignment) {
+    std::map<std::pair<std::uintptr_t, bool>, std::set<bool>> seen;
+    for (std::uint64_t index = 0; index < 2000; ++index) {
+        const Call call = support::makeCall(named("vonkAdd_vv_32f"), arena(), 17, index);
+        if (hasFault(call) || call.traits.overlap != support::Overlap::none) continue;
+        const bool long_ = call.operands[0].shape.cols >= 11;
+        seen[{call.operands[2].origin % 16, call.operands[1].origin % 16 == 0}].insert(long_);
+    }
+    for (const std::uintptr_t residue : {0, 1, 4, 8, 12})
+        for (const bool aligned : {false, true})
+            EXPECT_EQ((seen[{residue, aligned}].size()), 2u) << residue << (aligned ? " aligned" : " unaligned");
+}
+
+// --- the counts
+
+TEST(Tally, MissesWhatWasNotReached) {
+    support::Tally tally;
+    const Call call = plainCall("vonkLUDecomp_m_32f");
+    Verdict verdict;
+    verdict.worked = true;
+    for (int k = 0; k < 200; ++k) tally.add(call, verdict);
+    EXPECT_EQ(support::shortcomings(tally, *call.function).size(), 3u) << "three statuses never came";
+
+    verdict.extent = Extent::statusOnly;
+    verdict.worked = false;
+    for (int k = 0; k < 800; ++k) tally.add(call, verdict);
+    EXPECT_EQ(support::shortcomings(tally, *call.function).size(), 5u) << "and hardly anything was compared or done";
+}
+
+TEST(Tally, IsContentWithTheRandomCalls) {
+    for (const char *name :
+         {"vonkAdd_vv_32f", "vonkSub_vava_64f_PS2", "vonkLUDecomp_ma_64f_LS2", "vonkLUBackSubst_mv_32f_P"}) {
+        support::Tally tally;
+        for (std::uint64_t index = 0; index < 300; ++index) {
+            const Call call = support::makeCall(named(name), arena(), 19, index);
+            tally.add(call, compareWith(call, [] {}));
+        }
+        EXPECT_EQ(support::shortcomings(tally, named(name)), std::vector<std::string>{}) << name;
+    }
+}
+
+// --- the bits
+
+std::uint64_t resultsOf(const std::string &name, const std::function<void(const Call &)> &fault) {
+    return support::hashStream(named(name), arena(),
+                               [&](const Call &call) {
+                                   const std::int32_t status = faultless(call);
+                                   fault(call);
+                                   return status;
+                               })
+        .results;
+}
+
+TEST(Bitstream, ShowsOneChangedBitAndNoSignOfANan) {
+    const std::string name = "vonkAdd_vava_32f_S2";
+    const std::uint64_t usual = resultsOf(name, [](const Call &) {});
+    EXPECT_EQ(usual, resultsOf(name, [](const Call &) {}));
+    EXPECT_NE(usual, resultsOf(name, [](const Call &call) {
+                  if (call.index == 40) spoil(reinterpret_cast<std::byte *>(call.operands.back().address(0, 0, 0)));
+              }));
+    int turned = 0;
+    EXPECT_EQ(usual, resultsOf(name, [&](const Call &call) {
+                  for (const std::uintptr_t place : call.operands.back().elements()) {
+                      auto *const bytes = reinterpret_cast<std::byte *>(place);
+                      if (!support::isNanElement(bytes, catalogue::Type::real32)) continue;
+                      bytes[3] ^= std::byte{0x80};
+                      ++turned;
+                  }
+              }));
+    EXPECT_GT(turned, 0);
+}
+
+TEST(Bitstream, HoldsNoCallWhoseOutcomeIsOpen) {
+    int inPlace = 0;
+    for (const Function &function : builtFunctions())
+        for (std::uint64_t index = 0; index < support::bitstreamCalls; ++index) {
+            const Call call =
+                support::makeCall(function, arena(), support::bitstreamSeed, index, support::bitstreamMixture());
+            inPlace += call.traits.overlap == support::Overlap::inPlace;
+            ASSERT_NE(call.traits.overlap, support::Overlap::partial) << function.name << ":" << index;
+            ASSERT_FALSE(model::run({function.name, call.words}).open) << function.name << ":" << index;
+        }
+    EXPECT_GT(inPlace, 1000);
+}
+
+} // namespace

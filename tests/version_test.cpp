@@ -1,0 +1,79 @@
+// The version record: its fields, its place in memory, and that everybody gets the same one.
+#include "vonkk3.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace {
+
+TEST(Version, IsBuildElevenThirtyOfVersionFourOne) {
+    const VonkLibVersion *version = vonkGetLibVersion();
+    ASSERT_NE(version, nullptr);
+    EXPECT_EQ(version->versionMajor, 4);
+    EXPECT_EQ(version->versionMinor, 1);
+    EXPECT_EQ(version->buildMajor, 11);
+    EXPECT_EQ(version->buildNumber, 30);
+}
+
+TEST(Version, HasTextsForPeople) {
+    const VonkLibVersion *version = vonkGetLibVersion();
+    EXPECT_STREQ(version->libraryName, "vonkk3.dll");
+    EXPECT_STREQ(version->versionText, "v4.1");
+    EXPECT_STREQ(version->buildDateText, "Jul 19 2004");
+}
+
+TEST(Version, HasAProcessorTagThatReadsAsText) {
+    const VonkLibVersion *version = vonkGetLibVersion();
+    static_assert(sizeof version->cpuTag == 4);
+    EXPECT_STREQ(version->cpuTag, "k3");
+    EXPECT_EQ(version->cpuTag[3], '\0');
+}
+
+TEST(Version, IsTheSameRecordInEveryCall) { EXPECT_EQ(vonkGetLibVersion(), vonkGetLibVersion()); }
+
+// Four words, the tag, then the texts: callers in other languages read the record by its offsets.
+TEST(Version, HasItsFieldsInTheirOrder) {
+    static_assert(offsetof(VonkLibVersion, versionMajor) == 0);
+    static_assert(offsetof(VonkLibVersion, versionMinor) == 4);
+    static_assert(offsetof(VonkLibVersion, buildMajor) == 8);
+    static_assert(offsetof(VonkLibVersion, buildNumber) == 12);
+    static_assert(offsetof(VonkLibVersion, cpuTag) == 16);
+    const auto *bytes = reinterpret_cast<const unsigned char *>(vonkGetLibVersion());
+    const unsigned char expected[20] = {4, 0, 0, 0, 1, 0, 0, 0, 11, 0, 0, 0, 30, 0, 0, 0, 'k', '3', 0, 0};
+    for (std::size_t k = 0; k < sizeof expected; ++k) EXPECT_EQ(bytes[k], expected[k]) << "byte " << k;
+}
+
+// "r--p" of the memory map's line that holds the address.
+std::string protectionAt(const void *address) {
+    const auto wanted = reinterpret_cast<std::uintptr_t>(address);
+    std::ifstream maps("/proc/self/maps");
+    for (std::string line; std::getline(maps, line);) {
+        std::istringstream fields(line);
+        std::uintptr_t from = 0;
+        std::uintptr_t to = 0;
+        char dash = 0;
+        std::string protection;
+        fields >> std::hex >> from >> dash >> to >> protection;
+        if (from <= wanted && wanted < to) return protection;
+    }
+    return "not mapped";
+}
+
+TEST(Version, LiesInMemoryThatNobodyCanWrite) {
+    const VonkLibVersion *version = vonkGetLibVersion();
+    for (const void *part : {static_cast<const void *>(version), static_cast<const void *>(version->libraryName),
+                             static_cast<const void *>(version->versionText),
+                             static_cast<const void *>(version->buildDateText)}) {
+        const std::string protection = protectionAt(part);
+        EXPECT_EQ(protection.substr(0, 2), "r-") << protection;
+    }
+    int writable = 0;
+    EXPECT_EQ(protectionAt(&writable).substr(0, 2), "rw"); // what a failure would look like
+}
+
+} // namespace
