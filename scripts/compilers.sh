@@ -13,7 +13,7 @@ for compiler in g++ clang++; do
         build=$scratch/$compiler-O$level
         cmake -S "$root" -B "$build" -DCMAKE_CXX_COMPILER=$compiler -DVONKK3_TESTS=OFF -DVONKK3_EXAMPLES=OFF \
             -DCMAKE_CXX_FLAGS_RELEASE=-O$level >/dev/null
-        cmake --build "$build" --target vonkk3 >/dev/null
+        cmake --build "$build" --target vonkk3 --parallel "$(nproc)" >/dev/null
         if "$bits" --check "$file" --library "$build/vonkk3.so"; then echo "ok: $compiler -O$level"
         else echo "FAILED: $compiler -O$level"; failures=$((failures + 1)); fi
     done

@@ -69,12 +69,12 @@ fault 'a product and a sum are fused' src/lu/decompose.h \
     's/round<T>\(W\(factors\.load\(pivotRow, j\)\) \* factor \+ W\(factors\.load\(row, j\)\)\)/round<T>(W(__builtin_fmal(factors.load(pivotRow, j), factor, factors.load(row, j))))/'
 fault 'Real64 is worked in 64 bits' src/frame/real.h 's/std::is_same_v<T, Real64>, Wide, Real32>/std::is_same_v<T, Real64>, Real64, Real32>/'
 fault 'a sum grows from its far end' src/lu/back_substitute.h \
-    's/addTerm\(j\), addTerm\(j \+ 1\)/addTerm(j + 1), addTerm(j)/'
-fault 'looped sums stay wide' src/lu/back_substitute.h 's/if constexpr \(!keepsWide\) sum/if constexpr (false) sum/'
+    's/W\(factors\.load\(row, j\)\) \* W\(x\.load\(j\)\)/W(factors.load(row, from + to - 1 - j)) * W(x.load(from + to - 1 - j))/'
+fault 'looped sums stay wide' src/lu/back_substitute.h 's/if \(!keepsWide\) sum/if (false) sum/'
 fault 'unrolled sums are rounded' src/lu/back_substitute.h 's/constexpr bool keepsSumWide =/constexpr bool keepsSumWide = false \&\&/'
 fault 'a division becomes a product with the reciprocal' src/lu/back_substitute.h \
-    's/\(W\(x\.load\(i\)\) - sum\) \/ W\(factors\.load\(row, i\)\)/(W(x.load(i)) - sum) * (W(1) \/ W(factors.load(row, i)))/'
-fault 'every multiplier is rounded' src/lu/decompose.h 's/= Order::value < 3 \|\| Order::value > 5;/= true;/'
+    's/\(W\(x\.load\(i\)\) - sum\) \/ W\(factors\.load\(rows\[i\], i\)\)/(W(x.load(i)) - sum) * (W(1) \/ W(factors.load(row, i)))/'
+fault 'every multiplier is rounded' src/lu/decompose.h 's/= !isSmallFixed<Order>;/= true;/'
 fault 'a zero multiplier keeps its sign' src/lu/decompose.h 's/return 0\.0F - multiplier/return -multiplier/'
 
 # Irregular members
@@ -92,6 +92,8 @@ fault 'five lanes load an eighth' src/frame/lanes.h 's/length == 5\) return \{lo
 fault 'blocks ignore an overlap with the second source' src/vector/block_walk.h 's/ \|\| overlap\(b, d, bytes\)//'
 fault 'blocks take destinations off the element grid' src/vector/block_walk.h 's/ \|\| pastBoundary % sizeof\(Real32\) != 0//'
 fault 'the last elements behind the blocks are left out' src/vector/block_walk.h 's/walkElements\(a, b, d, done, length, operation\)/walkElements(a, b, d, done, length - 1, operation)/'
+
+fault 'elements are taken to lie on each other or apart' src/frame/real.h 's/gnu::may_alias, //'
 
 # The caller's floating-point state
 fault 'the precision control is left changed' src/lu/decompose.h \

@@ -12,8 +12,11 @@ inline constexpr Real32 pivotTolerance = 0x1p-23F;
 
 // ---- Members that behave unlike their siblings ----------------------------------------------------------------------
 
-// The Real64 search takes candidates in pairs. When the first of a pair and the best so far are unordered (one is a
-// NaN), the forms part: some take the candidate's value, some its position, some both. Real32 forms take neither.
+// In two ways Real64 of 3x3, 4x4 and 5x5 goes apart from run-time size and 6x6.
+template <class Order> inline constexpr bool isSmallFixed = Order::isFixed &&Order::value != 6;
+
+// The first: the Real64 search takes candidates in pairs. When the first of a pair and the best so far are unordered
+// (one is a NaN), some forms take the candidate's value, some its position, some both. Real32 forms take neither.
 struct UnorderedCandidate {
     bool replacesValue;
     bool replacesPosition;
@@ -21,13 +24,13 @@ struct UnorderedCandidate {
 
 template <class T, bool isArray, class Order> constexpr UnorderedCandidate unorderedCandidate() {
     if (std::is_same_v<T, Real32>) return {false, false};
-    if (Order::value >= 3 && Order::value <= 5) return {false, true};
+    if (isSmallFixed<Order>) return {false, true};
     return {true, isArray};
 }
 
-// Real64 of 3x3, 4x4 and 5x5 updates with the quotient as the division left it; run-time size and 6x6 with the rounded
+// The second: 3x3, 4x4 and 5x5 update rows with the quotient as the division left it, the others with the rounded
 // multiplier that the matrix keeps. At reduced precision that still shows where the quotient leaves the Real64 range.
-template <class Order> inline constexpr bool updatesWithRoundedMultiplier = Order::value<3 || Order::value> 5;
+template <class Order> inline constexpr bool updatesWithRoundedMultiplier = !isSmallFixed<Order>;
 
 // The last pivot test of object n in an array does not look at that pivot but n * order columns beyond it: in another
 // row, in another object, or behind the array. Only object 0 has its own last pivot tested.
@@ -45,7 +48,8 @@ template <class W> inline bool passesAsPivot(W value) { return magnitude(value) 
 inline Real32 negated(Real32 multiplier) { return 0.0F - multiplier; }
 inline Wide negated(Wide multiplier) { return -multiplier; }
 
-// The position below k of the row whose element in column k is largest in magnitude; the first of equals.
+// The position from k on of the row whose element in column k is largest in magnitude; the first of equals. Candidates
+// are selected without branches: which one wins is as good as random.
 template <bool isArray, class T, class Factors, class Rows, class Order>
 VONKK3_INLINE std::size_t findPivot(const Factors &factors, const Rows &rows, std::size_t k, Order order) {
     using W = Working<T>;

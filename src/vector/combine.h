@@ -99,7 +99,7 @@ template <std::size_t length> struct Held {
 template <class Operation, class A, class B, class D, class Count>
 inline VonkStatus combineInBlocksOfFour(const A &a, const B &b, const D &d, Count count, Operation operation) {
     constexpr std::size_t block = 4;
-    const auto combineObject = [&](std::size_t n) VONKK3_INLINED {
+    const auto combineObject = [&](std::size_t n) {
         combineLanes(Lanes<3>::load(a.view(n).base), Lanes<3>::load(b.view(n).base), operation).store(d.view(n).base);
     };
     const std::size_t inBlocks = count / block * block;
@@ -115,21 +115,20 @@ inline VonkStatus combineInBlocksOfFour(const A &a, const B &b, const D &d, Coun
 // What hands out an operand of object n: as lanes, or as something with load(j). A single operand is taken out of
 // memory once, here, and held.
 template <std::size_t length, class Operand> inline auto lanesOf(const Operand &operand) {
-    if constexpr (Operand::isArray)
-        return [&](std::size_t n) VONKK3_INLINED { return Lanes<length>::load(operand.view(n).base); };
-    else return [held = Lanes<length>::load(operand.view(0).base)](std::size_t) VONKK3_INLINED { return held; };
+    if constexpr (Operand::isArray) return [&](std::size_t n) { return Lanes<length>::load(operand.view(n).base); };
+    else return [held = Lanes<length>::load(operand.view(0).base)](std::size_t) { return held; };
 }
 
 template <std::size_t length, class Operand> inline auto elementsOf(const Operand &operand) {
-    if constexpr (Operand::isArray) return [&](std::size_t n) VONKK3_INLINED { return operand.view(n); };
-    else return [held = Held<length>(operand.view(0))](std::size_t) VONKK3_INLINED { return held; };
+    if constexpr (Operand::isArray) return [&](std::size_t n) { return operand.view(n); };
+    else return [held = Held<length>(operand.view(0))](std::size_t) { return held; };
 }
 
 template <class Operation, class A, class B, class D, std::size_t length, class Count>
 inline VonkStatus combineInLanes(const A &a, const B &b, const D &d, Fixed<length>, Count count, Operation operation) {
     const auto first = lanesOf<length>(a);
     const auto second = lanesOf<length>(b);
-    const auto combineObject = [&](std::size_t n) VONKK3_INLINED {
+    const auto combineObject = [&](std::size_t n) {
         combineLanes(first(n), second(n), operation).store(d.view(n).base);
     };
     return forEachLightObject(count, combineObject, a, b, d);
@@ -148,7 +147,7 @@ inline VonkStatus combineHeld(const A &a, const B &b, const D &d, Fixed<length> 
                               Operation operation) {
     const auto first = elementsOf<length>(a);
     const auto second = elementsOf<length>(b);
-    const auto combineObject = [&](std::size_t n) VONKK3_INLINED {
+    const auto combineObject = [&](std::size_t n) {
         return combineElements<false>(first(n), second(n), d.view(n), size, operation);
     };
     return forEachObject(count, combineObject, a, b, d);
@@ -169,7 +168,7 @@ inline VonkStatus combine(const A &a, const B &b, const D &d, Length length, Cou
         if (isAligned(a.view(0).base) && isAligned(b.view(0).base) && isAligned(d.view(0).base))
             return combineFourAligned(a.view(0).base, b.view(0).base, d.view(0).base, operation), vonkOk;
 
-    const auto combineObject = [&](std::size_t n) VONKK3_INLINED {
+    const auto combineObject = [&](std::size_t n) {
         return combineElements<!Count::isArray>(a.view(n), b.view(n), d.view(n), length, operation);
     };
     if constexpr (walksInBlocks<F>)
