@@ -73,7 +73,7 @@ fault 'a sum grows from its far end' src/lu/back_substitute.h \
 fault 'looped sums stay wide' src/lu/back_substitute.h 's/if \(!keepsWide\) sum/if (false) sum/'
 fault 'unrolled sums are rounded' src/lu/back_substitute.h 's/constexpr bool keepsSumWide =/constexpr bool keepsSumWide = false \&\&/'
 fault 'a division becomes a product with the reciprocal' src/lu/back_substitute.h \
-    's/\(W\(x\.load\(i\)\) - sum\) \/ W\(factors\.load\(rows\[i\], i\)\)/(W(x.load(i)) - sum) * (W(1) \/ W(factors.load(row, i)))/'
+    's/\(W\(x\.load\(i\)\) - sum\) \/ W\(factors\.load\(rows\[i\], i\)\)/(W(x.load(i)) - sum) * (W(1) \/ W(factors.load(rows[i], i)))/'
 fault 'every multiplier is rounded' src/lu/decompose.h 's/= !isSmallFixed<Order>;/= true;/'
 fault 'a zero multiplier keeps its sign' src/lu/decompose.h 's/return 0\.0F - multiplier/return -multiplier/'
 
