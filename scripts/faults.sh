@@ -70,10 +70,11 @@ fault 'a product and a sum are fused' src/lu/decompose.h \
 fault 'Real64 is worked in 64 bits' src/frame/real.h 's/std::is_same_v<T, Real64>, Wide, Real32>/std::is_same_v<T, Real64>, Real64, Real32>/'
 fault 'a sum grows from its far end' src/lu/back_substitute.h \
     's/W\(factors\.load\(row, j\)\) \* W\(x\.load\(j\)\)/W(factors.load(row, from + to - 1 - j)) * W(x.load(from + to - 1 - j))/'
+fault 'a sum begins with its first product' src/lu/back_substitute.h 's/return 0\.0F \+ product/return product/'
 fault 'looped sums stay wide' src/lu/back_substitute.h 's/if \(!keepsWide\) sum/if (false) sum/'
 fault 'unrolled sums are rounded' src/lu/back_substitute.h 's/constexpr bool keepsSumWide =/constexpr bool keepsSumWide = false \&\&/'
 fault 'a division becomes a product with the reciprocal' src/lu/back_substitute.h \
-    's/\(W\(x\.load\(i\)\) - sum\) \/ W\(factors\.load\(rows\[i\], i\)\)/(W(x.load(i)) - sum) * (W(1) \/ W(factors.load(rows[i], i)))/'
+    's/difference \/ W\(factors\.load\(rows\[i\], i\)\)/difference * (W(1) \/ W(factors.load(rows[i], i)))/'
 fault 'every multiplier is rounded' src/lu/decompose.h 's/= !isSmallFixed<Order>;/= true;/'
 fault 'a zero multiplier keeps its sign' src/lu/decompose.h 's/return 0\.0F - multiplier/return -multiplier/'
 

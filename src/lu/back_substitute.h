@@ -34,21 +34,32 @@ inline auto factorsOfObject(const Factors &factors, std::size_t n, Order order) 
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
-// Sum over j from `from` to `to` - 1 of factors(row, j) * x(j), ascending from zero. Terms read what x holds by then.
+// How a sum begins that is then taken from `minuend`: with 0 + its first product. That differs from the product itself
+// only if the product is -0, then from the sum only if that is zero, and then from the difference only if the minuend
+// is zero, too. Real32 of fixed order leaves the addition out where it makes no difference: it waits for the latest
+// element of x, and all that follows waits for it.
+template <class Order> VONKK3_INLINE Real32 beginSum(Real32 product, Real32 minuend) {
+    if (Order::isFixed && __builtin_expect(minuend != 0, true)) return product;
+    return 0.0F + product;
+}
+template <class Order> VONKK3_INLINE Wide beginSum(Wide product, Wide) { return 0.0L + product; }
+
+// minuend - sum over j from `from` to `to` - 1 of factors(row, j) * x(j), in ascending order. Terms read what x holds
+// by then; there is at least one.
 template <bool keepsWide, class T, class Factors, class Solution, class Order>
-VONKK3_INLINE Working<T> sumOfProducts(const Factors &factors, std::size_t row, const Solution &x, std::size_t from,
-                                       std::size_t to, Order order) {
+VONKK3_INLINE Working<T> minusProducts(Working<T> minuend, const Factors &factors, std::size_t row, const Solution &x,
+                                       std::size_t from, std::size_t to, Order order) {
     using W = Working<T>;
-    W sum = 0;
-    const auto addTerm = [&](std::size_t j) VONKK3_INLINED { sum = sum + W(factors.load(row, j)) * W(x.load(j)); };
+    const auto product = [&](std::size_t j) VONKK3_INLINED { return W(factors.load(row, j)) * W(x.load(j)); };
     const std::size_t endOfPairs = from + (to - from) / 2 * 2;
-    forIndices(from, endOfPairs, order, addTerm);
+    W sum = beginSum<Order>(product(from), minuend);
+    forIndices(from + 1, endOfPairs, order, [&](std::size_t j) VONKK3_INLINED { sum = sum + product(j); });
     if (!keepsWide) sum = round<T>(sum);
-    if (endOfPairs < to) {
-        addTerm(endOfPairs);
+    if (from < endOfPairs && endOfPairs < to) {
+        sum = sum + product(endOfPairs);
         if (!keepsWide) sum = round<T>(sum);
     }
-    return sum;
+    return minuend - sum;
 }
 
 template <bool keepsWide, class T, class Factors, class RightSide, class Solution, class Order>
@@ -58,15 +69,14 @@ VONKK3_INLINE void solveObject(const Factors &factors, const std::byte *pivots, 
     const Permutation<Order> rows(pivots, order);
     x.store(0, b.load(rows[0]));
     forIndices(1, order, order, [&](std::size_t i) VONKK3_INLINED {
-        const W sum = sumOfProducts<keepsWide, T>(factors, rows[i], x, 0, i, order);
-        x.store(i, round<T>(W(b.load(rows[i])) - sum));
+        x.store(i, round<T>(minusProducts<keepsWide, T>(b.load(rows[i]), factors, rows[i], x, 0, i, order)));
     });
     const std::size_t last = order - 1;
     x.store(last, round<T>(W(x.load(last)) / W(factors.load(rows[last], last))));
     forIndices(1, order, order, [&](std::size_t above) VONKK3_INLINED {
         const std::size_t i = last - above;
-        const W sum = sumOfProducts<keepsWide, T>(factors, rows[i], x, i + 1, order, order);
-        x.store(i, round<T>((W(x.load(i)) - sum) / W(factors.load(rows[i], i))));
+        const W difference = minusProducts<keepsWide, T>(x.load(i), factors, rows[i], x, i + 1, order, order);
+        x.store(i, round<T>(difference / W(factors.load(rows[i], i))));
     });
 }
 
