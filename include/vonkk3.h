@@ -924,6 +924,3633 @@ VonkStatus vonkSub_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift
     const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 
+/* ---- Matrix by matrix -----------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkMul_mm_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mm_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mm_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mm_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mm_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mm_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mm_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mmT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mmT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mmT_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mmT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mmT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mmT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mmT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mTm_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTm_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mTm_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTm_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTm_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTm_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTm_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mTmT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTmT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mTmT_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTmT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTmT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTmT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkMul_mTmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTmT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkMul_mTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkMul_mTmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkMul_mTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mma_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mma_32f_PS2(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mma_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mma_64f_PS2(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mma_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mmaT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_PS2(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mmaT_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_PS2(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mTma_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTma_32f_PS2(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mTma_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTma_64f_PS2(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTma_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mTmaT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_PS2(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mTmaT_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_PS2(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mTmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mam_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mam_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mam_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mam_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mam_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mam_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mam_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mam_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mam_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mam_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mam_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mam_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mam_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mam_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mamT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mamT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTm_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTm_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTm_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTm_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTm_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTm_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTm_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTm_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTm_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTm_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTm_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTm_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTm_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTmT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2RowStride, int32_t src2ElemStride,
+    uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTmT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mama_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mama_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mama_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mama_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mama_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mama_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mama_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mama_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mama_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mama_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mama_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mama_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mama_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mama_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mama_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mama_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mama_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mama_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mama_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mama_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mama_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mamaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mamaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamaT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamaT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamaT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_mamaT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mamaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTma_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
+    int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTma_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTma_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTma_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTma_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTma_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTma_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTma_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTma_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTma_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTma_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTma_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTma_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTmaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTmaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    uint32_t src1Cols, uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride,
+    uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
+    uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+/* ---- Matrix by vector -----------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkMul_mv_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, uint32_t src2Len, float *dst);
+VonkStatus vonkMul_mv_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ElemStride, uint32_t src2Len, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mv_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mv_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkMul_mv_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mv_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mv_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkMul_mv_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mv_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mv_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkMul_mv_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mv_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mv_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkMul_mv_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mv_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mv_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, uint32_t src2Len, double *dst);
+VonkStatus vonkMul_mv_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ElemStride, uint32_t src2Len, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkMul_mv_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mv_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkMul_mv_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mv_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mv_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkMul_mv_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mv_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mv_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkMul_mv_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mv_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mv_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkMul_mv_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mv_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mTv_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, uint32_t src2Len, float *dst);
+VonkStatus vonkMul_mTv_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ElemStride, uint32_t src2Len, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mTv_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTv_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkMul_mTv_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mTv_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTv_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkMul_mTv_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mTv_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTv_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkMul_mTv_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mTv_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTv_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkMul_mTv_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mTv_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mTv_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, uint32_t src2Len, double *dst);
+VonkStatus vonkMul_mTv_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ElemStride, uint32_t src2Len, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkMul_mTv_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTv_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkMul_mTv_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mTv_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTv_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkMul_mTv_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mTv_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTv_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkMul_mTv_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mTv_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkMul_mTv_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkMul_mTv_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkMul_mTv_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkMul_mva_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, int32_t src2ObjStride, uint32_t src2Len, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, uint32_t src2Len, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_32f_PS2(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Len, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, uint32_t src2Len,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mva_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, int32_t src2ObjStride, uint32_t src2Len, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, uint32_t src2Len, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkMul_mva_64f_PS2(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Len, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkMul_mva_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, uint32_t src2Len,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mva_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mva_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mva_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mTva_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *src2, int32_t src2ObjStride, uint32_t src2Len, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, uint32_t src2Len, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_32f_PS2(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Len, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, uint32_t src2Len,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mTva_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *src2, int32_t src2ObjStride, uint32_t src2Len, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, uint32_t src2Len, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkMul_mTva_64f_PS2(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Len, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkMul_mTva_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, uint32_t src2Len,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mTva_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mTva_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mTva_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mav_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, uint32_t src2Len, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ElemStride, uint32_t src2Len, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, uint32_t src2Len, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ElemStride,
+    uint32_t src2Len, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mav_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mav_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mav_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mav_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mav_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, uint32_t src2Len, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ElemStride, uint32_t src2Len, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkMul_mav_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, uint32_t src2Len, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ElemStride,
+    uint32_t src2Len, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mav_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mav_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mav_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mav_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mav_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mav_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTv_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, uint32_t src2Len, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ElemStride, uint32_t src2Len, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, uint32_t src2Len, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ElemStride,
+    uint32_t src2Len, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTv_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTv_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTv_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTv_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTv_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, uint32_t src2Len, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ElemStride, uint32_t src2Len, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkMul_maTv_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, uint32_t src2Len, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ElemStride,
+    uint32_t src2Len, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTv_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTv_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTv_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTv_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTv_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTv_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mava_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, uint32_t src2Len, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mava_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    uint32_t src2Len, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Len,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, uint32_t src2Len, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mava_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_mava_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, uint32_t src2Len, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_mava_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    uint32_t src2Len, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkMul_mava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Len,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, uint32_t src2Len, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mava_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mava_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mava_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTva_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *src2, int32_t src2ObjStride, uint32_t src2Len, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTva_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    uint32_t src2Len, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Len,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Len, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, uint32_t src2Len, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_maTva_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTva_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *src2, int32_t src2ObjStride, uint32_t src2Len, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_maTva_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ObjStride,
+    int32_t src2ElemStride, uint32_t src2Len, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
+    const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkMul_maTva_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Len,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
+    uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Len, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *const *src2, int32_t src2Shift,
+    int32_t src2ElemStride, uint32_t src2Len, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_maTva_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTva_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTva_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+/* ---- Gaxpy ----------------------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkGaxpy_v_32f(const float *src1, int32_t src1RowStride, const float *src2, const float *src3, float *dst,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkGaxpy_v_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, const float *src3, int32_t src3ElemStride, float *dst, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows);
+VonkStatus vonkGaxpy_v_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkGaxpy_v_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, const float *src3,
+    float *dst);
+VonkStatus vonkGaxpy_v_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, const float *src3, int32_t src3ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkGaxpy_v_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkGaxpy_v_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, const float *src3,
+    float *dst);
+VonkStatus vonkGaxpy_v_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, const float *src3, int32_t src3ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkGaxpy_v_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkGaxpy_v_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, const float *src3,
+    float *dst);
+VonkStatus vonkGaxpy_v_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, const float *src3, int32_t src3ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkGaxpy_v_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkGaxpy_v_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, const float *src3,
+    float *dst);
+VonkStatus vonkGaxpy_v_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, const float *src3, int32_t src3ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkGaxpy_v_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkGaxpy_v_64f(const double *src1, int32_t src1RowStride, const double *src2, const double *src3,
+    double *dst, uint32_t cols, uint32_t rows);
+VonkStatus vonkGaxpy_v_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, const double *src3, int32_t src3ElemStride, double *dst, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkGaxpy_v_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkGaxpy_v_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, const double *src3,
+    double *dst);
+VonkStatus vonkGaxpy_v_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, const double *src3, int32_t src3ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkGaxpy_v_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkGaxpy_v_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, const double *src3,
+    double *dst);
+VonkStatus vonkGaxpy_v_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, const double *src3, int32_t src3ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkGaxpy_v_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkGaxpy_v_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, const double *src3,
+    double *dst);
+VonkStatus vonkGaxpy_v_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, const double *src3, int32_t src3ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkGaxpy_v_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkGaxpy_v_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, const double *src3,
+    double *dst);
+VonkStatus vonkGaxpy_v_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, const double *src3, int32_t src3ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkGaxpy_v_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkGaxpy_va_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    const float *src3, int32_t src3ObjStride, float *dst, int32_t dstObjStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, const float *src3, int32_t src3ObjStride, int32_t src3ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, const float *const *src3, int32_t src3Shift, int32_t src3ObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, const float *const *src3, int32_t src3Shift,
+    int32_t src3ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    const float *src3, int32_t src3ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, const float *src3, int32_t src3ObjStride, int32_t src3ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, const float *const *src3, int32_t src3Shift, int32_t src3ObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, const float *const *src3, int32_t src3Shift,
+    int32_t src3ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    const float *src3, int32_t src3ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, const float *src3, int32_t src3ObjStride, int32_t src3ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, const float *const *src3, int32_t src3Shift, int32_t src3ObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, const float *const *src3, int32_t src3Shift,
+    int32_t src3ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    const float *src3, int32_t src3ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, const float *src3, int32_t src3ObjStride, int32_t src3ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, const float *const *src3, int32_t src3Shift, int32_t src3ObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, const float *const *src3, int32_t src3Shift,
+    int32_t src3ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    const float *src3, int32_t src3ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, const float *src3, int32_t src3ObjStride, int32_t src3ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, const float *const *src3, int32_t src3Shift, int32_t src3ObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    const float *const *src3, int32_t src3Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkGaxpy_va_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, const float *const *src3, int32_t src3Shift,
+    int32_t src3ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkGaxpy_va_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    const double *src3, int32_t src3ObjStride, double *dst, int32_t dstObjStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, const double *src3, int32_t src3ObjStride, int32_t src3ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, const double *const *src3, int32_t src3Shift, int32_t src3ObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2, int32_t src2Shift,
+    const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, const double *const *src3, int32_t src3Shift,
+    int32_t src3ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    const double *src3, int32_t src3ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, const double *src3, int32_t src3ObjStride,
+    int32_t src3ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, const double *const *src3, int32_t src3Shift, int32_t src3ObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, const double *const *src3, int32_t src3Shift,
+    int32_t src3ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    const double *src3, int32_t src3ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, const double *src3, int32_t src3ObjStride,
+    int32_t src3ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, const double *const *src3, int32_t src3Shift, int32_t src3ObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, const double *const *src3, int32_t src3Shift,
+    int32_t src3ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    const double *src3, int32_t src3ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, const double *src3, int32_t src3ObjStride,
+    int32_t src3ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, const double *const *src3, int32_t src3Shift, int32_t src3ObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, const double *const *src3, int32_t src3Shift,
+    int32_t src3ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    const double *src3, int32_t src3ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, const double *src3, int32_t src3ObjStride,
+    int32_t src3ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, const double *const *src3, int32_t src3Shift, int32_t src3ObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkGaxpy_va_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, const double *const *src3, int32_t src3Shift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkGaxpy_va_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, const double *const *src3, int32_t src3Shift,
+    int32_t src3ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
 /* ---- LU decomposition -----------------------------------------------------------------------------------------------
  *
  * vonkLUDecomp factors each matrix of `src`, `order` by `order`, into a unit lower and an upper triangular factor by

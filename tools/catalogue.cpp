@@ -52,11 +52,11 @@ constexpr std::array familyTable = std::to_array<Family>({
      ""},
     // Products of matrices
     {"matrix-product", "Mul", differenceGroups, bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src1 src1Cols? src1Rows? src2 src2Cols? src2Rows? dst count", ""},
+     "src1 src1Cols? src1Rows? src2 src2Cols? src2Rows? dst count", "product::multiply"},
     {"matrix-vector", "Mul", "mv mTv mva mTva mav maTv mava maTva", bothTypes, matrixSizes, sixLayouts, "@", 'v',
-     "src1 src1Cols? src1Rows? src2 src2Len? dst count", ""},
+     "src1 src1Cols? src1Rows? src2 src2Len? dst count", "product::multiplyVector"},
     {"gaxpy", "Gaxpy", "v va", bothTypes, matrixSizes, sixLayouts, "m@@", 'v', "src1 src2 src3 dst cols? rows? count",
-     ""},
+     "product::gaxpy"},
     // Data movement
     {"copy", "Copy", "va", bothTypes, runTimeSize, "SS SP SL PS PP PL LS LP LL", "@", 'v', "src dst len? count", ""},
     {"copy", "Copy", "ma", bothTypes, runTimeSize, "SS SP SL PS PP PL LS LP LL", "@", 'm', "src dst cols? rows? count",

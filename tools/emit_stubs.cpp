@@ -29,7 +29,8 @@ std::string operandExpression(const Function &function, int index) {
     for (const Parameter &parameter : function.parameters)
         if (parameter.operand == index && parameter.kind != Kind::ignored)
             words += (words.empty() ? "" : ", ") + parameter.name;
-    return type + ">{" + words + "}";
+    const std::string expression = type + ">{" + words + "}";
+    return operand.transposed ? "Transposed{" + expression + "}" : expression;
 }
 
 // One argument of the routine per word of the template: operands, blocks, sizes as types or values, the object count.

@@ -19,6 +19,7 @@ public:
     using Element = std::remove_const_t<T>;
     static constexpr Layout layout = memory;
     static constexpr bool isArray = isArrayOperand;
+    static constexpr bool isTransposed = false;
     static constexpr bool isTable = layout == Layout::P || layout == Layout::PS2;
     static constexpr bool isList = isArray && (layout == Layout::L || layout == Layout::LS2);
     static constexpr bool isStrided = layout == Layout::S2 || layout == Layout::LS2;
@@ -82,6 +83,15 @@ private:
     }
 
     const std::byte *listSlot(std::size_t n) const { return reinterpret_cast<const std::byte *>(pointer + n); }
+};
+
+// A matrix operand that is read with rows and columns exchanged: the views it hands out are exchanged already. `columns`
+// are those of its table, so the rows of the exchanged matrix.
+template <class Stored> class Transposed : public Stored {
+public:
+    static constexpr bool isTransposed = true;
+    explicit Transposed(const Stored &stored) : Stored(stored) {}
+    auto view(std::size_t n, std::size_t columns = 0) const { return TransposedView{Stored::view(n, columns)}; }
 };
 
 template <class T, Layout layout> using Matrix = Operand<T, layout, Shape::matrix, false>;

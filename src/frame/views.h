@@ -39,6 +39,7 @@ template <class T> struct RowsView : ElementAccess<RowsView<T>, T> {
         return base + strides(row, rowStride) + column * sizeof(T);
     }
     static constexpr bool hasNullEntry(std::size_t) { return false; }
+    static constexpr bool hasNullEntry(std::size_t, std::size_t) { return false; }
 };
 
 // Rows of elements a stride apart: the strided layouts.
@@ -55,6 +56,7 @@ template <class T> struct StridedView : ElementAccess<StridedView<T>, T> {
         return base + strides(row, rowStride) + strides(column, elementStride);
     }
     static constexpr bool hasNullEntry(std::size_t) { return false; }
+    static constexpr bool hasNullEntry(std::size_t, std::size_t) { return false; }
 };
 
 // A table of one pointer per element position, all displaced by the same offset: the pointer layouts.
@@ -71,9 +73,27 @@ template <class T> struct TableView : ElementAccess<TableView<T>, T> {
     }
     ByteOf<T> *at(std::size_t row, std::size_t column) const { return at(row * columns + column); }
     bool hasNullEntry(std::size_t position) const { return loadAt<T *>(slot(position)) == nullptr; }
+    bool hasNullEntry(std::size_t row, std::size_t column) const { return hasNullEntry(row * columns + column); }
 
 private:
     const std::byte *slot(std::size_t position) const { return reinterpret_cast<const std::byte *>(table + position); }
+};
+
+// A matrix with rows and columns exchanged.
+template <class View> struct TransposedView {
+    View stored;
+
+    auto load(std::size_t row, std::size_t column) const { return stored.load(column, row); }
+    bool hasNullEntry(std::size_t row, std::size_t column) const { return stored.hasNullEntry(column, row); }
+};
+
+// A vector as a matrix of one column.
+template <class View> struct ColumnView {
+    View vector;
+
+    auto load(std::size_t row, std::size_t) const { return vector.load(row); }
+    template <class Element> void store(std::size_t row, std::size_t, Element value) const { vector.store(row, value); }
+    bool hasNullEntry(std::size_t row, std::size_t) const { return vector.hasNullEntry(row); }
 };
 
 } // namespace vonkk3

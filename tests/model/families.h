@@ -36,6 +36,9 @@ struct Execution {
 
 Status addOrSubtractVectors(const Execution &execution);
 Status decomposeLu(const Execution &execution);
+Status multiplyAndAdd(const Execution &execution);
+Status multiplyMatrices(const Execution &execution);
+Status multiplyMatrixByVector(const Execution &execution);
 Status substituteBackLu(const Execution &execution);
 
 } // namespace model

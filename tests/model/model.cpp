@@ -16,8 +16,20 @@ bool isVectorSum(const Form &form) {
     return (form.operation == "Add" || form.operation == "Sub") && form.isOnVectors() && form.sources.size() == 2;
 }
 
+// Of a matrix and another operand that is no constant.
+bool isProduct(const Form &form) {
+    return form.operation == "Mul" && form.sources.size() == 2 && form.sources[0].isMatrix;
+}
+
+bool isMatrixProduct(const Form &form) { return isProduct(form) && form.sources[1].isMatrix; }
+
+bool isMatrixByVector(const Form &form) { return isProduct(form) && !form.sources[1].isMatrix; }
+
 const Family families[] = {
     {isVectorSum, addOrSubtractVectors},
+    {isMatrixProduct, multiplyMatrices},
+    {isMatrixByVector, multiplyMatrixByVector},
+    {[](const Form &form) { return form.operation == "Gaxpy"; }, multiplyAndAdd},
     {[](const Form &form) { return form.operation == "LUDecomp"; }, decomposeLu},
     {[](const Form &form) { return form.operation == "LUBackSubst"; }, substituteBackLu},
 };

@@ -1,0 +1,62 @@
+// Gaxpy: a single matrix times a vector, plus a vector. The sum is finished first, the vector added last.
+#pragma once
+
+#include "product/multiply_vector.h"
+
+namespace vonkk3::product {
+
+template <class A, class V, class W, class D, std::size_t order, class Count>
+VONKK3_INLINE VonkStatus gaxpyInLanes(const A &src1, const V &src2, const W &src3, const D &dst, Fixed<order>,
+                                      Count count) {
+    if (count == 0) return vonkOk; // nothing is read, the matrix neither
+    const auto matrices = matricesInLanes<order>(src1);
+    return forEachObject(
+        count,
+        [&](std::size_t n) VONKK3_INLINED {
+            const typename HeldMatrix<order, false>::Factors v(src2.view(n).base);
+            const ProductVector w = loadVector<order>(src3.view(n).base);
+            const ProductVector product = matrices(n).times(v);
+            storeVector<order>(dst.view(n).base, {add(product.head, w.head), add(product.tail, w.tail)});
+            return vonkOk;
+        },
+        src2, src3, dst);
+}
+
+// One object element by element. Of a single object in tables, an element's entries of src3 and dst are tested ahead of
+// its zero store, those of its terms as they come.
+template <class T, bool inCell, bool testsEntries, class A, class V, class W, class D>
+VONKK3_INLINE VonkStatus gaxpyObject(const A &a, const V &v, const W &w, const D &d, std::size_t rows,
+                                     std::size_t cols) {
+    for (std::size_t i = 0; i < rows; ++i) {
+        if (testsEntries && w.hasNullEntry(i)) return vonkErrNullPtr;
+        Working<T> sum;
+        if (!sumIntoCell<T, inCell, testsEntries>(a, ColumnView<V>{v}, ColumnView<D>{d}, i, 0, cols, sum))
+            return vonkErrNullPtr;
+        d.store(i, round<T>(sum + Working<T>(w.load(i))));
+    }
+    return vonkOk;
+}
+
+template <class A, class V, class W, class D, class Cols, class Rows, class Count>
+inline VonkStatus gaxpy(const A &src1, const V &src2, const W &src3, const D &dst, Cols cols, Rows rows, Count count) {
+    using T = typename D::Element;
+    if (anyNull(src1, src2, src3, dst)) return vonkErrNullPtr;
+    if (cols.isZero() || rows.isZero()) return vonkErrSize;
+    if constexpr (Count::isArray)
+        if (anyTableEntryNull(cols * rows, src1) || anyTableEntryNull(cols, src2) || anyTableEntryNull(rows, src3) ||
+            anyTableEntryNull(rows, dst))
+            return vonkErrNullPtr;
+
+    if constexpr (multipliesVectorInLanes<T, D::layout, Cols>)
+        return gaxpyInLanes(src1, src2, src3, dst, cols, count);
+    else
+        return forEachObject(
+            count,
+            [&](std::size_t n) VONKK3_INLINED {
+                return gaxpyObject<T, accumulatesInCell<T, D::layout>, !Count::isArray>(
+                    src1.view(n, cols), src2.view(n), src3.view(n), dst.view(n), rows, cols);
+            },
+            src2, src3, dst);
+}
+
+} // namespace vonkk3::product

@@ -1,0 +1,153 @@
+// Row-broadcast kernels: Real32 products of fixed order in four lanes. The second operand is held in registers, a row of
+// the result is ((A(i,0) R0 + A(i,1) R1) + A(i,2) R2) + ..., with A read element by element, row by row, as it goes.
+// That order of reads and stores is what calls in place stand on.
+#pragma once
+
+#include "frame/lanes.h"
+#include "frame/unroll.h"
+#include "frame/views.h"
+
+namespace vonkk3::product {
+
+inline __m128 broadcast(Real32 value) { return _mm_set1_ps(value); }
+inline __m128 broadcastPair(Real32 low, Real32 high) { return _mm_setr_ps(low, low, high, high); }
+inline __m128 multiplyAdd(__m128 sum, __m128 a, __m128 b) { return _mm_add_ps(sum, _mm_mul_ps(a, b)); }
+
+template <class View> inline constexpr bool hasAdjacentRows = false;
+template <class T> inline constexpr bool hasAdjacentRows<RowsView<T>> = true;
+
+// Columns 0 to 3 (of 3x3: 0 to 2) of row i of a matrix; the fourth lane of 3x3 is nothing.
+template <std::size_t order, class View> VONKK3_INLINE __m128 loadRowHead(const View &view, std::size_t i) {
+    if constexpr (hasAdjacentRows<View> && order == 3)
+        return _mm_movelh_ps(load2(view.at(i, 0)), load1(view.at(i, 2)));
+    else if constexpr (hasAdjacentRows<View>) return load4(view.at(i, 0));
+    else if constexpr (order == 3) return _mm_setr_ps(view.load(i, 0), view.load(i, 1), view.load(i, 2), 0);
+    else return _mm_setr_ps(view.load(i, 0), view.load(i, 1), view.load(i, 2), view.load(i, 3));
+}
+
+template <std::size_t order, class View> VONKK3_INLINE void storeRowHead(const View &view, std::size_t i, __m128 row) {
+    if constexpr (hasAdjacentRows<View>) {
+        store2(view.at(i, 0), row);
+        if constexpr (order == 3) store1(view.at(i, 2), _mm_movehl_ps(row, row));
+        else _mm_storeh_pi(pair(view.at(i, 2)), row);
+    } else {
+        constexpr std::size_t columns = order == 3 ? 3 : 4;
+        forIndices(0, columns, fixed<columns>, [&](std::size_t j) VONKK3_INLINED {
+            view.store(i, j, _mm_cvtss_f32(row));
+            row = _mm_shuffle_ps(row, row, _MM_SHUFFLE(0, 3, 2, 1));
+        });
+    }
+}
+
+// The second operand as the kernels hold it: row k of B in lanes, and what lies beyond column 3.
+template <std::size_t order> struct HeldRows {
+    __m128 head[order];
+    Real32 last[order];  // 5x5: column 4
+    __m128 pairs[order]; // 6x6: columns 4 and 5, twice
+
+    template <class View> VONKK3_INLINE void loadHead(const View &b) {
+        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED { head[k] = loadRowHead<order>(b, k); });
+    }
+
+    // Of a matrix that is read transposed: row k of B is column k as stored, turned round in registers.
+    template <class Stored> VONKK3_INLINE void loadHead(const TransposedView<Stored> &b) {
+        constexpr std::size_t lanes = order == 3 ? 3 : 4;
+        __m128 rows[4];
+        rows[3] = _mm_setzero_ps();
+        forIndices(0, lanes, fixed<lanes>,
+                   [&](std::size_t j) VONKK3_INLINED { rows[j] = loadRowHead<order>(b.stored, j); });
+        _MM_TRANSPOSE4_PS(rows[0], rows[1], rows[2], rows[3]);
+        forIndices(0, lanes, fixed<lanes>, [&](std::size_t k) VONKK3_INLINED { head[k] = rows[k]; });
+        if constexpr (order > 4)
+            forIndices(4, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+                head[k] = _mm_setr_ps(b.load(k, 0), b.load(k, 1), b.load(k, 2), b.load(k, 3));
+            });
+    }
+
+    template <class View> VONKK3_INLINE void loadLast(const View &b) {
+        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED { last[k] = b.load(k, 4); });
+    }
+
+    template <class View> VONKK3_INLINE void loadPairs(const View &b) {
+        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+            const __m128 two = _mm_setr_ps(b.load(k, 4), b.load(k, 5), 0, 0);
+            pairs[k] = _mm_movelh_ps(two, two);
+        });
+    }
+};
+
+// Columns 0 to 3 of row i of the product.
+template <std::size_t order, class A>
+VONKK3_INLINE __m128 rowHead(const A &a, std::size_t i, const HeldRows<order> &b) {
+    __m128 sum = _mm_mul_ps(broadcast(a.load(i, 0)), b.head[0]);
+    forIndices(1, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+        sum = multiplyAdd(sum, broadcast(a.load(i, k)), b.head[k]);
+    });
+    return sum;
+}
+
+// 3x3 and 4x4: a row is one register.
+template <std::size_t order, class A, class D>
+VONKK3_INLINE void multiplyRows(const A &a, const HeldRows<order> &b, const D &d) {
+    forIndices(0, order, fixed<order>,
+               [&](std::size_t i) VONKK3_INLINED { storeRowHead<order>(d, i, rowHead(a, i, b)); });
+}
+
+// 5x5: column 4 runs beside the lanes, in the same order. `column4(k)` gives B(k, 4): held, or read anew for every row.
+template <class A, class D, class Column4>
+VONKK3_INLINE void multiplyRowsOfFive(const A &a, const HeldRows<5> &b, const D &d, const Column4 &column4) {
+    forIndices(0, 5, fixed<5>, [&](std::size_t i) VONKK3_INLINED {
+        Real32 first = a.load(i, 0);
+        __m128 head = _mm_mul_ps(broadcast(first), b.head[0]);
+        Real32 last = first * column4(0);
+        forIndices(1, 5, fixed<5>, [&](std::size_t k) VONKK3_INLINED {
+            const Real32 factor = a.load(i, k);
+            head = multiplyAdd(head, broadcast(factor), b.head[k]);
+            last = factor * column4(k) + last;
+        });
+        storeRowHead<5>(d, i, head);
+        d.store(i, 4, last);
+    });
+}
+
+// 6x6, first pass: columns 0 to 3 of all rows.
+template <class A, class D> VONKK3_INLINE void multiplyRowsOfSix(const A &a, const HeldRows<6> &b, const D &d) {
+    forIndices(0, 6, fixed<6>, [&](std::size_t i) VONKK3_INLINED { storeRowHead<6>(d, i, rowHead(a, i, b)); });
+}
+
+// 6x6, second pass: columns 4 and 5, two rows in one register.
+template <class A, class D> VONKK3_INLINE void multiplyPairsOfSix(const A &a, const HeldRows<6> &b, const D &d) {
+    forIndices(0, 3, fixed<3>, [&](std::size_t half) VONKK3_INLINED {
+        const std::size_t i = 2 * half;
+        __m128 sum = _mm_mul_ps(broadcastPair(a.load(i, 0), a.load(i + 1, 0)), b.pairs[0]);
+        forIndices(1, 6, fixed<6>, [&](std::size_t k) VONKK3_INLINED {
+            sum = multiplyAdd(sum, broadcastPair(a.load(i, k), a.load(i + 1, k)), b.pairs[k]);
+        });
+        store2(d.at(i, 4), sum);
+        _mm_storeh_pi(pair(d.at(i + 1, 4)), sum);
+    });
+}
+
+// The pair-sum kernel of 6x6: the only one whose additions are not in plain order, ((p0 + p1) + (p2 + p3)) + (p4 + p5).
+// B is gathered first. Rows go in twos, each held before any of it is stored: the upper row, then columns 4 and 5 and
+// then 0 to 3 of the lower one.
+template <class A, class B, class D> VONKK3_INLINE void multiplyByPairSums(const A &a, const B &b, const D &d) {
+    alignas(16) Real32 gathered[6][6];
+    for (std::size_t k = 0; k < 6; ++k)
+        for (std::size_t j = 0; j < 6; ++j) gathered[k][j] = b.load(k, j);
+    for (std::size_t i = 0; i < 6; i += 2) {
+        Real32 rows[2][6], results[2][6];
+        for (std::size_t r = 0; r < 2; ++r)
+            for (std::size_t k = 0; k < 6; ++k) rows[r][k] = a.load(i + r, k);
+        for (std::size_t r = 0; r < 2; ++r)
+            for (std::size_t j = 0; j < 6; ++j) {
+                const auto product = [&](std::size_t k) { return rows[r][k] * gathered[k][j]; };
+                results[r][j] = ((product(0) + product(1)) + (product(2) + product(3))) + (product(4) + product(5));
+            }
+        for (std::size_t j = 0; j < 6; ++j) d.store(i, j, results[0][j]);
+        for (std::size_t j = 4; j < 6; ++j) d.store(i + 1, j, results[1][j]);
+        for (std::size_t j = 0; j < 4; ++j) d.store(i + 1, j, results[1][j]);
+    }
+}
+
+} // namespace vonkk3::product

@@ -1,0 +1,127 @@
+// Matrix by matrix: a single matrix or an array on either side, either side read transposed.
+#pragma once
+
+#include "frame/walk.h"
+#include "product/kernels.h"
+#include "product/schemes.h"
+#include "product/shape.h"
+
+namespace vonkk3::product {
+
+// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+
+enum class Scheme { runningSum, rowBroadcast, pairSum };
+
+// Which members have a kernel: all Real32 of fixed order where elements are adjacent, and a ragged list beside.
+template <class T, class P, std::size_t order> constexpr Scheme schemeOf() {
+    constexpr bool bothSingle = !P::isArray;
+    constexpr bool onlyFirstArray = P::firstArray && !P::secondArray;
+    constexpr bool plain = !P::firstTransposed && !P::secondTransposed;
+    constexpr bool both = P::firstTransposed && P::secondTransposed;
+    if (!std::is_same_v<T, Real32> || order == 0) return Scheme::runningSum;
+    switch (P::layout) {
+    case Layout::Standard:
+    case Layout::L: return Scheme::rowBroadcast;
+    case Layout::S2:
+        if (bothSingle && order == 6 && (!P::firstTransposed || both)) return Scheme::pairSum;
+        if (P::firstArray && plain && order <= 5) return Scheme::rowBroadcast;
+        return onlyFirstArray && order == 3 ? Scheme::rowBroadcast : Scheme::runningSum;
+    case Layout::P:
+    case Layout::PS2: return onlyFirstArray && !both && order == 3 ? Scheme::rowBroadcast : Scheme::runningSum;
+    case Layout::LS2: return onlyFirstArray && order == 3 ? Scheme::rowBroadcast : Scheme::runningSum;
+    }
+}
+
+// The kernels in table and strided list layouts never test an entry.
+template <class T, class P, std::size_t order>
+inline constexpr bool testsEntries = schemeOf<T, P, order>() == Scheme::runningSum || P::layout == Layout::L;
+
+// 5x5 reads column 4 of B anew for every row where B is a plain single matrix.
+template <class P> inline constexpr bool rereadsColumn4 = !P::secondArray && !P::secondTransposed;
+
+// 6x6 of two single matrices, the second transposed, fetches what the second pass needs when it comes to it, after the
+// first has stored: in place over the second operand that is wrong. All others hold it from the start.
+template <class P> inline constexpr bool fetchesPairsLate = !P::isArray && P::secondTransposed;
+
+// ---- One object -----------------------------------------------------------------------------------------------------
+
+// What of B is held: ahead of all objects if B is single, else object by object.
+template <class P, std::size_t order, class B> VONKK3_INLINE HeldRows<order> hold(const B &b) {
+    HeldRows<order> held;
+    held.loadHead(b);
+    if constexpr (order == 5 && !rereadsColumn4<P>) held.loadLast(b);
+    if constexpr (order == 6 && !fetchesPairsLate<P>) held.loadPairs(b);
+    return held;
+}
+
+template <class P, std::size_t order, class A, class B, class D>
+VONKK3_INLINE void multiplyHeld(const A &a, const B &b, HeldRows<order> &held, const D &d) {
+    if constexpr (order <= 4) multiplyRows(a, held, d);
+    else if constexpr (order == 5)
+        multiplyRowsOfFive(a, held, d, [&](std::size_t k) VONKK3_INLINED {
+            if constexpr (rereadsColumn4<P>) return b.load(k, 4);
+            else return held.last[k];
+        });
+    else {
+        multiplyRowsOfSix(a, held, d);
+        if constexpr (fetchesPairsLate<P>) held.loadPairs(b);
+        multiplyPairsOfSix(a, held, d);
+    }
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+template <class P, class A, class B, class D, std::size_t order, class Count>
+VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &dst, Fixed<order>, Count count) {
+    const auto multiplyObject = [&](std::size_t n, HeldRows<order> &held) VONKK3_INLINED {
+        multiplyHeld<P>(src1.view(n, order), src2.view(n, order), held, dst.view(n, order));
+        return vonkOk;
+    };
+    const auto walk = [&](auto work) VONKK3_INLINED {
+        if constexpr (testsEntries<Real32, P, order>) return forEachObject(count, work, src1, src2, dst);
+        else return forEachObject(count, work);
+    };
+    if constexpr (P::secondArray)
+        return walk([&](std::size_t n) VONKK3_INLINED {
+            HeldRows<order> held = hold<P, order>(src2.view(n, order));
+            return multiplyObject(n, held);
+        });
+    else {
+        if (count == 0) return vonkOk; // nothing is read, the single operand neither
+        HeldRows<order> held = hold<P, order>(src2.view(0, order));
+        return walk([&](std::size_t n) VONKK3_INLINED { return multiplyObject(n, held); });
+    }
+}
+
+template <class A, class Cols1, class Rows1, class B, class Cols2, class Rows2, class D, class Count>
+inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src2, Cols2 cols2, Rows2 rows2,
+                           const D &dst, Count count) {
+    using P = Pattern<A, B>;
+    using T = typename D::Element;
+    constexpr Scheme scheme = schemeOf<T, P, Cols1::value>();
+    if (anyNull(src1, src2, dst)) return vonkErrNullPtr;
+    const Dimensions<Cols1, Rows1, Cols2, Rows2> size{cols1, rows1, cols2, rows2};
+    if constexpr (!Cols1::isFixed)
+        if (size.template anyZero<P>() || !size.template agree<P>()) return vonkErrSize;
+    if constexpr (P::isArray && testsEntries<T, P, Cols1::value>)
+        if (anyTableEntryNull(cols1 * rows1, src1) || anyTableEntryNull(cols2 * rows2, src2) ||
+            anyTableEntryNull(size.template testedCells<P>(), dst))
+            return vonkErrNullPtr;
+
+    if constexpr (scheme == Scheme::rowBroadcast) return multiplyInLanes<P>(src1, src2, dst, cols1, count);
+    else
+        return forEachObject(
+            count,
+            [&](std::size_t n) VONKK3_INLINED {
+                const auto a = src1.view(n, P::firstTransposed ? rows1 : cols1);
+                const auto b = src2.view(n, P::secondTransposed ? rows2 : cols2);
+                const auto d = dst.view(n, size.template columns<P>());
+                if constexpr (scheme == Scheme::pairSum) return multiplyByPairSums(a, b, d), vonkOk;
+                else
+                    return sumIntoCells<T, accumulatesInCell<T, P::layout>, !P::isArray>(
+                        a, b, d, size.template rows<P>(), size.template columns<P>(), size.template terms<P>());
+            },
+            src1, src2, dst);
+}
+
+} // namespace vonkk3::product

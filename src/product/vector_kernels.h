@@ -1,0 +1,206 @@
+// Kernels of Real32 matrix by vector, fixed order, adjacent elements. Each has its own order of additions, which is told
+// beside it with p0, p1, ... for the products of a row's elements and the vector's.
+#pragma once
+
+#include "frame/lanes.h"
+#include "frame/unroll.h"
+#include "frame/views.h"
+#include "product/kernels.h"
+
+namespace vonkk3::product {
+
+inline __m128 add(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
+inline __m128 multiply(__m128 a, __m128 b) { return _mm_mul_ps(a, b); }
+
+// The product of one object: elements 0 to 3 (of 3x3: 0 to 2) in order, and elements 4 and 5.
+struct ProductVector {
+    __m128 head;
+    __m128 tail;
+};
+
+template <std::size_t order> VONKK3_INLINE ProductVector loadVector(const std::byte *address) {
+    if constexpr (order == 3) return {_mm_movelh_ps(load2(address), load1(address + 8)), _mm_setzero_ps()};
+    else if constexpr (order == 4) return {load4(address), _mm_setzero_ps()};
+    else if constexpr (order == 5) return {load4(address), load1(address + 16)};
+    else return {load4(address), load2(address + 16)};
+}
+
+template <std::size_t order> VONKK3_INLINE void storeVector(std::byte *address, ProductVector vector) {
+    if constexpr (order == 3) {
+        store2(address, vector.head);
+        store1(address + 8, _mm_movehl_ps(vector.head, vector.head));
+    } else store4(address, vector.head);
+    if constexpr (order == 5) store1(address + 16, vector.tail);
+    if constexpr (order == 6) store2(address + 16, vector.tail);
+}
+
+// ---- The matrix as stored, by order ---------------------------------------------------------------------------------
+
+template <std::size_t order> struct PlainMatrix;
+
+// ((p0 + p1) + p2); lanes are the elements of the result.
+template <> struct PlainMatrix<3> {
+    __m128 columns[3];
+
+    template <class View> VONKK3_INLINE explicit PlainMatrix(const View &a) {
+        __m128 row0 = loadRowHead<3>(a, 0), row1 = loadRowHead<3>(a, 1), row2 = loadRowHead<3>(a, 2);
+        __m128 nothing = _mm_setzero_ps();
+        _MM_TRANSPOSE4_PS(row0, row1, row2, nothing);
+        columns[0] = row0, columns[1] = row1, columns[2] = row2;
+    }
+
+    struct Factors {
+        __m128 elements[3];
+        VONKK3_INLINE explicit Factors(const std::byte *v) {
+            forIndices(0, 3, fixed<3>,
+                       [&](std::size_t k) VONKK3_INLINED { elements[k] = broadcast(loadAt<Real32>(v + 4 * k)); });
+        }
+    };
+
+    VONKK3_INLINE ProductVector times(const Factors &v) const {
+        const __m128 sum = multiplyAdd(multiply(columns[0], v.elements[0]), columns[1], v.elements[1]);
+        return {multiplyAdd(sum, columns[2], v.elements[2]), _mm_setzero_ps()};
+    }
+};
+
+// Two rows side by side: their columns 0 and 1, 2 and 3, and of 6x6 4 and 5.
+template <std::size_t order> struct RowPair {
+    __m128 columns[order / 2];
+
+    template <class View> VONKK3_INLINE void load(const View &a, std::size_t i) {
+        const __m128 upper = load4(a.at(i, 0)), lower = load4(a.at(i + 1, 0));
+        columns[0] = _mm_unpacklo_ps(upper, lower);
+        columns[1] = _mm_unpackhi_ps(upper, lower);
+        if constexpr (order == 6) columns[2] = _mm_unpacklo_ps(load2(a.at(i, 4)), load2(a.at(i + 1, 4)));
+    }
+};
+
+// The vector's elements as row pairs want them: (v0, v0, v1, v1), (v2, v2, v3, v3), ...
+template <std::size_t order> struct PairFactors {
+    __m128 elements[order / 2];
+    VONKK3_INLINE explicit PairFactors(const std::byte *v) {
+        const __m128 head = load4(v);
+        elements[0] = _mm_unpacklo_ps(head, head);
+        elements[1] = _mm_unpackhi_ps(head, head);
+        if constexpr (order == 6) {
+            const __m128 tail = load2(v + 16);
+            elements[2] = _mm_unpacklo_ps(tail, tail);
+        }
+    }
+};
+
+// (p0 + p2) + (p1 + p3)
+template <> struct PlainMatrix<4> {
+    using Factors = PairFactors<4>;
+    RowPair<4> pairs[2];
+
+    template <class View> VONKK3_INLINE explicit PlainMatrix(const View &a) { pairs[0].load(a, 0), pairs[1].load(a, 2); }
+
+    VONKK3_INLINE ProductVector times(const Factors &v) const {
+        const __m128 upper = multiplyAdd(multiply(pairs[0].columns[0], v.elements[0]), pairs[0].columns[1], v.elements[1]);
+        const __m128 lower = multiplyAdd(multiply(pairs[1].columns[0], v.elements[0]), pairs[1].columns[1], v.elements[1]);
+        return {add(_mm_movelh_ps(upper, lower), _mm_movehl_ps(lower, upper)), _mm_setzero_ps()};
+    }
+};
+
+// ((p0 + p2) + p4) + ((p1 + p3) + p5)
+template <> struct PlainMatrix<6> {
+    using Factors = PairFactors<6>;
+    RowPair<6> pairs[3];
+
+    template <class View> VONKK3_INLINE explicit PlainMatrix(const View &a) {
+        forIndices(0, 3, fixed<3>, [&](std::size_t half) VONKK3_INLINED { pairs[half].load(a, 2 * half); });
+    }
+
+    VONKK3_INLINE __m128 halves(std::size_t half, const Factors &v) const {
+        const __m128 *columns = pairs[half].columns;
+        const __m128 sum = multiplyAdd(multiply(columns[0], v.elements[0]), columns[1], v.elements[1]);
+        return multiplyAdd(sum, columns[2], v.elements[2]);
+    }
+
+    VONKK3_INLINE ProductVector times(const Factors &v) const {
+        const __m128 upper = halves(0, v), middle = halves(1, v), lower = halves(2, v);
+        return {add(_mm_movelh_ps(upper, middle), _mm_movehl_ps(middle, upper)),
+                add(lower, _mm_movehl_ps(lower, lower))};
+    }
+};
+
+// Elements 0 to 3: ((p0 + p1) + p4) + (p2 + p3). Element 4 is rounded in another order: ((p0 + p2) + p4) + (p1 + p3).
+template <> struct PlainMatrix<5> {
+    __m128 columns[5]; // rows 0 to 3
+    __m128 row4;
+    Real32 corner;
+
+    template <class View> VONKK3_INLINE explicit PlainMatrix(const View &a) {
+        __m128 row0 = load4(a.at(0, 0)), row1 = load4(a.at(1, 0)), row2 = load4(a.at(2, 0)), row3 = load4(a.at(3, 0));
+        _MM_TRANSPOSE4_PS(row0, row1, row2, row3);
+        columns[0] = row0, columns[1] = row1, columns[2] = row2, columns[3] = row3;
+        columns[4] = _mm_setr_ps(a.load(0, 4), a.load(1, 4), a.load(2, 4), a.load(3, 4));
+        row4 = load4(a.at(4, 0));
+        corner = a.load(4, 4);
+    }
+
+    struct Factors {
+        __m128 elements[5];
+        __m128 head;
+        VONKK3_INLINE explicit Factors(const std::byte *v) {
+            forIndices(0, 5, fixed<5>,
+                       [&](std::size_t k) VONKK3_INLINED { elements[k] = broadcast(loadAt<Real32>(v + 4 * k)); });
+            head = load4(v);
+        }
+    };
+
+    VONKK3_INLINE ProductVector times(const Factors &v) const {
+        const __m128 first = multiplyAdd(multiply(columns[0], v.elements[0]), columns[1], v.elements[1]);
+        const __m128 second = multiplyAdd(multiply(columns[2], v.elements[2]), columns[3], v.elements[3]);
+        const __m128 products = multiply(row4, v.head);
+        const __m128 halves = add(products, _mm_movehl_ps(products, products)); // p0 + p2, p1 + p3
+        const __m128 odd = _mm_shuffle_ps(halves, halves, _MM_SHUFFLE(1, 1, 1, 1));
+        const __m128 last = _mm_mul_ss(_mm_set_ss(corner), v.elements[4]);
+        return {add(multiplyAdd(first, columns[4], v.elements[4]), second),
+                _mm_add_ss(_mm_add_ss(halves, last), odd)};
+    }
+};
+
+// ---- The matrix transposed: lanes are the elements of the result ----------------------------------------------------
+
+// 3: ((p0 + p1) + p2); 4: (p0 + p1) + (p2 + p3); 5: ((p0 + p1) + p4) + (p2 + p3), all elements alike;
+// 6: ((p0 + p1) + (p2 + p3)) + (p4 + p5).
+template <std::size_t order> VONKK3_INLINE __m128 sumTransposed(const __m128 (&p)[order]) {
+    if constexpr (order == 3) return add(add(p[0], p[1]), p[2]);
+    else if constexpr (order == 4) return add(add(p[0], p[1]), add(p[2], p[3]));
+    else if constexpr (order == 5) return add(add(add(p[0], p[1]), p[4]), add(p[2], p[3]));
+    else return add(add(add(p[0], p[1]), add(p[2], p[3])), add(p[4], p[5]));
+}
+
+template <std::size_t order> struct TransposedMatrix {
+    ProductVector rows[order];
+
+    template <class View> VONKK3_INLINE explicit TransposedMatrix(const TransposedView<View> &a) {
+        forIndices(0, order, fixed<order>,
+                   [&](std::size_t k) VONKK3_INLINED { rows[k] = loadVector<order>(a.stored.at(k, 0)); });
+    }
+
+    struct Factors {
+        __m128 elements[order];
+        VONKK3_INLINE explicit Factors(const std::byte *v) {
+            forIndices(0, order, fixed<order>,
+                       [&](std::size_t k) VONKK3_INLINED { elements[k] = broadcast(loadAt<Real32>(v + 4 * k)); });
+        }
+    };
+
+    VONKK3_INLINE ProductVector times(const Factors &v) const {
+        __m128 heads[order], tails[order];
+        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+            heads[k] = multiply(rows[k].head, v.elements[k]);
+            if constexpr (order > 4) tails[k] = multiply(rows[k].tail, v.elements[k]);
+        });
+        if constexpr (order > 4) return {sumTransposed(heads), sumTransposed(tails)};
+        else return {sumTransposed(heads), _mm_setzero_ps()};
+    }
+};
+
+template <std::size_t order, bool isTransposed>
+using HeldMatrix = std::conditional_t<isTransposed, TransposedMatrix<order>, PlainMatrix<order>>;
+
+} // namespace vonkk3::product
