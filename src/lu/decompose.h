@@ -122,7 +122,8 @@ VONKK3_INLINE VonkStatus decomposeObject(const Source &source, const Factors &fa
 
 // Objects one after the other, each through all its steps; the first singular one ends the call.
 template <class Source, class Factors, class Order, class Count>
-inline VonkStatus decompose(const Source &src, std::uint32_t *pivots, const Factors &dst, Order order, Count count) {
+VONKK3_INLINE VonkStatus decompose(const Source &src, std::uint32_t *pivots, const Factors &dst, Order order,
+                                   Count count) {
     if (anyNull(src, pivots, dst)) return vonkErrNullPtr;
     if (order.isZero()) return vonkErrSize;
     if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;

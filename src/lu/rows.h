@@ -2,7 +2,7 @@
 // a copy of the source in the order of the source.
 #pragma once
 
-#include "frame/views.h"
+#include "frame/extent.h"
 #include "lu/permutation.h"
 
 namespace vonkk3::lu {
@@ -81,25 +81,12 @@ private:
 template <class Factors, class Order> inline constexpr bool fitsRegisters = false;
 template <std::size_t order> inline constexpr bool fitsRegisters<RowsView<Real32>, Fixed<order>> = true;
 
-// The bytes from the first element of a matrix to behind its last.
-template <class T> struct Extent {
-    std::uintptr_t begin, end;
-    VONKK3_INLINE Extent(const RowsView<T> &view, std::size_t order) {
-        const auto first = reinterpret_cast<std::uintptr_t>(view.base);
-        const auto last = first + std::uintptr_t(strides(order - 1, view.rowStride));
-        begin = view.rowStride < 0 ? last : first;
-        end = (view.rowStride < 0 ? first : last) + order * sizeof(T);
-    }
-};
-
 VONKK3_INLINE bool mayWorkInRegisters(const RowsView<const Real32> &source, const RowsView<Real32> &factors,
                                       std::size_t order) {
     const auto rowBytes = std::ptrdiff_t(order * sizeof(Real32));
     if (factors.rowStride < rowBytes && factors.rowStride > -rowBytes) return false;
     if (source.base == factors.base && source.rowStride == factors.rowStride) return true;
-    const Extent from(source, order);
-    const Extent to(factors, order);
-    return from.end <= to.begin || to.end <= from.begin;
+    return areApart(Extent(source, order, order), Extent(factors, order, order));
 }
 
 } // namespace vonkk3::lu
