@@ -53,4 +53,10 @@ template <> inline void storeAt(std::byte *address, Real64 value) {
     *reinterpret_cast<Real64Anywhere *>(address) = value;
 }
 
+// Behind a store of a rounded Real64 that is worked with next: it is then read back from where it was stored. Left to
+// itself, a compiler takes the value it has just stored by a detour over the stack, which doubles the way.
+template <class T> inline void readBackWhatIsStored() {
+    if constexpr (std::is_same_v<T, Real64>) __asm__ volatile("" ::: "memory");
+}
+
 } // namespace vonkk3

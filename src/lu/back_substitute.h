@@ -66,17 +66,21 @@ template <bool keepsWide, class T, class Factors, class RightSide, class Solutio
 VONKK3_INLINE void solveObject(const Factors &factors, const std::byte *pivots, const RightSide &b, const Solution &x,
                                Order order) {
     using W = Working<T>;
+    const auto storeElement = [&](std::size_t i, W value) VONKK3_INLINED {
+        x.store(i, round<T>(value));
+        readBackWhatIsStored<T>();
+    };
     const Permutation<Order> rows(pivots, order);
     x.store(0, b.load(rows[0]));
     forIndices(1, order, order, [&](std::size_t i) VONKK3_INLINED {
-        x.store(i, round<T>(minusProducts<keepsWide, T>(b.load(rows[i]), factors, rows[i], x, 0, i, order)));
+        storeElement(i, minusProducts<keepsWide, T>(b.load(rows[i]), factors, rows[i], x, 0, i, order));
     });
     const std::size_t last = order - 1;
-    x.store(last, round<T>(W(x.load(last)) / W(factors.load(rows[last], last))));
+    storeElement(last, W(x.load(last)) / W(factors.load(rows[last], last)));
     forIndices(1, order, order, [&](std::size_t above) VONKK3_INLINED {
         const std::size_t i = last - above;
         const W difference = minusProducts<keepsWide, T>(x.load(i), factors, rows[i], x, i + 1, order, order);
-        x.store(i, round<T>(difference / W(factors.load(rows[i], i))));
+        storeElement(i, difference / W(factors.load(rows[i], i)));
     });
 }
 
@@ -84,8 +88,8 @@ VONKK3_INLINE void solveObject(const Factors &factors, const std::byte *pivots, 
 
 // One factored matrix serves all right-hand sides (mva), or each has its own, with its own block of pivots (mava).
 template <class Factors, class RightSide, class Solution, class Order, class Count>
-inline VonkStatus backSubstitute(const Factors &src1, const std::uint32_t *pivots, const RightSide &src2,
-                                 const Solution &dst, Order order, Count count) {
+VONKK3_INLINE VonkStatus backSubstitute(const Factors &src1, const std::uint32_t *pivots, const RightSide &src2,
+                                        const Solution &dst, Order order, Count count) {
     if (anyNull(src1, pivots, src2, dst)) return vonkErrNullPtr;
     if (order.isZero()) return vonkErrSize;
     if (anyTableEntryNull(order * order, src1)) return vonkErrNullPtr;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "frame/walk.h"
-#include "lu/permutation.h"
+#include "lu/rows.h"
 
 namespace vonkk3::lu {
 
@@ -44,20 +44,20 @@ inline Wide magnitude(Wide value) { return __builtin_fabsl(value); }
 // A NaN does not pass.
 template <class W> inline bool passesAsPivot(W value) { return magnitude(value) >= W(pivotTolerance); }
 
-// A zero Real32 multiplier is negated to +0, a zero Real64 one to -0 (of a zero the other way round).
+// A zero Real32 multiplier is negated to +0 by taking it from zero, a zero Real64 one to the other zero.
 inline Real32 negated(Real32 multiplier) { return 0.0F - multiplier; }
 inline Wide negated(Wide multiplier) { return -multiplier; }
 
 // The position from k on of the row whose element in column k is largest in magnitude; the first of equals. Candidates
 // are selected without branches: which one wins is as good as random.
-template <bool isArray, class T, class Factors, class Rows, class Order>
-VONKK3_INLINE std::size_t findPivot(const Factors &factors, const Rows &rows, std::size_t k, Order order) {
+template <bool isArray, class T, class Rows, class Order>
+VONKK3_INLINE std::size_t findPivot(const Rows &rows, std::size_t k, Order order) {
     using W = Working<T>;
     constexpr UnorderedCandidate unordered = unorderedCandidate<T, isArray, Order>();
-    W best = magnitude(W(factors.load(rows[k], k)));
+    W best = magnitude(W(rows.load(k, k)));
     std::size_t position = k;
     forIndices(k + 1, order, order, [&](std::size_t i) VONKK3_INLINED {
-        const W candidate = magnitude(W(factors.load(rows[i], k)));
+        const W candidate = magnitude(W(rows.load(i, k)));
         bool replacesValue = candidate > best;
         bool replacesPosition = replacesValue;
         const bool isFirstOfPair = (i - k) % 2 == 1 && i + 1 < order;
@@ -72,59 +72,66 @@ VONKK3_INLINE std::size_t findPivot(const Factors &factors, const Rows &rows, st
     return position;
 }
 
-// Takes the multiple of the pivot row that clears column k out of a row, and keeps the multiplier in its place.
-template <class T, class Factors, class Order>
-VONKK3_INLINE void eliminateRow(const Factors &factors, std::size_t pivotRow, std::size_t row, std::size_t k,
-                                Order order, Working<T> pivot) {
+// Takes the multiple of pivot row k that clears column k out of row i, and keeps the multiplier in its place.
+template <class T, class Rows, class Order>
+VONKK3_INLINE void eliminateRow(Rows &rows, std::size_t i, std::size_t k, Order order, Working<T> pivot) {
     using W = Working<T>;
-    const W quotient = W(factors.load(row, k)) / pivot;
+    const W quotient = W(rows.load(i, k)) / pivot;
     const T multiplier = round<T>(quotient);
-    factors.store(row, k, multiplier);
+    rows.store(i, k, multiplier);
     const W factor = negated(updatesWithRoundedMultiplier<Order> ? W(multiplier) : quotient);
     forIndices(k + 1, order, order, [&](std::size_t j) VONKK3_INLINED {
-        factors.store(row, j, round<T>(W(factors.load(pivotRow, j)) * factor + W(factors.load(row, j))));
+        rows.store(i, j, round<T>(W(rows.load(k, j)) * factor + W(rows.load(i, j))));
     });
 }
 
 // Brings the pivot of column k to position k and clears the column below it; false if the pivot is too small.
-template <bool isArray, class T, class Factors, class Rows, class Order>
-VONKK3_INLINE bool eliminateColumn(const Factors &factors, Rows &rows, std::size_t k, Order order) {
-    rows.exchange(k, findPivot<isArray, T>(factors, rows, k, order));
-    const Working<T> pivot = factors.load(rows[k], k);
+template <bool isArray, class T, class Rows, class Order>
+VONKK3_INLINE bool eliminateColumn(Rows &rows, std::size_t k, Order order) {
+    rows.exchange(k, findPivot<isArray, T>(rows, k, order));
+    const Working<T> pivot = rows.load(k, k);
     if (!passesAsPivot(pivot)) return false;
-    forIndices(k + 1, order, order,
-               [&](std::size_t i) VONKK3_INLINED { eliminateRow<T>(factors, rows[k], rows[i], k, order, pivot); });
+    forIndices(k + 1, order, order, [&](std::size_t i) VONKK3_INLINED { eliminateRow<T>(rows, i, k, order, pivot); });
     return true;
 }
 
-template <bool isArray, class T, class Source, class Factors, class Order>
+template <bool isArray, class T, class Rows, class Factors, class Order>
+VONKK3_INLINE VonkStatus eliminate(Rows &rows, const Factors &factors, Order order, std::size_t n) {
+    const bool regular = everyIndex(
+        0, order - 1, order, [&](std::size_t k) VONKK3_INLINED { return eliminateColumn<isArray, T>(rows, k, order); });
+    rows.finish();
+    if (!regular) return vonkErrSingular;
+    const Working<T> last = factors.load(rows.physical(order - 1), testedLastColumn(order, n));
+    return passesAsPivot(last) ? vonkOk : vonkErrSingular;
+}
+
+template <bool isArray, class Source, class Factors, class Order>
 VONKK3_INLINE VonkStatus decomposeObject(const Source &source, const Factors &factors, std::byte *pivots, Order order,
                                          std::size_t n) {
-    forIndices(0, order, order, [&](std::size_t i) VONKK3_INLINED {
-        forIndices(0, order, order, [&](std::size_t j) VONKK3_INLINED { factors.store(i, j, source.load(i, j)); });
-    });
-    GrowingPermutation<Order> rows(pivots, order);
-    const bool regular = everyIndex(0, order - 1, order, [&](std::size_t k) VONKK3_INLINED {
-        return eliminateColumn<isArray, T>(factors, rows, k, order);
-    });
-    if (!regular) return vonkErrSingular;
-    const Working<T> last = factors.load(rows[order - 1], testedLastColumn(order, n));
-    return passesAsPivot(last) ? vonkOk : vonkErrSingular;
+    using T = typename Factors::Element;
+    if constexpr (fitsRegisters<Factors, Order>)
+        if (mayWorkInRegisters(source, factors, order)) {
+            RowsInRegisters<T, Factors, Order::value> rows(source, factors, pivots);
+            return eliminate<isArray, T>(rows, factors, order, n);
+        }
+    RowsInMemory<T, Factors, Order> rows(source, factors, pivots, order);
+    return eliminate<isArray, T>(rows, factors, order, n);
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 // Objects one after the other, each through all its steps; the first singular one ends the call.
 template <class Source, class Factors, class Order, class Count>
-inline VonkStatus decompose(const Source &src, std::uint32_t *pivots, const Factors &dst, Order order, Count count) {
+VONKK3_INLINE VonkStatus decompose(const Source &src, std::uint32_t *pivots, const Factors &dst, Order order,
+                                   Count count) {
     if (anyNull(src, pivots, dst)) return vonkErrNullPtr;
     if (order.isZero()) return vonkErrSize;
     if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
     return forEachObject(
         count,
         [&](std::size_t n) VONKK3_INLINED {
-            return decomposeObject<Count::isArray, typename Factors::Element>(src.view(n, order), dst.view(n, order),
-                                                                              pivotBlock(pivots, n, order), order, n);
+            return decomposeObject<Count::isArray>(src.view(n, order), dst.view(n, order), pivotBlock(pivots, n, order),
+                                                   order, n);
         },
         src, dst);
 }

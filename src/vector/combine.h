@@ -155,7 +155,7 @@ inline VonkStatus combineHeld(const A &a, const B &b, const D &d, Fixed<length> 
 
 // d(n, j) = operation(a(n, j), b(n, j)); a single operand serves all objects.
 template <class Operation, class A, class B, class D, class Length, class Count>
-inline VonkStatus combine(const A &a, const B &b, const D &d, Length length, Count count) {
+VONKK3_INLINE VonkStatus combine(const A &a, const B &b, const D &d, Length length, Count count) {
     using F = Form<Operation, A, B, D, Length>;
     constexpr Operation operation;
     if (anyNull(a, b, d)) return vonkErrNullPtr;

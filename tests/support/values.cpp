@@ -57,7 +57,12 @@ ValueKind chooseKind(const ValueMixture &mixture, Random &random) {
     return ValueKind::ordinary;
 }
 
-double mantissa(Random &random) { return 1 + static_cast<double>(random.next() >> 12) * 0x1p-52; }
+// Drawn in separate statements: the order in which a call's arguments are worked out is the compiler's.
+double scaled(Random &random, std::int64_t lowestExponent, std::int64_t highestExponent) {
+    const auto exponent = static_cast<int>(random.between(lowestExponent, highestExponent));
+    const double mantissa = 1 + static_cast<double>(random.next() >> 12) * 0x1p-52;
+    return std::ldexp(mantissa, exponent);
+}
 
 } // namespace
 
@@ -78,7 +83,7 @@ double ValueSource::regular(Random &random) const {
     case ValueKind::smallIntegers: return static_cast<double>(random.between(-4, 4));
     case ValueKind::wideExponents: {
         const int limit = random.percent(70) ? 30 : type_ == Type::real32 ? 120 : 1000;
-        return signedBy(random, std::ldexp(mantissa(random), static_cast<int>(random.between(-limit, limit))));
+        return signedBy(random, scaled(random, -limit, limit));
     }
     case ValueKind::ties: return signedBy(random, std::ldexp(1.0, static_cast<int>(random.between(-1, 1))));
     case ValueKind::nearTies: {
@@ -89,7 +94,7 @@ double ValueSource::regular(Random &random) const {
     }
     case ValueKind::ordinary: break;
     }
-    return signedBy(random, std::ldexp(mantissa(random), static_cast<int>(random.between(-2, 1))));
+    return signedBy(random, scaled(random, -2, 1));
 }
 
 double ValueSource::special(Random &random) const {

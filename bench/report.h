@@ -1,0 +1,36 @@
+// The table of ratios, as a reporter of Google Benchmark: a heading that says what was compiled how, then the lines of
+// each row as soon as it is measured, then how many lost.
+#pragma once
+
+#include "contest.h"
+
+#include <benchmark/benchmark.h>
+
+namespace bench {
+
+class TableReporter : public benchmark::BenchmarkReporter {
+public:
+    // With `markdown` the same as a table for README.md, a line for each row.
+    explicit TableReporter(bool markdown) : markdown(markdown) {}
+
+    // What measuring a row gave, for the report that follows.
+    void keep(const std::string &row, const Contest &contest, std::vector<Timing> timings);
+
+    bool ReportContext(const Context &context) override;
+    void ReportRuns(const std::vector<Run> &runs) override;
+    void Finalize() override;
+
+private:
+    struct Measured {
+        std::string row, unit;
+        std::size_t units;
+        std::vector<Timing> timings;
+    };
+    std::vector<Measured> pending, printed;
+    bool markdown;
+
+    static void printLines(const Measured &measured);
+    static void printMarkdown(const Measured &measured);
+};
+
+} // namespace bench
