@@ -1,5 +1,5 @@
-// Sums and differences of vectors: numbers by hand in every form, the long run-time form at every alignment and overlap,
-// which forms hold the single vector and which read it anew, and what is tested in which order.
+// Sums and differences of vectors: numbers by hand in every form, the long run-time form at every alignment and
+// overlap, which forms hold the single vector and which read it anew, and what is tested in which order.
 #include "support/control.h"
 #include "support/literal.h"
 #include "support/literal_checks.h"
@@ -17,8 +17,6 @@
 namespace {
 
 using catalogue::Function;
-using catalogue::Kind;
-using catalogue::Layout;
 using catalogue::Type;
 using literal::Call;
 using support::Precision;
@@ -253,7 +251,8 @@ template <class Real> struct Form {
     int sign;
 };
 
-constexpr std::array floatForms = std::to_array<Form<float>>({{"sum", vonkAdd_vv_32f, 1}, {"difference", vonkSub_vv_32f, -1}});
+constexpr std::array floatForms =
+    std::to_array<Form<float>>({{"sum", vonkAdd_vv_32f, 1}, {"difference", vonkSub_vv_32f, -1}});
 constexpr std::array doubleForms =
     std::to_array<Form<double>>({{"sum", vonkAdd_vv_64f, 1}, {"difference", vonkSub_vv_64f, -1}});
 
@@ -287,7 +286,8 @@ public:
     }
 
     // Offsets in bytes from a boundary of 64.
-    void compare(const Form<Real> &form, std::size_t left, std::size_t right, std::size_t result, std::uint32_t length) {
+    void compare(const Form<Real> &form, std::size_t left, std::size_t right, std::size_t result,
+                 std::uint32_t length) {
         SCOPED_TRACE(std::string(form.name) + ", src1 at " + std::to_string(left) + ", src2 at " +
                      std::to_string(right) + ", dst at " + std::to_string(result) + ", length " +
                      std::to_string(length));
@@ -365,10 +365,10 @@ template <class Real> void expectForwardWalkOnOverlap(const Form<Real> &form) {
     for (const std::uint32_t length : {3U, 11U, 24U, 100U})
         for (const std::ptrdiff_t distance : distances<Real>(length)) {
             const auto result = static_cast<std::size_t>(1024 + distance);
-            bench.compare(form, 1024, 3072, result, length);  // over the first source
-            bench.compare(form, 3072, 1024, result, length);  // over the second
-            bench.compare(form, 1024, 1024, result, length);  // over both
-            bench.compare(form, 1024, 1040, result, length);  // over both, which lie apart
+            bench.compare(form, 1024, 3072, result, length); // over the first source
+            bench.compare(form, 3072, 1024, result, length); // over the second
+            bench.compare(form, 1024, 1024, result, length); // over both
+            bench.compare(form, 1024, 1040, result, length); // over both, which lie apart
         }
     EXPECT_GT(bench.compared * 10, bench.calls * 9); // hardly any was passed over
 }
@@ -402,7 +402,8 @@ TEST(VectorVectorRunTime, SumsUpInEveryLayout) {
         fill(call);
         call.set("src2", 0, std::vector<double>(length, 1));
         const literal::Place &source = call["src1"];
-        const std::int32_t step = catalogue::isTable(source.operand->layout) ? source.positionStride : source.elementStride;
+        const std::int32_t step =
+            catalogue::isTable(source.operand->layout) ? source.positionStride : source.elementStride;
         call["dst"].moveTo(source.origin + step);
         ASSERT_EQ(call.run(), vonkOk);
         for (std::uint32_t j = 0; j < length; ++j) EXPECT_EQ(call.get("dst", 0, 0, j), left(0, 0) + j + 1);
@@ -488,7 +489,8 @@ TEST(VectorVectorChecks, LookAtThePositionsOfOnePairJustBeforeEachElement) {
                     EXPECT_EQ(call.run(), vonkErrNullPtr);
                     slot = kept;
                     for (std::uint32_t j = 0; j < entry; ++j) {
-                        const double expected = isDifference(*function) ? left(0, j) - right(0, j) : left(0, j) + right(0, j);
+                        const double expected =
+                            isDifference(*function) ? left(0, j) - right(0, j) : left(0, j) + right(0, j);
                         EXPECT_EQ(call.get("dst", 0, 0, j), expected) << "element " << j;
                     }
                     for (std::uint32_t j = entry; j < size; ++j)

@@ -66,9 +66,9 @@ std::string protectionAt(const void *address) {
 
 TEST(Version, LiesInMemoryThatNobodyCanWrite) {
     const VonkLibVersion *version = vonkGetLibVersion();
-    for (const void *part : {static_cast<const void *>(version), static_cast<const void *>(version->libraryName),
-                             static_cast<const void *>(version->versionText),
-                             static_cast<const void *>(version->buildDateText)}) {
+    for (const void *part :
+         {static_cast<const void *>(version), static_cast<const void *>(version->libraryName),
+          static_cast<const void *>(version->versionText), static_cast<const void *>(version->buildDateText)}) {
         const std::string protection = protectionAt(part);
         EXPECT_EQ(protection.substr(0, 2), "r-") << protection;
     }

@@ -7,7 +7,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
-#include <numeric>
 #include <stdexcept>
 
 namespace literal {
@@ -104,6 +103,11 @@ bool isPointer(Kind kind) {
     return kind == Kind::base || kind == Kind::table || kind == Kind::list || kind == Kind::dense;
 }
 
+bool hasColumnsFourBytesApart(const Function &function) {
+    return function.family->operation == "LUBackSubst" && function.group == "mva" && function.type == Type::real64 &&
+           function.layout == "L";
+}
+
 std::vector<std::uint32_t> sizesOf(const Function &function, std::vector<std::uint32_t> runTimeSizes) {
     if (function.order == 0) return runTimeSizes;
     return {static_cast<std::uint32_t>(function.order)};
@@ -140,7 +144,7 @@ Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geome
     layOut(geometry);
 }
 
-void Call::shape(Place &place) {
+void Call::shape(Place &place) const {
     place.elementSize = function_.type == Type::real32 ? 4 : 8;
     place.rows = place.operand->matrix ? size_ : 1;
     place.cols = size_;
@@ -153,7 +157,7 @@ void Call::layOut(Geometry geometry) {
     std::vector<std::size_t> origins;
     for (const Place &place : places_) {
         const Reach reach = reachOf(place, objects);
-        const auto margin = static_cast<std::size_t>(256 + std::abs(place.elementStride) * static_cast<int>(objects * size_));
+        const std::size_t margin = 256 + static_cast<std::size_t>(std::abs(place.elementStride)) * objects * size_;
         const std::size_t start = end + margin + static_cast<std::size_t>(-reach.low);
         origins.push_back((start + 15) / 16 * 16);
         end = origins.back() + static_cast<std::size_t>(reach.high) + margin;
@@ -192,7 +196,7 @@ void Call::layOver(std::string_view source) {
     destination.moveTo(target.origin);
 }
 
-void Call::setAt(std::byte *address, double value) {
+void Call::setAt(std::byte *address, double value) const {
     const auto narrow = static_cast<float>(value);
     if (function_.type == Type::real32) std::memcpy(address, &narrow, sizeof narrow);
     else std::memcpy(address, &value, sizeof value);
@@ -279,9 +283,9 @@ Call::Picture Call::picture() const {
 }
 
 std::int32_t Call::run() {
-    const std::vector<std::uint64_t> list = words();
+    words_ = words();
     before_ = picture();
-    const std::int32_t status = support::invoke(exportOf(function_), function_, list);
+    const std::int32_t status = support::invoke(exportOf(function_), function_, words_);
     after_ = picture();
     return status;
 }
@@ -329,9 +333,7 @@ Factors::Factors(std::uint32_t order, std::uint32_t variant) : order(order), var
     for (std::uint32_t i = 0; i < order; ++i) permutation.push_back((2 * order - 1 - i + variant) % order);
 }
 
-void Factors::leaveLastRow(std::uint32_t row) {
-    std::swap(*std::ranges::find(permutation, row), permutation.back());
-}
+void Factors::leaveLastRow(std::uint32_t row) { std::swap(*std::ranges::find(permutation, row), permutation.back()); }
 
 double Factors::lower(std::uint32_t i, std::uint32_t j) const {
     constexpr double choices[3] = {0.5, -0.5, 0.25};
@@ -348,32 +350,22 @@ std::vector<double> Factors::matrix() const {
     std::vector<double> product(std::size_t{order} * order);
     for (std::uint32_t i = 0; i < order; ++i)
         for (std::uint32_t j = 0; j < order; ++j)
-            for (std::uint32_t k = 0; k < order; ++k)
-                product[permutation[i] * order + j] += lower(i, k) * upper(k, j);
+            for (std::uint32_t k = 0; k < order; ++k) product[permutation[i] * order + j] += lower(i, k) * upper(k, j);
     return product;
 }
 
 std::vector<double> Factors::factored() const {
     std::vector<double> both(std::size_t{order} * order);
     for (std::uint32_t i = 0; i < order; ++i)
-        for (std::uint32_t j = 0; j < order; ++j)
-            both[permutation[i] * order + j] = j < i ? lower(i, j) : upper(i, j);
+        for (std::uint32_t j = 0; j < order; ++j) both[permutation[i] * order + j] = j < i ? lower(i, j) : upper(i, j);
     return both;
 }
 
 std::vector<double> Factors::solution() const {
+    constexpr double choices[5] = {1, -2, 3, -1, 2};
     std::vector<double> x;
-    for (std::uint32_t j = 0; j < order; ++j) x.push_back(static_cast<int>((3 * j + variant) % 7) - 3);
+    for (std::uint32_t j = 0; j < order; ++j) x.push_back(choices[(3 * j + variant) % 5]);
     return x;
-}
-
-std::vector<double> Factors::rightHandSide() const {
-    const std::vector<double> a = matrix();
-    const std::vector<double> x = solution();
-    std::vector<double> b(order);
-    for (std::uint32_t i = 0; i < order; ++i)
-        b[i] = std::inner_product(x.begin(), x.end(), a.begin() + static_cast<std::ptrdiff_t>(i * order), 0.0);
-    return b;
 }
 
 } // namespace literal

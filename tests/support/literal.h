@@ -20,6 +20,9 @@ const std::vector<catalogue::Function> &allMembers();
 
 bool isPointer(catalogue::Kind kind);
 
+// vonkLUBackSubst_mva_64f in `L`, of every order: takes the columns of its matrix 4 bytes apart, whatever the doubles.
+bool hasColumnsFourBytesApart(const catalogue::Function &function);
+
 // Sizes at which a function is worth calling: its own if that is fixed.
 std::vector<std::uint32_t> sizesOf(const catalogue::Function &function, std::vector<std::uint32_t> runTimeSizes);
 
@@ -46,11 +49,11 @@ struct Place {
     std::int32_t objectStride = 0;
     std::int32_t rowStride = 0;
     std::int32_t elementStride = 0;
-    std::int32_t positionStride = 0;         // from one position of a table to the next
+    std::int32_t positionStride = 0; // from one position of a table to the next
     std::int32_t shift = 0;
-    std::vector<std::byte *> entries;        // of its table or list, with the shift taken off
-    std::byte *const *table = nullptr;       // what the call gets: the entries, unless they were put elsewhere
-    std::ptrdiff_t alias = 0;                // from an address of the call to the same memory as the test reaches it
+    std::vector<std::byte *> entries;  // of its table or list, with the shift taken off
+    std::byte *const *table = nullptr; // what the call gets: the entries, unless they were put elsewhere
+    std::ptrdiff_t alias = 0;          // from an address of the call to the same memory as the test reaches it
 
     bool tabled() const; // reached by way of a table of positions or a list of objects
     std::byte *address(std::uint32_t n, std::uint32_t i, std::uint32_t j) const;
@@ -81,7 +84,7 @@ public:
     void set(std::string_view operand, std::uint32_t n, const std::vector<double> &values); // row by row
     double get(std::string_view operand, std::uint32_t n, std::uint32_t i, std::uint32_t j);
     std::vector<double> get(std::string_view operand, std::uint32_t n);
-    void setAt(std::byte *address, double value); // an element of the call's type anywhere
+    void setAt(std::byte *address, double value) const; // an element of the call's type anywhere
     double getAt(const std::byte *address) const;
 
     std::vector<std::uint32_t> pivots(std::uint32_t n) const;
@@ -93,11 +96,11 @@ public:
     void passAsUsual() { passed_.clear(); }
     std::vector<std::uint64_t> words();
 
-    std::int32_t run();
+    std::int32_t run(); // may be left by a jump out of the export
 
-    bool changedNothing() const;               // in the last run, in any memory of the call
-    bool changedObject(std::uint32_t n);       // a byte of object n of `dst`, or of its pivots where these are written
-    Stray strayWrites();                       // bytes changed outside the elements of `dst` and such pivots
+    bool changedNothing() const;         // in the last run, in any memory of the call
+    bool changedObject(std::uint32_t n); // a byte of object n of `dst`, or of its pivots where these are written
+    Stray strayWrites();                 // bytes changed outside the elements of `dst` and such pivots
     std::byte *spareCell(std::uint32_t n) { return spare_ + std::size_t{64} * n; } // away from the operands
 
 private:
@@ -108,7 +111,7 @@ private:
         bool operator==(const Picture &) const = default;
     };
 
-    void shape(Place &place);
+    void shape(Place &place) const;
     void layOut(Geometry geometry);
     std::uint64_t wordOf(const catalogue::Parameter &parameter);
     Picture picture() const;
@@ -123,6 +126,7 @@ private:
     std::vector<std::uint32_t> pivots_;
     std::uint32_t *pivotsWord_;
     std::map<std::string, std::uint64_t> passed_;
+    std::vector<std::uint64_t> words_; // of the run
     Picture before_;
     Picture after_;
 };
@@ -131,12 +135,12 @@ private:
 bool same(double left, double right);
 
 // A matrix made of factors so that no step of its decomposition or of a solution rounds: all elements are multiples of
-// 1/4. L has magnitudes 1/2 and 1/4 below its diagonal, U has 8 on it and whole numbers from -2 to 3 right of it, so that
-// each pivot is the only largest candidate and the permutation comes out as chosen.
+// 1/4. L has magnitudes 1/2 and 1/4 below its diagonal, U has 8 on it and whole numbers from -2 to 3 right of it, so
+// that each pivot is the only largest candidate and the permutation comes out as chosen.
 struct Factors {
     std::uint32_t order;
-    std::uint32_t variant;                   // other numbers for other objects
-    std::vector<std::uint32_t> permutation;  // row permutation[i] of the matrix is logical row i
+    std::uint32_t variant;                  // other numbers for other objects
+    std::vector<std::uint32_t> permutation; // row permutation[i] of the matrix is logical row i
     double lastPivot = 8;
 
     Factors(std::uint32_t order, std::uint32_t variant); // all rows in other places than their own, mostly
@@ -146,8 +150,7 @@ struct Factors {
     double upper(std::uint32_t i, std::uint32_t j) const;
     std::vector<double> matrix() const;   // L U with its rows permuted, row by row
     std::vector<double> factored() const; // what the decomposition leaves
-    std::vector<double> solution() const; // whole numbers
-    std::vector<double> rightHandSide() const;
+    std::vector<double> solution() const; // whole numbers, none of them 0
 };
 
 } // namespace literal

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -39,8 +40,9 @@ inline void expectAllDone(Call &call, const Example &example) {
 }
 
 inline void expectResults(const catalogue::Function &function, const Example &example,
-                          const std::vector<std::uint32_t> &runTimeSizes) {
-    for (const Geometry geometry : {packed, spread, backward})
+                          const std::vector<std::uint32_t> &runTimeSizes,
+                          const std::vector<Geometry> &geometries = {packed, spread, backward}) {
+    for (const Geometry geometry : geometries)
         for (const std::uint32_t size : sizesOf(function, runTimeSizes))
             for (const std::uint32_t count : {1U, 2U, 4U}) {
                 SCOPED_TRACE(function.name + ", size " + std::to_string(size) + ", count " + std::to_string(count) +
@@ -54,9 +56,10 @@ inline void expectResults(const catalogue::Function &function, const Example &ex
             }
 }
 
-inline void expectInPlaceResults(const catalogue::Function &function, const Example &example,
-                                 const std::string &source, const std::vector<std::uint32_t> &runTimeSizes) {
-    for (const Geometry geometry : {packed, spread, backward})
+inline void expectInPlaceResults(const catalogue::Function &function, const Example &example, const std::string &source,
+                                 const std::vector<std::uint32_t> &runTimeSizes,
+                                 const std::vector<Geometry> &geometries = {packed, spread, backward}) {
+    for (const Geometry geometry : geometries)
         for (const std::uint32_t size : sizesOf(function, runTimeSizes)) {
             SCOPED_TRACE(function.name + ", size " + std::to_string(size) + ", dst over " + source);
             Call call(function.name, size, 3, geometry);
@@ -68,9 +71,7 @@ inline void expectInPlaceResults(const catalogue::Function &function, const Exam
 }
 
 inline bool has(const catalogue::Function &function, catalogue::Kind kind) {
-    for (const catalogue::Parameter &parameter : function.parameters)
-        if (parameter.kind == kind) return true;
-    return false;
+    return std::ranges::any_of(function.parameters, [kind](const auto &parameter) { return parameter.kind == kind; });
 }
 
 inline std::string parameterOf(const catalogue::Function &function, catalogue::Kind kind) {

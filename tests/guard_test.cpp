@@ -1,0 +1,498 @@
+// No call touches a byte outside its operands: each row, element or run of objects lies against a page that cannot be
+// touched, behind or before it, and sources lie in pages that cannot be written. The one read beyond an operand that
+// callers have to allow for, the displaced look at the last pivot of LU decomposition, gets its page for reading only.
+#include "support/control.h"
+#include "support/literal.h"
+#include "support/literal_checks.h"
+
+#include "vonkk3.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csetjmp>
+#include <csignal>
+#include <cstring>
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <sstream>
+#include <stdexcept>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace {
+
+using catalogue::Function;
+using catalogue::Kind;
+using catalogue::Layout;
+using literal::Call;
+using literal::Factors;
+using literal::Place;
+
+// ---- Memory with guards
+
+// Pages that are out of bounds until a chunk is taken. The test itself reaches all of them through a second mapping.
+class GuardedMemory {
+public:
+    static constexpr std::size_t page = 4096;
+    static constexpr std::size_t pages = 4096;
+    static constexpr std::size_t slot = 2 * page; // from one chunk of a row of chunks to the next
+
+    explicit GuardedMemory(int protection) : protection(protection) {
+        const int file = memfd_create("guarded", 0);
+        if (file < 0 || ftruncate(file, pages * page) != 0) throw std::runtime_error("no memory to guard");
+        view = map(file, PROT_NONE);
+        backing = map(file, PROT_READ | PROT_WRITE);
+        close(file);
+    }
+    ~GuardedMemory() {
+        munmap(view, pages * page);
+        munmap(backing, pages * page);
+    }
+    GuardedMemory(const GuardedMemory &) = delete;
+    GuardedMemory &operator=(const GuardedMemory &) = delete;
+
+    // So many chunks a slot apart, each at the end of its page or at the start. Around them is room for a displaced
+    // look.
+    std::byte *take(const std::string &name, std::size_t chunks, std::size_t bytes, bool atEnd) {
+        constexpr std::size_t room = 40;
+        const std::size_t pagesEach = (bytes + page - 1) / page;
+        if (chunks > 1 && pagesEach > 1) throw std::length_error("a chunk larger than a page");
+        next += room;
+        std::byte *const first = view + next * page + (atEnd ? pagesEach * page - bytes : 0);
+        if (next + chunks * (pagesEach + 1) + room > pages) throw std::length_error("the guarded memory is used up");
+        for (std::size_t k = 0; k < chunks; ++k) {
+            open(next, pagesEach, protection);
+            taken.push_back({name, first + k * slot, bytes});
+            next += pagesEach + 1;
+        }
+        next += room;
+        return first;
+    }
+
+    // Lets these bytes be read where they could not be touched.
+    void expose(const std::byte *address, std::size_t bytes) {
+        const auto first = static_cast<std::size_t>(address - view) / page;
+        const auto last = (static_cast<std::size_t>(address - view) + bytes - 1) / page;
+        if (first < 1 || last >= pages) throw std::length_error("beyond the guarded memory");
+        for (std::size_t k = first; k <= last; ++k)
+            if (!opened.contains(k)) open(k, 1, PROT_READ);
+    }
+
+    void giveBack() {
+        if (mprotect(view, pages * page, PROT_NONE) != 0) throw std::runtime_error("mprotect");
+        opened.clear();
+        taken.clear();
+        next = 1;
+    }
+
+    bool contains(const std::byte *address) const { return address >= view && address < view + pages * page; }
+    std::ptrdiff_t alias() const { return backing - view; }
+    std::byte *outOfBounds() const { return view + 64; } // the first page is never opened
+
+    // "8 bytes behind chunk 2 of dst", of the chunk next to the address.
+    std::string describe(const std::byte *address) const {
+        const Chunk *nearest = nullptr;
+        for (const Chunk &chunk : taken)
+            if (nearest == nullptr || distance(chunk, address) < distance(*nearest, address)) nearest = &chunk;
+        if (nearest == nullptr) return "no chunk is near";
+        std::ostringstream text;
+        text << distance(*nearest, address) << " bytes off a chunk of " << nearest->name << ", "
+             << address - nearest->first << " from its start";
+        return text.str();
+    }
+
+private:
+    struct Chunk {
+        std::string name;
+        const std::byte *first;
+        std::size_t bytes;
+    };
+
+    static std::byte *map(int file, int protection) {
+        void *const got = mmap(nullptr, pages * page, protection, MAP_SHARED, file, 0);
+        if (got == MAP_FAILED) throw std::runtime_error("no memory to guard");
+        return static_cast<std::byte *>(got);
+    }
+
+    static std::ptrdiff_t distance(const Chunk &chunk, const std::byte *address) {
+        const std::ptrdiff_t before = chunk.first - address;
+        const std::ptrdiff_t behind = address - (chunk.first + chunk.bytes) + 1;
+        return std::max({before, behind, std::ptrdiff_t{0}});
+    }
+
+    void open(std::size_t first, std::size_t count, int access) {
+        if (mprotect(view + first * page, count * page, access) != 0) throw std::runtime_error("mprotect");
+        for (std::size_t k = first; k < first + count; ++k) opened.insert(k);
+    }
+
+    int protection;
+    std::byte *view = nullptr;
+    std::byte *backing = nullptr;
+    std::size_t next = 1;
+    std::set<std::size_t> opened;
+    std::vector<Chunk> taken;
+};
+
+struct Guards {
+    GuardedMemory readable{PROT_READ};
+    GuardedMemory writable{PROT_READ | PROT_WRITE};
+
+    GuardedMemory &holding(const std::byte *address) { return readable.contains(address) ? readable : writable; }
+    void giveBack() {
+        readable.giveBack();
+        writable.giveBack();
+    }
+};
+
+Guards &guards() {
+    static Guards both;
+    return both;
+}
+
+// ---- Faults
+
+sigjmp_buf faultExit;
+volatile std::sig_atomic_t faultExpected = 0;
+const std::byte *volatile faultAddress = nullptr;
+
+void onFault(int signal, siginfo_t *info, void *) {
+    if (faultExpected == 0) { // not ours: fail as usual, at the same instruction again
+        std::signal(signal, SIG_DFL);
+        return;
+    }
+    faultAddress = static_cast<const std::byte *>(info->si_addr);
+    siglongjmp(faultExit, 1);
+}
+
+// Makes the call; tells the address that it may not touch, if there was one. Leaves both units as they were.
+std::optional<const std::byte *> faultOf(const std::function<void()> &call) {
+    const support::SettingScope scope({});
+    struct sigaction handler = {};
+    struct sigaction oldSegment = {};
+    struct sigaction oldBus = {};
+    handler.sa_sigaction = onFault;
+    handler.sa_flags = SA_SIGINFO;
+    sigaction(SIGSEGV, &handler, &oldSegment);
+    sigaction(SIGBUS, &handler, &oldBus);
+    volatile bool faulted = true;
+    if (sigsetjmp(faultExit, 1) == 0) {
+        faultExpected = 1;
+        call();
+        faulted = false;
+    }
+    faultExpected = 0;
+    sigaction(SIGSEGV, &oldSegment, nullptr);
+    sigaction(SIGBUS, &oldBus, nullptr);
+    if (!faulted) return std::nullopt;
+    return faultAddress;
+}
+
+// ---- Calls between guards
+
+struct Arrangement {
+    bool apart;    // each row, element or run of objects between guards of its own; else the operand as a whole
+    bool atEnd;    // the guard close behind, else close before
+    int direction; // of the strides from chunk to chunk
+
+    std::string describe() const {
+        return std::string(apart ? "apart" : "packed") + (atEnd ? ", guards behind" : ", guards before") +
+               (direction < 0 ? ", backward" : "");
+    }
+};
+
+constexpr std::array arrangements = std::to_array<Arrangement>(
+    {{false, true, 1}, {false, false, 1}, {true, true, 1}, {true, false, 1}, {true, true, -1}, {true, false, -1}});
+
+// Lays the operand into guarded memory.
+void place(Call &call, Place &place, Arrangement arrangement) {
+    const Layout layout = place.operand->layout;
+    const bool matrixOfFour = literal::hasColumnsFourBytesApart(call.function()) && place.operand->matrix;
+    const int e = place.elementSize;
+    const int rows = static_cast<int>(place.rows);
+    const int cols = static_cast<int>(place.cols);
+    const int objects = place.operand->array ? static_cast<int>(call.count()) : 1;
+    const bool table = catalogue::isTable(layout);
+    const bool strided = layout == Layout::strided || layout == Layout::stridedList;
+    const int step = arrangement.direction * static_cast<int>(GuardedMemory::slot);
+    place.elementStride = matrixOfFour ? 4 : e;
+    int chunks = 1;
+    int bytes = 0;
+    if (!arrangement.apart) {
+        bytes = rows * cols * objects * e;
+        place.rowStride = cols * e;
+        place.objectStride = table ? e : rows * place.rowStride;
+        place.positionStride = objects * e;
+        if (matrixOfFour) bytes -= (cols - 1) * 4; // the last row ends earlier
+    } else if (table) {
+        const bool run = layout == Layout::pointer; // the objects of a position, packed
+        bytes = run ? objects * e : e;
+        chunks = rows * cols * (run ? 1 : objects);
+        place.objectStride = run ? e : step;
+        place.positionStride = run ? step : objects * step;
+    } else {
+        bytes = strided ? e : (cols - 1) * place.elementStride + e;
+        chunks = rows * objects * (strided ? cols : 1);
+        if (strided) place.elementStride = step;
+        place.rowStride = strided ? cols * step : step;
+        place.objectStride = rows * place.rowStride;
+    }
+    GuardedMemory &memory = place.operand->written ? guards().writable : guards().readable;
+    std::byte *const first = memory.take(place.operand->name, static_cast<std::size_t>(chunks),
+                                         static_cast<std::size_t>(bytes), arrangement.atEnd);
+    place.origin = first;
+    if (arrangement.apart && arrangement.direction < 0) place.origin -= std::ptrdiff_t{step} * (chunks - 1);
+    place.alias = memory.alias();
+    if (!place.tabled()) return;
+
+    const auto entries = static_cast<std::size_t>(table ? rows * cols : objects);
+    place.entries.clear();
+    for (std::size_t k = 0; k < entries; ++k)
+        place.entries.push_back(place.origin - place.shift +
+                                std::ptrdiff_t{table ? place.positionStride : place.objectStride} *
+                                    static_cast<std::ptrdiff_t>(k));
+    GuardedMemory &readable = guards().readable;
+    std::byte *const put =
+        readable.take("the table of " + place.operand->name, 1, entries * sizeof(std::byte *), arrangement.atEnd);
+    std::memcpy(put + readable.alias(), place.entries.data(), entries * sizeof(std::byte *));
+    place.table = reinterpret_cast<std::byte *const *>(put);
+}
+
+void placePivots(Call &call, Arrangement arrangement) {
+    const bool written = call.function().family->operation == "LUDecomp";
+    GuardedMemory &memory = written ? guards().writable : guards().readable;
+    const std::size_t words = std::size_t{call.size()} * call.count();
+    std::byte *const put = memory.take("pivots", 1, words * 4, arrangement.atEnd);
+    for (std::uint32_t n = 0; n < call.count(); ++n) {
+        const std::vector<std::uint32_t> rows = Factors(call.size(), n).permutation;
+        std::memcpy(put + memory.alias() + std::size_t{4} * n * call.size(), rows.data(), 4 * rows.size());
+    }
+    call.putPivotsAt(reinterpret_cast<std::uint32_t *>(put));
+}
+
+// What the elements are does not matter to the guards, but each call has to come to its end.
+void fill(Call &call) {
+    for (const catalogue::Operand &operand : call.function().operands)
+        for (std::uint32_t n = 0; n < call.objectsOf(operand.name); ++n) {
+            const Place &at = call[operand.name];
+            const Factors factors(call.size(), n);
+            std::vector<double> values(std::size_t{at.rows} * at.cols, 1.0);
+            if (operand.matrix && !operand.written)
+                values = operand.name == "src" ? factors.matrix() : factors.factored();
+            call.set(operand.name, n, values);
+        }
+}
+
+// What slots behind the positions of a table of `dst` lead to, in object 0.
+using Slots = std::map<std::size_t, std::byte *>;
+
+// A slot may serve the looks of two objects.
+std::byte *slotBehindTable(Place &destination, std::size_t slot, Slots &slots) {
+    const auto [found, isNew] = slots.try_emplace(slot, nullptr);
+    if (!isNew) return found->second;
+    GuardedMemory &readable = guards().readable;
+    found->second = readable.take("the displaced pivot", 1, static_cast<std::size_t>(destination.elementSize), true);
+    const std::byte *const entry = found->second - destination.shift;
+    auto *const where = const_cast<std::byte *>(reinterpret_cast<const std::byte *>(destination.table + slot));
+    readable.expose(where, sizeof entry);
+    std::memcpy(where + readable.alias(), &entry, sizeof entry);
+    return found->second;
+}
+
+// The displaced look of object n: an element as many columns behind the last pivot, or a slot of the table as many rows
+// down and the element that it leads to. All of it is for reading only, and is 1.
+void allowDisplacedLook(Call &call, std::uint32_t n, Slots &slots) {
+    Place &destination = call["dst"];
+    const std::uint32_t order = call.size();
+    const std::uint32_t row = Factors(order, n).permutation.back();
+    std::byte *look = destination.address(n, row, order - 1) + std::ptrdiff_t{destination.elementStride} * n * order;
+    if (catalogue::isTable(destination.operand->layout)) {
+        const std::size_t slot = std::size_t{row + n} * order + order - 1;
+        if (slot < destination.entries.size()) return; // an element of the object itself, in the last column of U
+        look = slotBehindTable(destination, slot, slots) + std::ptrdiff_t{destination.objectStride} * n;
+    }
+    GuardedMemory &memory = guards().holding(look);
+    memory.expose(look, static_cast<std::size_t>(destination.elementSize));
+    call.setAt(look + memory.alias(), 1);
+}
+
+void expectNoFault(const Function &function, std::uint32_t size, std::uint32_t count, Arrangement arrangement) {
+    SCOPED_TRACE(function.name + ", size " + std::to_string(size) + ", count " + std::to_string(count) + ", " +
+                 arrangement.describe());
+    guards().giveBack();
+    Call call(function.name, size, count);
+    for (const catalogue::Operand &operand : function.operands) place(call, call[operand.name], arrangement);
+    if (literal::has(function, Kind::dense)) placePivots(call, arrangement);
+    fill(call);
+    Slots slots;
+    if (function.family->operation == "LUDecomp")
+        for (std::uint32_t n = 1; n < call.count(); ++n) allowDisplacedLook(call, n, slots);
+    std::int32_t status = 1;
+    const auto fault = faultOf([&] { status = call.run(); });
+    if (fault) ADD_FAILURE() << "touched memory " << guards().holding(*fault).describe(*fault);
+    else EXPECT_EQ(status, vonkOk);
+}
+
+// ---- The guards themselves
+
+TEST(GuardsThemselves, CatchAReadBehindAndAReadBefore) {
+    for (const bool atEnd : {true, false}) {
+        guards().giveBack();
+        GuardedMemory &memory = guards().readable;
+        std::byte *const bytes = memory.take("bytes", 3, 12, atEnd);
+        volatile std::byte sink{};
+        const auto readAll = [&](std::ptrdiff_t from, std::ptrdiff_t to) {
+            for (std::ptrdiff_t k = from; k < to; ++k)
+                sink = bytes[static_cast<std::ptrdiff_t>(GuardedMemory::slot) + k];
+        };
+        EXPECT_FALSE(faultOf([&] { readAll(0, 12); }));
+        const auto fault = faultOf([&] { readAll(atEnd ? 0 : -1, atEnd ? 13 : 12); });
+        ASSERT_TRUE(fault);
+        EXPECT_EQ(*fault, bytes + GuardedMemory::slot + (atEnd ? 12 : -1));
+        EXPECT_EQ(memory.describe(*fault).substr(0, 27), "1 bytes off a chunk of byte");
+    }
+}
+
+TEST(GuardsThemselves, CatchAWriteToASource) {
+    guards().giveBack();
+    std::byte *const source = guards().readable.take("source", 1, 4, true);
+    std::byte *const destination = guards().writable.take("destination", 1, 4, true);
+    EXPECT_EQ(faultOf([&] { *static_cast<volatile std::byte *>(source) = std::byte{1}; }), source);
+    EXPECT_FALSE(faultOf([&] { *static_cast<volatile std::byte *>(destination) = std::byte{1}; }));
+}
+
+TEST(GuardsThemselves, ExposeForReadingOnly) {
+    guards().giveBack();
+    GuardedMemory &memory = guards().writable;
+    std::byte *const behind = memory.take("bytes", 1, 4, true) + 4;
+    volatile std::byte sink{};
+    EXPECT_EQ(faultOf([&] { sink = *behind; }), behind);
+    memory.expose(behind, 4);
+    EXPECT_FALSE(faultOf([&] { sink = *behind; }));
+    EXPECT_EQ(faultOf([&] { *static_cast<volatile std::byte *>(behind) = std::byte{1}; }), behind);
+}
+
+// An export that is told of one element more than there is goes too far.
+TEST(GuardsThemselves, CatchAnExportThatIsToldOfTooManyElements) {
+    std::size_t told = 0;
+    for (const Function &function : literal::allMembers()) {
+        if (!literal::has(function, Kind::size)) continue;
+        ++told;
+        SCOPED_TRACE(function.name);
+        guards().giveBack();
+        Call call(function.name, 3, 1);
+        for (const catalogue::Operand &operand : function.operands) place(call, call[operand.name], {true, true, 1});
+        if (literal::has(function, Kind::dense)) placePivots(call, {true, true, 1});
+        fill(call);
+        call.pass(literal::parameterOf(function, Kind::size), 4);
+        EXPECT_TRUE(faultOf([&] { call.run(); }));
+    }
+    EXPECT_EQ(told, (360U + 90U + 150U) / 5U);
+}
+
+// Without its page the displaced look is caught too, at the very address: of packed objects, that of the last goes
+// beyond the array, and the first one past the middle of the order beyond the table.
+TEST(GuardsThemselves, CatchTheDisplacedLook) {
+    constexpr Arrangement packed{false, true, 1};
+    for (const Function &function : literal::allMembers()) {
+        if (function.family->operation != "LUDecomp" || !function.array()) continue;
+        for (const std::uint32_t order : literal::sizesOf(function, {2, 3, 7})) {
+            SCOPED_TRACE(function.name + ", order " + std::to_string(order));
+            guards().giveBack();
+            Call call(function.name, order, order);
+            for (const catalogue::Operand &operand : function.operands) place(call, call[operand.name], packed);
+            placePivots(call, packed);
+            fill(call);
+            const Place &destination = call["dst"];
+            const bool table = catalogue::isTable(destination.operand->layout);
+            const std::uint32_t n = table ? (order + 1) / 2 : order - 1;
+            const std::uint32_t row = Factors(order, n).permutation.back();
+            ASSERT_EQ(row, n);
+            const std::byte *expected =
+                destination.address(n, row, order - 1) + std::size_t{n} * order * destination.elementSize;
+            if (table)
+                expected =
+                    reinterpret_cast<const std::byte *>(destination.table + std::size_t{2} * n * order + order - 1);
+            EXPECT_EQ(faultOf([&] { call.run(); }), expected);
+        }
+    }
+}
+
+// ---- All exports
+
+TEST(Guards, FindNoCallOutsideItsOperands) {
+    for (const Function &function : literal::allMembers())
+        for (const Arrangement arrangement : arrangements)
+            for (const std::uint32_t size : literal::sizesOf(function, {1, 2, 3, 6, 7}))
+                for (const std::uint32_t count : {1U, 3U}) {
+                    expectNoFault(function, size, count, arrangement);
+                    if (!function.array()) break;
+                }
+}
+
+// Lengths around the blocks of eight and at all alignments that the end of a page gives.
+TEST(Guards, FindNoLongVectorOutsideItsOperands) {
+    for (const Function &function : literal::allMembers()) {
+        if (function.section->id != "vector-vector" || function.order != 0) continue;
+        for (const std::uint32_t length : {10U, 11U, 12U, 13U, 14U, 15U, 16U, 17U, 18U, 19U, 24U, 27U, 40U, 1030U})
+            for (const bool atEnd : {true, false}) expectNoFault(function, length, 2, {false, atEnd, 1});
+    }
+}
+
+// Blocks of four objects and what is left over.
+TEST(Guards, FindNoBlockOfThreeVectorsOutsideItsOperands) {
+    for (const Function &function : literal::allMembers()) {
+        if (function.group != "vava" || function.order != 3) continue;
+        for (std::uint32_t count = 1; count <= 9; ++count)
+            for (const Arrangement arrangement : arrangements) expectNoFault(function, 3, count, arrangement);
+    }
+}
+
+// ---- Calls that have nothing to do
+
+// Every pointer leads out of bounds; a table of positions, which is looked at ahead of the count, has such entries.
+void pointOutOfBounds(Call &call) {
+    for (const catalogue::Parameter &parameter : call.function().parameters) {
+        if (parameter.kind == Kind::table) {
+            auto &entries = call[call.function().operands[static_cast<std::size_t>(parameter.operand)].name].entries;
+            std::ranges::fill(entries, guards().readable.outOfBounds());
+        } else if (literal::isPointer(parameter.kind)) {
+            call.pass(parameter.name, reinterpret_cast<std::uintptr_t>(guards().readable.outOfBounds()));
+        }
+    }
+}
+
+TEST(Guards, FindNothingTouchedForNoObjects) {
+    for (const Function &function : literal::allMembers()) {
+        if (!function.array()) continue;
+        SCOPED_TRACE(function.name);
+        guards().giveBack();
+        Call call(function.name, 3, 2);
+        pointOutOfBounds(call);
+        call.pass("count", 0);
+        std::int32_t status = 1;
+        EXPECT_FALSE(faultOf([&] { status = call.run(); }));
+        EXPECT_EQ(status, vonkOk);
+    }
+}
+
+TEST(Guards, FindNothingTouchedWhereAPointerIsNullOrTheSizeIsZero) {
+    for (const Function &function : literal::allMembers())
+        for (const catalogue::Parameter &parameter : function.parameters) {
+            if (!literal::isPointer(parameter.kind) && parameter.kind != Kind::size) continue;
+            SCOPED_TRACE(function.name + ", " + parameter.name + " is zero");
+            guards().giveBack();
+            Call call(function.name, 3, 2);
+            for (const catalogue::Parameter &other : function.parameters)
+                if (literal::isPointer(other.kind))
+                    call.pass(other.name, reinterpret_cast<std::uintptr_t>(guards().readable.outOfBounds()));
+            call.pass(parameter.name, 0);
+            std::int32_t status = 1;
+            EXPECT_FALSE(faultOf([&] { status = call.run(); }));
+            EXPECT_EQ(status, parameter.kind == Kind::size ? vonkErrSize : vonkErrNullPtr);
+        }
+}
+
+} // namespace
