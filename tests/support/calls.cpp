@@ -392,7 +392,7 @@ void Builder::makeNullEntry() {
     const bool positions = isTable(described(k).layout);
     const std::uint32_t entries = positions ? placement.shape.rows * placement.shape.cols : placement.objects;
     const auto entry = static_cast<std::uint32_t>(random.below(entries));
-    if (!families::testsEntry(function, described(k), entry)) return;
+    if (!families::testsEntry(function, described(k), sizes, entry)) return;
     const std::uintptr_t null = 0;
     std::memcpy(reinterpret_cast<void *>(placement.table + 8 * std::uintptr_t{entry}), &null, sizeof null);
     call.traits.nullEntry = true;

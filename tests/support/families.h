@@ -42,7 +42,8 @@ Reach extraReach(const catalogue::Function &function, const catalogue::Operand &
 bool testsPointers(const catalogue::Function &function);
 
 // Whether a null at this entry of the operand's table is answered by a status.
-bool testsEntry(const catalogue::Function &function, const catalogue::Operand &operand, std::uint32_t entry);
+bool testsEntry(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes,
+                std::uint32_t entry);
 
 // Whether a call that finds a null entry is sure to stop there however large `count` is.
 bool stopsAtNullEntry(const catalogue::Function &function, const catalogue::Operand &operand);
