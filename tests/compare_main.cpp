@@ -90,9 +90,9 @@ std::vector<support::Setting> settingsFor(const support::Call &call) {
     return {{support::Precision::bits53, call.setting.rounding}, {support::Precision::bits64, call.setting.rounding}};
 }
 
-class Session {
+class Comparing {
 public:
-    explicit Session(const Options &options)
+    explicit Comparing(const Options &options)
         : options(options), library(options.library),
           comparison(
               arena, [this](const support::Call &call) { return support::invoke(address, *call.function, call.words); },
@@ -118,7 +118,7 @@ private:
     std::uint64_t shortOf = 0; // exports that are missing, or whose calls do not add up to enough
 };
 
-bool Session::prepare(const Function &function) {
+bool Comparing::prepare(const Function &function) {
     address = library.find(function.name);
     const bool modelled = model::knows(function.name);
     if (address == nullptr) std::cout << function.name << ": the library has no such export\n";
@@ -126,14 +126,14 @@ bool Session::prepare(const Function &function) {
     return address != nullptr && modelled;
 }
 
-void Session::reportFailure(const support::Call &call, support::Setting setting, const support::Verdict &verdict) {
+void Comparing::reportFailure(const support::Call &call, support::Setting setting, const support::Verdict &verdict) {
     std::cout << "\nseed " << call.seed << ", " << call.function->name << ", call " << call.index << ", "
               << support::describe(setting) << "\n"
               << support::describeWords(call) << verdict.complaint << "  again: compare --library " << options.library
               << " " << support::replayOptions(call) << "\n";
 }
 
-void Session::compareExport(const Function &function) {
+void Comparing::compareExport(const Function &function) {
     constexpr std::uint64_t shownFailures = 3;
     support::Tally tally;
     for (std::uint64_t index = 0; index < options.calls; ++index) {
@@ -154,13 +154,13 @@ void Session::compareExport(const Function &function) {
     total.add(tally);
 }
 
-void Session::showProgress(std::size_t done, std::size_t all, const std::string &name) const {
+void Comparing::showProgress(std::size_t done, std::size_t all, const std::string &name) const {
     if (!isatty(STDERR_FILENO)) return;
     std::fprintf(stderr, "\r\033[K%zu/%zu %s", done, all, name.c_str());
     if (done == all) std::fprintf(stderr, "\r\033[K");
 }
 
-bool Session::conclude() const {
+bool Comparing::conclude() const {
     std::cout << support::summary(total);
     if (shortOf != 0) std::cout << shortOf << " exports are missing or were not compared well enough\n";
     const std::uint64_t failed = total.failed + shortOf;
@@ -168,7 +168,7 @@ bool Session::conclude() const {
     return failed == 0 && total.calls != 0;
 }
 
-bool Session::compareAll() {
+bool Comparing::compareAll() {
     const std::vector<Function> functions = selectFunctions(options);
     std::size_t done = 0;
     for (const Function &function : functions) {
@@ -180,7 +180,7 @@ bool Session::compareAll() {
     return conclude();
 }
 
-bool Session::replay() {
+bool Comparing::replay() {
     const std::size_t colon = options.replay.find(':');
     if (colon == std::string::npos) throw std::runtime_error("--replay takes NAME:INDEX");
     const std::string name = options.replay.substr(0, colon);
@@ -229,8 +229,8 @@ int main(int argc, char **argv) {
     try {
         if (options.list) return listFunctions(options), 0;
         watchCalls();
-        Session session(options);
-        return (options.replay.empty() ? session.compareAll() : session.replay()) ? 0 : 1;
+        Comparing comparing(options);
+        return (options.replay.empty() ? comparing.compareAll() : comparing.replay()) ? 0 : 1;
     } catch (const std::exception &problem) {
         std::cerr << "compare: " << problem.what() << "\n";
         return 2;
