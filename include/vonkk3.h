@@ -926,13 +926,49 @@ VonkStatus vonkSub_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift
 
 /* ---- Matrix by matrix -----------------------------------------------------------------------------------------------
  *
+ * dst(n, i, j) = sum over k of A(i, k) B(k, j)
  *
+ * with A(i, k) = src1(n, i, k), or src1(n, k, i) if the first operand carries `T`, and B alike from `src2`. A single
+ * operand serves all objects. Products and sums are rounded one by one, k ascending, and never fused.
+ *
+ * Sizes: `src1Cols` and `src1Rows`, `src2Cols` and `src2Rows`. For square matrices they mean what they say. Otherwise
+ * the tests look at a transposed operand as it is stored and the loops as it enters the product: the result has
+ * `src1Rows` rows and `src2Cols` columns and sums `src2Rows` terms, except in vonkMul_mmT of run-time size in the
+ * standard layout, which has `src2Rows` columns and sums `src1Cols` terms. vonkErrSize unless `src1Cols` = `src2Rows`
+ * (`mm`, `mam`), `src1Rows` = `src2Cols` (`mma`, `mama`, and with both transposed), `src1Rows` = `src2Rows` (first
+ * transposed), `src1Cols` = `src2Cols` (second transposed); and if `src1Rows`, `src1Cols` or one word of `src2` is 0:
+ * `src2Cols` in `mm` and with the first transposed alone, else `src2Rows`.
+ *
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize as told; vonkErrNullPtr if a table or list
+ * entry is null: in single forms in `P` entry by entry as the sums reach it, earlier cells and the sum so far being in
+ * place; in `P` and `PS2` of arrays all of `src1`, `src2` and `dst` ahead of everything else, even at `count` 0; in
+ * `L` and `LS2` when the object's turn comes. `count` 0 then gives vonkOk.
+ *
+ * How sums are made:
+ * - `32f` of fixed size in the standard layout and `L`, and some members beside: in lanes, from the first product on,
+ *   one store per element.
+ * - `32f` otherwise: from +0, and the cell follows every step.
+ * - `64f`: from +0 in the 80-bit type, and the cell follows every step, rounded. In the standard layout and `S2` the
+ *   sum itself stays unrounded to the end; in `P`, `PS2`, `L` and `LS2` it is rounded to 64 bits at every step.
+ *
+ * Members that behave unlike their siblings:
+ * - In lanes are also, of `32f`: `mam`, `mama` of 3x3, 4x4 and 5x5 and `maTm`, `mamT`, `maTmT` of 3x3 in `S2`; `mam`,
+ *   `maTm`, `mamT` of 3x3 in `P` and `PS2`; `mam`, `maTm`, `mamT`, `maTmT` of 3x3 in `LS2`. Those in `P`, `PS2` and
+ *   `LS2` never test a table or list entry.
+ * - `mm`, `mmT` and `mTmT` of `32f`, 6x6, `S2` add in pairs: ((p0 + p1) + (p2 + p3)) + (p4 + p5).
+ * - `mma` and `mama` of run-time size carry the test of the doubly transposed forms. In `mam` a `src2Cols` of 0
+ *   passes, and nothing is written.
+ * - The scan of the `dst` table of run-time size covers `src1Cols` * `src2Rows` entries (`src1Rows` for the first,
+ *   `src2Cols` for the second if transposed), which need not be those that are written.
  *
  * Overlap:
- *
+ * Nothing tests overlap, and sums that are stored at every step destroy an operand under them. The forms in lanes hold
+ * B and read A row by row, so some calls in place are right: with `dst` = `src1` where A is not transposed (3x3 to
+ * 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in `mmT`, `mTmT` of 6x6). A
+ * single operand is never safe under an array.
  *
  * Read beyond the operands:
- *
+ * Nothing.
  */
 
 VonkStatus vonkMul_mm_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
@@ -3253,13 +3289,35 @@ VonkStatus vonkMul_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shi
 
 /* ---- Matrix by vector -----------------------------------------------------------------------------------------------
  *
+ * dst(n, i) = sum over k of A(i, k) src2(n, k)
  *
+ * with A(i, k) = src1(n, i, k), or src1(n, k, i) in the patterns with `T`. A single operand serves all objects.
+ * Products and sums are rounded one by one and never fused.
+ *
+ * Sizes: `src1Cols` and `src1Rows`, `src2Len`. There are `src1Rows` results of `src1Cols` terms, transposed or not.
+ * vonkErrSize if `src1Cols` or `src1Rows` is 0, or unless `src1Cols` = `src2Len` (with `T`: `src1Rows` = `src2Len`).
+ *
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize as told; vonkErrNullPtr if a table or list
+ * entry is null: in single forms in `P` entry by entry as the sums reach it, earlier elements and the sum so far being
+ * in place; in `P` and `PS2` of arrays all of `src1`, `src2` and `dst` ahead of everything else, even at `count` 0; in
+ * `L` and `LS2` when the object's turn comes. `count` 0 then gives vonkOk.
+ *
+ * Sums run as those of matrix by matrix, but for `32f` of fixed size in the standard layout and `L`, which are made in
+ * lanes with orders of their own. With p0, p1, ... for the products of row i:
+ * - 3x3: (p0 + p1) + p2
+ * - 4x4: (p0 + p2) + (p1 + p3); transposed (p0 + p1) + (p2 + p3)
+ * - 5x5: ((p0 + p1) + p4) + (p2 + p3), but the LAST element, if not transposed, is ((p0 + p2) + p4) + (p1 + p3)
+ * - 6x6: ((p0 + p2) + p4) + ((p1 + p3) + p5); transposed ((p0 + p1) + (p2 + p3)) + (p4 + p5)
+ *
+ * Members that behave unlike their siblings:
+ * - vonkMul_mTv of 4x4 in `P`, both types, never tests the entry at position 8 of the `src1` table.
  *
  * Overlap:
- *
+ * Nothing tests overlap. In lanes the vector is held before the first store, so `dst` may be `src2`; elsewhere sums
+ * that are stored at every step destroy it.
  *
  * Read beyond the operands:
- *
+ * Nothing.
  */
 
 VonkStatus vonkMul_mv_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
@@ -4306,13 +4364,24 @@ VonkStatus vonkMul_maTva_64f_6x6_LS2(const double *const *src1, int32_t src1Shif
 
 /* ---- Gaxpy ----------------------------------------------------------------------------------------------------------
  *
+ * dst(n, i) = (sum over k of src1(i, k) src2(n, k)) + src3(n, i)
  *
+ * for i below `rows` and k below `cols`: a single matrix, a vector or an array of vectors. The sum is finished first,
+ * as in matrix by vector, and `src3` is added last. `64f` in the standard layout and `S2` adds it to the unrounded
+ * sum.
+ *
+ * Status: vonkErrNullPtr if `src1`, `src2`, `src3` or `dst` is null; vonkErrSize if `cols` or `rows` is 0;
+ * vonkErrNullPtr if a table or list entry is null: of `v` in `P` those of `src3` and `dst` ahead of an element, those
+ * of its terms as the sum reaches them, earlier elements and the sum so far being in place; of `va` in `P` and `PS2`
+ * all four tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the object's turn comes. `count`
+ * 0 then gives vonkOk.
  *
  * Overlap:
- *
+ * Nothing tests overlap. `32f` of fixed size in the standard layout and `L` holds both vectors before it stores, so
+ * `dst` may be `src2` or `src3`; elsewhere the sum that is stored at every step destroys what lies under it.
  *
  * Read beyond the operands:
- *
+ * Nothing.
  */
 
 VonkStatus vonkGaxpy_v_32f(const float *src1, int32_t src1RowStride, const float *src2, const float *src3, float *dst,
