@@ -4,3 +4,6 @@
 std::int32_t bareAddCall(const float *, const float *, float *) { return 0; }
 std::int32_t bareSubCall(const float *, const float *, float *) { return 0; }
 std::int32_t bareDecomposeCall(const float *, std::int32_t, std::uint32_t *, float *, std::int32_t) { return 0; }
+std::int32_t bareMultiplyCall(const float *, std::int32_t, const float *, std::int32_t, float *, std::int32_t) {
+    return 0;
+}

@@ -5,6 +5,7 @@
 #include "contest.h"
 #include "data.h"
 #include "peers/plain_lu.h"
+#include "peers/plain_products.h"
 
 #include <vonkk3.h>
 
@@ -120,6 +121,27 @@ Contest decomposeCalls(std::size_t count) {
     return contest;
 }
 
+Contest multiplyCalls(std::size_t count) {
+    const auto shared = std::make_shared<CallData>(count, 16);
+    const float *a = shared->a.data(), *b = shared->b.data();
+    float *d = shared->d.data();
+    const auto inLine = [=](std::size_t n) {
+        plain::multiplyOne<plain::Loops::rowByRow, float, float, 4>(a + n * 16, b + n * 16, d + n * 16);
+        return vonkOk;
+    };
+    const auto over = [=](auto function) {
+        return
+            [=](std::size_t n) { return function(a + n * 16, rowBytes, b + n * 16, rowBytes, d + n * 16, rowBytes); };
+    };
+    CallData *data = shared.get();
+    Contest contest = contestOf(shared);
+    contest.contestants = callContestants(
+        data, [=] { return Values(data->d.data(), data->d.data() + data->d.size()); },
+        over([](auto... p) { return vonkMul_mm_32f_4x4(p...); }),
+        over([](auto... p) { return bareMultiplyCall(p...); }), inLine);
+    return contest;
+}
+
 void add(Rows &rows, const std::string &function, Contest (*prepare)(std::size_t)) {
     for (const std::size_t count : objectCounts)
         rows.push_back({function + "/" + std::to_string(count), [=] { return prepare(count); }});
@@ -131,6 +153,7 @@ void addCallRows(Rows &rows) {
     add(rows, "vonkAdd_vv_32f_4x1", vectorCalls<4, vonkAdd_vv_32f_4x1, bareAddCall, std::plus<float>>);
     add(rows, "vonkSub_vv_32f_3x1", vectorCalls<3, vonkSub_vv_32f_3x1, bareSubCall, std::minus<float>>);
     add(rows, "vonkLUDecomp_m_32f_4x4", decomposeCalls);
+    add(rows, "vonkMul_mm_32f_4x4", multiplyCalls);
 }
 
 } // namespace bench

@@ -37,7 +37,7 @@ fault() { # NAME FILE SED_SCRIPT
     elif run_tests; then
         echo "MISSED: $1"; missed=$((missed + 1))
     else
-        red=$(sed -nE 's/^ *[0-9]+ - ([^ ]+) .*/\1/p' "$log/tests" | head -n 1)
+        red=$(sed -nE 's/^[[:space:]]*[0-9]+ - ([^ ]+) .*/\1/p' "$log/tests" | head -n 1)
         echo "caught: $1, by $red"; caught=$((caught + 1))
     fi
     cp "$log/original" "$tree/$2"
@@ -86,6 +86,23 @@ fault 'the tolerance is relative to the type' src/lu/decompose.h 's/W\(pivotTole
 fault 'the half column step is levelled' src/lu/back_substitute.h 's/sizeof\(Real64\) \/ 2/sizeof(Real64)/'
 fault 'a single operand is read anew for each object' src/vector/combine.h \
     's/return \[held = Lanes<length>::load\(operand\.view\(0\)\.base\)\]\(std::size_t\) \{ return held; \}/return [\&](std::size_t) { return Lanes<length>::load(operand.view(0).base); }/'
+
+# Products
+fault 'the dimension tests of mma are levelled' src/product/shape.h 's/P::secondArray \? rows1 == cols2 : cols1 == rows2/cols1 == rows2/'
+fault 'mmT loops over the shape that enters in every layout' src/product/shape.h 's/ \&\&$/ \&\& false \&\&/'
+fault 'a running sum begins at its first product' src/product/schemes.h 's/sum = sum \+ W\(a/sum = (k == 0 ? W(-0.0F) : sum) + W(a/'
+fault 'a cell is stored only when its sum is complete' src/product/schemes.h 's/^( +)d\.store\(i, j, round<T>\(sum\)\);/\1if (k + 1 == terms) d.store(i, j, round<T>(sum));/'
+fault 'sums of the list layouts stay wide' src/product/schemes.h 's/layout != Layout::Standard \&\& layout != Layout::S2/layout != Layout::Standard \&\& layout != Layout::S2 \&\& layout != Layout::L/'
+fault 'the pair-sum kernel adds in plain order' src/product/kernels.h \
+    's/\(\(product\(0\) \+ product\(1\)\) \+ \(product\(2\) \+ product\(3\)\)\)/(((product(0) + product(1)) + product(2)) + product(3))/'
+fault 'column 4 is held in every 5x5' src/product/multiply.h 's/rereadsColumn4 = !P::secondArray/rereadsColumn4 = false \&\& !P::secondArray/'
+fault 'pairs of 6x6 are always held' src/product/multiply.h 's/fetchesPairsLate = !P::isArray/fetchesPairsLate = false \&\& !P::isArray/'
+fault 'kernels in tables test their entries' src/product/multiply.h \
+    's/testsEntries = schemeOf/testsEntries = true || schemeOf/'
+fault 'the last element of 5x5 adds like the others' src/product/vector_kernels.h \
+    's/_mm_add_ss\(_mm_add_ss\(halves, last\), odd\)/_mm_add_ss(_mm_add_ss(halves, odd), last)/'
+fault 'Gaxpy adds its vector first' src/product/gaxpy.h 's/round<T>\(sum \+ Working<T>\(w\.load\(i\)\)\)/round<T>(Working<T>(round<T>(sum)) + Working<T>(w.load(i)))/'
+fault 'the entry at position 8 is tested' src/product/multiply_vector.h 's/Cols::value == 4 \&\& A::layout/Cols::value == 7 \&\& A::layout/'
 
 # Loads, stores, blocks
 fault 'three lanes store a fourth' src/frame/lanes.h '/void store3/,/^}/s/store1\(address, lanes\);/store4(address, lanes);/'

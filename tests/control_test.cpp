@@ -92,7 +92,11 @@ const std::array occasions = std::to_array<Occasion>({
      [](Call &call) { fillWith(call, call.function().type == Type::real32 ? 3e38 : 1.7e308); }},
     {"denormals", [](Call &call) { fillWith(call, call.function().type == Type::real32 ? 0x1p-140 : 0x1p-1060); }},
     {"a null pointer", [](Call &call) { fill(call), call.pass("dst", 0); }},
-    {"no size", [](Call &call) { fill(call), call.pass("len", 0), call.pass("order", 0); }},
+    {"no size",
+     [](Call &call) {
+         fill(call);
+         for (const char *size : {"len", "order", "cols", "src1Cols"}) call.pass(size, 0);
+     }},
     {"no objects", [](Call &call) { fill(call), call.pass("count", 0); }},
 });
 

@@ -386,10 +386,11 @@ TEST(GuardsThemselves, CatchAnExportThatIsToldOfTooManyElements) {
         for (const catalogue::Operand &operand : function.operands) place(call, call[operand.name], {true, true, 1});
         if (literal::has(function, Kind::dense)) placePivots(call, {true, true, 1});
         fill(call);
-        call.pass(literal::parameterOf(function, Kind::size), 4);
+        for (const catalogue::Parameter &parameter : function.parameters)
+            if (parameter.kind == Kind::size) call.pass(parameter.name, 4);
         EXPECT_TRUE(faultOf([&] { call.run(); }));
     }
-    EXPECT_EQ(told, (360U + 90U + 150U) / 5U);
+    EXPECT_EQ(told, (360U + 90U + 150U + 840U + 420U + 90U) / 5U);
 }
 
 // Without its page the displaced look is caught too, at the very address: of packed objects, that of the last goes
@@ -478,10 +479,19 @@ TEST(Guards, FindNothingTouchedForNoObjects) {
     }
 }
 
+// Products of an array of matrices and one matrix let the columns of that one be 0, and then look at their tables and
+// lists but at no element.
+bool passesAsZero(const Function &function, const catalogue::Parameter &parameter) {
+    return function.family->operation == "Mul" && function.group == "mam" && parameter.name == "src2Cols";
+}
+
 TEST(Guards, FindNothingTouchedWhereAPointerIsNullOrTheSizeIsZero) {
     for (const Function &function : literal::allMembers())
         for (const catalogue::Parameter &parameter : function.parameters) {
             if (!literal::isPointer(parameter.kind) && parameter.kind != Kind::size) continue;
+            const bool passes = passesAsZero(function, parameter);
+            const Layout layout = function.operands.back().layout;
+            if (passes && (catalogue::isTable(layout) || catalogue::isList(layout))) continue;
             SCOPED_TRACE(function.name + ", " + parameter.name + " is zero");
             guards().giveBack();
             Call call(function.name, 3, 2);
@@ -491,7 +501,7 @@ TEST(Guards, FindNothingTouchedWhereAPointerIsNullOrTheSizeIsZero) {
             call.pass(parameter.name, 0);
             std::int32_t status = 1;
             EXPECT_FALSE(faultOf([&] { status = call.run(); }));
-            EXPECT_EQ(status, parameter.kind == Kind::size ? vonkErrSize : vonkErrNullPtr);
+            EXPECT_EQ(status, passes ? vonkOk : parameter.kind == Kind::size ? vonkErrSize : vonkErrNullPtr);
         }
 }
 

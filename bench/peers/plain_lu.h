@@ -3,17 +3,12 @@
 // and pivots below the tolerance are refused. T is what memory holds, W what is worked in.
 #pragma once
 
+#include "peers/unroll.h"
+
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
-
-// By itself the compiler leaves some of these loops rolled, and the local copy in memory.
-#ifdef __clang__
-#define BENCH_UNROLL _Pragma("unroll")
-#else
-#define BENCH_UNROLL _Pragma("GCC unroll 8")
-#endif
 
 namespace bench::plain {
 

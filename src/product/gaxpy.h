@@ -47,8 +47,7 @@ inline VonkStatus gaxpy(const A &src1, const V &src2, const W &src3, const D &ds
             anyTableEntryNull(rows, dst))
             return vonkErrNullPtr;
 
-    if constexpr (multipliesVectorInLanes<T, D::layout, Cols>)
-        return gaxpyInLanes(src1, src2, src3, dst, cols, count);
+    if constexpr (multipliesVectorInLanes<T, D::layout, Cols>) return gaxpyInLanes(src1, src2, src3, dst, cols, count);
     else
         return forEachObject(
             count,

@@ -1,5 +1,5 @@
-// Row-broadcast kernels: Real32 products of fixed order in four lanes. The second operand is held in registers, a row of
-// the result is ((A(i,0) R0 + A(i,1) R1) + A(i,2) R2) + ..., with A read element by element, row by row, as it goes.
+// Row-broadcast kernels: Real32 products of fixed order in four lanes. The second operand is held in registers, a row
+// of the result is ((A(i,0) R0 + A(i,1) R1) + A(i,2) R2) + ..., with A read element by element, row by row, as it goes.
 // That order of reads and stores is what calls in place stand on.
 #pragma once
 
@@ -10,32 +10,52 @@
 namespace vonkk3::product {
 
 inline __m128 broadcast(Real32 value) { return _mm_set1_ps(value); }
+
+// One lane in all four. `lane` is known when compiling.
+VONKK3_INLINE __m128 broadcastLane(__m128 lanes, std::size_t lane) {
+    const __m128i bits = _mm_castps_si128(lanes);
+    switch (lane) {
+    case 0: return _mm_castsi128_ps(_mm_shuffle_epi32(bits, _MM_SHUFFLE(0, 0, 0, 0)));
+    case 1: return _mm_castsi128_ps(_mm_shuffle_epi32(bits, _MM_SHUFFLE(1, 1, 1, 1)));
+    case 2: return _mm_castsi128_ps(_mm_shuffle_epi32(bits, _MM_SHUFFLE(2, 2, 2, 2)));
+    default: return _mm_castsi128_ps(_mm_shuffle_epi32(bits, _MM_SHUFFLE(3, 3, 3, 3)));
+    }
+}
+
 inline __m128 broadcastPair(Real32 low, Real32 high) { return _mm_setr_ps(low, low, high, high); }
 inline __m128 multiplyAdd(__m128 sum, __m128 a, __m128 b) { return _mm_add_ps(sum, _mm_mul_ps(a, b)); }
 
 template <class View> inline constexpr bool hasAdjacentRows = false;
 template <class T> inline constexpr bool hasAdjacentRows<RowsView<T>> = true;
 
-// Columns 0 to 3 (of 3x3: 0 to 2) of row i of a matrix; the fourth lane of 3x3 is nothing.
-template <std::size_t order, class View> VONKK3_INLINE __m128 loadRowHead(const View &view, std::size_t i) {
-    if constexpr (hasAdjacentRows<View> && order == 3)
-        return _mm_movelh_ps(load2(view.at(i, 0)), load1(view.at(i, 2)));
+// Columns 0 to 3 (of 3x3: 0 to 2, and nothing in the fourth lane) of row i of a matrix, in the order of the lanes.
+template <std::size_t order, class View> VONKK3_INLINE __m128 loadInOrder(const View &view, std::size_t i) {
+    if constexpr (hasAdjacentRows<View> && order == 3) return _mm_movelh_ps(load2(view.at(i, 0)), load1(view.at(i, 2)));
     else if constexpr (hasAdjacentRows<View>) return load4(view.at(i, 0));
     else if constexpr (order == 3) return _mm_setr_ps(view.load(i, 0), view.load(i, 1), view.load(i, 2), 0);
     else return _mm_setr_ps(view.load(i, 0), view.load(i, 1), view.load(i, 2), view.load(i, 3));
 }
 
+// The same as the kernels work it. A row of 3x3 lies in lanes 0, 2 and 3, where one element and a pair go to and fro
+// without shuffling.
+inline __m128 spreadThree(__m128 inOrder) { return _mm_shuffle_ps(inOrder, inOrder, _MM_SHUFFLE(2, 1, 0, 0)); }
+
+template <std::size_t order, class View> VONKK3_INLINE __m128 loadRowHead(const View &view, std::size_t i) {
+    if constexpr (order != 3) return loadInOrder<order>(view, i);
+    else if constexpr (hasAdjacentRows<View>) return load3(view.at(i, 0));
+    else return _mm_setr_ps(view.load(i, 0), 0, view.load(i, 1), view.load(i, 2));
+}
+
 template <std::size_t order, class View> VONKK3_INLINE void storeRowHead(const View &view, std::size_t i, __m128 row) {
-    if constexpr (hasAdjacentRows<View>) {
+    const auto lane = [&](std::size_t k) VONKK3_INLINED { return _mm_cvtss_f32(broadcastLane(row, k)); };
+    if constexpr (hasAdjacentRows<View> && order == 3) store3(view.at(i, 0), row);
+    else if constexpr (hasAdjacentRows<View>) {
         store2(view.at(i, 0), row);
-        if constexpr (order == 3) store1(view.at(i, 2), _mm_movehl_ps(row, row));
-        else _mm_storeh_pi(pair(view.at(i, 2)), row);
+        _mm_storeh_pi(pair(view.at(i, 2)), row);
     } else {
         constexpr std::size_t columns = order == 3 ? 3 : 4;
-        forIndices(0, columns, fixed<columns>, [&](std::size_t j) VONKK3_INLINED {
-            view.store(i, j, _mm_cvtss_f32(row));
-            row = _mm_shuffle_ps(row, row, _MM_SHUFFLE(0, 3, 2, 1));
-        });
+        forIndices(0, columns, fixed<columns>,
+                   [&](std::size_t j) VONKK3_INLINED { view.store(i, j, lane(order == 3 && j > 0 ? j + 1 : j)); });
     }
 }
 
@@ -55,9 +75,10 @@ template <std::size_t order> struct HeldRows {
         __m128 rows[4];
         rows[3] = _mm_setzero_ps();
         forIndices(0, lanes, fixed<lanes>,
-                   [&](std::size_t j) VONKK3_INLINED { rows[j] = loadRowHead<order>(b.stored, j); });
+                   [&](std::size_t j) VONKK3_INLINED { rows[j] = loadInOrder<order>(b.stored, j); });
         _MM_TRANSPOSE4_PS(rows[0], rows[1], rows[2], rows[3]);
-        forIndices(0, lanes, fixed<lanes>, [&](std::size_t k) VONKK3_INLINED { head[k] = rows[k]; });
+        forIndices(0, lanes, fixed<lanes>,
+                   [&](std::size_t k) VONKK3_INLINED { head[k] = order == 3 ? spreadThree(rows[k]) : rows[k]; });
         if constexpr (order > 4)
             forIndices(4, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
                 head[k] = _mm_setr_ps(b.load(k, 0), b.load(k, 1), b.load(k, 2), b.load(k, 3));
@@ -76,13 +97,56 @@ template <std::size_t order> struct HeldRows {
     }
 };
 
+// The elements of row i of A, each in all four lanes; read when the row's turn comes.
+template <std::size_t order, class View> struct RowFactors {
+    const View &a;
+    std::size_t i;
+    VONKK3_INLINE RowFactors(const View &a, std::size_t i) : a(a), i(i) {}
+    VONKK3_INLINE __m128 operator[](std::size_t k) const { return broadcast(a.load(i, k)); }
+};
+
+// Where they are adjacent, four of them come with one load.
+template <std::size_t order, class T>
+requires(order >= 4) struct RowFactors<order, RowsView<T>> {
+    const RowsView<T> &a;
+    std::size_t i;
+    __m128 head;
+    VONKK3_INLINE RowFactors(const RowsView<T> &a, std::size_t i) : a(a), i(i), head(load4(a.at(i, 0))) {}
+    VONKK3_INLINE __m128 operator[](std::size_t k) const {
+        return k < 4 ? broadcastLane(head, k) : broadcast(a.load(i, k));
+    }
+};
+
+// The elements of rows i and i + 1 of A, each in two lanes.
+template <class View> struct TwoRowFactors {
+    const View &a;
+    std::size_t i;
+    VONKK3_INLINE TwoRowFactors(const View &a, std::size_t i) : a(a), i(i) {}
+    VONKK3_INLINE __m128 operator[](std::size_t k) const { return broadcastPair(a.load(i, k), a.load(i + 1, k)); }
+};
+
+template <class T> struct TwoRowFactors<RowsView<T>> {
+    __m128 elements[6];
+    VONKK3_INLINE TwoRowFactors(const RowsView<T> &a, std::size_t i) {
+        const __m128 upper = load4(a.at(i, 0)), lower = load4(a.at(i + 1, 0));
+        const __m128 upperEnd = load2(a.at(i, 4)), lowerEnd = load2(a.at(i + 1, 4));
+        elements[0] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(0, 0, 0, 0));
+        elements[1] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(1, 1, 1, 1));
+        elements[2] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(2, 2, 2, 2));
+        elements[3] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(3, 3, 3, 3));
+        elements[4] = _mm_shuffle_ps(upperEnd, lowerEnd, _MM_SHUFFLE(0, 0, 0, 0));
+        elements[5] = _mm_shuffle_ps(upperEnd, lowerEnd, _MM_SHUFFLE(1, 1, 1, 1));
+    }
+    VONKK3_INLINE __m128 operator[](std::size_t k) const { return elements[k]; }
+};
+
 // Columns 0 to 3 of row i of the product.
 template <std::size_t order, class A>
 VONKK3_INLINE __m128 rowHead(const A &a, std::size_t i, const HeldRows<order> &b) {
-    __m128 sum = _mm_mul_ps(broadcast(a.load(i, 0)), b.head[0]);
-    forIndices(1, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
-        sum = multiplyAdd(sum, broadcast(a.load(i, k)), b.head[k]);
-    });
+    const RowFactors<order, A> factors(a, i);
+    __m128 sum = _mm_mul_ps(factors[0], b.head[0]);
+    forIndices(1, order, fixed<order>,
+               [&](std::size_t k) VONKK3_INLINED { sum = multiplyAdd(sum, factors[k], b.head[k]); });
     return sum;
 }
 
@@ -97,13 +161,13 @@ VONKK3_INLINE void multiplyRows(const A &a, const HeldRows<order> &b, const D &d
 template <class A, class D, class Column4>
 VONKK3_INLINE void multiplyRowsOfFive(const A &a, const HeldRows<5> &b, const D &d, const Column4 &column4) {
     forIndices(0, 5, fixed<5>, [&](std::size_t i) VONKK3_INLINED {
-        Real32 first = a.load(i, 0);
-        __m128 head = _mm_mul_ps(broadcast(first), b.head[0]);
-        Real32 last = first * column4(0);
+        const RowFactors<5, A> factors(a, i);
+        __m128 head = _mm_mul_ps(factors[0], b.head[0]);
+        Real32 last = _mm_cvtss_f32(factors[0]) * column4(0);
         forIndices(1, 5, fixed<5>, [&](std::size_t k) VONKK3_INLINED {
-            const Real32 factor = a.load(i, k);
-            head = multiplyAdd(head, broadcast(factor), b.head[k]);
-            last = factor * column4(k) + last;
+            const __m128 factor = factors[k];
+            head = multiplyAdd(head, factor, b.head[k]);
+            last = _mm_cvtss_f32(factor) * column4(k) + last;
         });
         storeRowHead<5>(d, i, head);
         d.store(i, 4, last);
@@ -119,10 +183,10 @@ template <class A, class D> VONKK3_INLINE void multiplyRowsOfSix(const A &a, con
 template <class A, class D> VONKK3_INLINE void multiplyPairsOfSix(const A &a, const HeldRows<6> &b, const D &d) {
     forIndices(0, 3, fixed<3>, [&](std::size_t half) VONKK3_INLINED {
         const std::size_t i = 2 * half;
-        __m128 sum = _mm_mul_ps(broadcastPair(a.load(i, 0), a.load(i + 1, 0)), b.pairs[0]);
-        forIndices(1, 6, fixed<6>, [&](std::size_t k) VONKK3_INLINED {
-            sum = multiplyAdd(sum, broadcastPair(a.load(i, k), a.load(i + 1, k)), b.pairs[k]);
-        });
+        const TwoRowFactors<A> factors(a, i);
+        __m128 sum = _mm_mul_ps(factors[0], b.pairs[0]);
+        forIndices(1, 6, fixed<6>,
+                   [&](std::size_t k) VONKK3_INLINED { sum = multiplyAdd(sum, factors[k], b.pairs[k]); });
         store2(d.at(i, 4), sum);
         _mm_storeh_pi(pair(d.at(i + 1, 4)), sum);
     });

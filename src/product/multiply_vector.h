@@ -10,8 +10,8 @@ namespace vonkk3::product {
 
 // Real32 of fixed order works in lanes where elements are adjacent, whatever the pattern.
 template <class T, Layout layout, class Cols>
-inline constexpr bool multipliesVectorInLanes =
-    std::is_same_v<T, Real32> && Cols::isFixed && (layout == Layout::Standard || layout == Layout::L);
+inline constexpr bool multipliesVectorInLanes = std::is_same_v<T, Real32> &&Cols::isFixed &&
+                                                (layout == Layout::Standard || layout == Layout::L);
 
 // vonkMul_mTv of 4x4 in the pointer layout never tests the matrix entry at position 8.
 template <class A, class Count, class Cols>
@@ -39,7 +39,8 @@ template <std::size_t order, class A> VONKK3_INLINE auto matricesInLanes(const A
 
 template <std::size_t order, class A, class V> VONKK3_INLINE auto factorsInLanes(const V &src) {
     using Factors = typename HeldMatrix<order, A::isTransposed>::Factors;
-    return heldOrLoaded<Factors, V::isArray>([&src](std::size_t n) VONKK3_INLINED { return Factors(src.view(n).base); });
+    return heldOrLoaded<Factors, V::isArray>([&src](std::size_t n)
+                                                 VONKK3_INLINED { return Factors(src.view(n).base); });
 }
 
 template <class A, class V, class D, std::size_t order, class Count>

@@ -9,8 +9,7 @@ namespace vonkk3::product {
 // A Real64 sum stays wide in the standard and strided layouts, where its roundings on the way to the cell are lost; in
 // the pointer and list layouts the cell itself is the accumulator, and the sum is rounded at every step.
 template <class T, Layout layout>
-inline constexpr bool accumulatesInCell =
-    std::is_same_v<T, Real64> && layout != Layout::Standard && layout != Layout::S2;
+inline constexpr bool accumulatesInCell = std::is_same_v<T, Real64> &&layout != Layout::Standard &&layout != Layout::S2;
 
 // Starts cell (i, j) of d at +0 and adds a(i, k) * b(k, j) for ascending k. Table entries, where they are tested here,
 // come one by one: that of the cell, then those of each term just before it is added; false at a null one, with what

@@ -1,5 +1,5 @@
-// What the dimension words of a product mean. Transposed operands are not treated evenly: the tests look at them as they
-// are stored, the loops as they enter the product. For square matrices all of it is the plain product.
+// What the dimension words of a product mean. Transposed operands are not treated evenly: the tests look at them as
+// they are stored, the loops as they enter the product. For square matrices all of it is the plain product.
 #pragma once
 
 #include "frame/operands.h"
@@ -20,8 +20,8 @@ template <class A, class B> struct Pattern {
 // vonkMul_mmT of run-time size in the standard layout alone loops over the shape as it is stored, and so gives the true
 // product of matrices that are not square.
 template <class P>
-inline constexpr bool loopsOverStoredShape = !P::isArray && !P::firstTransposed && P::secondTransposed &&
-                                             P::layout == Layout::Standard;
+inline constexpr bool loopsOverStoredShape =
+    !P::isArray && !P::firstTransposed && P::secondTransposed && P::layout == Layout::Standard;
 
 template <class Cols1, class Rows1, class Cols2, class Rows2> struct Dimensions {
     Cols1 cols1;

@@ -1,5 +1,5 @@
-// Kernels of Real32 matrix by vector, fixed order, adjacent elements. Each has its own order of additions, which is told
-// beside it with p0, p1, ... for the products of a row's elements and the vector's.
+// Kernels of Real32 matrix by vector, fixed order, adjacent elements. Each has its own order of additions, which is
+// told beside it with p0, p1, ... for the products of a row's elements and the vector's.
 #pragma once
 
 #include "frame/lanes.h"
@@ -12,26 +12,19 @@ namespace vonkk3::product {
 inline __m128 add(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
 inline __m128 multiply(__m128 a, __m128 b) { return _mm_mul_ps(a, b); }
 
-// The product of one object: elements 0 to 3 (of 3x3: 0 to 2) in order, and elements 4 and 5.
+// A vector in registers: elements 0 to 3 in order (of 3x3 elements 0 to 2 in lanes 0, 2 and 3), and elements 4 and 5.
 struct ProductVector {
     __m128 head;
     __m128 tail;
 };
 
 template <std::size_t order> VONKK3_INLINE ProductVector loadVector(const std::byte *address) {
-    if constexpr (order == 3) return {_mm_movelh_ps(load2(address), load1(address + 8)), _mm_setzero_ps()};
-    else if constexpr (order == 4) return {load4(address), _mm_setzero_ps()};
-    else if constexpr (order == 5) return {load4(address), load1(address + 16)};
-    else return {load4(address), load2(address + 16)};
+    const Lanes<order> lanes = Lanes<order>::load(address);
+    return {lanes.head, lanes.tail};
 }
 
 template <std::size_t order> VONKK3_INLINE void storeVector(std::byte *address, ProductVector vector) {
-    if constexpr (order == 3) {
-        store2(address, vector.head);
-        store1(address + 8, _mm_movehl_ps(vector.head, vector.head));
-    } else store4(address, vector.head);
-    if constexpr (order == 5) store1(address + 16, vector.tail);
-    if constexpr (order == 6) store2(address + 16, vector.tail);
+    Lanes<order>{vector.head, vector.tail}.store(address);
 }
 
 // ---- The matrix as stored, by order ---------------------------------------------------------------------------------
@@ -43,10 +36,10 @@ template <> struct PlainMatrix<3> {
     __m128 columns[3];
 
     template <class View> VONKK3_INLINE explicit PlainMatrix(const View &a) {
-        __m128 row0 = loadRowHead<3>(a, 0), row1 = loadRowHead<3>(a, 1), row2 = loadRowHead<3>(a, 2);
+        __m128 row0 = loadInOrder<3>(a, 0), row1 = loadInOrder<3>(a, 1), row2 = loadInOrder<3>(a, 2);
         __m128 nothing = _mm_setzero_ps();
         _MM_TRANSPOSE4_PS(row0, row1, row2, nothing);
-        columns[0] = row0, columns[1] = row1, columns[2] = row2;
+        columns[0] = spreadThree(row0), columns[1] = spreadThree(row1), columns[2] = spreadThree(row2);
     }
 
     struct Factors {
@@ -94,11 +87,15 @@ template <> struct PlainMatrix<4> {
     using Factors = PairFactors<4>;
     RowPair<4> pairs[2];
 
-    template <class View> VONKK3_INLINE explicit PlainMatrix(const View &a) { pairs[0].load(a, 0), pairs[1].load(a, 2); }
+    template <class View> VONKK3_INLINE explicit PlainMatrix(const View &a) {
+        pairs[0].load(a, 0), pairs[1].load(a, 2);
+    }
 
     VONKK3_INLINE ProductVector times(const Factors &v) const {
-        const __m128 upper = multiplyAdd(multiply(pairs[0].columns[0], v.elements[0]), pairs[0].columns[1], v.elements[1]);
-        const __m128 lower = multiplyAdd(multiply(pairs[1].columns[0], v.elements[0]), pairs[1].columns[1], v.elements[1]);
+        const __m128 upper =
+            multiplyAdd(multiply(pairs[0].columns[0], v.elements[0]), pairs[0].columns[1], v.elements[1]);
+        const __m128 lower =
+            multiplyAdd(multiply(pairs[1].columns[0], v.elements[0]), pairs[1].columns[1], v.elements[1]);
         return {add(_mm_movelh_ps(upper, lower), _mm_movehl_ps(lower, upper)), _mm_setzero_ps()};
     }
 };
@@ -157,8 +154,7 @@ template <> struct PlainMatrix<5> {
         const __m128 halves = add(products, _mm_movehl_ps(products, products)); // p0 + p2, p1 + p3
         const __m128 odd = _mm_shuffle_ps(halves, halves, _MM_SHUFFLE(1, 1, 1, 1));
         const __m128 last = _mm_mul_ss(_mm_set_ss(corner), v.elements[4]);
-        return {add(multiplyAdd(first, columns[4], v.elements[4]), second),
-                _mm_add_ss(_mm_add_ss(halves, last), odd)};
+        return {add(multiplyAdd(first, columns[4], v.elements[4]), second), _mm_add_ss(_mm_add_ss(halves, last), odd)};
     }
 };
 
