@@ -94,7 +94,6 @@ fault 'blocks ignore an overlap with the second source' src/vector/block_walk.h 
 fault 'blocks take destinations off the element grid' src/vector/block_walk.h 's/ \|\| pastBoundary % sizeof\(Real32\) != 0//'
 fault 'the last elements behind the blocks are left out' src/vector/block_walk.h 's/walkElements\(a, b, d, done, length, operation\)/walkElements(a, b, d, done, length - 1, operation)/'
 
-fault 'elements are taken to lie on each other or apart' src/frame/real.h 's/gnu::may_alias, //'
 
 fault 'registers are used whatever the matrices overlap' src/lu/rows.h 's/return areApart\(.*/return true;/'
 
