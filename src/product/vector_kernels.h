@@ -12,19 +12,25 @@ namespace vonkk3::product {
 inline __m128 add(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
 inline __m128 multiply(__m128 a, __m128 b) { return _mm_mul_ps(a, b); }
 
-// A vector in registers: elements 0 to 3 in order (of 3x3 elements 0 to 2 in lanes 0, 2 and 3), and elements 4 and 5.
+// A vector in registers: elements 0 to 3 (of 3x3: 0 to 2) in order, and elements 4 and 5.
 struct ProductVector {
     __m128 head;
     __m128 tail;
 };
 
 template <std::size_t order> VONKK3_INLINE ProductVector loadVector(const std::byte *address) {
-    const Lanes<order> lanes = Lanes<order>::load(address);
-    return {lanes.head, lanes.tail};
+    if constexpr (order == 3) return {_mm_movelh_ps(load2(address), load1(address + 8)), _mm_setzero_ps()};
+    else {
+        const Lanes<order> lanes = Lanes<order>::load(address);
+        return {lanes.head, lanes.tail};
+    }
 }
 
 template <std::size_t order> VONKK3_INLINE void storeVector(std::byte *address, ProductVector vector) {
-    Lanes<order>{vector.head, vector.tail}.store(address);
+    if constexpr (order == 3) {
+        store2(address, vector.head);
+        store1(address + 8, _mm_movehl_ps(vector.head, vector.head));
+    } else Lanes<order>{vector.head, vector.tail}.store(address);
 }
 
 // ---- The matrix as stored, by order ---------------------------------------------------------------------------------
@@ -39,7 +45,7 @@ template <> struct PlainMatrix<3> {
         __m128 row0 = loadInOrder<3>(a, 0), row1 = loadInOrder<3>(a, 1), row2 = loadInOrder<3>(a, 2);
         __m128 nothing = _mm_setzero_ps();
         _MM_TRANSPOSE4_PS(row0, row1, row2, nothing);
-        columns[0] = spreadThree(row0), columns[1] = spreadThree(row1), columns[2] = spreadThree(row2);
+        columns[0] = row0, columns[1] = row1, columns[2] = row2;
     }
 
     struct Factors {
