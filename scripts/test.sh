@@ -4,7 +4,8 @@
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
-need g++ gcc clang libclang-rt-dev cmake make binutils pkg-config libgtest-dev libcli11-dev libbenchmark-dev libeigen3-dev
+need g++ gcc clang libclang-rt-dev cmake make binutils pkg-config libgtest-dev libcli11-dev libbenchmark-dev libeigen3-dev \
+    libglm-dev libcglm-dev libxsmm-dev
 jobs=$(nproc)
 
 echo "== Clang with sanitizers"
