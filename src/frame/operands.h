@@ -85,8 +85,8 @@ private:
     const std::byte *listSlot(std::size_t n) const { return reinterpret_cast<const std::byte *>(pointer + n); }
 };
 
-// A matrix operand that is read with rows and columns exchanged: the views it hands out are exchanged already. `columns`
-// are those of its table, so the rows of the exchanged matrix.
+// A matrix operand that is read with rows and columns exchanged: the views it hands out are exchanged already.
+// `columns` are those of its table, so the rows of the exchanged matrix.
 template <class Stored> class Transposed : public Stored {
 public:
     static constexpr bool isTransposed = true;

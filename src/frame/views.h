@@ -87,6 +87,8 @@ template <class View> struct TransposedView {
     bool hasNullEntry(std::size_t row, std::size_t column) const { return stored.hasNullEntry(column, row); }
 };
 
+template <class View> TransposedView(View) -> TransposedView<View>;
+
 // A vector as a matrix of one column.
 template <class View> struct ColumnView {
     View vector;
@@ -95,5 +97,6 @@ template <class View> struct ColumnView {
     template <class Element> void store(std::size_t row, std::size_t, Element value) const { vector.store(row, value); }
     bool hasNullEntry(std::size_t row, std::size_t) const { return vector.hasNullEntry(row); }
 };
+template <class View> ColumnView(View) -> ColumnView<View>;
 
 } // namespace vonkk3

@@ -23,6 +23,7 @@ template <class View> struct Position8Untested : View {
         return column * 4 + row != 8 && View::hasNullEntry(row, column);
     }
 };
+template <class View> Position8Untested(View) -> Position8Untested<View>;
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -80,8 +81,8 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
                 const ColumnView d{dst.view(n)};
                 constexpr bool inCell = accumulatesInCell<T, D::layout>;
                 if constexpr (leavesPosition8Untested<A, Count, Cols>)
-                    return sumIntoCells<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
-                else return sumIntoCells<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
+                    return sumObject<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
+                else return sumObject<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
             },
             src1, src2, dst);
 }
