@@ -24,8 +24,7 @@ public:
 
 private:
     template <class Real> Real seen(Real a, Real b, Real result) {
-        if (std::isnan(a) || std::isnan(b) || std::isnan(result))
-            memory_.markNan();
+        if (std::isnan(a) || std::isnan(b) || std::isnan(result)) memory_.markNan();
         return result;
     }
 

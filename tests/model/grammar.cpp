@@ -60,8 +60,7 @@ const std::vector<ExtractRow> extractRows = {
 std::vector<std::string> words(const std::string &text) {
     std::istringstream stream(text);
     std::vector<std::string> result;
-    for (std::string word; stream >> word;)
-        result.push_back(word);
+    for (std::string word; stream >> word;) result.push_back(word);
     return result;
 }
 
@@ -85,12 +84,9 @@ std::vector<Shape> shapesOf(const std::string &operation, const std::string &gro
     }
     std::vector<Shape> shapes;
     for (const char letter : group) {
-        if (letter == 'm' || letter == 'v')
-            shapes.push_back({letter == 'm', false, false});
-        else if (letter == 'a')
-            shapes.back().isArray = true;
-        else if (letter == 'T')
-            shapes.back().isTransposed = true;
+        if (letter == 'm' || letter == 'v') shapes.push_back({letter == 'm', false, false});
+        else if (letter == 'a') shapes.back().isArray = true;
+        else if (letter == 'T') shapes.back().isTransposed = true;
     }
     return shapes;
 }
@@ -98,8 +94,7 @@ std::vector<Shape> shapesOf(const std::string &operation, const std::string &gro
 std::string joined(const std::vector<std::string> &parts) {
     std::string name = "vonk";
     for (std::size_t i = 0; i < parts.size(); ++i)
-        if (!parts[i].empty())
-            name += (i == 0 ? "" : "_") + parts[i];
+        if (!parts[i].empty()) name += (i == 0 ? "" : "_") + parts[i];
     return name;
 }
 
@@ -125,10 +120,8 @@ Form makeForm(const std::string &operation, const std::string &group, const std:
 const std::vector<std::string> types = {"32f", "64f"};
 
 std::vector<std::string> sizesOf(const std::string &operation, const std::string &group) {
-    if (operation == "CrossProduct")
-        return {"3x1"};
-    if (operation == "Gaxpy" || group.find('m') != std::string::npos)
-        return {"", "3x3", "4x4", "5x5", "6x6"};
+    if (operation == "CrossProduct") return {"3x1"};
+    if (operation == "Gaxpy" || group.find('m') != std::string::npos) return {"", "3x3", "4x4", "5x5", "6x6"};
     return {"", "3x1", "4x1", "5x1", "6x1"};
 }
 
@@ -153,8 +146,7 @@ void addMovingForms(std::vector<Form> &forms) {
         for (const ExtractRow &row : extractRows)
             for (const std::string &layout : words(type == "32f" ? row.layouts32 : row.layouts64))
                 forms.push_back(makeForm("Extract", row.group, type, "", layout));
-        for (const char *letter : {"S", "P", "L"})
-            forms.push_back(makeForm("LoadIdentity", "ma", type, "", letter));
+        for (const char *letter : {"S", "P", "L"}) forms.push_back(makeForm("LoadIdentity", "ma", type, "", letter));
     }
 }
 
@@ -176,8 +168,7 @@ std::string templateOf(const Form &form) {
     if (operation == "Add" || operation == "Sub" || operation == "Mul") {
         if (form.group.find('c') != std::string::npos)
             return isOnVectors ? "src val dst len?" : "src val dst cols? rows?";
-        if (operation != "Mul")
-            return isOnVectors ? "src1 src2 dst len?" : "src1 src2 dst cols? rows?";
+        if (operation != "Mul") return isOnVectors ? "src1 src2 dst len?" : "src1 src2 dst cols? rows?";
         return form.sources[1].isMatrix ? "src1 src1Cols? src1Rows? src2 src2Cols? src2Rows? dst"
                                         : "src1 src1Cols? src1Rows? src2 src2Len? dst";
     }
@@ -201,19 +192,15 @@ std::string templateOf(const Form &form) {
         {"CholeskyBackSubst", "src1 src2 dst order?"},
         {"LoadIdentity", "dst cols rows"},
     };
-    if (operation == "Copy")
-        return isOnVectors ? "src dst len" : "src dst cols rows";
-    if (operation == "Extract")
-        return isOnVectors ? "src *dst len" : "src *dst cols rows";
+    if (operation == "Copy") return isOnVectors ? "src dst len" : "src dst cols rows";
+    if (operation == "Extract") return isOnVectors ? "src *dst len" : "src *dst cols rows";
     return templates.at(operation);
 }
 
 // The sizes that are compared as signed numbers: with the top bit set they count as none instead of as very many.
 bool isSignedSize(const Form &form, const std::string &word) {
-    if (form.operation == "LoadIdentity")
-        return word == "cols" || word == "rows";
-    if (form.operation == "CholeskyDecomp")
-        return word == "count" && !isPointerLayout(form.layout);
+    if (form.operation == "LoadIdentity") return word == "cols" || word == "rows";
+    if (form.operation == "CholeskyDecomp") return word == "count" && !isPointerLayout(form.layout);
     if (form.operation == "CholeskyBackSubst")
         return word == "count" ||
                (word == "order" && (form.layout == Layout::strided || form.layout == Layout::stridedList));
@@ -235,16 +222,12 @@ void expandSlot(std::vector<Parameter> &list, const Form &form, const std::strin
     list.push_back({operand, Word::pointer, false});
     if (isPointerLayout(layout)) {
         addBytes("Shift");
-        if (layout == Layout::stridedPointer && isArray)
-            addBytes("ObjStride");
+        if (layout == Layout::stridedPointer && isArray) addBytes("ObjStride");
         return;
     }
-    if (isArray)
-        addBytes(isListLayout(layout) ? "Shift" : "ObjStride");
-    if (shape.isMatrix)
-        addBytes("RowStride");
-    if (layout == Layout::strided || layout == Layout::stridedList)
-        addBytes("ElemStride");
+    if (isArray) addBytes(isListLayout(layout) ? "Shift" : "ObjStride");
+    if (shape.isMatrix) addBytes("RowStride");
+    if (layout == Layout::strided || layout == Layout::stridedList) addBytes("ElemStride");
 }
 
 } // namespace
@@ -268,16 +251,14 @@ Shape Form::destination() const {
 }
 
 Shape Form::slot(const std::string &operand) const {
-    if (operand == "dst")
-        return destination();
+    if (operand == "dst") return destination();
     return sources.at(operand == "src" ? 0 : static_cast<std::size_t>(operand.back() - '1'));
 }
 
 const Form *findForm(const std::string &name) {
     static const std::map<std::string, const Form *> byName = [] {
         std::map<std::string, const Form *> made;
-        for (const Form &form : allForms())
-            made.emplace(form.name, &form);
+        for (const Form &form : allForms()) made.emplace(form.name, &form);
         return made;
     }();
     const auto found = byName.find(name);
@@ -286,33 +267,24 @@ const Form *findForm(const std::string &name) {
 
 std::vector<std::string> names() {
     std::vector<std::string> result;
-    for (const Form &form : allForms())
-        result.push_back(form.name);
+    for (const Form &form : allForms()) result.push_back(form.name);
     return result;
 }
 
 std::vector<Parameter> parameters(const std::string &name) {
     const Form *form = findForm(name);
-    if (form == nullptr)
-        throw std::invalid_argument("no such function: " + name);
+    if (form == nullptr) throw std::invalid_argument("no such function: " + name);
     std::vector<Parameter> list;
     for (std::string word : words(templateOf(*form))) {
         const bool isDimension = word.back() == '?';
-        if (isDimension && form->size != 0)
-            continue;
-        if (isDimension)
-            word.pop_back();
-        if (word.front() == '*')
-            list.push_back({word.substr(1), Word::pointer, false});
-        else if (word.compare(0, 3, "val") == 0)
-            list.push_back({word, Word::real, false});
-        else if (!isDimension && (word.compare(0, 3, "src") == 0 || word == "dst"))
-            expandSlot(list, *form, word);
-        else
-            list.push_back({word, Word::size, isSignedSize(*form, word)});
+        if (isDimension && form->size != 0) continue;
+        if (isDimension) word.pop_back();
+        if (word.front() == '*') list.push_back({word.substr(1), Word::pointer, false});
+        else if (word.compare(0, 3, "val") == 0) list.push_back({word, Word::real, false});
+        else if (!isDimension && (word.compare(0, 3, "src") == 0 || word == "dst")) expandSlot(list, *form, word);
+        else list.push_back({word, Word::size, isSignedSize(*form, word)});
     }
-    if (form->isArray())
-        list.push_back({"count", Word::size, isSignedSize(*form, "count")});
+    if (form->isArray()) list.push_back({"count", Word::size, isSignedSize(*form, "count")});
     return list;
 }
 

@@ -57,8 +57,7 @@ bool BackSubstitution::anyTableEntryIsNull() const {
 
 bool BackSubstitution::anyListEntryIsNull(std::uint64_t n) const {
     for (const Operand *operand : {&matrix_, &right_, &dst_})
-        if (operand->isList() && operand->entryIsNull(n))
-            return true;
+        if (operand->isList() && operand->entryIsNull(n)) return true;
     return false;
 }
 
@@ -76,8 +75,7 @@ void BackSubstitution::checkOverlaps() {
     const std::size_t size = form_.elementSize();
     for (std::uint64_t i = 0; i < order_; ++i)
         for (std::uint64_t j = 0; j < i; ++j)
-            if (solution(i) != solution(j) && overlap(solution(i), size, solution(j), size))
-                memory_.markOpen();
+            if (solution(i) != solution(j) && overlap(solution(i), size, solution(j), size)) memory_.markOpen();
 }
 
 float BackSubstitution::sum32(std::uint64_t i, std::uint64_t begin, std::uint64_t end) {
@@ -113,12 +111,9 @@ Wide BackSubstitution::term64(std::uint64_t i, std::uint64_t j) {
 Wide BackSubstitution::sum64(std::uint64_t i, std::uint64_t begin, std::uint64_t end) {
     const std::uint64_t endOfPairs = end - (end - begin) % 2;
     Wide sum = 0;
-    for (std::uint64_t j = begin; j < endOfPairs; ++j)
-        sum = arithmetic_.add(sum, term64(i, j));
-    if (roundsSums())
-        sum = round64(sum);
-    if (endOfPairs == end)
-        return sum;
+    for (std::uint64_t j = begin; j < endOfPairs; ++j) sum = arithmetic_.add(sum, term64(i, j));
+    if (roundsSums()) sum = round64(sum);
+    if (endOfPairs == end) return sum;
     sum = arithmetic_.add(sum, term64(i, endOfPairs));
     return roundsSums() ? round64(sum) : sum;
 }
@@ -139,13 +134,10 @@ void BackSubstitution::solve64() {
 }
 
 Status BackSubstitution::run() {
-    if (order_ == 0)
-        return statusSize;
-    if (isPointerLayout(form_.layout) && anyTableEntryIsNull())
-        return statusNullPointer;
+    if (order_ == 0) return statusSize;
+    if (isPointerLayout(form_.layout) && anyTableEntryIsNull()) return statusNullPointer;
     for (object_ = 0; object_ < count_; ++object_) {
-        if (anyListEntryIsNull(object_))
-            return statusNullPointer;
+        if (anyListEntryIsNull(object_)) return statusNullPointer;
         checkOverlaps();
         memory_.move(solution(0), rightSide(0), form_.elementSize());
         form_.element == Element::real32 ? solve32() : solve64();
@@ -156,8 +148,7 @@ Status BackSubstitution::run() {
 } // namespace
 
 Status substituteBackLu(const Execution &execution) {
-    if (execution.arguments.hasNullPointer())
-        return statusNullPointer;
+    if (execution.arguments.hasNullPointer()) return statusNullPointer;
     return BackSubstitution(execution).run();
 }
 

@@ -76,8 +76,7 @@ void Decomposition::checkOverlaps() {
         }
     std::sort(places.begin(), places.end());
     for (std::size_t i = 1; i < places.size(); ++i)
-        if (places[i] - places[i - 1] < size)
-            memory_.markOpen();
+        if (places[i] - places[i - 1] < size) memory_.markOpen();
 }
 
 void Decomposition::copy() {
@@ -93,8 +92,7 @@ void Decomposition::setPivot(std::uint64_t i, std::uint32_t row) {
 
 void Decomposition::setIdentity() {
     rows_.assign(order_, 0);
-    for (std::uint64_t i = 0; i < order_; ++i)
-        setPivot(i, static_cast<std::uint32_t>(i));
+    for (std::uint64_t i = 0; i < order_; ++i) setPivot(i, static_cast<std::uint32_t>(i));
 }
 
 // The first of the largest magnitudes. Real64 forms take the candidates in pairs, and what they do when the first of a
@@ -151,8 +149,7 @@ void Decomposition::eliminate64(std::uint64_t k, std::uint64_t i) {
 // that is another row, another object or what lies behind the array, as it stands by then.
 std::uintptr_t Decomposition::lastPivotAddress() const {
     const std::uint64_t last = order_ - 1;
-    if (isPointerLayout(form_.layout))
-        return dst_.throughSlot(object_, (rows_[last] + object_) * order_ + last);
+    if (isPointerLayout(form_.layout)) return dst_.throughSlot(object_, (rows_[last] + object_) * order_ + last);
     return at(last, last) + object_ * order_ * dst_.elementStride;
 }
 
@@ -162,8 +159,7 @@ Status Decomposition::decomposeObject() {
     setIdentity();
     for (std::uint64_t k = 0; k + 1 < order_; ++k) {
         exchange(k, search(k));
-        if (isBelowTolerance(loadElement(at(k, k))))
-            return statusSingular;
+        if (isBelowTolerance(loadElement(at(k, k)))) return statusSingular;
         for (std::uint64_t i = k + 1; i < order_; ++i)
             form_.element == Element::real32 ? eliminate32(k, i) : eliminate64(k, i);
     }
@@ -171,15 +167,12 @@ Status Decomposition::decomposeObject() {
 }
 
 Status Decomposition::run() {
-    if (order_ == 0)
-        return statusSize;
+    if (order_ == 0) return statusSize;
     if (isPointerLayout(form_.layout) && (src_.anyEntryIsNull(order_ * order_) || dst_.anyEntryIsNull(order_ * order_)))
         return statusNullPointer;
     for (object_ = 0; object_ < count_; ++object_) {
-        if (src_.isList() && (src_.entryIsNull(object_) || dst_.entryIsNull(object_)))
-            return statusNullPointer;
-        if (const Status status = decomposeObject(); status != statusOk)
-            return status;
+        if (src_.isList() && (src_.entryIsNull(object_) || dst_.entryIsNull(object_))) return statusNullPointer;
+        if (const Status status = decomposeObject(); status != statusOk) return status;
     }
     return statusOk;
 }
@@ -187,8 +180,7 @@ Status Decomposition::run() {
 } // namespace
 
 Status decomposeLu(const Execution &execution) {
-    if (execution.arguments.hasNullPointer())
-        return statusNullPointer;
+    if (execution.arguments.hasNullPointer()) return statusNullPointer;
     return Decomposition(execution).run();
 }
 

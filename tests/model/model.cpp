@@ -36,8 +36,7 @@ const Family families[] = {
 
 const Family *findFamily(const Form &form) {
     for (const Family &family : families)
-        if (family.holds(form))
-            return &family;
+        if (family.holds(form)) return &family;
     return nullptr;
 }
 
@@ -49,8 +48,7 @@ bool knows(const std::string &name) {
 }
 
 Outcome run(const Call &call) {
-    if (!knows(call.name))
-        throw std::invalid_argument("not in the model: " + call.name);
+    if (!knows(call.name)) throw std::invalid_argument("not in the model: " + call.name);
     const Form &form = *findForm(call.name);
     const Arguments arguments(parameters(call.name), call.words);
     Outcome outcome{statusOk, {}, false, false};

@@ -10,14 +10,12 @@ static_assert(sizeof(std::uintptr_t) == 8, "tables hold 64-bit pointers, and add
 
 Arguments::Arguments(std::vector<Parameter> parameters, std::vector<std::uint64_t> words)
     : parameters_(std::move(parameters)), words_(std::move(words)) {
-    if (parameters_.size() != words_.size())
-        throw std::invalid_argument("a call needs one word per parameter");
+    if (parameters_.size() != words_.size()) throw std::invalid_argument("a call needs one word per parameter");
 }
 
 std::uint64_t Arguments::word(const std::string &name) const {
     for (std::size_t i = 0; i < parameters_.size(); ++i)
-        if (parameters_[i].name == name)
-            return words_[i];
+        if (parameters_[i].name == name) return words_[i];
     throw std::invalid_argument("no such parameter: " + name);
 }
 
@@ -28,8 +26,7 @@ std::uint64_t Arguments::bytes(const std::string &name) const {
 
 bool Arguments::hasNullPointer() const {
     for (std::size_t i = 0; i < parameters_.size(); ++i)
-        if (parameters_[i].word == Word::pointer && words_[i] == 0)
-            return true;
+        if (parameters_[i].word == Word::pointer && words_[i] == 0) return true;
     return false;
 }
 
@@ -38,18 +35,15 @@ std::uintptr_t Operand::throughSlot(std::uint64_t n, std::uint64_t slot) const {
 }
 
 std::uintptr_t Operand::element(std::uint64_t n, std::uint64_t i, std::uint64_t j) const {
-    if (isPointerLayout(layout))
-        return throughSlot(n, i * columns + j);
+    if (isPointerLayout(layout)) return throughSlot(n, i * columns + j);
     const std::uint64_t inObject = i * rowStride + j * elementStride;
-    if (isList())
-        return memory->loadEntry(base + 8 * n) + shift + inObject;
+    if (isList()) return memory->loadEntry(base + 8 * n) + shift + inObject;
     return base + n * objectStride + inObject;
 }
 
 bool Operand::anyEntryIsNull(std::uint64_t entries) const {
     for (std::uint64_t entry = 0; entry < entries; ++entry)
-        if (entryIsNull(entry))
-            return true;
+        if (entryIsNull(entry)) return true;
     return false;
 }
 
@@ -62,18 +56,13 @@ Operand makeOperand(const Form &form, const Arguments &arguments, Memory &memory
     operand.base = arguments.pointer(name);
     operand.columns = columns;
     const Layout layout = operand.layout;
-    if (isPointerLayout(layout) || operand.isList())
-        operand.shift = arguments.bytes(name + "Shift");
-    if (operand.shape.isArray && layout == Layout::pointer)
-        operand.objectStride = form.elementSize();
-    else if (operand.shape.isArray && !isListLayout(layout))
-        operand.objectStride = arguments.bytes(name + "ObjStride");
-    if (operand.shape.isMatrix && !isPointerLayout(layout))
-        operand.rowStride = arguments.bytes(name + "RowStride");
+    if (isPointerLayout(layout) || operand.isList()) operand.shift = arguments.bytes(name + "Shift");
+    if (operand.shape.isArray && layout == Layout::pointer) operand.objectStride = form.elementSize();
+    else if (operand.shape.isArray && !isListLayout(layout)) operand.objectStride = arguments.bytes(name + "ObjStride");
+    if (operand.shape.isMatrix && !isPointerLayout(layout)) operand.rowStride = arguments.bytes(name + "RowStride");
     if (layout == Layout::strided || layout == Layout::stridedList)
         operand.elementStride = arguments.bytes(name + "ElemStride");
-    else
-        operand.elementStride = form.elementSize();
+    else operand.elementStride = form.elementSize();
     return operand;
 }
 

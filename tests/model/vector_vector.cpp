@@ -55,8 +55,7 @@ private:
 
 bool VectorSum::anyTableEntryIsNull() const {
     for (std::uint64_t k = 0; k < length_; ++k)
-        if (anyPositionIsNull(k))
-            return true;
+        if (anyPositionIsNull(k)) return true;
     return false;
 }
 
@@ -66,8 +65,7 @@ bool VectorSum::anyPositionIsNull(std::uint64_t k) const {
 
 bool VectorSum::anyListEntryIsNull(std::uint64_t n) const {
     for (const Operand *operand : {&src1_, &src2_, &dst_})
-        if (operand->isList() && operand->entryIsNull(n))
-            return true;
+        if (operand->isList() && operand->entryIsNull(n)) return true;
     return false;
 }
 
@@ -90,8 +88,7 @@ void VectorSum::step(std::uintptr_t dst, std::uintptr_t src1, std::uintptr_t src
 Status VectorSum::objectByElements(std::uint64_t n) {
     const bool testsAlongTheWay = isPointerLayout(form_.layout) && !form_.isArray();
     for (std::uint64_t j = 0; j < length_; ++j) {
-        if (testsAlongTheWay && anyPositionIsNull(j))
-            return statusNullPointer;
+        if (testsAlongTheWay && anyPositionIsNull(j)) return statusNullPointer;
         step(dst_.element(n, j), src1_.element(n, j), src2_.element(n, j));
     }
     return statusOk;
@@ -108,8 +105,7 @@ void VectorSum::elementBesideHeld(std::uint64_t n, std::uint64_t j) {
 
 // Of a source that is not held: overlaps the destination of its own object, but does not lie exactly on it.
 bool VectorSum::runsIntoOwnSource(const Operand &source, std::uint64_t n) const {
-    if (holdsSingle() && !source.shape.isArray)
-        return false;
+    if (holdsSingle() && !source.shape.isArray) return false;
     const std::uintptr_t from = source.element(n, 0);
     const std::uintptr_t to = dst_.element(n, 0);
     return from != to && overlap(from, 4 * length_, to, 4 * length_);
@@ -118,47 +114,37 @@ bool VectorSum::runsIntoOwnSource(const Operand &source, std::uint64_t n) const 
 void VectorSum::objectInLanes(std::uint64_t n) {
     // Five and six elements are one operation in four lanes and one on the rest, and whether the rest is loaded before
     // or after the store of the four is free.
-    if (length_ > 4 && (runsIntoOwnSource(src1_, n) || runsIntoOwnSource(src2_, n)))
-        memory_.markOpen();
+    if (length_ > 4 && (runsIntoOwnSource(src1_, n) || runsIntoOwnSource(src2_, n))) memory_.markOpen();
     std::vector<float> results;
     for (std::uint64_t j = 0; j < length_; ++j) {
         const float a = loadHeldOrElement(src1_, n, j);
         results.push_back(combine(a, loadHeldOrElement(src2_, n, j)));
     }
-    for (std::uint64_t j = 0; j < length_; ++j)
-        memory_.store(dst_.element(n, j), results[j]);
+    for (std::uint64_t j = 0; j < length_; ++j) memory_.store(dst_.element(n, j), results[j]);
 }
 
 // This one form takes four objects at a time, and may load the later ones of a block before it stores the earlier ones.
 // A destination on the source of an earlier object stays fixed, as does one on another destination: objects ascend.
 void VectorSum::checkBlock(std::uint64_t n) {
-    if (n % 4 != 0 || count_ - n < 4)
-        return;
+    if (n % 4 != 0 || count_ - n < 4) return;
     for (std::uint64_t earlier = n; earlier < n + 4; ++earlier)
         for (std::uint64_t later = earlier + 1; later < n + 4; ++later)
             for (const Operand *source : {&src1_, &src2_})
-                if (overlap(dst_.element(earlier, 0), 12, source->element(later, 0), 12))
-                    memory_.markOpen();
+                if (overlap(dst_.element(earlier, 0), 12, source->element(later, 0), 12)) memory_.markOpen();
 }
 
 Status VectorSum::run() {
-    if (length_ == 0)
-        return statusSize;
-    if (form_.isArray() && isPointerLayout(form_.layout) && anyTableEntryIsNull())
-        return statusNullPointer;
-    if (count_ == 0)
-        return statusOk;
+    if (length_ == 0) return statusSize;
+    if (form_.isArray() && isPointerLayout(form_.layout) && anyTableEntryIsNull()) return statusNullPointer;
+    if (count_ == 0) return statusOk;
     if (holdsSingle())
         for (std::uint64_t j = 0; j < length_; ++j)
             held_.push_back(memory_.load<float>((src1_.shape.isArray ? src2_ : src1_).element(0, j)));
     for (std::uint64_t n = 0; n < count_; ++n) {
-        if (anyListEntryIsNull(n))
-            return statusNullPointer;
-        if (isBlockwise())
-            checkBlock(n);
+        if (anyListEntryIsNull(n)) return statusNullPointer;
+        if (isBlockwise()) checkBlock(n);
         if (isScalarBesideHeld()) {
-            for (std::uint64_t j = 0; j < length_; ++j)
-                elementBesideHeld(n, j);
+            for (std::uint64_t j = 0; j < length_; ++j) elementBesideHeld(n, j);
         } else if (hasLanes()) {
             objectInLanes(n);
         } else if (const Status status = objectByElements(n); status != statusOk) {
@@ -171,8 +157,7 @@ Status VectorSum::run() {
 } // namespace
 
 Status addOrSubtractVectors(const Execution &execution) {
-    if (execution.arguments.hasNullPointer())
-        return statusNullPointer;
+    if (execution.arguments.hasNullPointer()) return statusNullPointer;
     return VectorSum(execution).run();
 }
 
