@@ -57,7 +57,7 @@ fault 'a table entry of a single vector is tested after its element' src/vector/
 # Addressing
 fault 'row and element stride are swapped' src/frame/views.h \
     's/strides\(row, rowStride\) \+ strides\(column, elementStride\)/strides(row, elementStride) + strides(column, rowStride)/'
-fault 'the shift is not added in list layouts' src/frame/operands.h 's/\(loadAt<T \*>\(listSlot\(n\)\)\) \+ shift/(loadAt<T *>(listSlot(n)))/'
+fault 'the shift is not added in list layouts' src/frame/operands.h 's/\(loadAt<T \*>\(listSlot\(n\)\), shift\)/(loadAt<T *>(listSlot(n)), 0)/'
 fault 'strides lose their sign' src/frame/operands.h 's/objectStride = \*next\+\+/objectStride = std::uint32_t(*next++)/'
 fault 'a table is read by columns' src/frame/views.h 's/at\(row \* columns \+ column\)/at(column * columns + row)/'
 fault 'packed tables step by 4 bytes' src/frame/operands.h 's/Layout::P \? sizeof\(T\)/Layout::P ? 4/'

@@ -78,7 +78,7 @@ private:
     std::ptrdiff_t elementStride = sizeof(T);
 
     ByteOf<T> *base(std::size_t n) const {
-        if constexpr (isList) return reinterpret_cast<ByteOf<T> *>(loadAt<T *>(listSlot(n))) + shift;
+        if constexpr (isList) return shifted(loadAt<T *>(listSlot(n)), shift);
         else return reinterpret_cast<ByteOf<T> *>(pointer) + strides(n, objectStride);
     }
 

@@ -14,6 +14,12 @@ inline std::ptrdiff_t strides(std::size_t number, std::ptrdiff_t stride) {
     return std::ptrdiff_t(number * std::size_t(stride));
 }
 
+// Where an entry of a table or list leads with its shift. Some forms never test their entries, and a null one may still
+// lead somewhere then, so this is reckoned in integers.
+template <class T> inline ByteOf<T> *shifted(T *entry, std::ptrdiff_t shift) {
+    return reinterpret_cast<ByteOf<T> *>(reinterpret_cast<std::uintptr_t>(entry) + std::uintptr_t(shift));
+}
+
 // What the three views share: moving elements to and from the addresses that View::at gives.
 template <class View, class T> struct ElementAccess {
     using Element = std::remove_const_t<T>;
@@ -68,9 +74,7 @@ template <class T> struct TableView : ElementAccess<TableView<T>, T> {
     TableView(T *const *table, std::size_t columns, std::ptrdiff_t offset)
         : table(table), columns(columns), offset(offset) {}
 
-    ByteOf<T> *at(std::size_t position) const {
-        return reinterpret_cast<ByteOf<T> *>(loadAt<T *>(slot(position))) + offset;
-    }
+    ByteOf<T> *at(std::size_t position) const { return shifted(loadAt<T *>(slot(position)), offset); }
     ByteOf<T> *at(std::size_t row, std::size_t column) const { return at(row * columns + column); }
     bool hasNullEntry(std::size_t position) const { return loadAt<T *>(slot(position)) == nullptr; }
     bool hasNullEntry(std::size_t row, std::size_t column) const { return hasNullEntry(row * columns + column); }
