@@ -10,7 +10,8 @@ namespace vonkk3::product {
 // A Real64 sum stays wide in the standard and strided layouts, where its roundings on the way to the cell are lost; in
 // the pointer and list layouts the cell itself is the accumulator, and the sum is rounded at every step.
 template <class T, Layout layout>
-inline constexpr bool accumulatesInCell = std::is_same_v<T, Real64> &&layout != Layout::Standard &&layout != Layout::S2;
+inline constexpr bool accumulatesInCell = std::is_same_v<T, Real64> && (layout != Layout::Standard) &&
+                                          (layout != Layout::S2);
 
 // How the cell follows its sum. Storing every step shows only through operands that overlap the cell, so where it is
 // known that none does, the last store is enough.
