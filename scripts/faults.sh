@@ -92,7 +92,7 @@ fault 'the dimension tests of mma are levelled' src/product/shape.h 's/P::second
 fault 'mmT loops over the shape that enters in every layout' src/product/shape.h 's/P::layout == Layout::Standard/false/'
 fault 'a running sum begins at its first product' src/product/schemes.h 's/sum = sum \+ W\(a/sum = (k == 0 ? W(-0.0F) : sum) + W(a/'
 fault 'a cell is stored only when its sum is complete' src/product/schemes.h \
-    's/if constexpr \(steps == Steps::stored\) d\.store\(i, j, round/if (k + 1 == terms) d.store(i, j, round/'
+    's/^( +)d\.store\(i, j, round<T>\(sum\)\);/\1if (k + 1 == terms) d.store(i, j, round<T>(sum));/'
 fault 'sums of the list layouts stay wide' src/product/schemes.h 's/\(layout != Layout::S2\)/(layout != Layout::S2 \&\& layout != Layout::L)/'
 fault 'the pair-sum kernel adds in plain order' src/product/kernels.h \
     's/\(\(product\(0\) \+ product\(1\)\) \+ \(product\(2\) \+ product\(3\)\)\)/(((product(0) + product(1)) + product(2)) + product(3))/'

@@ -118,7 +118,7 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
                 const auto d = dst.view(n, size.template columns<P>());
                 if constexpr (scheme == Scheme::pairSum) return multiplyByPairSums(a, b, d), vonkOk;
                 else
-                    return sumObject<T, accumulatesInCell<T, P::layout>, !P::isArray>(
+                    return sumIntoCells<T, accumulatesInCell<T, P::layout>, !P::isArray>(
                         a, b, d, size.template rows<P>(), size.template columns<P>(), size.template terms<P>());
             },
             src1, src2, dst);

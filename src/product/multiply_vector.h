@@ -81,8 +81,8 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
                 const ColumnView d{dst.view(n)};
                 constexpr bool inCell = accumulatesInCell<T, D::layout>;
                 if constexpr (leavesPosition8Untested<A, Count, Cols>)
-                    return sumObject<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
-                else return sumObject<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
+                    return sumIntoCells<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
+                else return sumIntoCells<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
             },
             src1, src2, dst);
 }
