@@ -1,0 +1,26 @@
+// Roots and reciprocals from the processor's estimates of about 12 bits, each refined by one Newton step: no division
+// and no root, in Real32 alone. The packed and the scalar estimate give the same bits, so a number's result does not
+// depend on the lane it is worked in.
+#pragma once
+
+#include "frame/real.h"
+
+#include <xmmintrin.h>
+
+namespace vonkk3 {
+
+// The square root of s as s * (1 / root of s). There is no test for zero: its estimate is infinite, and the root of 0
+// is NaN.
+inline __m128 rootByEstimate(__m128 s) {
+    const __m128 r = _mm_rsqrt_ps(s);
+    const __m128 correction =
+        _mm_mul_ps(_mm_set1_ps(0.5F), _mm_sub_ps(_mm_set1_ps(3.0F), _mm_mul_ps(s, _mm_mul_ps(r, r))));
+    return _mm_mul_ps(s, _mm_mul_ps(r, correction));
+}
+
+inline Real32 rootByEstimate(Real32 s) {
+    const Real32 r = _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(s)));
+    return s * (r * (0.5F * (3.0F - s * (r * r))));
+}
+
+} // namespace vonkk3
