@@ -41,10 +41,14 @@ inline bool overlap(const std::byte *a, const std::byte *b, std::size_t bytes) {
 // ---- Element by element into a destination --------------------------------------------------------------------------
 
 // The plain loop, over elements [from, to). A destination that runs ahead of a source sees elements already written.
-template <class Operation, class... Sources>
+// Only where there may be many of them is it worth the compiler's while to look for lanes in it.
+enum class Many { yes, no };
+
+template <Many many, class Operation, class... Sources>
 inline void walkElements(const Operation &operation, std::byte *d, std::size_t from, std::size_t to,
                          Sources... sources) {
     for (std::size_t j = from; j < to; ++j) {
+        if constexpr (many == Many::no) keepLoopPlain();
         const std::size_t at = j * sizeof(Real32);
         storeAt<Real32>(d + at, operation(loadAt<Real32>(sources + at)...));
     }
@@ -77,14 +81,14 @@ inline void walkBlocks(const Operation &operation, std::byte *d, std::size_t len
     const std::size_t bytes = length * sizeof(Real32);
     if (length < blockThreshold || overlap(last, d, bytes) || (overlap(others, d, bytes) || ...) ||
         pastBoundary(d) % sizeof(Real32) != 0)
-        return walkElements(operation, d, 0, length, others..., last);
+        return walkElements<Many::yes>(operation, d, 0, length, others..., last);
 
     const std::size_t peeled = elementsToBoundary(d);
-    walkElements(operation, d, 0, peeled, others..., last);
+    walkElements<Many::no>(operation, d, 0, peeled, others..., last);
     const std::size_t done = isAligned(last + peeled * sizeof(Real32))
                                  ? walkWholeBlocks<Alignment::lanes>(operation, d, peeled, length, last, others...)
                                  : walkWholeBlocks<Alignment::any>(operation, d, peeled, length, last, others...);
-    walkElements(operation, d, done, length, others..., last);
+    walkElements<Many::no>(operation, d, done, length, others..., last);
 }
 
 // ---- Sums over elements ---------------------------------------------------------------------------------------------
@@ -96,6 +100,7 @@ template <class Term, class... Others>
 inline Real32 sumTerms(const Term &term, Real32 sum, std::size_t from, std::size_t to, const std::byte *last,
                        Others... others) {
     for (std::size_t j = from; j < to; ++j) {
+        keepLoopPlain();
         const std::size_t at = j * sizeof(Real32);
         sum = sum + term(loadAt<Real32>(others + at)..., loadAt<Real32>(last + at));
     }

@@ -58,18 +58,16 @@ VONKK3_INLINE FourTriples cross(const FourTriples &a, const FourTriples &b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 
-// How many objects were done. Arrays that are packed move in whole registers.
+// How many objects were done.
 template <class A, class B, class D>
 inline std::size_t crossInBlocks(const A &a, const B &b, const D &d, std::size_t count) {
     const std::size_t end = inBlocks(count);
-    if (equallySpaced(a, b, d) && a.objectSpacing() == FourTriples::packedSpacing)
+    const auto work = [&](const auto &p, const auto &q, const auto &r) VONKK3_INLINED {
         for (std::size_t n = 0; n < end; n += blockObjects)
-            cross(FourTriples::loadPacked(a.view(n).base), FourTriples::loadPacked(b.view(n).base))
-                .storePacked(d.view(n).base);
-    else
-        for (std::size_t n = 0; n < end; n += blockObjects)
-            cross(FourTriples::load(SourceBlock(a, n)), FourTriples::load(SourceBlock(b, n))).store(TargetBlock(d, n));
-    return end;
+            cross(FourTriples::load(p, n), FourTriples::load(q, n)).store(r, n);
+        return end;
+    };
+    return withKnownSpacing<3>(work, a, b, d);
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------

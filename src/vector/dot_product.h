@@ -34,17 +34,24 @@ template <class F>
 inline constexpr bool sumsInPairs = F::isReal32 &&F::sharesOne &&F::length == 4 &&
                                     (F::layout == Layout::Standard || F::layout == Layout::L);
 
-// These take objects four at a time, one in each lane: 3x1 and 4x1 of an array against one vector ...
+// These take objects four at a time, one in each lane, whatever their operands overlap: 3x1 and 4x1 of an array against
+// one vector, the standard layout's 3x1 only if `src1`, its object stride and `dst` are multiples of 16. The two in L
+// never test an entry.
 template <class F>
 inline constexpr bool takesFourAgainstOne = F::isReal32 &&F::sharesOne && (F::length == 3 || F::length == 4) &&
                                             (F::layout == Layout::Standard || F::layout == Layout::L);
-
-// ... of which those in L never test an entry; and 3x1 of two arrays. Those two arrays, if aligned throughout, read the
-// element behind each object as well, and sum (p0 + p2) + p1 in blocks, but left to right in the objects that follow.
 template <class F> inline constexpr bool trustsEntries = takesFourAgainstOne<F> &&F::layout == Layout::L;
+
+// And 3x1 of two arrays, if both, their object strides and `dst` are multiples of 16. It reads the element behind each
+// object along, and sums (p0 + p2) + p1 in blocks, but left to right in the objects that follow.
 template <class F>
-inline constexpr bool takesFourPairs =
+inline constexpr bool takesAlignedTriples =
     F::isReal32 &&F::isArray && !F::sharesOne && F::length == 3 && F::layout == Layout::Standard;
+
+// All arrays of fixed size and adjacent elements in the standard layout go in blocks where results lie apart from
+// operands: nobody can tell then.
+template <class F>
+inline constexpr bool mayTakeBlocks = F::isReal32 &&F::isArray &&F::isFixed &&F::layout == Layout::Standard;
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
@@ -72,15 +79,16 @@ VONKK3_INLINE Working<typename F::T> sumProducts(const A &a, const B &b, Length 
 
 // ---- Blocks of four objects -----------------------------------------------------------------------------------------
 
-// The products of a block are all there before its results are stored. In that the block differs from one object after
-// the other only if results overlap operands, so that blocks are open to operands that lie apart whatever their
-// alignment.
-template <class A, class B> inline bool resultsLieApart(const Real32 *dst, const A &a, const B &b, Objects count) {
-    const auto covered = [&](const auto &operand) {
-        return Extent(RowsView<const Real32>(operand.view(0).base, operand.objectSpacing()), count, 3);
-    };
+// The products of a block are all there before its results are stored. In that it differs from one object after the
+// other only if results overlap operands.
+template <class F, class A, class B>
+inline bool resultsLieApart(const Real32 *dst, const A &a, const B &b, Objects count) {
     const Extent results(dst, count * sizeof(Real32));
-    return areApart(results, covered(a)) && areApart(results, covered(b));
+    const auto isApart = [&](const auto &operand) {
+        const RowsView<const Real32> objects(operand.view(0).base, operand.objectSpacing());
+        return areApart(results, Extent(objects, count, F::length));
+    };
+    return isApart(a) && isApart(b);
 }
 
 template <class... Operands> inline bool allAligned(const Real32 *dst, const Operands &...operands) {
@@ -90,77 +98,70 @@ template <class... Operands> inline bool allAligned(const Real32 *dst, const Ope
     return words % laneBytes == 0;
 }
 
-VONKK3_INLINE __m128 sumLeftToRight(const FourTriples &p) { return (p.x + p.y) + p.z; }
+// Element j of what is multiplied: of four objects, or of the one vector in all lanes.
+template <class B> struct FourOrOne {
+    const B &b;
+    std::size_t n;
+    VONKK3_INLINE __m128 element(std::size_t j) const {
+        if constexpr (B::isArray) return gather(SourceBlock(b, n), j * sizeof(Real32));
+        else return _mm_set1_ps(b.view(0).load(j));
+    }
+    VONKK3_INLINE __m128 row(std::size_t k) const { return load4(b.view(B::isArray ? n + k : 0).base); }
+    VONKK3_INLINE FourTriples triples() const {
+        if constexpr (B::isArray) return FourTriples::load(b, n);
+        else return {element(0), element(1), element(2)};
+    }
+};
 
-template <bool packed, class A> VONKK3_INLINE FourTriples loadTriples(const A &a, std::size_t n) {
-    if constexpr (packed) return FourTriples::loadPacked(a.view(n).base);
-    else return FourTriples::load(SourceBlock(a, n));
-}
-
-// Works whole blocks; the first object that they leave.
-template <class Block> VONKK3_INLINE std::size_t forEachBlock(Objects count, std::byte *results, const Block &block) {
-    const std::size_t end = inBlocks(count);
-    for (std::size_t n = 0; n < end; n += blockObjects) store4(results + n * sizeof(Real32), block(n));
-    return end;
-}
-
-template <bool packed, class A, class B>
-inline std::size_t dotTriplesAgainstOne(const A &a, const B &b, std::byte *results, Objects count) {
-    return forEachBlock(count, results, [&](std::size_t n) VONKK3_INLINED {
-        const FourTriples objects = loadTriples<packed>(a, n);
-        const auto v = b.view(0);
-        return sumLeftToRight({objects.x * _mm_set1_ps(v.load(0)), objects.y * _mm_set1_ps(v.load(1)),
-                               objects.z * _mm_set1_ps(v.load(2))});
-    });
-}
-
-template <class A, class B>
-inline std::size_t dotFoursAgainstOne(const A &a, const B &b, std::byte *results, Objects count) {
-    return forEachBlock(count, results, [&](std::size_t n) VONKK3_INLINED {
-        const SourceBlock block(a, n);
-        const __m128 v = load4(b.view(0).base);
-        return addRows(load4(block.at[0]) * v, load4(block.at[1]) * v, load4(block.at[2]) * v, load4(block.at[3]) * v);
-    });
-}
-
-template <bool packed, class A, class B>
-inline std::size_t dotTriples(const A &a, const B &b, std::byte *results, Objects count) {
-    return forEachBlock(count, results, [&](std::size_t n) VONKK3_INLINED {
-        const FourTriples p = loadTriples<packed>(a, n), q = loadTriples<packed>(b, n);
-        return sumLeftToRight({p.x * q.x, p.y * q.y, p.z * q.z});
-    });
+// The sums of objects n to n + 3.
+template <class F, class A, class B> VONKK3_INLINE __m128 dotBlock(const A &a, const B &b, std::size_t n) {
+    const FourOrOne<A> p{a, n};
+    const FourOrOne<B> q{b, n};
+    if constexpr (F::length == 3) {
+        const FourTriples u = p.triples(), v = q.triples();
+        return (u.x * v.x + u.y * v.y) + u.z * v.z;
+    } else {
+        const auto product = [&](std::size_t k) VONKK3_INLINED { return p.row(k) * q.row(k); };
+        if constexpr (sumsInPairs<F>) return addRows(product(0), product(1), product(2), product(3));
+        const Columns products(product(0), product(1), product(2), product(3));
+        __m128 sum = ((products[0] + products[1]) + products[2]) + products[3];
+        for (std::size_t j = 4; j < F::length; ++j) sum = sum + p.element(j) * q.element(j);
+        return sum;
+    }
 }
 
 // Products in rows of xyz and the element behind, which is worked along and dropped.
-template <class A, class B>
-inline std::size_t dotAlignedTriples(const A &a, const B &b, std::byte *results, Objects count) {
-    return forEachBlock(count, results, [&](std::size_t n) VONKK3_INLINED {
-        const SourceBlock p(a, n), q(b, n);
-        __m128 row[blockObjects];
-        for (std::size_t k = 0; k < blockObjects; ++k) row[k] = load4Aligned(p.at[k]) * load4Aligned(q.at[k]);
-        _MM_TRANSPOSE4_PS(row[0], row[1], row[2], row[3]);
-        return (row[0] + row[2]) + row[1];
-    });
+template <class A, class B> VONKK3_INLINE __m128 dotAlignedTriples(const A &a, const B &b, std::size_t n) {
+    const SourceBlock p(a, n), q(b, n);
+    const auto product = [&](std::size_t k) VONKK3_INLINED { return load4Aligned(p.at[k]) * load4Aligned(q.at[k]); };
+    const Columns products(product(0), product(1), product(2), product(3));
+    return (products[0] + products[2]) + products[1];
 }
 
-// How many objects were done four at a time.
+// Works whole blocks; the first object that they leave.
+template <class Sums> VONKK3_INLINE std::size_t forEachBlock(Objects count, std::byte *results, const Sums &sums) {
+    const std::size_t end = inBlocks(count);
+    for (std::size_t n = 0; n < end; n += blockObjects) store4(results + n * sizeof(Real32), sums(n));
+    return end;
+}
+
+// How many objects were done in blocks.
 template <class F, class A, class B>
 inline std::size_t dotInBlocks(const A &a, const B &b, Real32 *dst, Objects count) {
     std::byte *results = reinterpret_cast<std::byte *>(dst);
-    constexpr bool isPacked = true;
-    const auto packed = [](const auto &operand) { return operand.objectSpacing() == FourTriples::packedSpacing; };
-    if constexpr (F::length == 4) return dotFoursAgainstOne(a, b, results, count);
-    else if constexpr (F::layout == Layout::L) return dotTriplesAgainstOne<!isPacked>(a, b, results, count);
-    else if constexpr (F::sharesOne) {
-        if (!allAligned(dst, a) && !resultsLieApart(dst, a, b, count)) return 0;
-        if (packed(a)) return dotTriplesAgainstOne<isPacked>(a, b, results, count);
-        return dotTriplesAgainstOne<!isPacked>(a, b, results, count);
-    } else {
-        if (allAligned(dst, a, b)) return dotAlignedTriples(a, b, results, count);
-        if (!resultsLieApart(dst, a, b, count)) return 0;
-        if (packed(a) && packed(b)) return dotTriples<isPacked>(a, b, results, count);
-        return dotTriples<!isPacked>(a, b, results, count);
+    if constexpr (takesAlignedTriples<F>)
+        if (allAligned(dst, a, b))
+            return forEachBlock(count, results,
+                                [&](std::size_t n) VONKK3_INLINED { return dotAlignedTriples(a, b, n); });
+    if constexpr (mayTakeBlocks<F>) {
+        const bool must = takesFourAgainstOne<F> && (F::length == 4 || allAligned(dst, a));
+        if (!must && !resultsLieApart<F>(dst, a, b, count)) return 0;
     }
+    const auto work = [&](const auto &p, const auto &q) VONKK3_INLINED {
+        return forEachBlock(count, results, [&](std::size_t n) VONKK3_INLINED { return dotBlock<F>(p, q, n); });
+    };
+    if constexpr (B::isArray) return withKnownSpacing<F::length>(work, a, b);
+    else return withKnownSpacing<F::length>([&](const auto &p) VONKK3_INLINED { return work(p, b); }, a);
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
@@ -176,7 +177,7 @@ VONKK3_INLINE VonkStatus dotProduct(const A &a, const B &b, T *dst, Length lengt
 
     std::byte *results = reinterpret_cast<std::byte *>(dst);
     std::size_t done = 0;
-    if constexpr (takesFourAgainstOne<F> || takesFourPairs<F>) done = dotInBlocks<F>(a, b, dst, count);
+    if constexpr (takesFourAgainstOne<F> || mayTakeBlocks<F>) done = dotInBlocks<F>(a, b, dst, count);
     const auto work = [&](std::size_t n) VONKK3_INLINED {
         Working<T> sum;
         if constexpr (sumsInBlocks<F>) sum = sumInBlocks(ProductTerm{}, length, b.view(0).base, a.view(0).base);

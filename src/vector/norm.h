@@ -66,12 +66,14 @@ template <std::size_t length, class View> VONKK3_INLINE Real32 normByEstimate(co
 
 // ---- Blocks of four objects -----------------------------------------------------------------------------------------
 
-template <std::size_t length> VONKK3_INLINE __m128 sumFourSquares(const SourceBlock &block) {
-    const auto square = [](__m128 a) { return _mm_mul_ps(a, a); };
+// The sums of squares of objects n to n + 3.
+template <std::size_t length, class Source> VONKK3_INLINE __m128 sumFourSquares(const Source &source, std::size_t n) {
     if constexpr (length == 3) {
-        const FourTriples v = FourTriples::load(block);
-        return (square(v.x) + square(v.y)) + square(v.z);
+        const FourTriples v = FourTriples::load(source, n);
+        return (v.x * v.x + v.y * v.y) + v.z * v.z;
     } else {
+        const SourceBlock block(source, n);
+        const auto square = [](__m128 a) VONKK3_INLINED { return a * a; };
         const auto elements = [&](std::size_t j) VONKK3_INLINED { return square(gather(block, j * sizeof(Real32))); };
         const __m128 four = addRows(square(load4(block.at[0])), square(load4(block.at[1])), square(load4(block.at[2])),
                                     square(load4(block.at[3])));
@@ -84,13 +86,16 @@ template <std::size_t length> VONKK3_INLINE __m128 sumFourSquares(const SourceBl
 // Blocks from the first object on, as long as no entry of theirs is null; the first object that they leave.
 template <std::size_t length, bool testsEntries, class Source>
 inline std::size_t normInBlocks(const Source &source, std::byte *results, Objects count) {
-    const std::size_t end = inBlocks(count);
-    for (std::size_t n = 0; n < end; n += blockObjects) {
-        for (std::size_t k = 0; testsEntries && k < blockObjects; ++k)
-            if (source.listHasNull(n + k)) return n;
-        store4(results + n * sizeof(Real32), rootByEstimate(sumFourSquares<length>(SourceBlock(source, n))));
-    }
-    return end;
+    const auto work = [&](const auto &vectors) VONKK3_INLINED {
+        const std::size_t end = inBlocks(count);
+        for (std::size_t n = 0; n < end; n += blockObjects) {
+            for (std::size_t k = 0; testsEntries && k < blockObjects; ++k)
+                if (source.listHasNull(n + k)) return n;
+            store4(results + n * sizeof(Real32), rootByEstimate(sumFourSquares<length>(vectors, n)));
+        }
+        return end;
+    };
+    return withKnownSpacing<length>(work, source);
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
