@@ -16,6 +16,10 @@ bool isVectorSum(const Form &form) {
     return (form.operation == "Add" || form.operation == "Sub") && form.isOnVectors() && form.sources.size() == 2;
 }
 
+bool isVectorWithConstant(const Form &form) {
+    return form.isOnVectors() && form.sources.size() == 1 && form.group.find('c') != std::string::npos;
+}
+
 bool isMatrixSum(const Form &form) {
     return (form.operation == "Add" || form.operation == "Sub") && !form.isOnVectors();
 }
@@ -35,6 +39,12 @@ bool isMatrixByVector(const Form &form) { return isProduct(form) && !form.source
 
 const Family families[] = {
     {isVectorSum, addOrSubtractVectors},
+    {isVectorWithConstant, combineVectorAndConstant},
+    {[](const Form &form) { return form.operation == "Saxpy"; }, addScaledVector},
+    {[](const Form &form) { return form.operation == "LComb"; }, combineLinearly},
+    {[](const Form &form) { return form.operation == "DotProduct"; }, multiplyVectors},
+    {[](const Form &form) { return form.operation == "L2Norm"; }, takeNorm},
+    {[](const Form &form) { return form.operation == "CrossProduct"; }, crossVectors},
     {isMatrixSum, addOrSubtractMatrices},
     {isScaledMatrix, multiplyMatrixByConstant},
     {[](const Form &form) { return form.operation == "Transpose"; }, transposeMatrices},

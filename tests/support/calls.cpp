@@ -227,7 +227,8 @@ void Builder::borrowStrides() {
 void Builder::layResultOnSource() {
     if (mixture.fixedOutcomesOnly || !families::mayLieInSource(function) || !random.percent(15)) return;
     Block &result = *std::ranges::find(call.blocks, "dst", &Block::parameter);
-    const std::vector<std::uintptr_t> places = operand(0).elements();
+    const auto source = operandCount() == 1 ? 0 : static_cast<int>(random.below(call.operands.size()));
+    const std::vector<std::uintptr_t> places = operand(source).elements();
     result.address = random.pick(std::span<const std::uintptr_t>(places));
     if (random.percent(15)) result.address += static_cast<std::uintptr_t>(random.between(1, elementSize - 1));
 }
@@ -264,6 +265,7 @@ void Builder::placeItems(std::vector<Item> &items) {
 std::vector<Item> Builder::makeItems() {
     std::vector<Item> items;
     for (const Placement &placement : call.operands) items.push_back({placement.reach, chooseResidue()});
+    if (families::mustKeepOffBoundary(function, call.operands)) items.back().residue = 4;
     for (std::size_t k = 0; k < call.operands.size(); ++k) { // a follower moves in with its leader
         const Relation &relation = relations[k];
         if (relation.leader < 0) continue;
@@ -492,10 +494,11 @@ void noteOverlap(Call &call) {
 void noteResultInSource(Call &call) {
     if (!families::mayLieInSource(*call.function)) return;
     const Block &result = *std::ranges::find(call.blocks, "dst", &Block::parameter);
-    const Placement &source = call.operands.front();
-    std::vector<std::uintptr_t> to;
-    for (std::uint32_t at = 0; at < result.bytes; at += source.elementSize) to.push_back(result.address + at);
-    noteSharedElements(call.traits, to, source.elements(), source.elementSize);
+    for (const Placement &source : call.operands) {
+        std::vector<std::uintptr_t> to;
+        for (std::uint32_t at = 0; at < result.bytes; at += source.elementSize) to.push_back(result.address + at);
+        noteSharedElements(call.traits, to, source.elements(), source.elementSize);
+    }
 }
 
 Setting chooseSetting(Random &random) {

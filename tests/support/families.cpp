@@ -140,11 +140,23 @@ Reach borrowedReach(const Function &function, const Operand &operand, std::span<
 }
 
 bool looksAtAlignment(const Function &function) {
-    return in(function, {"matrix-matrix", "matrix-constant", "frobenius-norm"}) && function.order != 0 &&
-           function.type == catalogue::Type::real32 && (function.layout.empty() || function.layout == "L");
+    return in(function, {"vector-constant", "saxpy", "linear-combination", "dot-product", "norm", "matrix-matrix",
+                         "matrix-constant", "frobenius-norm"}) &&
+           function.order != 0 && function.type == catalogue::Type::real32 &&
+           (function.layout.empty() || function.layout == "L");
 }
 
-bool mayLieInSource(const Function &function) { return in(function, {"trace", "frobenius-norm"}); }
+bool mayLieInSource(const Function &function) {
+    return in(function, {"dot-product", "norm", "trace", "frobenius-norm"});
+}
+
+// Aligned where all the others are, whatever the stride of the second source, which nobody looks at.
+bool mustKeepOffBoundary(const Function &function, std::span<const Placement> operands) {
+    const bool trusts = in(function, {"saxpy"}) && function.type == catalogue::Type::real32 &&
+                        function.group == "vava" && function.layout.empty() &&
+                        (function.order == 4 || function.order == 6);
+    return trusts && operands[1].objects > 1 && operands[1].objectStride % 16 != 0;
+}
 
 bool testsPointers(const Function &function) {
     static constexpr std::array<std::string_view, 5> untested{"vonkExtract_m_32f_P", "vonkExtract_m_64f_P",
@@ -199,12 +211,14 @@ bool testsListEntry(const Function &function, const Operand &operand, const Size
     return !takesBlocks || entry < sizes.count - sizes.count % 4;
 }
 
-// The kernels of 3x3 in tables and strided lists trust the entries.
+// The kernels of 3x3 in tables and strided lists trust the entries, and so do some walks in blocks.
 bool trustsEntries(const Function &function) {
-    static constexpr std::array<std::string_view, 10> trusting{
-        "vonkMul_mam_32f_3x3_P",    "vonkMul_maTm_32f_3x3_P",   "vonkMul_mamT_32f_3x3_P",  "vonkMul_mam_32f_3x3_PS2",
-        "vonkMul_maTm_32f_3x3_PS2", "vonkMul_mamT_32f_3x3_PS2", "vonkMul_mam_32f_3x3_LS2", "vonkMul_maTm_32f_3x3_LS2",
-        "vonkMul_mamT_32f_3x3_LS2", "vonkMul_maTmT_32f_3x3_LS2"};
+    static constexpr std::array<std::string_view, 13> trusting{
+        "vonkMul_mam_32f_3x3_P",     "vonkMul_maTm_32f_3x3_P",       "vonkMul_mamT_32f_3x3_P",
+        "vonkMul_mam_32f_3x3_PS2",   "vonkMul_maTm_32f_3x3_PS2",     "vonkMul_mamT_32f_3x3_PS2",
+        "vonkMul_mam_32f_3x3_LS2",   "vonkMul_maTm_32f_3x3_LS2",     "vonkMul_mamT_32f_3x3_LS2",
+        "vonkMul_maTmT_32f_3x3_LS2", "vonkDotProduct_vav_32f_3x1_L", "vonkDotProduct_vav_32f_4x1_L",
+        "vonkL2Norm_va_32f_4x1_L"};
     return std::ranges::find(trusting, function.name) != trusting.end();
 }
 
@@ -235,6 +249,7 @@ bool stopsAtNullEntry(const Function &function, const Operand &operand) {
 bool isFixedInPlace(const Function &function, const Operand &source) {
     if (source.transposed) return false;
     if (in(function, {"cholesky-back-substitution"})) return source.name == "src2";
+    if (in(function, {"cross-product"})) return function.group == "vv" && function.layout.empty();
     return in(function, {"vector-constant", "vector-vector", "saxpy", "linear-combination", "matrix-matrix",
                          "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition"});
 }
@@ -265,7 +280,7 @@ void fillBlock(const Function &function, std::string_view parameter, std::span<s
         fillPivots(block, orderOf(function, sizes), random);
 }
 
-bool hasTrouble(const Function &function) { return in(function, {"lu-decomposition", "frobenius-norm"}); }
+bool hasTrouble(const Function &function) { return in(function, {"norm", "lu-decomposition", "frobenius-norm"}); }
 
 namespace {
 
@@ -334,7 +349,7 @@ void makeTrouble(const Function &function, std::span<const Placement> operands, 
     const Placement &source = operands.front();
     const auto n = static_cast<std::uint32_t>(random.percent(50) ? 0 : random.below(source.objects));
     const MatrixObject matrix{source, function.type, n};
-    if (in(function, {"frobenius-norm"})) return moveSquaresToTheEdge(matrix, random);
+    if (in(function, {"norm", "frobenius-norm"})) return moveSquaresToTheEdge(matrix, random);
     switch (random.below(4)) {
     case 0: return repeatRow(matrix, random);
     case 1: return clearColumn(matrix, random);

@@ -48,6 +48,9 @@ bool looksAtAlignment(const catalogue::Function &function);
 // Whether calls are to lay the block `dst` over their source.
 bool mayLieInSource(const catalogue::Function &function);
 
+// Whether the destination must not lie at a multiple of 16, since a call would then take more for aligned than it is.
+bool mustKeepOffBoundary(const catalogue::Function &function, std::span<const Placement> operands);
+
 // Whether a null pointer parameter is answered by a status.
 bool testsPointers(const catalogue::Function &function);
 
