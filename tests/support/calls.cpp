@@ -229,8 +229,10 @@ void Builder::layResultOnSource() {
     Block &result = *std::ranges::find(call.blocks, "dst", &Block::parameter);
     const auto source = operandCount() == 1 ? 0 : static_cast<int>(random.below(call.operands.size()));
     const std::vector<std::uintptr_t> places = operand(source).elements();
-    result.address = random.pick(std::span<const std::uintptr_t>(places));
-    if (random.percent(15)) result.address += static_cast<std::uintptr_t>(random.between(1, elementSize - 1));
+    std::uintptr_t address = random.pick(std::span<const std::uintptr_t>(places));
+    if (random.percent(15)) address += static_cast<std::uintptr_t>(random.between(1, elementSize - 1));
+    const std::uintptr_t end = operand(source).origin + static_cast<std::uintptr_t>(operand(source).reach.high);
+    if (address + result.bytes <= end) result.address = address; // what lies behind may be a table
 }
 
 std::uint32_t Builder::chooseResidue() {
