@@ -66,6 +66,9 @@ public:
     }
     std::ptrdiff_t objectSpacing() const { return objectStride; }
 
+    // Whether the rows of a matrix, of so many elements, lie one behind the other.
+    bool hasPackedRows(std::size_t columns) const { return rowStride == std::ptrdiff_t(columns * sizeof(T)); }
+
 private:
     static constexpr bool hasShift = isTable || isList;
     static constexpr bool hasObjectStride = isArray && !isList && layout != Layout::P;

@@ -1,6 +1,7 @@
 // Matrix by vector: a single one or an array on either side, the matrix read as stored or transposed.
 #pragma once
 
+#include "product/packed_triples.h"
 #include "product/schemes.h"
 #include "product/vector_kernels.h"
 
@@ -47,10 +48,15 @@ template <std::size_t order, class A, class V> VONKK3_INLINE auto factorsInLanes
 template <class A, class V, class D, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus multiplyVectorInLanes(const A &src1, const V &src2, const D &dst, Fixed<order>, Count count) {
     if (count == 0) return vonkOk; // nothing is read, a single operand neither
+    std::size_t done = 0;
+    if constexpr (order == 3 && !A::isArray && V::isArray && D::layout == Layout::Standard)
+        if (equallySpaced(src2, dst) && dst.objectSpacing() == 3 * sizeof(Real32))
+            done = multiplyPackedTriples([a = src1.view(0)](auto i, auto k) { return a.load(i, k); }, src2.view(0).base,
+                                         dst.view(0).base, count);
     const auto matrices = matricesInLanes<order>(src1);
     const auto vectors = factorsInLanes<order, A>(src2);
-    return forEachObject(
-        count,
+    return forEachObjectFrom(
+        done, count,
         [&](std::size_t n) VONKK3_INLINED {
             storeVector<order>(dst.view(n).base, matrices(n).times(vectors(n)));
             return vonkOk;
