@@ -90,6 +90,7 @@ VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &
         });
     else {
         if (count == 0) return vonkOk; // nothing is read, the single operand neither
+        HeldRows<order> held = hold<P, order>(src2.view(0, order));
         if constexpr (order == 3 && P::layout == Layout::Standard && !P::firstTransposed) {
             // The rows of packed matrices are vectors, multiplied by the single matrix transposed.
             if (equallySpaced(src1, dst) && dst.objectSpacing() == 9 * sizeof(Real32) && src1.hasPackedRows(3) &&
@@ -98,7 +99,6 @@ VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &
                                              src1.view(0).base, dst.view(0).base, 3 * inBlocks(count)) /
                        3;
         }
-        HeldRows<order> held = hold<P, order>(src2.view(0, order));
         return walk([&](std::size_t n) VONKK3_INLINED { return multiplyObject(n, held); });
     }
 }

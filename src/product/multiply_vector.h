@@ -35,12 +35,12 @@ template <class Held, bool isArray, class Load> VONKK3_INLINE auto heldOrLoaded(
 }
 
 template <std::size_t order, class A> VONKK3_INLINE auto matricesInLanes(const A &src) {
-    using Held = HeldMatrix<order, A::isTransposed>;
+    using Held = HeldMatrix<A, order>;
     return heldOrLoaded<Held, A::isArray>([&src](std::size_t n) VONKK3_INLINED { return Held(src.view(n)); });
 }
 
 template <std::size_t order, class A, class V> VONKK3_INLINE auto factorsInLanes(const V &src) {
-    using Factors = typename HeldMatrix<order, A::isTransposed>::Factors;
+    using Factors = typename HeldMatrix<A, order>::Factors;
     return heldOrLoaded<Factors, V::isArray>([&src](std::size_t n)
                                                  VONKK3_INLINED { return Factors(src.view(n).base); });
 }
@@ -48,13 +48,13 @@ template <std::size_t order, class A, class V> VONKK3_INLINE auto factorsInLanes
 template <class A, class V, class D, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus multiplyVectorInLanes(const A &src1, const V &src2, const D &dst, Fixed<order>, Count count) {
     if (count == 0) return vonkOk; // nothing is read, a single operand neither
+    const auto matrices = matricesInLanes<order>(src1);
+    const auto vectors = factorsInLanes<order, A>(src2);
     std::size_t done = 0;
     if constexpr (order == 3 && !A::isArray && V::isArray && D::layout == Layout::Standard)
         if (equallySpaced(src2, dst) && dst.objectSpacing() == 3 * sizeof(Real32))
             done = multiplyPackedTriples([a = src1.view(0)](auto i, auto k) { return a.load(i, k); }, src2.view(0).base,
                                          dst.view(0).base, count);
-    const auto matrices = matricesInLanes<order>(src1);
-    const auto vectors = factorsInLanes<order, A>(src2);
     return forEachObjectFrom(
         done, count,
         [&](std::size_t n) VONKK3_INLINED {
