@@ -160,6 +160,8 @@ void Builder::relate(int follower, int leader, Overlap overlap) {
         const bool sameStrides = alike && random.percent(65);
         if (sameStrides) becomeCopy(follower, leader);
         relation.delta = chooseDelta(follower, leader, sameStrides);
+        if (allAligned && families::looksAtAlignment(function) && random.percent(50))
+            relation.delta = relation.delta / 16 * 16;
     }
 }
 
