@@ -225,14 +225,19 @@ void Builder::borrowStrides() {
         operand(k).reach.include(families::borrowedReach(function, described(k), call.operands));
 }
 
-// Where nothing keeps a plain result out of its source.
+// Where nothing keeps a plain result out of its source. It may run beyond that, but not into a table.
 void Builder::layResultOnSource() {
     if (mixture.fixedOutcomesOnly || !families::mayLieInSource(function) || !random.percent(15)) return;
     Block &result = *std::ranges::find(call.blocks, "dst", &Block::parameter);
     const auto source = operandCount() == 1 ? 0 : static_cast<int>(random.below(call.operands.size()));
     const std::vector<std::uintptr_t> places = operand(source).elements();
-    result.address = random.pick(std::span<const std::uintptr_t>(places));
-    if (random.percent(15)) result.address += static_cast<std::uintptr_t>(random.between(1, elementSize - 1));
+    std::uintptr_t address = random.pick(std::span<const std::uintptr_t>(places));
+    if (random.percent(15)) address += static_cast<std::uintptr_t>(random.between(1, elementSize - 1));
+    for (const Placement &placement : call.operands)
+        if (placement.tabled && address < placement.table + 8 * placement.slots.size() &&
+            placement.table - 8 < address + result.bytes)
+            return;
+    result.address = address;
 }
 
 std::uint32_t Builder::chooseResidue() {
