@@ -208,7 +208,9 @@ void Builder::chooseRelations() {
                                 : share < mixture.inPlace + mixture.partial ? Overlap::partial
                                                                             : Overlap::none;
         const int source = chooseLeader(written);
-        if (source >= 0 && overlap != Overlap::none) layDestinationOn(source, overlap);
+        const bool leavesItOpen = !mixture.fixedOutcomesOnly && families::mostlyLeavesOverlapOpen(function);
+        if (source >= 0 && overlap != Overlap::none && (!leavesItOpen || random.percent(50)))
+            layDestinationOn(source, overlap);
     }
     // Two sources may be one.
     for (int k = 1; k < operandCount(); ++k)
@@ -422,7 +424,9 @@ void Builder::makeNullEntry() {
     const bool positions = isTable(described(k).layout);
     const std::uint32_t entries = positions ? placement.shape.rows * placement.shape.cols : placement.objects;
     const auto entry = static_cast<std::uint32_t>(random.below(entries));
-    if (!families::testsEntry(function, described(k), sizes, entry)) return;
+    for (int other = 0; other < operandCount(); ++other) // two operands may have one table
+        if (operand(other).table == placement.table && !families::testsEntry(function, described(other), sizes, entry))
+            return;
     const std::uintptr_t null = 0;
     std::memcpy(reinterpret_cast<void *>(placement.table + 8 * std::uintptr_t{entry}), &null, sizeof null);
     call.traits.nullEntry = true;
