@@ -160,6 +160,8 @@ void Builder::relate(int follower, int leader, Overlap overlap) {
         const bool sameStrides = alike && random.percent(65);
         if (sameStrides) becomeCopy(follower, leader);
         relation.delta = chooseDelta(follower, leader, sameStrides);
+        if (allAligned && families::looksAtAlignment(function) && random.percent(50))
+            relation.delta = relation.delta / 16 * 16;
     }
 }
 
@@ -206,7 +208,9 @@ void Builder::chooseRelations() {
                                 : share < mixture.inPlace + mixture.partial ? Overlap::partial
                                                                             : Overlap::none;
         const int source = chooseLeader(written);
-        if (source >= 0 && overlap != Overlap::none) layDestinationOn(source, overlap);
+        const bool leavesItOpen = !mixture.fixedOutcomesOnly && families::mostlyLeavesOverlapOpen(function);
+        if (source >= 0 && overlap != Overlap::none && (!leavesItOpen || random.percent(50)))
+            layDestinationOn(source, overlap);
     }
     // Two sources may be one.
     for (int k = 1; k < operandCount(); ++k)
@@ -223,7 +227,7 @@ void Builder::borrowStrides() {
         operand(k).reach.include(families::borrowedReach(function, described(k), call.operands));
 }
 
-// Where nothing keeps a plain result out of its source.
+// Where nothing keeps a plain result out of its source. It may run beyond that, but not into a table.
 void Builder::layResultOnSource() {
     if (mixture.fixedOutcomesOnly || !families::mayLieInSource(function) || !random.percent(15)) return;
     Block &result = *std::ranges::find(call.blocks, "dst", &Block::parameter);
@@ -231,8 +235,11 @@ void Builder::layResultOnSource() {
     const std::vector<std::uintptr_t> places = operand(source).elements();
     std::uintptr_t address = random.pick(std::span<const std::uintptr_t>(places));
     if (random.percent(15)) address += static_cast<std::uintptr_t>(random.between(1, elementSize - 1));
-    const std::uintptr_t end = operand(source).origin + static_cast<std::uintptr_t>(operand(source).reach.high);
-    if (address + result.bytes <= end) result.address = address; // what lies behind may be a table
+    for (const Placement &placement : call.operands)
+        if (placement.tabled && address < placement.table + 8 * placement.slots.size() &&
+            placement.table - 8 < address + result.bytes)
+            return;
+    result.address = address;
 }
 
 std::uint32_t Builder::chooseResidue() {
@@ -417,7 +424,9 @@ void Builder::makeNullEntry() {
     const bool positions = isTable(described(k).layout);
     const std::uint32_t entries = positions ? placement.shape.rows * placement.shape.cols : placement.objects;
     const auto entry = static_cast<std::uint32_t>(random.below(entries));
-    if (!families::testsEntry(function, described(k), sizes, entry)) return;
+    for (int other = 0; other < operandCount(); ++other) // two operands may have one table
+        if (operand(other).table == placement.table && !families::testsEntry(function, described(other), sizes, entry))
+            return;
     const std::uintptr_t null = 0;
     std::memcpy(reinterpret_cast<void *>(placement.table + 8 * std::uintptr_t{entry}), &null, sizeof null);
     call.traits.nullEntry = true;

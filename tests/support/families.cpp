@@ -124,10 +124,15 @@ Reach extraReach(const Function &function, const Operand &operand, const Placeme
 
 namespace {
 
+bool hasLanes(const Function &function) {
+    return function.order != 0 && function.type == catalogue::Type::real32 &&
+           (function.layout.empty() || function.layout == "L");
+}
+
 // The forms of an array and a single matrix that load an object ahead of the one they store.
 bool runsAhead(const Function &function) {
-    return in(function, {"matrix-matrix"}) && function.type == catalogue::Type::real32 && function.order == 3 &&
-           (function.group == "mam" || function.group == "mamT") && (function.layout.empty() || function.layout == "L");
+    return in(function, {"matrix-matrix"}) && hasLanes(function) && function.order == 3 &&
+           (function.group == "mam" || function.group == "mamT");
 }
 
 } // namespace
@@ -142,8 +147,7 @@ Reach borrowedReach(const Function &function, const Operand &operand, std::span<
 bool looksAtAlignment(const Function &function) {
     return in(function, {"vector-constant", "saxpy", "linear-combination", "dot-product", "norm", "matrix-matrix",
                          "matrix-constant", "frobenius-norm"}) &&
-           function.order != 0 && function.type == catalogue::Type::real32 &&
-           (function.layout.empty() || function.layout == "L");
+           hasLanes(function);
 }
 
 bool mayLieInSource(const Function &function) {
@@ -206,8 +210,7 @@ bool traceMayMeetNull(const Operand &operand, std::uint32_t order, std::uint32_t
 
 bool testsListEntry(const Function &function, const Operand &operand, const Sizes &sizes, std::uint32_t entry) {
     if (runsAhead(function)) return !operand.written || entry != 0 || sizes.count == 1;
-    const bool takesBlocks = in(function, {"frobenius-norm"}) && function.type == catalogue::Type::real32 &&
-                             function.layout == "L" && (function.order == 3 || function.order == 4);
+    const bool takesBlocks = in(function, {"frobenius-norm"}) && hasLanes(function) && function.order <= 4;
     return !takesBlocks || entry < sizes.count - sizes.count % 4;
 }
 
@@ -252,6 +255,13 @@ bool isFixedInPlace(const Function &function, const Operand &source) {
     if (in(function, {"cross-product"})) return function.group == "vv" && function.layout.empty();
     return in(function, {"vector-constant", "vector-vector", "saxpy", "linear-combination", "matrix-matrix",
                          "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition"});
+}
+
+// Rows and columns change places in registers, in an order that is free.
+bool mostlyLeavesOverlapOpen(const Function &function) {
+    if (!hasLanes(function)) return false;
+    return in(function, {"transpose"}) || (in(function, {"matrix-matrix", "matrix-constant"}) &&
+                                           std::ranges::any_of(function.operands, &Operand::transposed));
 }
 
 // Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.

@@ -64,6 +64,9 @@ bool stopsAtNullEntry(const catalogue::Function &function, const catalogue::Oper
 // Whether the result is fixed when the destination is this source, element on element.
 bool isFixedInPlace(const catalogue::Function &function, const catalogue::Operand &source);
 
+// Whether nearly all ways in which the destination can overlap a source are open, so that such calls tell little.
+bool mostlyLeavesOverlapOpen(const catalogue::Function &function);
+
 // How elements are chosen.
 ValueMixture usualValues(const catalogue::Function &function);
 
