@@ -924,6 +924,4771 @@ VonkStatus vonkSub_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift
     const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 
+/* ---- Matrix and matrix ----------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkAdd_mm_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mm_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mmT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mmT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mTm_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mTm_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mTmT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mTmT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mam_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mam_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mamT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mamT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTm_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTm_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTmT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTmT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mama_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mama_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mamaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mamaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTma_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTma_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTmaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTmaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mm_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mm_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mmT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mmT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mTm_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mTm_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mTmT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mTmT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mma_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mma_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mmaT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mmaT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mTma_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mTma_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mTmaT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mTmaT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mam_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mam_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mamT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mamT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTm_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTm_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTmT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTmT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mama_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mama_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mamaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mamaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTma_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTma_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTmaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTmaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+/* ---- Matrix times constant ------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkMul_mc_32f(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_32f_3x3(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_32f_4x4(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_32f_5x5(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_32f_6x6(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkMul_mc_64f(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_64f_3x3(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_64f_3x3_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_64f_4x4(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_64f_4x4_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_64f_5x5(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_64f_5x5_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_64f_6x6(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_64f_6x6_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkMul_mTc_32f(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_32f_3x3(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_32f_4x4(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_32f_5x5(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_32f_6x6(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkMul_mTc_64f(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_64f_3x3(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_64f_3x3_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_64f_4x4(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_64f_4x4_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_64f_5x5(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_64f_5x5_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_64f_6x6(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_64f_6x6_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkMul_mac_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkMul_mac_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTc_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkMul_maTc_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+
+/* ---- Transpose ------------------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkTranspose_m_32f(const float *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkTranspose_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
+    uint32_t rows, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
+    float *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkTranspose_m_64f(const double *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkTranspose_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
+    uint32_t rows, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
+    double *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkTranspose_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t cols, uint32_t rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
+    uint32_t rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t cols, uint32_t rows, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkTranspose_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t cols, uint32_t rows, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
+    uint32_t rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t cols, uint32_t rows, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+
+/* ---- Trace ----------------------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkTrace_m_32f(const float *src, int32_t srcRowStride, uint32_t order, float *dst);
+VonkStatus vonkTrace_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
+    float *dst);
+VonkStatus vonkTrace_m_32f_P(const float *const *src, int32_t srcShift, uint32_t order, float *dst);
+VonkStatus vonkTrace_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkTrace_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkTrace_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkTrace_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkTrace_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkTrace_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkTrace_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkTrace_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkTrace_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkTrace_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkTrace_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkTrace_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst);
+
+VonkStatus vonkTrace_m_64f(const double *src, int32_t srcRowStride, uint32_t order, double *dst);
+VonkStatus vonkTrace_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
+    double *dst);
+VonkStatus vonkTrace_m_64f_P(const double *const *src, int32_t srcShift, uint32_t order, double *dst);
+VonkStatus vonkTrace_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkTrace_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkTrace_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkTrace_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkTrace_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkTrace_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkTrace_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkTrace_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkTrace_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkTrace_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkTrace_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkTrace_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst);
+
+VonkStatus vonkTrace_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t order, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+
+VonkStatus vonkTrace_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t order, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+
+/* ---- Frobenius norm -------------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkFrobNorm_m_32f(const float *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, float *dst);
+VonkStatus vonkFrobNorm_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
+    uint32_t rows, float *dst);
+VonkStatus vonkFrobNorm_m_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, float *dst);
+VonkStatus vonkFrobNorm_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkFrobNorm_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkFrobNorm_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkFrobNorm_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst);
+
+VonkStatus vonkFrobNorm_m_64f(const double *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, double *dst);
+VonkStatus vonkFrobNorm_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
+    uint32_t rows, double *dst);
+VonkStatus vonkFrobNorm_m_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, double *dst);
+VonkStatus vonkFrobNorm_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkFrobNorm_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkFrobNorm_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkFrobNorm_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst);
+
+VonkStatus vonkFrobNorm_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t cols, uint32_t rows, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
+    uint32_t rows, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t cols, uint32_t rows, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+
+VonkStatus vonkFrobNorm_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t cols, uint32_t rows, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
+    uint32_t rows, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t cols, uint32_t rows, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+
 /* ---- Matrix by matrix -----------------------------------------------------------------------------------------------
  *
  * dst(n, i, j) = sum over k of A(i, k) B(k, j)

@@ -37,11 +37,11 @@ load an object whole before they store it; how 5 and 6 elements meet a partial o
     {"dot-product", "Dot product", "sum of the products of corresponding elements", "", "", "", false},
     {"norm", "L2 norm", "Euclidean length of a vector", "", "", "", false},
     {"cross-product", "Cross product", "vector product in three dimensions", "", "", "", false},
-    {"matrix-matrix", "Matrix and matrix", "element-wise sum and difference of matrices", "", "", "", false},
-    {"matrix-constant", "Matrix times constant", "each element times a constant", "", "", "", false},
-    {"transpose", "Transpose", "rows and columns exchanged", "", "", "", false},
-    {"trace", "Trace", "sum of the diagonal", "", "", "", false},
-    {"frobenius-norm", "Frobenius norm", "root of the sum of the squares of all elements", "", "", "", false},
+    {"matrix-matrix", "Matrix and matrix", "element-wise sum and difference of matrices", "", "", "", true},
+    {"matrix-constant", "Matrix times constant", "each element times a constant", "", "", "", true},
+    {"transpose", "Transpose", "rows and columns exchanged", "", "", "", true},
+    {"trace", "Trace", "sum of the diagonal", "", "", "", true},
+    {"frobenius-norm", "Frobenius norm", "root of the sum of the squares of all elements", "", "", "", true},
     {"matrix-product", "Matrix by matrix", "product of two matrices",
      R"(dst(n, i, j) = sum over k of A(i, k) B(k, j)
 
