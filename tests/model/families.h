@@ -34,11 +34,16 @@ struct Execution {
     }
 };
 
+Status addOrSubtractMatrices(const Execution &execution);
 Status addOrSubtractVectors(const Execution &execution);
 Status decomposeLu(const Execution &execution);
 Status multiplyAndAdd(const Execution &execution);
 Status multiplyMatrices(const Execution &execution);
+Status multiplyMatrixByConstant(const Execution &execution);
 Status multiplyMatrixByVector(const Execution &execution);
 Status substituteBackLu(const Execution &execution);
+Status sumDiagonal(const Execution &execution);
+Status takeFrobeniusNorm(const Execution &execution);
+Status transposeMatrices(const Execution &execution);
 
 } // namespace model

@@ -122,6 +122,35 @@ Reach extraReach(const Function &function, const Operand &operand, const Placeme
     return reach;
 }
 
+namespace {
+
+// Of the matrices element by element.
+bool hasLanes(const Function &function) {
+    return function.order != 0 && function.type == catalogue::Type::real32 &&
+           (function.layout.empty() || function.layout == "L");
+}
+
+// The forms of an array and a single matrix that load an object ahead of the one they store.
+bool runsAhead(const Function &function) {
+    return in(function, {"matrix-matrix"}) && hasLanes(function) && function.order == 3 &&
+           (function.group == "mam" || function.group == "mamT");
+}
+
+} // namespace
+
+// With the single matrix transposed those walk its rows with the stride of the array's.
+Reach borrowedReach(const Function &function, const Operand &operand, std::span<const Placement> operands) {
+    if (!runsAhead(function) || !operand.transposed) return {};
+    const std::int64_t last = 2 * operands.front().rowStride;
+    return {std::min<std::int64_t>(last, 0), std::max<std::int64_t>(last, 0) + 12};
+}
+
+bool looksAtAlignment(const Function &function) {
+    return in(function, {"matrix-matrix", "matrix-constant", "frobenius-norm"}) && hasLanes(function);
+}
+
+bool mayLieInSource(const Function &function) { return in(function, {"trace", "frobenius-norm"}); }
+
 bool testsPointers(const Function &function) {
     static constexpr std::array<std::string_view, 5> untested{"vonkExtract_m_32f_P", "vonkExtract_m_64f_P",
                                                               "vonkExtract_mT_32f_P", "vonkExtract_mT_64f_P",
@@ -147,6 +176,33 @@ std::uint32_t scannedEntries(const Function &function, const Operand &operand, c
     return (function.operands[0].transposed ? rows1 : cols1) * (function.operands[1].transposed ? cols2 : rows2);
 }
 
+// Of a table read at run-time size with the lengths of its rows exchanged: all that count as its entries are looked at
+// ahead of an array, those that are used along with a single matrix.
+bool testsExchangedEntry(const Operand &operand, const Sizes &sizes, std::uint32_t entry) {
+    const std::uint32_t cols = sizes["cols"];
+    const std::uint32_t rows = sizes["rows"];
+    if (operand.array) return entry < cols * rows;
+    // As many rows as a row is long, and of each so many entries, which may run into the next row.
+    const std::uint32_t length = operand.written ? cols : rows;
+    const std::uint32_t used = operand.written ? rows : cols;
+    for (std::uint32_t row = 0; row < length; ++row)
+        if (entry >= row * length && entry - row * length < used) return true;
+    return false;
+}
+
+// Arrays are scanned from the start of the table and no further than the diagonal is long; a single matrix is tested
+// along the diagonal. Off the diagonal nothing is ever read.
+bool traceMayMeetNull(const Operand &operand, std::uint32_t order, std::uint32_t entry) {
+    const bool onDiagonal = entry % (order + 1) == 0;
+    return !operand.array || entry < order || !onDiagonal;
+}
+
+bool testsListEntry(const Function &function, const Operand &operand, const Sizes &sizes, std::uint32_t entry) {
+    if (runsAhead(function)) return !operand.written || entry != 0 || sizes.count == 1;
+    const bool takesBlocks = in(function, {"frobenius-norm"}) && hasLanes(function) && function.order <= 4;
+    return !takesBlocks || entry < sizes.count - sizes.count % 4;
+}
+
 // The kernels of 3x3 in tables and strided lists trust the entries.
 bool trustsEntries(const Function &function) {
     static constexpr std::array<std::string_view, 10> trusting{
@@ -163,6 +219,12 @@ bool testsEntry(const Function &function, const Operand &operand, const Sizes &s
     if (in(function, {"copy", "extract", "identity", "cholesky-decomposition", "cholesky-back-substitution"}))
         return false;
     if (trustsEntries(function)) return false;
+    if (isList(operand.layout)) return testsListEntry(function, operand, sizes, entry);
+    if (in(function, {"trace"})) return traceMayMeetNull(operand, orderOf(function, sizes), entry);
+    if (in(function, {"transpose"}) && function.order == 0) return testsExchangedEntry(operand, sizes, entry);
+    if (in(function, {"matrix-matrix", "matrix-constant"}) && !function.array() && operand.transposed &&
+        function.order == 4 && entry == 8)
+        return false;
     if (function.group == "mTv" && function.order == 4 && operand.name == "src1" && entry == 8) return false;
     const bool scansShape = in(function, {"matrix-product", "matrix-vector", "gaxpy"}) && function.order == 0;
     if (scansShape && isTable(operand.layout)) return entry < scannedEntries(function, operand, sizes);
@@ -179,6 +241,13 @@ bool isFixedInPlace(const Function &function, const Operand &source) {
     if (in(function, {"cholesky-back-substitution"})) return source.name == "src2";
     return in(function, {"vector-constant", "vector-vector", "saxpy", "linear-combination", "matrix-matrix",
                          "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition"});
+}
+
+// Rows and columns change places in registers, in an order that is free.
+bool mostlyLeavesOverlapOpen(const Function &function) {
+    if (!hasLanes(function)) return false;
+    return in(function, {"transpose"}) || (in(function, {"matrix-matrix", "matrix-constant"}) &&
+                                           std::ranges::any_of(function.operands, &Operand::transposed));
 }
 
 // Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.
@@ -207,7 +276,7 @@ void fillBlock(const Function &function, std::string_view parameter, std::span<s
         fillPivots(block, orderOf(function, sizes), random);
 }
 
-bool hasTrouble(const Function &function) { return in(function, {"lu-decomposition"}); }
+bool hasTrouble(const Function &function) { return in(function, {"lu-decomposition", "frobenius-norm"}); }
 
 namespace {
 
@@ -257,12 +326,26 @@ void placePivotAtTolerance(const MatrixObject &matrix, Random &random) {
     matrix.set(rows[critical], critical, besideTolerance(matrix.type, random));
 }
 
+// All zeros, or numbers whose squares lie about the ends of the element's range.
+void moveSquaresToTheEdge(const MatrixObject &matrix, Random &random) {
+    const bool narrow = matrix.type == catalogue::Type::real32;
+    const auto kind = random.below(3);
+    const int exponent = kind == 0 ? (narrow ? 63 : 511) : narrow ? -70 : -530;
+    for (std::uint32_t i = 0; i < matrix.placement.shape.rows; ++i)
+        for (std::uint32_t j = 0; j < matrix.placement.shape.cols; ++j) {
+            const auto step = static_cast<int>(random.between(-6, 1));
+            const auto size = static_cast<double>(random.between(4, 8)) / 8;
+            matrix.set(i, j, kind == 1 ? 0.0 : std::ldexp(size, exponent + step));
+        }
+}
+
 } // namespace
 
 void makeTrouble(const Function &function, std::span<const Placement> operands, Random &random) {
     const Placement &source = operands.front();
     const auto n = static_cast<std::uint32_t>(random.percent(50) ? 0 : random.below(source.objects));
     const MatrixObject matrix{source, function.type, n};
+    if (in(function, {"frobenius-norm"})) return moveSquaresToTheEdge(matrix, random);
     switch (random.below(4)) {
     case 0: return repeatRow(matrix, random);
     case 1: return clearColumn(matrix, random);

@@ -38,10 +38,20 @@ std::uint32_t extraEntries(const catalogue::Function &function, const catalogue:
 // Bytes that a call may touch beyond the elements of an operand, given its strides.
 Reach extraReach(const catalogue::Function &function, const catalogue::Operand &operand, const Placement &placement);
 
+// Bytes that a call may touch beyond the elements of an operand, since it walks that with the strides of another.
+Reach borrowedReach(const catalogue::Function &function, const catalogue::Operand &operand,
+                    std::span<const Placement> operands);
+
+// Whether calls take another road where all pointers and strides are multiples of 16.
+bool looksAtAlignment(const catalogue::Function &function);
+
+// Whether calls are to lay the block `dst` over their source.
+bool mayLieInSource(const catalogue::Function &function);
+
 // Whether a null pointer parameter is answered by a status.
 bool testsPointers(const catalogue::Function &function);
 
-// Whether a null at this entry of the operand's table is answered by a status.
+// Whether a null at this entry of the operand's table is answered by a status, or in a trace never met.
 bool testsEntry(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes,
                 std::uint32_t entry);
 
@@ -50,6 +60,9 @@ bool stopsAtNullEntry(const catalogue::Function &function, const catalogue::Oper
 
 // Whether the result is fixed when the destination is this source, element on element.
 bool isFixedInPlace(const catalogue::Function &function, const catalogue::Operand &source);
+
+// Whether nearly all ways in which the destination can overlap a source are open, so that such calls tell little.
+bool mostlyLeavesOverlapOpen(const catalogue::Function &function);
 
 // How elements are chosen.
 ValueMixture usualValues(const catalogue::Function &function);
