@@ -169,11 +169,11 @@ Members that behave unlike their siblings:
      R"(Where both vectors are loaded first (all but the forms told above) `dst` may be either source.
 vonkCrossProduct_vava_32f_3x1 loads four objects before it stores four.)",
      R"(Nothing.)", true},
-    {"matrix-matrix", "Matrix and matrix", "element-wise sum and difference of matrices", "", "", "", false},
-    {"matrix-constant", "Matrix times constant", "each element times a constant", "", "", "", false},
-    {"transpose", "Transpose", "rows and columns exchanged", "", "", "", false},
-    {"trace", "Trace", "sum of the diagonal", "", "", "", false},
-    {"frobenius-norm", "Frobenius norm", "root of the sum of the squares of all elements", "", "", "", false},
+    {"matrix-matrix", "Matrix and matrix", "element-wise sum and difference of matrices", "", "", "", true},
+    {"matrix-constant", "Matrix times constant", "each element times a constant", "", "", "", true},
+    {"transpose", "Transpose", "rows and columns exchanged", "", "", "", true},
+    {"trace", "Trace", "sum of the diagonal", "", "", "", true},
+    {"frobenius-norm", "Frobenius norm", "root of the sum of the squares of all elements", "", "", "", true},
     {"matrix-product", "Matrix by matrix", "product of two matrices",
      R"(dst(n, i, j) = sum over k of A(i, k) B(k, j)
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "product/packed_triples.h"
+#include "frame/untested_position.h"
 #include "product/schemes.h"
 #include "product/vector_kernels.h"
 
@@ -18,13 +19,6 @@ inline constexpr bool multipliesVectorInLanes = std::is_same_v<T, Real32> &&Cols
 template <class A, class Count, class Cols>
 inline constexpr bool leavesPosition8Untested =
     A::isTransposed && !Count::isArray && Cols::value == 4 && A::layout == Layout::P;
-
-template <class View> struct Position8Untested : View {
-    bool hasNullEntry(std::size_t row, std::size_t column) const {
-        return column * 4 + row != 8 && View::hasNullEntry(row, column);
-    }
-};
-template <class View> Position8Untested(View) -> Position8Untested<View>;
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
