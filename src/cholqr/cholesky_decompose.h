@@ -3,7 +3,9 @@
 // their diagonals, are read and written.
 #pragma once
 
+#include "cholqr/clearance.h"
 #include "cholqr/elements.h"
+#include "cholqr/roots.h"
 #include "cholqr/single_calls.h"
 #include "frame/walk.h"
 
@@ -33,12 +35,20 @@ inline constexpr bool letsFirstNanPass = std::is_same_v<Number, Wide> && (order 
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
-// 1 / root of s. Real32 takes both steps in the 80-bit type and rounds once, but in the pointer layouts takes them in
-// Real32 and rounds twice.
-template <class View, class Number> VONKK3_INLINE Number reciprocalRoot(Number s) {
-    if constexpr (std::is_same_v<Number, Wide>) return 1.0L / __builtin_sqrtl(s);
-    else if constexpr (hasStraightWay<View>) return Number(1.0L / __builtin_sqrtl(Wide(s)));
-    else return 1.0F / __builtin_sqrtf(s);
+// Real32 takes root and reciprocal in the 80-bit type and rounds once, but in the pointer layouts takes them in Real32
+// and rounds twice.
+template <class View, class Number> VONKK3_INLINE Number reciprocalPivot(Number s) {
+    if constexpr (std::is_same_v<View, TableView<Real32>>) return 1.0F / __builtin_sqrtf(s);
+    else return reciprocalRoot(s);
+}
+
+// A NaN is not.
+template <class Number> inline bool isPositive(Number s) { return s > 0; }
+inline bool isPositive(FourReals s) { return _mm_movemask_ps(_mm_cmpgt_ps(s.lanes, _mm_setzero_ps())) == 0xf; }
+
+template <std::size_t order, class Number> inline bool isPositiveFirst(Number s) {
+    if constexpr (letsFirstNanPass<Number, order>) return !(0 >= s);
+    else return isPositive(s);
 }
 
 // s - Σ f(i, k) f(j, k) for k below `terms`, one product at a time. Real64 is rounded behind the pairs of products;
@@ -59,14 +69,14 @@ template <class Source, class Factor>
     for (std::size_t i = 0; i < order; ++i) {
         for (std::size_t j = 0; j < i; ++j) f.store(i, j, minusProducts(a.load(i, j), f, i, j, j) * f.load(j, j));
         const auto s = minusProducts(a.load(i, i), f, i, i, i);
-        if (!(s > 0)) return vonkErrNotPosDef;
-        f.store(i, i, reciprocalRoot<Factor>(s));
+        if (!isPositive(s)) return vonkErrNotPosDef;
+        f.store(i, i, reciprocalPivot<Factor>(s));
     }
     return vonkOk;
 }
 
 // The straight way: elements come from `load` and go to `store`, in the order of the loops.
-template <class View, class Number, std::size_t order, class Load, class Store>
+template <class Number, std::size_t order, class Load, class Store>
 VONKK3_INLINE bool factorStraight(Fixed<order>, const Load &load, const Store &store) {
     Number f[order][order];
     const auto minus = [&](Number s, std::size_t i, std::size_t j) VONKK3_INLINED {
@@ -79,8 +89,8 @@ VONKK3_INLINE bool factorStraight(Fixed<order>, const Load &load, const Store &s
             store(i, j, f[i][j]);
         });
         const Number s = minus(load(i, i), i, i);
-        if (letsFirstNanPass<Number, order> && i == 0 ? 0 >= s : !(s > 0)) return false;
-        f[i][i] = reciprocalRoot<View>(s);
+        if (!(i == 0 ? isPositiveFirst<order>(s) : isPositive(s))) return false;
+        f[i][i] = reciprocalRoot(s);
         store(i, i, f[i][i]);
         return true;
     });
@@ -91,7 +101,7 @@ VONKK3_INLINE VonkStatus factorStraight(const Source &source, const Factor &fact
     const InMemory a{inWholeElements(source)};
     const InMemory f{inWholeElements(factor)};
     using Number = typename decltype(f)::Number;
-    const bool definite = factorStraight<Factor, Number>(
+    const bool definite = factorStraight<Number>(
         fixed<order>, [&](std::size_t i, std::size_t j) VONKK3_INLINED { return a.load(i, j); },
         [&](std::size_t i, std::size_t j, Number value) VONKK3_INLINED { f.store(i, j, value); });
     return definite ? vonkOk : vonkErrNotPosDef;
@@ -123,6 +133,44 @@ VONKK3_INLINE VonkStatus factor(const Source &source, const Factor &factor, Fixe
     else return factorStraightByCall<Source, Factor, order>(source, factor);
 }
 
+// ---- Four objects ---------------------------------------------------------------------------------------------------
+
+// Four objects side by side on the straight way, where they lie so that nobody can tell. They are stored when all is
+// done, so if one of them is null or fails, nothing has happened.
+template <class Source, class Factor, std::size_t order> class FourFactors {
+public:
+    FourFactors(const Source &src, const Factor &dst, std::size_t count)
+        : src(src), dst(dst), amongSources(dst, order, src, order, order, count),
+          amongThemselves(dst, order, dst, order, order, count),
+          rootsAgree(control.bothRoundToNearest() && control.wideHas53Bits()) {}
+
+    VONKK3_INLINE bool operator()(std::size_t n) const {
+        if (!rootsAgree || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n)) return false;
+        for (std::size_t k = 0; k < four; ++k)
+            if (beginsAtNull(src.view(n + k)) || beginsAtNull(dst.view(n + k))) return false;
+        FourReals f[order][order];
+        FourReals row[order];
+        const bool definite = factorStraight<FourReals>(
+            fixed<order>,
+            [&](std::size_t i, std::size_t j) VONKK3_INLINED {
+                if (j == 0) gatherRows(src, n, i, i + 1, row);
+                return row[j];
+            },
+            [&](std::size_t i, std::size_t j, FourReals value) VONKK3_INLINED { f[i][j] = value; });
+        if (!definite) return false;
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { scatterRows(dst, n, i, i + 1, f[i]); });
+        return true;
+    }
+
+private:
+    const Source &src;
+    const Factor &dst;
+    Clearance<Factor, Source> amongSources;
+    Clearance<Factor, Factor> amongThemselves;
+    RoundingControl control;
+    bool rootsAgree;
+};
+
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 // An array is a walk of calls for one object, each with its own tests: an object is refused if it begins at null, and
@@ -132,12 +180,16 @@ VONKK3_INLINE VonkStatus choleskyDecompose(const Source &src, const Factor &dst,
     if (anyNull(src, dst)) return vonkErrNullPtr;
     if (order.isZero() || count == 0) return vonkErrSize;
     if (countsWithSign<Factor> && hasTopBit(count)) return vonkOk;
-    return forEachObject(count, [&](std::size_t n) VONKK3_INLINED {
+    const auto one = [&](std::size_t n) VONKK3_INLINED {
         const auto source = src.view(n, order);
         const auto target = dst.view(n, order);
         if (beginsAtNull(source) || beginsAtNull(target)) return VonkStatus(vonkErrNullPtr);
         return factor(source, target, order);
-    });
+    };
+    if constexpr (worksFourAtOnce<Factor, Order>)
+        if (count >= four)
+            return forEachFourOrOne(count, FourFactors<Source, Factor, Order::value>(src, dst, count), one);
+    return forEachObject(count, one);
 }
 
 } // namespace vonkk3::cholqr

@@ -24,6 +24,20 @@ template <class View> struct InMemory {
 };
 template <class View> InMemory(View) -> InMemory<View>;
 
+// In numbers apart from memory, which the caller of an algorithm sees to.
+template <class Value, std::size_t columns> struct Apart {
+    using Number = Value;
+
+    Value (*rows)[columns];
+
+    Value load(std::size_t column) const { return rows[0][column]; }
+    Value load(std::size_t row, std::size_t column) const { return rows[row][column]; }
+    void store(std::size_t column, Value value) const { rows[0][column] = value; }
+    void store(std::size_t row, std::size_t column, Value value) const { rows[row][column] = value; }
+    static Value rounded(Value value) { return value; }
+};
+template <class Value, std::size_t columns> Apart(Value (*)[columns]) -> Apart<Value, columns>;
+
 // The caller's contiguous work space.
 template <class T> inline RowsView<T> workSpace(T *work) { return {reinterpret_cast<std::byte *>(work), 0}; }
 

@@ -3,8 +3,10 @@
 // beta = -2 / (v'v) is not stored either.
 #pragma once
 
+#include "cholqr/clearance.h"
 #include "cholqr/elements.h"
 #include "cholqr/reflectors.h"
+#include "cholqr/roots.h"
 #include "frame/walk.h"
 
 namespace vonkk3::cholqr {
@@ -13,14 +15,18 @@ namespace vonkk3::cholqr {
 // for both element types.
 inline constexpr Real32 squaredNormTolerance = 0x1p-23F;
 
-inline Wide root(Wide s) { return __builtin_sqrtl(s); }
-inline Real32 root(Real32 s) { return Real32(__builtin_sqrtl(Wide(s))); } // taken wide, rounded once
-
 // A NaN does not pass.
 template <class Number> inline bool passesAsSquaredNorm(Number s) { return s >= Number(squaredNormTolerance); }
+inline bool passesAsSquaredNorm(FourReals s) {
+    return _mm_movemask_ps(_mm_cmpge_ps(s.lanes, _mm_set1_ps(squaredNormTolerance))) == 0xf;
+}
 
 // With the sign of the diagonal element, so that their sum cancels nothing; of zero and NaN the minus sign.
 template <class Number> inline Number withSignOf(Number diagonal, Number norm) { return diagonal > 0 ? norm : -norm; }
+inline FourReals withSignOf(FourReals diagonal, FourReals norm) {
+    const __m128 isPositive = _mm_cmpgt_ps(diagonal.lanes, _mm_setzero_ps());
+    return _mm_xor_ps(norm.lanes, _mm_andnot_ps(isPositive, _mm_set1_ps(-0.0F)));
+}
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
@@ -74,6 +80,80 @@ template <class Source, class Factors, class T>
     return reflectAll(InMemory{factors}, InMemory{workSpace(work)}, columns, rows) ? vonkOk : vonkErrSingular;
 }
 
+// Real32 of fixed order in rows of adjacent elements is worked apart from memory, where nobody can tell, and stored if
+// all goes well.
+template <std::size_t order>
+VONKK3_INLINE bool reflectApart(const RowsView<const Real32> &source, const RowsView<Real32> &factors, Real32 *work,
+                                Fixed<order>) {
+    const auto rowBytes = std::ptrdiff_t(order * sizeof(Real32));
+    if (factors.rowStride < rowBytes && factors.rowStride > -rowBytes) return false;
+    const Extent target(factors, order, order);
+    if (!areApart(target, Extent(work, order * sizeof(Real32)))) return false;
+    if (!areApart(target, Extent(source, order, order)) &&
+        !(source.base == factors.base && source.rowStride == factors.rowStride))
+        return false;
+
+    Real32 d[order][order], v[1][order];
+    const auto forElements = [](const auto &body) VONKK3_INLINED {
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+            forIndices(0, order, fixed<order>, [&](std::size_t j) VONKK3_INLINED { body(i, j); });
+        });
+    };
+    forElements([&](std::size_t i, std::size_t j) VONKK3_INLINED { d[i][j] = source.load(i, j); });
+    if (!reflectAll(Apart{d}, Apart{v}, fixed<order>, fixed<order>)) return false;
+    forElements([&](std::size_t i, std::size_t j) VONKK3_INLINED { factors.store(i, j, d[i][j]); });
+    forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { workSpace(work).store(i, v[0][i]); });
+    return true;
+}
+
+template <class Source, class Factors, class T, class Columns, class Rows>
+VONKK3_INLINE VonkStatus reflectObject(const Source &source, const Factors &factors, T *work, Columns columns,
+                                       Rows rows) {
+    if constexpr (Columns::isFixed && std::is_same_v<Factors, RowsView<Real32>>)
+        if (reflectApart(source, factors, work, columns)) return vonkOk;
+    return reflectByLoops(source, factors, work, RunTime{std::uint32_t(columns)}, RunTime{std::uint32_t(rows)});
+}
+
+// ---- Four objects ---------------------------------------------------------------------------------------------------
+
+// Four matrices side by side, where they lie so that nobody can tell. They are stored when all is done, so if one of
+// them is null or fails, nothing has happened. `work` is left as the last of them leaves it.
+template <class Source, class Factors, std::size_t order> class FourReflected {
+public:
+    FourReflected(const Source &src, Real32 *work, const Factors &dst, std::size_t count)
+        : src(src), work(work), dst(dst), amongSources(dst, order, src, order, order, count),
+          amongThemselves(dst, order, dst, order, order, count), ofWork(dst, order, this->work, 1, order, count),
+          ofWorkAmongSources(src, order, this->work, 1, order, count),
+          rootsAgree(RoundingControl().bothRoundToNearest()) {}
+
+    VONKK3_INLINE bool operator()(std::size_t n) const {
+        if (!rootsAgree || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) || !ofWork.ofFourFrom(n) ||
+            !ofWorkAmongSources.ofFourFrom(n))
+            return false;
+        for (std::size_t k = 0; k < four; ++k)
+            if (src.listHasNull(n + k) || dst.listHasNull(n + k)) return false;
+
+        FourReals d[order][order], v[1][order];
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { gatherRows(src, n, i, order, d[i]); });
+        if (!reflectAll(Apart{d}, Apart{v}, fixed<order>, fixed<order>)) return false;
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { scatterRows(dst, n, i, order, d[i]); });
+        forIndices(0, order, fixed<order>,
+                   [&](std::size_t i) VONKK3_INLINED { work.view(0).store(i, v[0][i].last()); });
+        return true;
+    }
+
+private:
+    using Work = Vector<Real32, Layout::Standard>;
+    const Source &src;
+    Work work;
+    const Factors &dst;
+    Clearance<Factors, Source> amongSources;
+    Clearance<Factors, Factors> amongThemselves;
+    Clearance<Factors, Work> ofWork;
+    Clearance<Source, Work> ofWorkAmongSources;
+    bool rootsAgree;
+};
+
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 // Objects one after the other, each through all its steps; the first singular one ends the call.
@@ -83,13 +163,14 @@ VONKK3_INLINE VonkStatus qrDecompose(const Source &src, T *work, const Factors &
     if (anyNull(src, work, dst)) return vonkErrNullPtr;
     if (columns.isZero() || rows.isZero()) return vonkErrSize;
     if (anyTableEntryNull(columns * rows, src, dst)) return vonkErrNullPtr;
-    return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED {
-            return reflectByLoops(src.view(n, columns), dst.view(n, columns), work, RunTime{std::uint32_t(columns)},
-                                  RunTime{std::uint32_t(rows)});
-        },
-        src, dst);
+    const auto one = [&](std::size_t n) VONKK3_INLINED {
+        if (src.listHasNull(n) || dst.listHasNull(n)) return VonkStatus(vonkErrNullPtr);
+        return reflectObject(src.view(n, columns), dst.view(n, columns), work, columns, rows);
+    };
+    if constexpr (worksFourAtOnce<Factors, Columns>)
+        if (count >= four)
+            return forEachFourOrOne(count, FourReflected<Source, Factors, Columns::value>(src, work, dst, count), one);
+    return forEachObject(count, one);
 }
 
 } // namespace vonkk3::cholqr
