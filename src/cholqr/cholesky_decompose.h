@@ -142,10 +142,10 @@ public:
     FourFactors(const Source &src, const Factor &dst, std::size_t count)
         : src(src), dst(dst), amongSources(dst, order, src, order, order, count),
           amongThemselves(dst, order, dst, order, order, count),
-          rootsAgree(control.bothRoundToNearest() && control.wideHas53Bits()) {}
+          isOpen(control.bothRoundToNearest() && control.wideHas53Bits()) {}
 
     VONKK3_INLINE bool operator()(std::size_t n) const {
-        if (!rootsAgree || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n)) return false;
+        if (!isOpen || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n)) return false;
         for (std::size_t k = 0; k < four; ++k)
             if (beginsAtNull(src.view(n + k)) || beginsAtNull(dst.view(n + k))) return false;
         FourReals f[order][order];
@@ -168,7 +168,7 @@ private:
     Clearance<Factor, Source> amongSources;
     Clearance<Factor, Factor> amongThemselves;
     RoundingControl control;
-    bool rootsAgree;
+    bool isOpen;
 };
 
 // ---- All objects ----------------------------------------------------------------------------------------------------

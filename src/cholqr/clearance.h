@@ -13,6 +13,12 @@ template <class T> inline Extent footprint(const RowsView<T> &view, std::size_t 
     return Extent(RowsView<T>(nullptr, view.rowStride), rows, columns);
 }
 
+// Whether the rows of a matrix lie apart from each other.
+template <class T> inline bool areRowsApart(const RowsView<T> &view, std::size_t columns) {
+    const auto rowBytes = std::ptrdiff_t(columns * sizeof(T));
+    return view.rowStride >= rowBytes || view.rowStride <= -rowBytes;
+}
+
 // Whether two objects overlap, by their bases alone: one subtraction and one comparison.
 class OverlapTest {
 public:
@@ -60,9 +66,7 @@ private:
     bool clear = false;
 
     bool haveSameRows(std::size_t columns) const {
-        const std::ptrdiff_t rowStride = written.view(0).rowStride;
-        const auto rowBytes = std::ptrdiff_t(columns * sizeof(typename Written::Element));
-        return rowStride == read.view(0).rowStride && (rowStride >= rowBytes || rowStride <= -rowBytes);
+        return written.view(0).rowStride == read.view(0).rowStride && areRowsApart(written.view(0), columns);
     }
 
     template <class Operand> static Extent wholeOf(const Operand &operand, Extent extent, std::size_t count) {

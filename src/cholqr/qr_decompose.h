@@ -85,8 +85,7 @@ template <class Source, class Factors, class T>
 template <std::size_t order>
 VONKK3_INLINE bool reflectApart(const RowsView<const Real32> &source, const RowsView<Real32> &factors, Real32 *work,
                                 Fixed<order>) {
-    const auto rowBytes = std::ptrdiff_t(order * sizeof(Real32));
-    if (factors.rowStride < rowBytes && factors.rowStride > -rowBytes) return false;
+    if (!areRowsApart(factors, order)) return false;
     const Extent target(factors, order, order);
     if (!areApart(target, Extent(work, order * sizeof(Real32)))) return false;
     if (!areApart(target, Extent(source, order, order)) &&
@@ -124,10 +123,10 @@ public:
         : src(src), work(work), dst(dst), amongSources(dst, order, src, order, order, count),
           amongThemselves(dst, order, dst, order, order, count), ofWork(dst, order, this->work, 1, order, count),
           ofWorkAmongSources(src, order, this->work, 1, order, count),
-          rootsAgree(RoundingControl().bothRoundToNearest()) {}
+          isOpen(areRowsApart(dst.view(0), order) && RoundingControl().bothRoundToNearest()) {}
 
     VONKK3_INLINE bool operator()(std::size_t n) const {
-        if (!rootsAgree || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) || !ofWork.ofFourFrom(n) ||
+        if (!isOpen || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) || !ofWork.ofFourFrom(n) ||
             !ofWorkAmongSources.ofFourFrom(n))
             return false;
         for (std::size_t k = 0; k < four; ++k)
@@ -151,7 +150,7 @@ private:
     Clearance<Factors, Factors> amongThemselves;
     Clearance<Factors, Work> ofWork;
     Clearance<Source, Work> ofWorkAmongSources;
-    bool rootsAgree;
+    bool isOpen;
 };
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
