@@ -18,6 +18,7 @@ constexpr Status statusOk = 0;
 constexpr Status statusSize = -6;
 constexpr Status statusNullPointer = -8;
 constexpr Status statusSingular = -10;
+constexpr Status statusNotPositiveDefinite = -179;
 
 // One call on its way: what its name says, its words, and the memory on which it works.
 struct Execution {
@@ -35,10 +36,14 @@ struct Execution {
 };
 
 Status addOrSubtractVectors(const Execution &execution);
+Status decomposeCholesky(const Execution &execution);
 Status decomposeLu(const Execution &execution);
+Status decomposeQr(const Execution &execution);
 Status multiplyAndAdd(const Execution &execution);
 Status multiplyMatrices(const Execution &execution);
 Status multiplyMatrixByVector(const Execution &execution);
+Status substituteBackCholesky(const Execution &execution);
 Status substituteBackLu(const Execution &execution);
+Status substituteBackQr(const Execution &execution);
 
 } // namespace model

@@ -1,6 +1,7 @@
 // Address arithmetic of the six layouts, written out once per kind of layout.
 #include "model/operands.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -22,6 +23,14 @@ std::uint64_t Arguments::word(const std::string &name) const {
 std::uint64_t Arguments::bytes(const std::string &name) const {
     const auto narrow = static_cast<std::int32_t>(static_cast<std::uint32_t>(word(name)));
     return static_cast<std::uint64_t>(static_cast<std::int64_t>(narrow));
+}
+
+std::uint32_t Arguments::times(const std::string &name) const {
+    const std::uint32_t value = size(name);
+    const bool isSigned = std::any_of(parameters_.begin(), parameters_.end(), [&](const Parameter &parameter) {
+        return parameter.name == name && parameter.isSigned;
+    });
+    return isSigned && (value & 0x80000000) != 0 ? 0 : value;
 }
 
 bool Arguments::hasNullPointer() const {

@@ -19,6 +19,8 @@ public:
     std::uintptr_t pointer(const std::string &name) const { return word(name); }
     std::uint64_t bytes(const std::string &name) const; // sign-extended, to be added with wrapping
     std::uint32_t size(const std::string &name) const { return static_cast<std::uint32_t>(word(name)); }
+    // How often a loop up to this size runs: not once where the size is compared as a signed number and is negative.
+    std::uint32_t times(const std::string &name) const;
     // Of any of the pointers, plain ones included.
     bool hasNullPointer() const;
 
