@@ -42,10 +42,17 @@ template <class Factor, class RightSide, class Solution>
     solve(InMemory{factor}, InMemory{b}, InMemory{x}, order);
 }
 
+// Of fixed order in rows of adjacent elements, for every layout that has them.
+template <class Factor, class RightSide, class Solution, class Order>
+[[gnu::noinline]] void solveUnrolled(Factor factor, RightSide b, Solution x, Order order) {
+    solve(InMemory{factor}, InMemory{b}, InMemory{x}, order);
+}
+
 template <class Factor, class RightSide, class Solution, class Order>
 VONKK3_INLINE void solveObject(const Factor &factor, const RightSide &b, const Solution &x, Order order) {
     if constexpr (Order::isFixed && std::is_same_v<Solution, RowsView<Real32>>)
         solve(InMemory{factor}, InMemory{b}, InMemory{x}, order);
+    else if constexpr (Order::isFixed && std::is_same_v<Solution, RowsView<Real64>>) solveUnrolled(factor, b, x, order);
     else solveByLoops(factor, b, x, RunTime{std::uint32_t(order)});
 }
 

@@ -16,9 +16,13 @@ template <class View> struct InMemory {
 
     Number load(std::size_t column) const { return view.load(column); }
     Number load(std::size_t row, std::size_t column) const { return view.load(row, column); }
-    void store(std::size_t column, Number value) const { view.store(column, round<Element>(value)); }
+    void store(std::size_t column, Number value) const {
+        view.store(column, round<Element>(value));
+        readBackWhatIsStored<Element>();
+    }
     void store(std::size_t row, std::size_t column, Number value) const {
         view.store(row, column, round<Element>(value));
+        readBackWhatIsStored<Element>();
     }
     static Number rounded(Number value) { return round<Element>(value); }
 };
