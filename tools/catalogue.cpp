@@ -83,13 +83,13 @@ constexpr std::array familyTable = std::to_array<Family>({
     {"inverse", "Invert", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src order? scratch*? dst count", ""},
     // Cholesky and QR
     {"cholesky-decomposition", "CholeskyDecomp", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src dst order? count", ""},
+     "src dst order? count", "cholqr::choleskyDecompose"},
     {"cholesky-back-substitution", "CholeskyBackSubst", "mv mva mava", bothTypes, matrixSizes, sixLayouts, "@", 'v',
-     "src1 src2 dst order? count", ""},
+     "src1 src2 dst order? count", "cholqr::choleskyBackSubstitute"},
     {"qr-decomposition", "QRDecomp", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src work* dst cols? rows? count", ""},
+     "src work* dst cols? rows? count", "cholqr::qrDecompose"},
     {"qr-back-substitution", "QRBackSubst", "mv mva mava", bothTypes, matrixSizes, sixLayouts, "@", 'v',
-     "src1 work* src2 dst cols? rows? count", ""},
+     "src1 work* src2 dst cols? rows? count", "cholqr::qrBackSubstitute"},
 });
 
 std::vector<std::string_view> words(std::string_view text) {

@@ -68,6 +68,7 @@ public:
 
     // Whether the rows of a matrix, of so many elements, lie one behind the other.
     bool hasPackedRows(std::size_t columns) const { return rowStride == std::ptrdiff_t(columns * sizeof(T)); }
+
     // The operand with the row stride of another one.
     template <class Other> Operand walkedAs(const Other &other) const {
         Operand copy = *this;

@@ -21,6 +21,8 @@ public:
     std::uint32_t size(const std::string &name) const { return static_cast<std::uint32_t>(word(name)); }
     float real32(const std::string &name) const;
     double real64(const std::string &name) const;
+    // How often a loop up to this size runs: not once where the size is compared as a signed number and is negative.
+    std::uint32_t times(const std::string &name) const;
     // Of any of the pointers, plain ones included.
     bool hasNullPointer() const;
 

@@ -80,12 +80,14 @@ private:
     void chooseShift(Placement &placement);
     std::uint64_t wordOf(const Parameter &parameter, const ValueSource &values);
     std::uint64_t withRubbish(std::int64_t value);
+    std::int64_t uselessBytes();
     void writeWords(const ValueSource &values);
     void setSize(Kind kind, std::uint32_t value);
     void makeNullPointer();
     void makeNullEntry();
     void makeZeroDimension();
     void makeZeroCount();
+    void makeNegativeSize();
     void injectFaults();
     void noteTraits();
 
@@ -330,7 +332,9 @@ void Builder::writeTable(const Placement &placement) {
     for (std::size_t k = 0; k <= placement.slots.size(); ++k) {
         // The word in front of the table leads to its first place.
         const std::int64_t offset = placement.slots[k == 0 ? 0 : k - 1] - placement.shift;
-        const std::uintptr_t entry = placement.origin + static_cast<std::uintptr_t>(offset);
+        std::uintptr_t entry = placement.origin + static_cast<std::uintptr_t>(offset);
+        if (k > 0 && !families::followsEntry(function, placement, static_cast<std::uint32_t>(k - 1)))
+            entry = random.percent(30) ? 0 : random.percent(50) ? random.next() : entry;
         std::memcpy(reinterpret_cast<void *>(placement.table + 8 * k - 8), &entry, sizeof entry);
     }
 }
@@ -342,6 +346,7 @@ void Builder::writeValues() {
         for (const std::uintptr_t place : operand(k).elements())
             storeElement(place, function.type, values.next(random));
     }
+    families::shapeValues(function, call.operands, random);
     if (families::hasTrouble(function) && (scheduled == Fault::trouble || random.percent(5))) {
         families::makeTrouble(function, call.operands, random);
         call.traits.trouble = true;
@@ -370,7 +375,7 @@ std::uint64_t Builder::wordOf(const Parameter &parameter, const ValueSource &val
     case Kind::shift: return withRubbish(operandOf().shift);
     case Kind::objectStride: return withRubbish(operandOf().objectStride);
     case Kind::rowStride: return withRubbish(operandOf().rowStride);
-    case Kind::elementStride: return withRubbish(operandOf().elementStride);
+    case Kind::elementStride: return withRubbish(operandOf().elementStride + uselessBytes());
     case Kind::ignored: return random.next();
     case Kind::size: return withRubbish(sizes[parameter.name]);
     case Kind::count: return withRubbish(sizes.count);
@@ -379,6 +384,12 @@ std::uint64_t Builder::wordOf(const Parameter &parameter, const ValueSource &val
     std::uint64_t bits = 0;
     storeElement(reinterpret_cast<std::uintptr_t>(&bits), function.type, values.next(random));
     return bits;
+}
+
+// Added to an element stride of which only whole elements count.
+std::int64_t Builder::uselessBytes() {
+    if (!families::dropsPartOfElementStride(function, sizes) || random.percent(50)) return 0;
+    return random.between(0, elementSize - 1);
 }
 
 void Builder::writeWords(const ValueSource &values) {
@@ -427,7 +438,7 @@ void Builder::makeNullEntry() {
     for (int other = 0; other < operandCount(); ++other) // two operands may have one table
         if (operand(other).table == placement.table && !families::testsEntry(function, described(other), sizes, entry))
             return;
-    const std::uintptr_t null = 0;
+    const std::uintptr_t null = families::nullEntry(function, placement.shift);
     std::memcpy(reinterpret_cast<void *>(placement.table + 8 * std::uintptr_t{entry}), &null, sizeof null);
     call.traits.nullEntry = true;
     if (random.percent(15) && function.array() && families::stopsAtNullEntry(function, described(k))) {
@@ -449,11 +460,23 @@ void Builder::makeZeroCount() {
     call.traits.zeroCount = function.array();
 }
 
+// Of a size that is compared as a signed number.
+void Builder::makeNegativeSize() {
+    std::vector<std::size_t> possible;
+    for (std::size_t k = 0; k < function.parameters.size(); ++k)
+        if (families::isSignedSize(function, function.parameters[k].name)) possible.push_back(k);
+    if (possible.empty() || !random.percent(3)) return;
+    const std::size_t word = random.pick(std::span<const std::size_t>(possible));
+    call.words[word] = withRubbish(static_cast<std::uint32_t>(random.next()) | 0x80000000);
+    call.traits.hugeSize = true;
+}
+
 // A size that a null entry made harmless is made zero at most, never the other way round.
 void Builder::injectFaults() {
     if (meets(Fault::nullEntry)) makeNullEntry();
     if (meets(Fault::zeroDimension)) makeZeroDimension();
     if (meets(Fault::zeroCount)) makeZeroCount();
+    makeNegativeSize();
     if (meets(Fault::nullPointer)) makeNullPointer();
 }
 

@@ -58,6 +58,18 @@ bool testsPointers(const catalogue::Function &function);
 bool testsEntry(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes,
                 std::uint32_t entry);
 
+// What stands in the table in place of a null entry: what the function tests against null.
+std::uintptr_t nullEntry(const catalogue::Function &function, std::int32_t shift);
+
+// Whether an entry of a table of positions is ever followed.
+bool followsEntry(const catalogue::Function &function, const Placement &placement, std::uint32_t entry);
+
+// Whether element strides are cut to whole elements.
+bool dropsPartOfElementStride(const catalogue::Function &function, const Sizes &sizes);
+
+// Whether a size with its top bit set counts as none.
+bool isSignedSize(const catalogue::Function &function, std::string_view parameter);
+
 // Whether a call that finds a null entry is sure to stop there however large `count` is.
 bool stopsAtNullEntry(const catalogue::Function &function, const catalogue::Operand &operand);
 
@@ -69,6 +81,9 @@ bool mostlyLeavesOverlapOpen(const catalogue::Function &function);
 
 // How elements are chosen.
 ValueMixture usualValues(const catalogue::Function &function);
+
+// Changes the elements to numbers that let most calls succeed, where random ones seldom would.
+void shapeValues(const catalogue::Function &function, std::span<const Placement> operands, Random &random);
 
 // Fills a block that is read.
 void fillBlock(const catalogue::Function &function, std::string_view parameter, std::span<std::byte> block,

@@ -21,6 +21,7 @@ using catalogue::Type;
 constexpr std::byte background{0x3f};
 constexpr std::uint32_t untouchedPivot = 0xc0ffee01;
 constexpr std::size_t pivotMargin = 8;
+constexpr std::size_t workMargin = 64;
 
 // Stands above every 32-bit word of a call, where nobody may look.
 constexpr std::uint64_t rubbish = 0xa5c3'96e1'0000'0000;
@@ -99,13 +100,19 @@ std::vector<const Function *> members(std::string_view section) {
     return found;
 }
 
+std::int32_t callWith(std::string_view name, const std::vector<std::uint64_t> &words) {
+    const Function &called = function(name);
+    if (words.size() != called.parameters.size()) throw std::length_error("words of " + called.name);
+    return support::invoke(exportOf(called), called, words);
+}
+
 bool isPointer(Kind kind) {
     return kind == Kind::base || kind == Kind::table || kind == Kind::list || kind == Kind::dense;
 }
 
 bool hasColumnsFourBytesApart(const Function &function) {
-    return function.family->operation == "LUBackSubst" && function.group == "mva" && function.type == Type::real64 &&
-           function.layout == "L";
+    return (function.family->operation == "LUBackSubst" || function.family->operation == "QRBackSubst") &&
+           function.group == "mva" && function.type == Type::real64 && function.layout == "L";
 }
 
 std::vector<std::uint32_t> sizesOf(const Function &function, std::vector<std::uint32_t> runTimeSizes) {
@@ -130,11 +137,12 @@ void Place::moveTo(std::byte *newOrigin) {
     origin = newOrigin;
 }
 
-Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geometry geometry)
+Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geometry geometry, std::uint32_t rows)
     : function_(literal::function(name)),
       size_(function_.order == 0 ? size : static_cast<std::uint32_t>(function_.order)),
-      count_(function_.array() ? count : 1), pivots_(2 * pivotMargin + std::size_t{size_} * count_, untouchedPivot),
-      pivotsWord_(pivots_.data() + pivotMargin) {
+      rows_(function_.order == 0 && rows != 0 ? rows : size_), count_(function_.array() ? count : 1),
+      pivots_(2 * pivotMargin + std::size_t{size_} * count_, untouchedPivot), pivotsWord_(pivots_.data() + pivotMargin),
+      work_(2 * workMargin + std::size_t{8} * rows_, background), workWord_(work_.data() + workMargin) {
     for (const catalogue::Operand &operand : function_.operands) {
         Place place;
         place.operand = &operand;
@@ -147,8 +155,8 @@ Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geome
 
 void Call::shape(Place &place) const {
     place.elementSize = function_.type == Type::real32 ? 4 : 8;
-    place.rows = place.operand->matrix ? size_ : 1;
-    place.cols = size_;
+    place.rows = place.operand->matrix ? rows_ : 1;
+    place.cols = place.operand->matrix || place.operand->written ? size_ : rows_;
 }
 
 // Operands lie behind one another at multiples of 16, far enough apart for reads of displaced pivots.
@@ -254,11 +262,21 @@ void Call::setPivots(std::uint32_t n, const std::vector<std::uint32_t> &rows) {
     std::ranges::copy(rows, pivots_.begin() + static_cast<std::ptrdiff_t>(pivotMargin + std::size_t{n} * size_));
 }
 
+std::vector<double> Call::work() const {
+    std::vector<double> elements;
+    const std::size_t step = function_.type == Type::real32 ? 4 : 8;
+    for (std::size_t i = 0; i < rows_; ++i) elements.push_back(getAt(work_.data() + workMargin + i * step));
+    return elements;
+}
+
+bool Call::changedWork() const { return before_.work != after_.work; }
+
 std::uint64_t Call::wordOf(const catalogue::Parameter &parameter) {
     const auto bytes = [](std::int32_t value) { return rubbish | static_cast<std::uint32_t>(value); };
     const auto pointer = [](const void *address) { return reinterpret_cast<std::uintptr_t>(address); };
+    if (parameter.name == "work") return pointer(workWord_);
     if (parameter.kind == Kind::dense) return pointer(pivotsWord_);
-    if (parameter.kind == Kind::size) return rubbish | size_;
+    if (parameter.kind == Kind::size) return rubbish | (parameter.name == "rows" ? rows_ : size_);
     if (parameter.kind == Kind::count) return rubbish | count_;
     if (parameter.kind == Kind::ignored) return rubbish;
     if (parameter.kind == Kind::constant) {
@@ -295,7 +313,7 @@ std::vector<std::uint64_t> Call::words() {
 }
 
 Call::Picture Call::picture() const {
-    Picture taken{memory_, pivots_, {}};
+    Picture taken{memory_, pivots_, work_, {}};
     for (const Place &place : places_) taken.tables.push_back(place.entries);
     for (const auto &[operand, entries] : fronted_) taken.tables.push_back(entries);
     return taken;
@@ -337,6 +355,9 @@ Stray Call::strayWrites() {
     if (writesPivots())
         std::copy_n(after_.pivots.begin() + pivotMargin, std::size_t{size_} * count_,
                     expected.pivots.begin() + pivotMargin);
+    const std::size_t elementSize = function_.type == Type::real32 ? 4 : 8;
+    std::copy_n(after_.work.begin() + workMargin, rows_ * elementSize, expected.work.begin() + workMargin);
+    if (expected.work != after_.work) return {"a byte beside the work block was written"};
     if (expected.tables != after_.tables) return {"an entry of a table was written"};
     if (expected.pivots != after_.pivots) return {"a word of or beside the pivots was written"};
     if (expected.memory != after_.memory) return {"a byte outside the elements of dst was written"};
