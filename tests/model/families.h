@@ -35,6 +35,8 @@ struct Execution {
 };
 
 Status addOrSubtractVectors(const Execution &execution);
+Status computeDeterminant(const Execution &execution);
+Status computeInverse(const Execution &execution);
 Status copy(const Execution &execution);
 Status decomposeLu(const Execution &execution);
 Status extract(const Execution &execution);

@@ -33,6 +33,8 @@ const Family families[] = {
     {[](const Form &form) { return form.operation == "Copy"; }, copy},
     {[](const Form &form) { return form.operation == "Extract"; }, extract},
     {[](const Form &form) { return form.operation == "LoadIdentity"; }, loadIdentity},
+    {[](const Form &form) { return form.operation == "Det"; }, computeDeterminant},
+    {[](const Form &form) { return form.operation == "Invert"; }, computeInverse},
     {[](const Form &form) { return form.operation == "LUDecomp"; }, decomposeLu},
     {[](const Form &form) { return form.operation == "LUBackSubst"; }, substituteBackLu},
 };

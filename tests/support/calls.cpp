@@ -203,7 +203,8 @@ void Builder::chooseRelations() {
                                 : share < mixture.inPlace + mixture.partial ? Overlap::partial
                                                                             : Overlap::none;
         const int source = chooseLeader(written);
-        if (source >= 0 && overlap != Overlap::none) layDestinationOn(source, overlap);
+        const bool rather = !families::leavesOverlapOpen(function) || random.percent(20);
+        if (source >= 0 && overlap != Overlap::none && rather) layDestinationOn(source, overlap);
     }
     // Two sources may be one.
     for (int k = 1; k < operandCount(); ++k)

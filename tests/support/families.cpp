@@ -20,9 +20,6 @@ constexpr std::int32_t nullPointer = -8;
 constexpr std::int32_t singular = -10;
 constexpr std::int32_t notPositiveDefinite = -179;
 
-// Of LUDecomp, in both element types.
-constexpr double pivotTolerance = 0x1p-23;
-
 bool in(const Function &function, std::initializer_list<std::string_view> sections) {
     return std::ranges::find(sections, function.section->id) != sections.end();
 }
@@ -31,6 +28,15 @@ std::uint32_t elementSize(const Function &function) { return function.type == ca
 
 std::uint32_t orderOf(const Function &function, const Sizes &sizes) {
     return function.order != 0 ? static_cast<std::uint32_t>(function.order) : sizes.largest();
+}
+
+bool isFixedInverse(const Function &function) { return in(function, {"inverse"}) && function.order != 0; }
+
+// What a pivot is compared with, or in inverses of fixed size a determinant.
+double toleranceOf(const Function &function) {
+    const bool narrow = function.type == catalogue::Type::real32;
+    if (isFixedInverse(function)) return narrow ? static_cast<double>(1e-7F) : 1e-15;
+    return narrow || in(function, {"lu-decomposition"}) ? 0x1p-23 : 0x1p-52;
 }
 
 bool refusesZeroCount(const Function &function) {
@@ -100,10 +106,16 @@ void makeSizesNegative(Sizes &sizes, Random &random) {
     else if (kind < 10) sizes.dimensions[1].value = negative;
 }
 
+// The inverse of a single element may read anywhere.
+void avoidOrderOne(Sizes &sizes) {
+    for (Sizes::Named &dimension : sizes.dimensions) dimension.value = std::max(dimension.value, 2U);
+}
+
 } // namespace
 
 void relateDimensions(const Function &function, Sizes &sizes, Random &random) {
     if (in(function, {"identity"})) return makeSizesNegative(sizes, random);
+    if (in(function, {"inverse"})) return avoidOrderOne(sizes);
     if (!in(function, {"matrix-product", "matrix-vector"}) || sizes.dimensions.empty() || random.percent(10)) return;
     const auto [model, follower] = comparedWords(function);
     const bool square = random.percent(40);
@@ -237,6 +249,7 @@ bool testsEntry(const Function &function, const Operand &operand, const Sizes &s
     if (in(function, {"copy", "extract", "identity", "cholesky-decomposition", "cholesky-back-substitution"}))
         return false;
     if (trustsEntries(function)) return false;
+    if (isFixedInverse(function) && function.type == catalogue::Type::real32 && function.layout == "L") return false;
     if (function.group == "mTv" && function.order == 4 && operand.name == "src1" && entry == 8) return false;
     const bool scansShape = in(function, {"matrix-product", "matrix-vector", "gaxpy"}) && function.order == 0;
     if (scansShape && isTable(operand.layout)) return entry < scannedEntries(function, operand, sizes);
@@ -245,6 +258,7 @@ bool testsEntry(const Function &function, const Operand &operand, const Sizes &s
 
 // Some forms of these run ahead of the object whose entries they test.
 bool stopsAtNullEntry(const Function &function, const Operand &operand) {
+    if (isFixedInverse(function) && isList(operand.layout)) return false;
     return isTable(operand.layout) ? !in(function, {"trace"}) : !in(function, {"matrix-matrix", "matrix-product"});
 }
 
@@ -257,7 +271,7 @@ bool isFixedInPlace(const Function &function, const Operand &source) {
 
 // Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.
 ValueMixture usualValues(const Function &function) {
-    if (in(function, {"lu-decomposition", "inverse", "qr-decomposition"}))
+    if (in(function, {"lu-decomposition", "determinant", "inverse", "qr-decomposition"}))
         return {.smallIntegers = 15, .wideExponents = 4, .ties = 5, .nearTies = 8, .specials = 15};
     return {};
 }
@@ -281,7 +295,9 @@ void fillBlock(const Function &function, std::string_view parameter, std::span<s
         fillPivots(block, orderOf(function, sizes), random);
 }
 
-bool hasTrouble(const Function &function) { return in(function, {"lu-decomposition"}); }
+bool hasTrouble(const Function &function) { return in(function, {"lu-decomposition", "determinant", "inverse"}); }
+
+bool leavesOverlapOpen(const Function &function) { return isFixedInverse(function); }
 
 namespace {
 
@@ -309,26 +325,35 @@ void clearColumn(const MatrixObject &matrix, Random &random) {
     for (std::uint32_t i = 0; i < matrix.order(); ++i) matrix.set(i, column, 0.0);
 }
 
-double besideTolerance(catalogue::Type type, Random &random) {
+double besideTolerance(const Function &function, Random &random) {
     const double side = random.percent(50) ? 0.0 : 1.0;
-    double value = pivotTolerance;
+    double value = toleranceOf(function);
     if (random.percent(67))
-        value = type == catalogue::Type::real32
+        value = function.type == catalogue::Type::real32
                     ? static_cast<double>(std::nextafterf(static_cast<float>(value), static_cast<float>(side)))
                     : std::nextafter(value, side);
     return random.percent(50) ? -value : value;
 }
 
-// Rows of an upper triangle in any order: no step changes a pivot, and one of them lies at the tolerance.
-void placePivotAtTolerance(const MatrixObject &matrix, Random &random) {
+// Rows of an upper triangle in any order: no step changes a pivot, and one of them lies at the tolerance. So does the
+// determinant if the others are 1.
+void placePivotAtTolerance(const MatrixObject &matrix, const Function &function, Random &random) {
+    const std::int64_t largest = isFixedInverse(function) ? 1 : 3;
     std::vector<std::uint32_t> rows(matrix.order());
     std::iota(rows.begin(), rows.end(), 0);
     random.shuffle(rows);
     const auto critical = static_cast<std::uint32_t>(random.below(matrix.order()));
     for (std::uint32_t i = 0; i < matrix.order(); ++i)
         for (std::uint32_t j = 0; j < matrix.order(); ++j)
-            matrix.set(rows[i], j, j < i ? 0.0 : static_cast<double>(random.between(1, 3)));
-    matrix.set(rows[critical], critical, besideTolerance(matrix.type, random));
+            matrix.set(rows[i], j, j < i ? 0.0 : static_cast<double>(random.between(1, largest)));
+    matrix.set(rows[critical], critical, besideTolerance(function, random));
+}
+
+// A determinant far below any tolerance that is no zero.
+void shrinkRow(const MatrixObject &matrix, Random &random) {
+    const auto row = static_cast<std::uint32_t>(random.below(matrix.order()));
+    const auto exponent = static_cast<int>(random.between(-90, -20));
+    for (std::uint32_t j = 0; j < matrix.order(); ++j) matrix.set(row, j, std::ldexp(matrix.get(row, j), exponent));
 }
 
 } // namespace
@@ -337,10 +362,11 @@ void makeTrouble(const Function &function, std::span<const Placement> operands, 
     const Placement &source = operands.front();
     const auto n = static_cast<std::uint32_t>(random.percent(50) ? 0 : random.below(source.objects));
     const MatrixObject matrix{source, function.type, n};
-    switch (random.below(4)) {
+    switch (random.below(in(function, {"inverse"}) ? 5 : 4)) {
     case 0: return repeatRow(matrix, random);
     case 1: return clearColumn(matrix, random);
-    default: return placePivotAtTolerance(matrix, random);
+    case 4: return shrinkRow(matrix, random);
+    default: return placePivotAtTolerance(matrix, function, random);
     }
 }
 

@@ -58,6 +58,9 @@ bool stopsAtNullEntry(const catalogue::Function &function, const catalogue::Oper
 // Whether the result is fixed when the destination is this source, element on element.
 bool isFixedInPlace(const catalogue::Function &function, const catalogue::Operand &source);
 
+// Whether hardly anything is promised where the destination shares memory with a source: such calls are to be few.
+bool leavesOverlapOpen(const catalogue::Function &function);
+
 // How elements are chosen.
 ValueMixture usualValues(const catalogue::Function &function);
 
