@@ -203,7 +203,7 @@ void Builder::chooseRelations() {
                                 : share < mixture.inPlace + mixture.partial ? Overlap::partial
                                                                             : Overlap::none;
         const int source = chooseLeader(written);
-        const bool rather = !families::leavesOverlapOpen(function) || random.percent(20);
+        const bool rather = !families::leavesOverlapOpen(function) || random.percent(12);
         if (source >= 0 && overlap != Overlap::none && rather) layDestinationOn(source, overlap);
     }
     // Two sources may be one.

@@ -132,8 +132,8 @@ Accuracy measure(double result, const model::Approximation &bound, catalogue::Ty
     if (!std::isfinite(bound.exact)) return accuracy;
     const long double unit = unitInTheLastPlace(bound.exact, type);
     const long double error = std::abs(result - bound.exact);
-    const bool isTight = bound.error <= Accuracy::tightBound * unit;
-    (isTight ? accuracy.underTightBound : accuracy.elsewhere) = static_cast<double>(error / unit);
+    if (bound.error <= Accuracy::tightBound * unit) accuracy.underTightBound = static_cast<double>(error / unit);
+    else if (bound.error < std::abs(bound.exact)) accuracy.elsewhere = static_cast<double>(error / unit);
     if (bound.error > 0) accuracy.shareOfBound = static_cast<double>(error / bound.error);
     return accuracy;
 }

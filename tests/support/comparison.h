@@ -30,7 +30,7 @@ struct Accuracy {
 
     std::uint64_t elements = 0;
     double underTightBound = 0; // largest error in units in the last place, of elements with a bound up to this
-    double elsewhere = 0;       // and of the others: badly conditioned ones
+    double elsewhere = 0;       // and of badly conditioned ones, as long as the bound leaves them a digit
     double shareOfBound = 0;    // largest error as a part of its bound
 
     void include(const Accuracy &other);

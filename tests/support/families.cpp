@@ -271,6 +271,8 @@ bool isFixedInPlace(const Function &function, const Operand &source) {
 
 // Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.
 ValueMixture usualValues(const Function &function) {
+    if (isFixedInverse(function))
+        return {.smallIntegers = 20, .wideExponents = 3, .ties = 5, .nearTies = 8, .specials = 10};
     if (in(function, {"lu-decomposition", "determinant", "inverse", "qr-decomposition"}))
         return {.smallIntegers = 15, .wideExponents = 4, .ties = 5, .nearTies = 8, .specials = 15};
     return {};
