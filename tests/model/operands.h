@@ -19,6 +19,7 @@ public:
     std::uintptr_t pointer(const std::string &name) const { return word(name); }
     std::uint64_t bytes(const std::string &name) const; // sign-extended, to be added with wrapping
     std::uint32_t size(const std::string &name) const { return static_cast<std::uint32_t>(word(name)); }
+    std::int32_t signedSize(const std::string &name) const { return static_cast<std::int32_t>(size(name)); }
     float real32(const std::string &name) const;
     double real64(const std::string &name) const;
     // How often a loop up to this size runs: not once where the size is compared as a signed number and is negative.

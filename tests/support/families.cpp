@@ -21,9 +21,6 @@ constexpr std::int32_t nullPointer = -8;
 constexpr std::int32_t singular = -10;
 constexpr std::int32_t notPositiveDefinite = -179;
 
-// Of LUDecomp, in both element types.
-constexpr double pivotTolerance = 0x1p-23;
-
 bool in(const Function &function, std::initializer_list<std::string_view> sections) {
     return std::ranges::find(sections, function.section->id) != sections.end();
 }
@@ -32,6 +29,15 @@ std::uint32_t elementSize(const Function &function) { return function.type == ca
 
 std::uint32_t orderOf(const Function &function, const Sizes &sizes) {
     return function.order != 0 ? static_cast<std::uint32_t>(function.order) : sizes.largest();
+}
+
+bool isFixedInverse(const Function &function) { return in(function, {"inverse"}) && function.order != 0; }
+
+// What a pivot is compared with, or in inverses of fixed size a determinant.
+double toleranceOf(const Function &function) {
+    const bool narrow = function.type == catalogue::Type::real32;
+    if (isFixedInverse(function)) return narrow ? static_cast<double>(1e-7F) : 1e-15;
+    return narrow || in(function, {"lu-decomposition"}) ? 0x1p-23 : 0x1p-52;
 }
 
 bool refusesZeroCount(const Function &function) {
@@ -56,11 +62,21 @@ std::vector<std::int32_t> relevantStatuses(const Function &function) {
     return statuses;
 }
 
+namespace {
+
+// The sizes of an identity are signed: a negative one counts as none, and none has room for one.
+std::uint32_t extentOf(const Sizes &sizes, std::string_view name) {
+    return static_cast<std::uint32_t>(std::max(1, static_cast<std::int32_t>(sizes[name])));
+}
+
+} // namespace
+
 // Where rows and columns trade places the operand gets a square that holds either.
 Shape shapeOf(const Function &function, const Operand &operand, const Sizes &sizes) {
+    if (in(function, {"identity"})) return {extentOf(sizes, "rows"), extentOf(sizes, "cols")};
     const std::uint32_t side = orderOf(function, sizes);
     const bool square = function.order != 0 || sizes["order"] != 0 ||
-                        in(function, {"matrix-product", "matrix-vector", "transpose", "extract", "identity"});
+                        in(function, {"matrix-product", "matrix-vector", "transpose", "extract"});
     if (!operand.matrix && in(function, {"qr-back-substitution"}) && function.order == 0)
         return {1, sizes[operand.written ? "cols" : "rows"]};
     if (!operand.matrix) {
@@ -99,11 +115,26 @@ void relateHeightToWidth(const Function &function, Sizes &sizes, Random &random)
     else if (!function.array() && random.percent(40)) rows = static_cast<std::uint32_t>(random.between(9, 40));
 }
 
+// No columns still leave the ones; -1 of them keeps these within the table, whatever the rows and objects.
+void makeSizesNegative(Sizes &sizes, Random &random) {
+    const auto kind = random.below(100);
+    const auto negative = static_cast<std::uint32_t>(random.next()) | 0x80000000;
+    if (kind < 5) sizes.dimensions[0].value = static_cast<std::uint32_t>(-1);
+    else if (kind < 10) sizes.dimensions[1].value = negative;
+}
+
+// The inverse of a single element may read anywhere.
+void avoidOrderOne(Sizes &sizes) {
+    for (Sizes::Named &dimension : sizes.dimensions) dimension.value = std::max(dimension.value, 2U);
+}
+
 } // namespace
 
 void relateDimensions(const Function &function, Sizes &sizes, Random &random) {
     if (in(function, {"qr-decomposition", "qr-back-substitution"}) && !sizes.dimensions.empty())
         return relateHeightToWidth(function, sizes, random);
+    if (in(function, {"identity"})) return makeSizesNegative(sizes, random);
+    if (in(function, {"inverse"})) return avoidOrderOne(sizes);
     if (!in(function, {"matrix-product", "matrix-vector"}) || sizes.dimensions.empty() || random.percent(10)) return;
     const auto [model, follower] = comparedWords(function);
     const bool square = random.percent(40);
@@ -126,8 +157,13 @@ bool holdsElements(std::string_view parameter) { return parameter == "dst" || pa
 
 bool isUnspecifiedAfterCall(const Function &, std::string_view parameter) { return parameter == "scratch"; }
 
-// The last pivot of object n is looked for in the table n rows further on.
+// The last pivot of object n is looked for in the table n rows further on; the ones of an identity run on along the
+// table over all objects.
 std::uint32_t extraEntries(const Function &function, const Operand &operand, const Sizes &sizes) {
+    if (in(function, {"identity"}) && isTable(operand.layout)) {
+        const std::uint32_t ones = sizes.count * extentOf(sizes, "rows");
+        return ones - std::min(ones, extentOf(sizes, "cols"));
+    }
     const bool displaced =
         in(function, {"lu-decomposition"}) && operand.written && operand.array && isTable(operand.layout);
     return displaced ? sizes.count * orderOf(function, sizes) : 0;
@@ -141,22 +177,68 @@ bool displacesTriangle(const Function &function, const Operand &operand) {
            function.type == catalogue::Type::real64 && operand.layout == Layout::list;
 }
 
-} // namespace
+Reach withDisplacedTriangle(const Placement &placement) {
+    Reach reach = placement.reach;
+    reach.low += std::min<std::int64_t>(1 - placement.rowStride, 0);
+    reach.high += std::max<std::int64_t>(std::int64_t{placement.shape.cols} - placement.rowStride, 0);
+    return reach;
+}
 
 // The last pivot of object n is looked for n packed rows further on.
-Reach extraReach(const Function &function, const Operand &operand, const Placement &placement) {
+Reach withDisplacedPivots(const Placement &placement) {
     Reach reach = placement.reach;
-    if (displacesTriangle(function, operand)) {
-        reach.low += std::min<std::int64_t>(1 - placement.rowStride, 0);
-        reach.high += std::max<std::int64_t>(std::int64_t{placement.shape.cols} - placement.rowStride, 0);
-    }
-    if (!in(function, {"lu-decomposition"}) || !operand.written || !operand.array || isTable(operand.layout))
-        return reach;
     const std::int64_t farthest =
         (placement.objects - 1) * std::int64_t{placement.shape.cols} * placement.elementStride;
     reach.low += std::min<std::int64_t>(farthest, 0);
     reach.high += std::max<std::int64_t>(farthest, 0);
     return reach;
+}
+
+std::int64_t clamped(std::int64_t stride, std::uint32_t least) {
+    return static_cast<std::int32_t>(std::max(static_cast<std::uint32_t>(stride), least));
+}
+
+// The places of zeros and ones, by strides that are made large enough and with the ones running on over all objects.
+Reach ofIdentities(const Function &function, const Operand &operand, const Sizes &sizes, const Placement &placement) {
+    const std::uint32_t size = placement.elementSize;
+    Reach reach = placement.reach;
+    const auto include = [&](std::int64_t at) { reach.include({at, at + size}); };
+    if (isTable(operand.layout)) {
+        for (const std::int64_t slot : placement.slots)
+            include(slot + (placement.objects - 1) * clamped(placement.objectStride, size));
+        return reach;
+    }
+    const std::int64_t rowStride = clamped(placement.rowStride, sizes["cols"] * size);
+    const std::int64_t elementStride =
+        clamped(placement.elementStride, function.name == "vonkLoadIdentity_ma_64f_L" ? 4 : size);
+    std::int64_t one = 0;
+    for (std::uint32_t n = 0; n < placement.objects; ++n)
+        for (std::uint32_t i = 0; i < placement.shape.rows; ++i, ++one) {
+            const std::int64_t row =
+                (placement.tabled ? placement.slots[n] : n * placement.objectStride) + i * rowStride;
+            include(row);
+            include(row + (placement.shape.cols - 1) * elementStride);
+            include(row + one * elementStride);
+        }
+    return reach;
+}
+
+} // namespace
+
+Reach extraReach(const Function &function, const Operand &operand, const Sizes &sizes, const Placement &placement) {
+    if (in(function, {"identity"})) return ofIdentities(function, operand, sizes, placement);
+    if (in(function, {"lu-decomposition"}) && operand.written && operand.array && !isTable(operand.layout))
+        return withDisplacedPivots(placement);
+    if (displacesTriangle(function, operand)) return withDisplacedTriangle(placement);
+    return placement.reach;
+}
+
+bool readsThroughDestination(const Function &function) {
+    return function.name == "vonkCopy_va_32f_PP" || function.name == "vonkCopy_va_64f_PP";
+}
+
+bool addsShift(const Function &function) {
+    return function.name != "vonkExtract_mT_32f_P" && function.name != "vonkExtract_mT_64f_P";
 }
 
 namespace {
@@ -188,7 +270,7 @@ bool looksAtAlignment(const Function &function) {
 }
 
 bool mayLieInSource(const Function &function) {
-    return in(function, {"dot-product", "norm", "trace", "frobenius-norm"});
+    return in(function, {"dot-product", "norm", "trace", "frobenius-norm", "determinant"});
 }
 
 // Aligned where all the others are, whatever the stride of the second source, which nobody looks at.
@@ -271,6 +353,7 @@ bool testsEntry(const Function &function, const Operand &operand, const Sizes &s
     if (in(function, {"qr-back-substitution"}) && operand.name == "src2" && isTable(operand.layout))
         return entry < (function.order != 0 ? orderOf(function, sizes) : sizes["cols"]);
     if (trustsEntries(function)) return false;
+    if (isFixedInverse(function) && function.type == catalogue::Type::real32 && function.layout == "L") return false;
     if (isList(operand.layout)) return testsListEntry(function, operand, sizes, entry);
     if (in(function, {"trace"})) return traceMayMeetNull(operand, orderOf(function, sizes), entry);
     if (in(function, {"transpose"}) && function.order == 0) return testsExchangedEntry(operand, sizes, entry);
@@ -314,6 +397,7 @@ bool isSignedSize(const Function &function, std::string_view parameter) {
 // Some forms of these run ahead of the object whose entries they test, or pass over it.
 bool stopsAtNullEntry(const Function &function, const Operand &operand) {
     if (in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return false;
+    if (isFixedInverse(function) && isList(operand.layout)) return false;
     return isTable(operand.layout) ? !in(function, {"trace"}) : !in(function, {"matrix-matrix", "matrix-product"});
 }
 
@@ -322,19 +406,23 @@ bool isFixedInPlace(const Function &function, const Operand &source) {
     if (in(function, {"cross-product"})) return function.group == "vv" && function.layout.empty();
     if (in(function, {"cholesky-back-substitution", "qr-back-substitution"})) return source.name == "src2";
     return in(function, {"vector-constant", "vector-vector", "saxpy", "linear-combination", "matrix-matrix",
-                         "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition"});
+                         "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition", "copy"});
 }
 
-// Rows and columns change places in registers, in an order that is free.
-bool mostlyLeavesOverlapOpen(const Function &function) {
-    if (!hasLanes(function)) return false;
-    return in(function, {"transpose"}) || (in(function, {"matrix-matrix", "matrix-constant"}) &&
-                                           std::ranges::any_of(function.operands, &Operand::transposed));
+// Rows and columns change places in registers, in an order that is free; an inverse promises next to nothing.
+unsigned overlapShare(const Function &function) {
+    if (isFixedInverse(function)) return 12;
+    const bool turnsInRegisters =
+        in(function, {"transpose"}) || (in(function, {"matrix-matrix", "matrix-constant"}) &&
+                                        std::ranges::any_of(function.operands, &Operand::transposed));
+    return hasLanes(function) && turnsInRegisters ? 50 : 100;
 }
 
 // Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.
 ValueMixture usualValues(const Function &function) {
-    if (in(function, {"lu-decomposition", "inverse", "qr-decomposition"}))
+    if (isFixedInverse(function))
+        return {.smallIntegers = 20, .wideExponents = 3, .ties = 5, .nearTies = 8, .specials = 10};
+    if (in(function, {"lu-decomposition", "determinant", "inverse", "qr-decomposition"}))
         return {.smallIntegers = 15, .wideExponents = 4, .ties = 5, .nearTies = 8, .specials = 15};
     if (in(function, {"cholesky-decomposition"}))
         return {.smallIntegers = 15, .wideExponents = 8, .ties = 8, .nearTies = 8, .specials = 12};
@@ -361,8 +449,8 @@ void fillBlock(const Function &function, std::string_view parameter, std::span<s
 }
 
 bool hasTrouble(const Function &function) {
-    return in(function,
-              {"norm", "frobenius-norm", "lu-decomposition", "cholesky-decomposition", "qr-decomposition"});
+    return in(function, {"norm", "frobenius-norm", "lu-decomposition", "determinant", "inverse",
+                         "cholesky-decomposition", "qr-decomposition"});
 }
 
 namespace {
@@ -393,26 +481,35 @@ void clearColumn(const MatrixObject &matrix, Random &random) {
     for (std::uint32_t i = 0; i < matrix.rows(); ++i) matrix.set(i, column, 0.0);
 }
 
-double besideTolerance(catalogue::Type type, Random &random) {
+double besideTolerance(const Function &function, Random &random) {
     const double side = random.percent(50) ? 0.0 : 1.0;
-    double value = pivotTolerance;
+    double value = toleranceOf(function);
     if (random.percent(67))
-        value = type == catalogue::Type::real32
+        value = function.type == catalogue::Type::real32
                     ? static_cast<double>(std::nextafterf(static_cast<float>(value), static_cast<float>(side)))
                     : std::nextafter(value, side);
     return random.percent(50) ? -value : value;
 }
 
-// Rows of an upper triangle in any order: no step changes a pivot, and one of them lies at the tolerance.
-void placePivotAtTolerance(const MatrixObject &matrix, Random &random) {
+// Rows of an upper triangle in any order: no step changes a pivot, and one of them lies at the tolerance. So does the
+// determinant if the others are 1.
+void placePivotAtTolerance(const MatrixObject &matrix, const Function &function, Random &random) {
+    const std::int64_t largest = isFixedInverse(function) ? 1 : 3;
     std::vector<std::uint32_t> rows(matrix.order());
     std::iota(rows.begin(), rows.end(), 0);
     random.shuffle(rows);
     const auto critical = static_cast<std::uint32_t>(random.below(matrix.order()));
     for (std::uint32_t i = 0; i < matrix.order(); ++i)
         for (std::uint32_t j = 0; j < matrix.order(); ++j)
-            matrix.set(rows[i], j, j < i ? 0.0 : static_cast<double>(random.between(1, 3)));
-    matrix.set(rows[critical], critical, besideTolerance(matrix.type, random));
+            matrix.set(rows[i], j, j < i ? 0.0 : static_cast<double>(random.between(1, largest)));
+    matrix.set(rows[critical], critical, besideTolerance(function, random));
+}
+
+// A determinant far below any tolerance that is no zero.
+void shrinkRow(const MatrixObject &matrix, Random &random) {
+    const auto row = static_cast<std::uint32_t>(random.below(matrix.order()));
+    const auto exponent = static_cast<int>(random.between(-90, -20));
+    for (std::uint32_t j = 0; j < matrix.order(); ++j) matrix.set(row, j, std::ldexp(matrix.get(row, j), exponent));
 }
 
 // All zeros, or numbers whose squares lie about the ends of the element's range.
@@ -545,10 +642,11 @@ void makeTrouble(const Function &function, std::span<const Placement> operands, 
     if (in(function, {"norm", "frobenius-norm"})) return moveSquaresToTheEdge(matrix, random);
     if (in(function, {"cholesky-decomposition"})) return makeCholeskyTrouble(matrix, random);
     if (in(function, {"qr-decomposition"})) return makeQrTrouble(matrix, random);
-    switch (random.below(4)) {
+    switch (random.below(in(function, {"inverse"}) ? 5 : 4)) {
     case 0: return repeatRow(matrix, random);
     case 1: return clearColumn(matrix, random);
-    default: return placePivotAtTolerance(matrix, random);
+    case 4: return shrinkRow(matrix, random);
+    default: return placePivotAtTolerance(matrix, function, random);
     }
 }
 

@@ -36,7 +36,14 @@ bool isUnspecifiedAfterCall(const catalogue::Function &function, std::string_vie
 std::uint32_t extraEntries(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes);
 
 // Bytes that a call may touch beyond the elements of an operand, given its strides.
-Reach extraReach(const catalogue::Function &function, const catalogue::Operand &operand, const Placement &placement);
+Reach extraReach(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes,
+                 const Placement &placement);
+
+// Whether the source is reached by way of the destination's table, with the shift and the stride of its own.
+bool readsThroughDestination(const catalogue::Function &function);
+
+// Whether the shift of a table is added to its entries.
+bool addsShift(const catalogue::Function &function);
 
 // Bytes that a call may touch beyond the elements of an operand, since it walks that with the strides of another.
 Reach borrowedReach(const catalogue::Function &function, const catalogue::Operand &operand,
@@ -76,8 +83,9 @@ bool stopsAtNullEntry(const catalogue::Function &function, const catalogue::Oper
 // Whether the result is fixed when the destination is this source, element on element.
 bool isFixedInPlace(const catalogue::Function &function, const catalogue::Operand &source);
 
-// Whether nearly all ways in which the destination can overlap a source are open, so that such calls tell little.
-bool mostlyLeavesOverlapOpen(const catalogue::Function &function);
+// Of the overlaps of destination and source that would be drawn, how many percent are: few where nearly all outcomes are
+// open, so that such calls tell little.
+unsigned overlapShare(const catalogue::Function &function);
 
 // How elements are chosen.
 ValueMixture usualValues(const catalogue::Function &function);
