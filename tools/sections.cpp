@@ -123,9 +123,73 @@ all four tables ahead of everything else, even at `count` 0; in `L` and `LS2` wh
      R"(Nothing tests overlap. `32f` of fixed size in the standard layout and `L` holds both vectors before it stores, so
 `dst` may be `src2` or `src3`; elsewhere the sum that is stored at every step destroys what lies under it.)",
      R"(Nothing.)", true},
-    {"copy", "Copy", "from any of three layouts into any of three layouts", "", "", "", false},
-    {"extract", "Extract", "gathering into one dense block", "", "", "", false},
-    {"identity", "LoadIdentity", "identity matrices", "", "", "", false},
+    {"copy", "Copy", "from any of three layouts into any of three layouts",
+     R"(dst(n, j) = src(n, j)          (`va`, of `len` elements)
+dst(n, i, j) = src(n, i, j)    (`ma`, of `rows` by `cols`)
+
+Two letters at the end of a name say where the elements come from and where they go: `S` strided (elsewhere `S2`),
+`P` strided pointer (`PS2`), `L` strided list (`LS2`). Nothing is converted. Objects, rows and elements are walked in
+ascending order, one element at a time. A `float` is moved as the word that it is; a `double` goes through the 80-bit
+unit, so that a signalling NaN arrives as a quiet one.
+
+Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len` is 0. Entries of tables and lists are not
+tested. `count` 0 gives vonkOk.
+
+Members that behave unlike their siblings:
+- vonkCopy_va_32f_PP and vonkCopy_va_64f_PP never read the `src` table. Both ends of the copy are found through the
+  `dst` table: element j of object n comes from dst[j] + `srcShift` + n * `srcObjStride` and goes to dst[j] +
+  `dstShift` + n * `dstObjStride`.
+- `ma`: `cols` or `rows` 0 is no error; nothing is written and the status is vonkOk.)",
+     R"(`dst` may be `src` itself with the same strides or tables, and all is as before. Any other overlap behaves as the
+forward walk, element by element: a `dst` that runs ahead of `src` sees new elements.)",
+     R"(Nothing.)", true},
+    {"extract", "Extract", "gathering into one dense block",
+     R"(`dst` is a plain pointer and is filled in ascending order, without gaps and strides:
+
+- `v`, `va`: dst[n * `len` + j] = src(n, j)
+- `m`, `ma`: dst[(n * `rows` + i) * `cols` + j] = src(n, i, j)
+- `mT`, `maT`: dst[(n * `rows` + i) * `cols` + j] = src(n, j, i): `rows` and `cols` are those of the result
+
+A `float` is moved as the word that it is; a `double` goes through the 80-bit unit, so that a signalling NaN arrives
+as a quiet one.
+
+Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len`, `cols`, `rows` or `count` is 0. Entries of
+tables and lists are not tested.
+
+Members that behave unlike their siblings:
+- vonkExtract_maT of `PS2` does not transpose: it is vonkExtract_ma of `PS2` under a second name. (vonkExtract_va of
+  `S2` is vonkExtract_m of `S2` in the same way, which is what its words say.)
+- vonkExtract_mT of `P`: `rows` and `cols` are those of the table, dst[j * `rows` + i] is what entry i * `cols` + j
+  points to, and `srcShift` is never added.
+- vonkExtract_m and vonkExtract_mT of `P` and vonkExtract_v_64f_P test no pointer, and a size of 0 gives vonkOk
+  (`m`: if `cols` * `rows` is 0 in 32 bits). vonkExtract_v_32f_P has the usual tests.
+- There is no standard layout, no `maT` of `S2`, and no `mT` of `S2` in `64f`.)",
+     R"(Behaves as the forward walk, element by element: elements of `src` that lie under what is written already are new.)",
+     R"(Nothing.)", true},
+    {"identity", "LoadIdentity", "identity matrices",
+     R"(For each object n and each row i, in ascending order: columns 0 to `cols` - 1 of the row become 0, then column
+n * `rows` + i becomes 1. That column runs on from object to object, so only `count` 1 makes an identity: in later
+objects the ones fall beyond the columns of their row, on whatever lies there by the stride arithmetic, and zeros of a
+later row may take a one away again. In `P` the one of row i goes through table entry i * `cols` + n * `rows` + i,
+which lies beyond the table for all objects but the first.
+
+One letter at the end of a name is the layout: `S` strided (elsewhere `S2`), `P` strided pointer (`PS2`), `L` strided
+list (`LS2`). `cols` and `rows` are signed (int32_t): with `rows` below 1 nothing is written, with `cols` below 1 the
+ones are written all the same.
+
+Strides that are too small are replaced, with no error: `dstElemStride` by the size of an element, `dstRowStride` by
+`cols` times that (`S`, `L`), `dstObjStride` of `P` by the size of an element. They are compared as unsigned words, so
+negative strides stand.
+
+Status: vonkErrNullPtr if `dst` is null; vonkErrSize if `count` is 0. `cols`, `rows` and entries of tables and lists
+are not tested.
+
+Members that behave unlike their siblings:
+- vonkLoadIdentity_ma_64f_L takes 4 for the least `dstElemStride`: with a smaller one its elements overlap.)",
+     R"(There is no source. Objects and rows that overlap are written one after the other.)",
+     R"(In `P`, entries behind the table's own, `rows` * `count` - `cols` of them if there are more rows in all than columns;
+and they are written through, so leave valid ones there.)",
+     true},
     {"lu-decomposition", "LU decomposition", "Gaussian elimination with partial pivoting",
      R"(vonkLUDecomp factors each matrix of `src`, `order` by `order`, into a unit lower and an upper triangular factor by
 Gaussian elimination with partial pivoting. Rows are never moved: `pivots`, `order` row indices per object and
