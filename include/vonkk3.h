@@ -5543,6 +5543,356 @@ VonkStatus vonkLUBackSubst_mava_64f_6x6_LS2(const double *const *src1, int32_t s
     int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
     int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 
+/* ---- Determinant ----------------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkDet_m_32f(const float *src, int32_t srcRowStride, uint32_t order, void *scratch, float *dst);
+VonkStatus vonkDet_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
+    void *scratch, float *dst);
+VonkStatus vonkDet_m_32f_P(const float *const *src, int32_t srcShift, uint32_t order, void *scratch, float *dst);
+VonkStatus vonkDet_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkDet_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkDet_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkDet_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkDet_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkDet_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkDet_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkDet_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkDet_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkDet_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkDet_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkDet_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst);
+
+VonkStatus vonkDet_m_64f(const double *src, int32_t srcRowStride, uint32_t order, void *scratch, double *dst);
+VonkStatus vonkDet_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
+    void *scratch, double *dst);
+VonkStatus vonkDet_m_64f_P(const double *const *src, int32_t srcShift, uint32_t order, void *scratch, double *dst);
+VonkStatus vonkDet_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkDet_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkDet_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkDet_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkDet_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkDet_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkDet_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkDet_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkDet_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkDet_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkDet_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkDet_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst);
+
+VonkStatus vonkDet_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order, void *scratch,
+    float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, void *scratch, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t order, void *scratch, float *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
+    void *scratch, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
+    void *scratch, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, void *scratch, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkDet_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+
+VonkStatus vonkDet_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order, void *scratch,
+    double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, void *scratch, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t order, void *scratch, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
+    void *scratch, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
+    void *scratch, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, void *scratch, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkDet_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkDet_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+
+/* ---- Inverse --------------------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkInvert_m_32f(const float *src, int32_t srcRowStride, uint32_t order, void *scratch, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkInvert_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
+    void *scratch, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkInvert_m_32f_P(const float *const *src, int32_t srcShift, uint32_t order, void *scratch,
+    float *const *dst, int32_t dstShift);
+VonkStatus vonkInvert_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkInvert_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkInvert_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+VonkStatus vonkInvert_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkInvert_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkInvert_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+VonkStatus vonkInvert_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkInvert_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkInvert_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+VonkStatus vonkInvert_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkInvert_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkInvert_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkInvert_m_64f(const double *src, int32_t srcRowStride, uint32_t order, void *scratch, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkInvert_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
+    void *scratch, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkInvert_m_64f_P(const double *const *src, int32_t srcShift, uint32_t order, void *scratch,
+    double *const *dst, int32_t dstShift);
+VonkStatus vonkInvert_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkInvert_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkInvert_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+VonkStatus vonkInvert_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkInvert_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkInvert_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+VonkStatus vonkInvert_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkInvert_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkInvert_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+VonkStatus vonkInvert_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkInvert_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkInvert_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkInvert_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order,
+    void *scratch, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, void *scratch, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t order, void *scratch,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkInvert_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
+    void *scratch, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
+    void *scratch, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, void *scratch, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkInvert_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkInvert_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkInvert_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkInvert_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkInvert_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order,
+    void *scratch, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, void *scratch, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t order, void *scratch,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkInvert_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
+    void *scratch, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
+    void *scratch, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t order, void *scratch, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkInvert_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkInvert_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+
 #ifdef __cplusplus
 }
 #endif

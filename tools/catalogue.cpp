@@ -80,8 +80,10 @@ constexpr std::array familyTable = std::to_array<Family>({
      "src pivots* dst order? count", "lu::decompose"},
     {"lu-back-substitution", "LUBackSubst", "mv mva mava", bothTypes, matrixSizes, sixLayouts, "@", 'v',
      "src1 pivots* src2 dst order? count", "lu::backSubstitute"},
-    {"determinant", "Det", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src order? scratch*? dst* count", ""},
-    {"inverse", "Invert", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src order? scratch*? dst count", ""},
+    {"determinant", "Det", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src order? scratch*? dst* count",
+     "lu::determinant"},
+    {"inverse", "Invert", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src order? scratch*? dst count",
+     "lu::invert"},
     // Cholesky and QR
     {"cholesky-decomposition", "CholeskyDecomp", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm',
      "src dst order? count", ""},

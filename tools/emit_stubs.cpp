@@ -45,6 +45,7 @@ std::vector<std::string> arguments(const Function &function) {
         if (dimension) word.pop_back();
         const bool block = word.ends_with('*');
         if (block) word.pop_back();
+        if (dimension && block && function.order != 0) continue; // scratch memory is for run-time sizes only
 
         const auto operand = std::ranges::find(function.operands, word, &Operand::name);
         const auto parameter = std::ranges::find(function.parameters, word, &Parameter::name);

@@ -251,8 +251,8 @@ Members that behave unlike their siblings:
      R"(`dst` must not be `src2` unless the permutation is the identity: x(i) is written while b(p[i]) of later rows is
 still needed. Nothing tests overlap; sweeps read what memory holds by then.)",
      R"(Nothing.)", true},
-    {"determinant", "Determinant", "determinant by LU decomposition", "", "", "", false},
-    {"inverse", "Inverse", "inverse of a matrix", "", "", "", false},
+    {"determinant", "Determinant", "determinant by LU decomposition", "", "", "", true},
+    {"inverse", "Inverse", "inverse of a matrix", "", "", "", true},
     {"cholesky-decomposition", "Cholesky decomposition", "lower factor of a positive definite matrix", "", "", "",
      false},
     {"cholesky-back-substitution", "Cholesky back substitution", "solving with a Cholesky factor", "", "", "", false},
