@@ -1,4 +1,5 @@
-// Inverses of 5x5 and 6x6 by blocks. Columns are chosen so that the leading block P of 2 or 3 rows is far from singular:
+// Inverses of 5x5 and 6x6 by blocks. Columns are chosen so that the leading block P of 2 or 3 rows is far from
+// singular:
 //
 //     | P A |   inverse   | P^-1 + X S^-1 Y   -X S^-1 |    X = P^-1 A    Y = B P^-1    S = C - Y A
 //     | B C |             |      -S^-1 Y        S^-1  |
@@ -60,7 +61,8 @@ VONKK3_INLINE ColumnOrder<order> chooseColumns(const A &a, std::size_t candidate
 }
 
 template <class W, std::size_t rows, std::size_t inner, std::size_t columns>
-VONKK3_INLINE void multiplyBlocks(const W (&a)[rows][inner], const W (&b)[inner][columns], W (&product)[rows][columns]) {
+VONKK3_INLINE void multiplyBlocks(const W (&a)[rows][inner], const W (&b)[inner][columns],
+                                  W (&product)[rows][columns]) {
     for (std::size_t i = 0; i < rows; ++i)
         for (std::size_t j = 0; j < columns; ++j) {
             W sum = a[i][0] * b[0][j];

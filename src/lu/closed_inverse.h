@@ -78,13 +78,12 @@ using Adjugate = std::conditional_t<order == 3, AdjugateOfThree<W>, AdjugateOfFo
 template <class T, std::size_t order>
 [[gnu::noinline]] bool invertClosed(const SmallMatrix<T, order> &matrix, SmallMatrix<T, order> &inverse) {
     using W = Working<T>;
-    const Adjugate<W, order> adjugate(
-        [&](std::size_t i, std::size_t j) VONKK3_INLINED { return W(matrix.elements[i][j]); });
+    const Adjugate<W, order> adjugate([&](std::size_t i, std::size_t j)
+                                          VONKK3_INLINED { return W(matrix.elements[i][j]); });
     if (isInSingularInterval(adjugate.determinant)) return false;
     const W reciprocal = W(1) / adjugate.determinant;
     for (std::size_t i = 0; i < order; ++i)
-        for (std::size_t j = 0; j < order; ++j)
-            inverse.elements[i][j] = round<T>(adjugate.elements[i][j] * reciprocal);
+        for (std::size_t j = 0; j < order; ++j) inverse.elements[i][j] = round<T>(adjugate.elements[i][j] * reciprocal);
     return true;
 }
 

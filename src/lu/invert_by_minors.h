@@ -13,8 +13,7 @@ template <class T, class Source>
 inline void copyMinorToScratch(const ScratchMatrix<T> &matrix, std::size_t order, const Source &source, std::size_t row,
                                std::size_t column) {
     for (std::size_t i = 0; i + 1 < order; ++i)
-        for (std::size_t j = 0; j + 1 < order; ++j)
-            matrix.fill(i, j, source.load(i + (i >= row), j + (j >= column)));
+        for (std::size_t j = 0; j + 1 < order; ++j) matrix.fill(i, j, source.load(i + (i >= row), j + (j >= column)));
     matrix.resetIndices(order - 1);
 }
 

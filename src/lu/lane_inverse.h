@@ -96,9 +96,8 @@ VONKK3_INLINE bool invertFourInLanes(const RowsView<const Real32> &matrix, const
     const __m128 signs = _mm_castsi128_ps(_mm_setr_epi32(0, INT32_MIN, INT32_MIN, 0));
     const __m128 r = _mm_xor_ps(_mm_set1_ps(reciprocalByEstimate(_mm_cvtss_f32(determinant))), signs);
 
-    const auto blockOf = [&](__m128 minor, __m128 block, __m128 other) VONKK3_INLINED {
-        return _mm_mul_ps(_mm_sub_ps(_mm_mul_ps(minor, block), other), r);
-    };
+    const auto blockOf = [&](__m128 minor, __m128 block, __m128 other)
+                             VONKK3_INLINED { return _mm_mul_ps(_mm_sub_ps(_mm_mul_ps(minor, block), other), r); };
     const __m128 x = blockOf(pick<3, 3, 3, 3>(minors), a, timesBlock(b, dc));
     const __m128 y = blockOf(pick<1, 1, 1, 1>(minors), c, timesAdjugate(d, ab));
     const __m128 z = blockOf(pick<2, 2, 2, 2>(minors), b, timesAdjugate(a, dc));
