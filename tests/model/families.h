@@ -35,7 +35,10 @@ struct Execution {
 };
 
 Status addOrSubtractVectors(const Execution &execution);
+Status copy(const Execution &execution);
 Status decomposeLu(const Execution &execution);
+Status extract(const Execution &execution);
+Status loadIdentity(const Execution &execution);
 Status multiplyAndAdd(const Execution &execution);
 Status multiplyMatrices(const Execution &execution);
 Status multiplyMatrixByVector(const Execution &execution);

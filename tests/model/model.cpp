@@ -30,6 +30,9 @@ const Family families[] = {
     {isMatrixProduct, multiplyMatrices},
     {isMatrixByVector, multiplyMatrixByVector},
     {[](const Form &form) { return form.operation == "Gaxpy"; }, multiplyAndAdd},
+    {[](const Form &form) { return form.operation == "Copy"; }, copy},
+    {[](const Form &form) { return form.operation == "Extract"; }, extract},
+    {[](const Form &form) { return form.operation == "LoadIdentity"; }, loadIdentity},
     {[](const Form &form) { return form.operation == "LUDecomp"; }, decomposeLu},
     {[](const Form &form) { return form.operation == "LUBackSubst"; }, substituteBackLu},
 };

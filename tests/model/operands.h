@@ -19,6 +19,7 @@ public:
     std::uintptr_t pointer(const std::string &name) const { return word(name); }
     std::uint64_t bytes(const std::string &name) const; // sign-extended, to be added with wrapping
     std::uint32_t size(const std::string &name) const { return static_cast<std::uint32_t>(word(name)); }
+    std::int32_t signedSize(const std::string &name) const { return static_cast<std::int32_t>(size(name)); }
     // Of any of the pointers, plain ones included.
     bool hasNullPointer() const;
 

@@ -73,6 +73,7 @@ private:
     std::vector<Item> makeItems();
     void place();
     void placeItems(std::vector<Item> &items);
+    void placeSourceByDestination();
     void writeTable(const Placement &placement);
     void writeValues();
     void chooseShift(Placement &placement);
@@ -265,6 +266,26 @@ std::vector<Item> Builder::makeItems() {
     return items;
 }
 
+// The source lies where the destination's table leads with the source's shift and stride: over the destination in calls
+// in place, else anywhere in the arena.
+void Builder::placeSourceByDestination() {
+    Placement &source = operand(0);
+    const Placement &destination = operand(1);
+    source.slots = destination.slots;
+    const auto [first, last] = std::ranges::minmax(source.slots);
+    const std::int64_t walk = (source.objects - 1) * source.objectStride;
+    source.reach = {first + std::min<std::int64_t>(walk, 0), last + std::max<std::int64_t>(walk, 0) + elementSize};
+    const auto origin = static_cast<std::int64_t>(destination.origin - Arena::address);
+    const auto end = static_cast<std::int64_t>(Arena::size);
+    std::int64_t delta = random.between(-origin - source.reach.low, end - origin - source.reach.high);
+    if (random.percent(75)) delta = delta / elementSize * elementSize;
+    const std::int64_t shift = destination.shift + delta;
+    const bool inPlace = relations[0].leader >= 0 && relations[0].delta == 0;
+    if (inPlace || shift != static_cast<std::int32_t>(shift)) delta = 0;
+    source.origin = destination.origin + static_cast<std::uintptr_t>(delta);
+    source.shift = static_cast<std::int32_t>(destination.shift + delta);
+}
+
 void Builder::place() {
     std::vector<Item> items = makeItems();
     placeItems(items);
@@ -276,6 +297,7 @@ void Builder::place() {
         call.operands[k].table = items[operands + k].origin;
         chooseShift(call.operands[k]);
     }
+    if (families::readsThroughDestination(function)) placeSourceByDestination();
     for (std::size_t k = 0; k < operands; ++k)
         if (relations[k].sharesTable) {
             call.operands[k].table = operand(relations[k].leader).table;
@@ -295,9 +317,13 @@ void Builder::chooseShift(Placement &placement) {
 // --- contents
 
 void Builder::writeTable(const Placement &placement) {
+    const std::int64_t shift = families::addsShift(function) ? placement.shift : 0;
+    // A table that is asked for and never read leads astray.
+    const bool unread = families::readsThroughDestination(function) && placement.table != operand(1).table;
+    const std::int64_t astray = unread ? 64 : 0;
     for (std::size_t k = 0; k <= placement.slots.size(); ++k) {
         // The word in front of the table leads to its first place.
-        const std::int64_t offset = placement.slots[k == 0 ? 0 : k - 1] - placement.shift;
+        const std::int64_t offset = placement.slots[k == 0 ? 0 : k - 1] - shift + astray;
         const std::uintptr_t entry = placement.origin + static_cast<std::uintptr_t>(offset);
         std::memcpy(reinterpret_cast<void *>(placement.table + 8 * k - 8), &entry, sizeof entry);
     }

@@ -55,11 +55,21 @@ std::vector<std::int32_t> relevantStatuses(const Function &function) {
     return statuses;
 }
 
+namespace {
+
+// The sizes of an identity are signed: a negative one counts as none, and none has room for one.
+std::uint32_t extentOf(const Sizes &sizes, std::string_view name) {
+    return static_cast<std::uint32_t>(std::max(1, static_cast<std::int32_t>(sizes[name])));
+}
+
+} // namespace
+
 // Where rows and columns trade places the operand gets a square that holds either.
 Shape shapeOf(const Function &function, const Operand &operand, const Sizes &sizes) {
+    if (in(function, {"identity"})) return {extentOf(sizes, "rows"), extentOf(sizes, "cols")};
     const std::uint32_t side = orderOf(function, sizes);
     const bool square = function.order != 0 || sizes["order"] != 0 ||
-                        in(function, {"matrix-product", "matrix-vector", "transpose", "extract", "identity"});
+                        in(function, {"matrix-product", "matrix-vector", "transpose", "extract"});
     if (!operand.matrix) {
         const std::uint32_t length = std::max(sizes["len"], square ? side : std::max(sizes["rows"], sizes["cols"]));
         return {1, length};
@@ -80,7 +90,20 @@ std::pair<std::string_view, std::string_view> comparedWords(const Function &func
     return {"src1Cols", "src2Rows"};
 }
 
+namespace {
+
+// No columns still leave the ones; -1 of them keeps these within the table, whatever the rows and objects.
+void makeSizesNegative(Sizes &sizes, Random &random) {
+    const auto kind = random.below(100);
+    const auto negative = static_cast<std::uint32_t>(random.next()) | 0x80000000;
+    if (kind < 5) sizes.dimensions[0].value = static_cast<std::uint32_t>(-1);
+    else if (kind < 10) sizes.dimensions[1].value = negative;
+}
+
+} // namespace
+
 void relateDimensions(const Function &function, Sizes &sizes, Random &random) {
+    if (in(function, {"identity"})) return makeSizesNegative(sizes, random);
     if (!in(function, {"matrix-product", "matrix-vector"}) || sizes.dimensions.empty() || random.percent(10)) return;
     const auto [model, follower] = comparedWords(function);
     const bool square = random.percent(40);
@@ -103,23 +126,74 @@ bool holdsElements(std::string_view parameter) { return parameter == "dst" || pa
 
 bool isUnspecifiedAfterCall(const Function &, std::string_view parameter) { return parameter == "scratch"; }
 
-// The last pivot of object n is looked for in the table n rows further on.
+// The last pivot of object n is looked for in the table n rows further on; the ones of an identity run on along the
+// table over all objects.
 std::uint32_t extraEntries(const Function &function, const Operand &operand, const Sizes &sizes) {
+    if (in(function, {"identity"}) && isTable(operand.layout)) {
+        const std::uint32_t ones = sizes.count * extentOf(sizes, "rows");
+        return ones - std::min(ones, extentOf(sizes, "cols"));
+    }
     const bool displaced =
         in(function, {"lu-decomposition"}) && operand.written && operand.array && isTable(operand.layout);
     return displaced ? sizes.count * orderOf(function, sizes) : 0;
 }
 
+namespace {
+
 // The last pivot of object n is looked for n packed rows further on.
-Reach extraReach(const Function &function, const Operand &operand, const Placement &placement) {
+Reach withDisplacedPivots(const Placement &placement) {
     Reach reach = placement.reach;
-    if (!in(function, {"lu-decomposition"}) || !operand.written || !operand.array || isTable(operand.layout))
-        return reach;
     const std::int64_t farthest =
         (placement.objects - 1) * std::int64_t{placement.shape.cols} * placement.elementStride;
     reach.low += std::min<std::int64_t>(farthest, 0);
     reach.high += std::max<std::int64_t>(farthest, 0);
     return reach;
+}
+
+std::int64_t clamped(std::int64_t stride, std::uint32_t least) {
+    return static_cast<std::int32_t>(std::max(static_cast<std::uint32_t>(stride), least));
+}
+
+// The places of zeros and ones, by strides that are made large enough and with the ones running on over all objects.
+Reach ofIdentities(const Function &function, const Operand &operand, const Sizes &sizes, const Placement &placement) {
+    const std::uint32_t size = placement.elementSize;
+    Reach reach = placement.reach;
+    const auto include = [&](std::int64_t at) { reach.include({at, at + size}); };
+    if (isTable(operand.layout)) {
+        for (const std::int64_t slot : placement.slots)
+            include(slot + (placement.objects - 1) * clamped(placement.objectStride, size));
+        return reach;
+    }
+    const std::int64_t rowStride = clamped(placement.rowStride, sizes["cols"] * size);
+    const std::int64_t elementStride =
+        clamped(placement.elementStride, function.name == "vonkLoadIdentity_ma_64f_L" ? 4 : size);
+    std::int64_t one = 0;
+    for (std::uint32_t n = 0; n < placement.objects; ++n)
+        for (std::uint32_t i = 0; i < placement.shape.rows; ++i, ++one) {
+            const std::int64_t row =
+                (placement.tabled ? placement.slots[n] : n * placement.objectStride) + i * rowStride;
+            include(row);
+            include(row + (placement.shape.cols - 1) * elementStride);
+            include(row + one * elementStride);
+        }
+    return reach;
+}
+
+} // namespace
+
+Reach extraReach(const Function &function, const Operand &operand, const Sizes &sizes, const Placement &placement) {
+    if (in(function, {"identity"})) return ofIdentities(function, operand, sizes, placement);
+    if (in(function, {"lu-decomposition"}) && operand.written && operand.array && !isTable(operand.layout))
+        return withDisplacedPivots(placement);
+    return placement.reach;
+}
+
+bool readsThroughDestination(const Function &function) {
+    return function.name == "vonkCopy_va_32f_PP" || function.name == "vonkCopy_va_64f_PP";
+}
+
+bool addsShift(const Function &function) {
+    return function.name != "vonkExtract_mT_32f_P" && function.name != "vonkExtract_mT_64f_P";
 }
 
 bool testsPointers(const Function &function) {
@@ -178,7 +252,7 @@ bool isFixedInPlace(const Function &function, const Operand &source) {
     if (source.transposed) return false;
     if (in(function, {"cholesky-back-substitution"})) return source.name == "src2";
     return in(function, {"vector-constant", "vector-vector", "saxpy", "linear-combination", "matrix-matrix",
-                         "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition"});
+                         "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition", "copy"});
 }
 
 // Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.

@@ -36,7 +36,14 @@ bool isUnspecifiedAfterCall(const catalogue::Function &function, std::string_vie
 std::uint32_t extraEntries(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes);
 
 // Bytes that a call may touch beyond the elements of an operand, given its strides.
-Reach extraReach(const catalogue::Function &function, const catalogue::Operand &operand, const Placement &placement);
+Reach extraReach(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes,
+                 const Placement &placement);
+
+// Whether the source is reached by way of the destination's table, with the shift and the stride of its own.
+bool readsThroughDestination(const catalogue::Function &function);
+
+// Whether the shift of a table is added to its entries.
+bool addsShift(const catalogue::Function &function);
 
 // Whether a null pointer parameter is answered by a status.
 bool testsPointers(const catalogue::Function &function);

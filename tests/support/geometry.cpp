@@ -122,7 +122,7 @@ Placement attempt(const catalogue::Function &function, const catalogue::Operand 
     if (!style.packed) chooseNest(axes, random);
     chooseStrides(axes, placement.elementSize, style, random);
     applyAxes(placement, axes, style, random);
-    placement.reach.include(families::extraReach(function, operand, placement));
+    placement.reach.include(families::extraReach(function, operand, sizes, placement));
     for (std::uint32_t k = families::extraEntries(function, operand, sizes); k > 0; --k)
         placement.slots.push_back(placement.slots[random.below(placement.slots.size())]);
     return placement;
