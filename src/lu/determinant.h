@@ -34,14 +34,14 @@ template <class Count> inline constexpr bool multipliesZeroByLastPivot = Count::
 
 // One body serves all layouts: it works on rows of adjacent elements.
 template <class W, class T, std::size_t order> [[gnu::noinline]] W determinantByLevels(RowsView<const T> view) {
-    return determinantByLevels<order>(Widened<W, RowsView<const T>>(view));
+    return determinantByLevels<W, order>(Elements<W, RowsView<const T>>(view));
 }
 
 template <class Source, class View, std::size_t order>
 VONKK3_INLINE WorkedIn<Source> closedForm(const View &view, Fixed<order>) {
     using W = WorkedIn<Source>;
     using T = typename Source::Element;
-    const Widened<W, View> a(view);
+    const Elements<W, View> a(view);
     if constexpr (order == 3) return determinantOfThree<Source>(a);
     else if constexpr (order == 4) return determinantOfFour(a);
     else if constexpr (isWorkedWide<Source>) return determinantByLevels<W, T, order>(view);

@@ -4,17 +4,22 @@
 
 #include "frame/unroll.h"
 #include "frame/views.h"
+#include "lu/element_in_memory.h"
 
 #include <bit>
 #include <utility>
 
 namespace vonkk3::lu {
 
-// The elements of a view in the working type, loaded where they are used: what is worked in 80 bits has few registers.
-template <class W, class View> class Widened {
+// The elements of a view, to be worked in W. What is worked in 80 bits has few registers: there, elements stay where
+// they are until they are used, for each use anew.
+template <class W, class View> class Elements {
 public:
-    VONKK3_INLINE explicit Widened(const View &view) : view(view) {}
-    VONKK3_INLINE W operator()(std::size_t i, std::size_t j) const { return W(view.load(i, j)); }
+    VONKK3_INLINE explicit Elements(const View &view) : view(view) {}
+    VONKK3_INLINE auto operator()(std::size_t i, std::size_t j) const {
+        if constexpr (std::is_same_v<W, Wide>) return ElementInMemory<typename View::Element>(view.at(i, j));
+        else return view.load(i, j);
+    }
 
 private:
     const View &view;
@@ -74,7 +79,9 @@ template <Columns columns, std::size_t term, class A, class W, std::size_t order
 VONKK3_INLINE W minorTerm(const A &a, const Minors<W, order> &below) {
     constexpr std::size_t row = order - std::popcount(columns);
     constexpr std::size_t column = columnOfTerm<columns, term>();
-    return a(row, column) * below.of[columns & ~(1U << column)];
+    constexpr Columns others = columns & ~(1U << column);
+    if constexpr (std::popcount(others) == 1) return a(row, column) * a(row + 1, std::countr_zero(others));
+    else return a(row, column) * below.of[others];
 }
 
 // Terms in pairs, (t0 - t1) + (t2 - t3) + ...: of the ways to add them the one with the least error.
@@ -98,18 +105,14 @@ VONKK3_INLINE void formMinor(const A &a, Minors<W, order> &minors) {
 template <std::size_t rows, class A, class W, std::size_t order, Columns... sets>
 VONKK3_INLINE void formLevel(const A &a, Minors<W, order> &minors, std::integer_sequence<Columns, sets...>) {
     const auto formIfOfLevel = [&]<Columns columns>(std::integral_constant<Columns, columns>) VONKK3_INLINED {
-        if constexpr (rows == 1 && std::popcount(columns) == 1)
-            minors.of[columns] = a(order - 1, std::countr_zero(columns));
-        else if constexpr (std::popcount(columns) == rows) formMinor<columns>(a, minors);
+        if constexpr (std::popcount(columns) == rows) formMinor<columns>(a, minors);
     };
     (formIfOfLevel(std::integral_constant<Columns, sets>{}), ...);
 }
 
-template <std::size_t order, class A> VONKK3_INLINE auto determinantByLevels(const A &a) {
-    using W = decltype(a(0, 0));
+template <class W, std::size_t order, class A> VONKK3_INLINE W determinantByLevels(const A &a) {
     constexpr auto sets = std::make_integer_sequence<Columns, 1U << order>{};
     Minors<W, order> minors;
-    formLevel<1>(a, minors, sets);
     formLevel<2>(a, minors, sets);
     formLevel<3>(a, minors, sets);
     formLevel<4>(a, minors, sets);
