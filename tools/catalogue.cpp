@@ -63,24 +63,32 @@ constexpr std::array familyTable = std::to_array<Family>({
     {"gaxpy", "Gaxpy", "v va", bothTypes, matrixSizes, sixLayouts, "m@@", 'v', "src1 src2 src3 dst cols? rows? count",
      "product::gaxpy"},
     // Data movement
-    {"copy", "Copy", "va", bothTypes, runTimeSize, "SS SP SL PS PP PL LS LP LL", "@", 'v', "src dst len? count", ""},
+    {"copy", "Copy", "va", bothTypes, runTimeSize, "SS SP SL PS PP PL LS LP LL", "@", 'v', "src dst len? count",
+     "move::copy"},
     {"copy", "Copy", "ma", bothTypes, runTimeSize, "SS SP SL PS PP PL LS LP LL", "@", 'm', "src dst cols? rows? count",
-     ""},
-    {"extract", "Extract", "v", bothTypes, runTimeSize, "S2 P", "@", '-', "src dst* len? count", ""},
-    {"extract", "Extract", "va", bothTypes, runTimeSize, "S2 PS2 LS2", "@", '-', "src dst* len? count", ""},
-    {"extract", "Extract", "m", bothTypes, runTimeSize, "S2 P", "@", '-', "src dst* cols? rows? count", ""},
-    {"extract", "Extract", "mT", "32f", runTimeSize, "S2 P", "@", '-', "src dst* cols? rows? count", ""},
-    {"extract", "Extract", "mT", "64f", runTimeSize, "P", "@", '-', "src dst* cols? rows? count", ""},
-    {"extract", "Extract", "ma", bothTypes, runTimeSize, "S2 PS2 LS2", "@", '-', "src dst* cols? rows? count", ""},
-    {"extract", "Extract", "maT", bothTypes, runTimeSize, "PS2 LS2", "@", '-', "src dst* cols? rows? count", ""},
-    {"identity", "LoadIdentity", "ma", bothTypes, runTimeSize, "S P L", "", 'm', "dst cols? rows? count", ""},
+     "move::copy"},
+    {"extract", "Extract", "v", bothTypes, runTimeSize, "S2 P", "@", '-', "src dst* len? count", "move::extract"},
+    {"extract", "Extract", "va", bothTypes, runTimeSize, "S2 PS2 LS2", "@", '-', "src dst* len? count",
+     "move::extract"},
+    {"extract", "Extract", "m", bothTypes, runTimeSize, "S2 P", "@", '-', "src dst* cols? rows? count",
+     "move::extract"},
+    {"extract", "Extract", "mT", "32f", runTimeSize, "S2 P", "@", '-', "src dst* cols? rows? count", "move::extract"},
+    {"extract", "Extract", "mT", "64f", runTimeSize, "P", "@", '-', "src dst* cols? rows? count", "move::extract"},
+    {"extract", "Extract", "ma", bothTypes, runTimeSize, "S2 PS2 LS2", "@", '-', "src dst* cols? rows? count",
+     "move::extract"},
+    {"extract", "Extract", "maT", bothTypes, runTimeSize, "PS2 LS2", "@", '-', "src dst* cols? rows? count",
+     "move::extract"},
+    {"identity", "LoadIdentity", "ma", bothTypes, runTimeSize, "S P L", "", 'm', "dst cols? rows? count",
+     "move::loadIdentity"},
     // LU
     {"lu-decomposition", "LUDecomp", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm',
      "src pivots* dst order? count", "lu::decompose"},
     {"lu-back-substitution", "LUBackSubst", "mv mva mava", bothTypes, matrixSizes, sixLayouts, "@", 'v',
      "src1 pivots* src2 dst order? count", "lu::backSubstitute"},
-    {"determinant", "Det", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src order? scratch*? dst* count", ""},
-    {"inverse", "Invert", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src order? scratch*? dst count", ""},
+    {"determinant", "Det", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src order? scratch*? dst* count",
+     "lu::determinant"},
+    {"inverse", "Invert", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src order? scratch*? dst count",
+     "lu::invert"},
     // Cholesky and QR
     {"cholesky-decomposition", "CholeskyDecomp", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm',
      "src dst order? count", "cholqr::choleskyDecompose"},
@@ -290,6 +298,15 @@ std::string_view unit(Kind kind) {
     case Kind::count: return "objects";
     default: return "";
     }
+}
+
+// An array of strided vectors lies like the rows of one strided matrix. The second pair leaves its `T` undone.
+std::string bodyOf(const Function &function) {
+    if (function.family->operation != "Extract") return function.name;
+    const std::string type(suffix(function.type));
+    if (function.group == "va" && function.layout == "S2") return "vonkExtract_m_" + type + "_S2";
+    if (function.group == "maT" && function.layout == "PS2") return "vonkExtract_ma_" + type + "_PS2";
+    return function.name;
 }
 
 bool Function::array() const { return std::ranges::any_of(operands, &Operand::array); }

@@ -45,6 +45,7 @@ std::vector<std::string> arguments(const Function &function) {
         if (dimension) word.pop_back();
         const bool block = word.ends_with('*');
         if (block) word.pop_back();
+        if (dimension && block && function.order != 0) continue; // scratch memory is for run-time sizes only
 
         const auto operand = std::ranges::find(function.operands, word, &Operand::name);
         const auto parameter = std::ranges::find(function.parameters, word, &Parameter::name);
@@ -85,7 +86,13 @@ std::string opening(const catalogue::Family &family) {
            "using enum vonkk3::Layout;\n";
 }
 
+// A function that is another one under a second name.
+std::string secondName(const Function &function, const std::string &body) {
+    return "\n" + text::prototype(function, "") + "\n__attribute__((alias(\"" + body + "\")));\n";
+}
+
 std::string stub(const Function &function) {
+    if (const std::string body = catalogue::bodyOf(function); body != function.name) return secondName(function, body);
     const std::string call = "{ return " + std::string(function.family->routine) + "(";
     return "\n" + text::definitionHead(function) + "\n" + text::joinWrapped(call, arguments(function), "); }", "    ") +
            "\n";
