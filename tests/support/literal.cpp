@@ -37,6 +37,12 @@ void *exportOf(const Function &function) {
     return address;
 }
 
+bool hasPlainResult(const Function &function) {
+    return std::ranges::any_of(function.parameters, [](const catalogue::Parameter &parameter) {
+        return parameter.name == "dst" && parameter.kind == Kind::dense;
+    });
+}
+
 bool isList(const Place &place) { return catalogue::isList(place.operand->layout) && place.operand->array; }
 
 // From the origin to an element, with objects, rows and columns as the strides say.
@@ -99,6 +105,12 @@ std::vector<const Function *> members(std::string_view section) {
     return found;
 }
 
+std::int32_t callWith(std::string_view name, const std::vector<std::uint64_t> &words) {
+    const Function &called = function(name);
+    if (words.size() != called.parameters.size()) throw std::length_error("words of " + called.name);
+    return support::invoke(exportOf(called), called, words);
+}
+
 bool isPointer(Kind kind) {
     return kind == Kind::base || kind == Kind::table || kind == Kind::list || kind == Kind::dense;
 }
@@ -141,7 +153,17 @@ Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geome
         chooseStrides(place, geometry, count_);
         places_.push_back(place);
     }
+    if (hasPlainResult(function_)) addPlainResult();
     layOut(geometry);
+}
+
+void Call::addPlainResult() {
+    result_ = {"dst", false, true, false, true, Layout::standard};
+    Place place;
+    place.operand = &result_;
+    place.elementSize = function_.type == Type::real32 ? 4 : 8;
+    place.elementStride = place.rowStride = place.objectStride = place.elementSize;
+    places_.push_back(place);
 }
 
 void Call::shape(Place &place) const {
@@ -237,6 +259,12 @@ std::vector<double> Call::get(std::string_view operand, std::uint32_t n) {
     return values;
 }
 
+void Call::setConstant(std::string_view parameter, double value) {
+    std::byte bits[sizeof(std::uint64_t)] = {};
+    setAt(bits, value);
+    std::memcpy(&constants_[std::string(parameter)], bits, sizeof bits);
+}
+
 std::vector<std::uint32_t> Call::pivots(std::uint32_t n) const {
     const std::uint32_t *const first = pivots_.data() + pivotMargin + std::size_t{n} * size_;
     return {first, first + size_};
@@ -249,10 +277,12 @@ void Call::setPivots(std::uint32_t n, const std::vector<std::uint32_t> &rows) {
 std::uint64_t Call::wordOf(const catalogue::Parameter &parameter) {
     const auto bytes = [](std::int32_t value) { return rubbish | static_cast<std::uint32_t>(value); };
     const auto pointer = [](const void *address) { return reinterpret_cast<std::uintptr_t>(address); };
+    if (parameter.kind == Kind::dense && parameter.name == "dst") return pointer((*this)["dst"].origin);
     if (parameter.kind == Kind::dense) return pointer(pivotsWord_);
     if (parameter.kind == Kind::size) return rubbish | size_;
     if (parameter.kind == Kind::count) return rubbish | count_;
     if (parameter.kind == Kind::ignored) return rubbish;
+    if (parameter.kind == Kind::constant) return constants_[parameter.name];
     const Place &place = places_.at(static_cast<std::size_t>(parameter.operand));
     switch (parameter.kind) {
     case Kind::base: return pointer(place.origin);

@@ -20,6 +20,10 @@ const std::vector<catalogue::Function> &allMembers();
 
 bool isPointer(catalogue::Kind kind);
 
+// Calls the export with these words, as a caller of the header would.
+std::int32_t callWith(std::string_view name, const std::vector<std::uint64_t> &words);
+template <class Element> std::uint64_t wordOf(Element *pointer) { return reinterpret_cast<std::uintptr_t>(pointer); }
+
 // vonkLUBackSubst_mva_64f in `L`, of every order: takes the columns of its matrix 4 bytes apart, whatever the doubles.
 bool hasColumnsFourBytesApart(const catalogue::Function &function);
 
@@ -87,6 +91,8 @@ public:
     void setAt(std::byte *address, double value) const; // an element of the call's type anywhere
     double getAt(const std::byte *address) const;
 
+    void setConstant(std::string_view parameter, double value);
+
     std::vector<std::uint32_t> pivots(std::uint32_t n) const;
     void setPivots(std::uint32_t n, const std::vector<std::uint32_t> &rows);
     void putPivotsAt(std::uint32_t *address) { pivotsWord_ = address; }
@@ -111,6 +117,7 @@ private:
         bool operator==(const Picture &) const = default;
     };
 
+    void addPlainResult();
     void shape(Place &place) const;
     void layOut(Geometry geometry);
     std::uint64_t wordOf(const catalogue::Parameter &parameter);
@@ -120,11 +127,13 @@ private:
     const catalogue::Function &function_;
     std::uint32_t size_;
     std::uint32_t count_;
+    catalogue::Operand result_{}; // what a plain `dst` is taken for: an array of vectors of one element, packed
     std::vector<Place> places_;
     std::vector<std::byte> memory_;
     std::byte *spare_ = nullptr;
     std::vector<std::uint32_t> pivots_;
     std::uint32_t *pivotsWord_;
+    std::map<std::string, std::uint64_t> constants_; // by their bits
     std::map<std::string, std::uint64_t> passed_;
     std::vector<std::uint64_t> words_; // of the run
     Picture before_;
