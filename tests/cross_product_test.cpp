@@ -22,7 +22,6 @@ using support::SettingScope;
 
 std::vector<const Function *> all() { return literal::members("cross-product"); }
 
-bool isSingle(const Function &function) { return function.group == "vv"; }
 bool mixesArrayAndSingle(const Function &function) { return function.group == "vav" || function.group == "vva"; }
 
 // u v + (0 - w) x in floats and u v + (-w) x in doubles; all others are u v - w x.
