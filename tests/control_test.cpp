@@ -65,6 +65,8 @@ void fill(Call &call) {
             else call.set(operand.name, n, operand.name == "src" ? factors.matrix() : factors.factored());
         }
     for (std::uint32_t n = 0; n < call.count(); ++n) call.setPivots(n, Factors(call.size(), n).permutation);
+    for (const catalogue::Parameter &parameter : call.function().parameters)
+        if (parameter.kind == catalogue::Kind::constant) call.setConstant(parameter.name, 3);
 }
 
 void fillWith(Call &call, double value) {

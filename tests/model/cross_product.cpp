@@ -90,7 +90,7 @@ void CrossProduct::checkOwnOverlaps(std::uint64_t n) {
     if (addsNegated() || loadsAllFirst()) return;
     for (const Operand *source : {&src1_, &src2_}) {
         if (isUnder(dst_.element(n, 0), *source, n)) memory_.markOpen();
-        for (const std::uint64_t j : {0, 1}) // component 2 is made of these
+        for (const std::uint64_t j : {0U, 1U}) // component 2 is made of these
             if (isUnder(dst_.element(n, 1), *source, n, j)) memory_.markOpen();
     }
 }

@@ -107,6 +107,8 @@ private:
 
 std::uint32_t Builder::chooseDimension() {
     const bool vectorsOnly = std::ranges::none_of(function.operands, &Operand::matrix);
+    if (families::turnsAtEleven(function) && random.percent(25))
+        return static_cast<std::uint32_t>(random.between(9, 13));
     const auto kind = random.below(100);
     if (!vectorsOnly) return static_cast<std::uint32_t>(kind < 75 ? random.between(1, 6) : random.between(1, 9));
     if (kind < 50) return static_cast<std::uint32_t>(random.between(1, 9));

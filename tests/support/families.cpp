@@ -88,6 +88,13 @@ Shape shapeOf(const Function &function, const Operand &operand, const Sizes &siz
     return {sizes["rows"], sizes["cols"]};
 }
 
+// One vector or two on adjacent elements; vonkAdd_vv_32f and its like get there without.
+bool turnsAtEleven(const Function &function) {
+    return in(function, {"vector-constant", "saxpy", "linear-combination", "dot-product", "norm"}) &&
+           function.order == 0 && function.type == catalogue::Type::real32 && function.layout.empty() &&
+           !function.array();
+}
+
 // The two words of a product that are compared; the others are free.
 std::pair<std::string_view, std::string_view> comparedWords(const Function &function) {
     const bool first = function.operands[0].transposed;

@@ -20,6 +20,9 @@ std::vector<std::int32_t> relevantStatuses(const catalogue::Function &function);
 // Rows and columns of an operand as far as a call may touch it.
 Shape shapeOf(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes);
 
+// Whether vectors of 11 elements and more take another road than shorter ones, so that calls are to crowd about there.
+bool turnsAtEleven(const catalogue::Function &function);
+
 // Makes the dimensions fit one another, where a function compares them.
 void relateDimensions(const catalogue::Function &function, Sizes &sizes, Random &random);
 

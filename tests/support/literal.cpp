@@ -38,6 +38,12 @@ void *exportOf(const Function &function) {
     return address;
 }
 
+bool hasPlainResult(const Function &function) {
+    return std::ranges::any_of(function.parameters, [](const catalogue::Parameter &parameter) {
+        return parameter.name == "dst" && parameter.kind == Kind::dense;
+    });
+}
+
 bool isList(const Place &place) { return catalogue::isList(place.operand->layout) && place.operand->array; }
 
 // From the origin to an element, with objects, rows and columns as the strides say.
@@ -150,7 +156,17 @@ Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geome
         chooseStrides(place, geometry, count_);
         places_.push_back(place);
     }
+    if (hasPlainResult(function_)) addPlainResult();
     layOut(geometry);
+}
+
+void Call::addPlainResult() {
+    result_ = {"dst", false, true, false, true, Layout::standard};
+    Place place;
+    place.operand = &result_;
+    place.elementSize = function_.type == Type::real32 ? 4 : 8;
+    place.elementStride = place.rowStride = place.objectStride = place.elementSize;
+    places_.push_back(place);
 }
 
 void Call::shape(Place &place) const {
@@ -275,6 +291,7 @@ std::uint64_t Call::wordOf(const catalogue::Parameter &parameter) {
     const auto bytes = [](std::int32_t value) { return rubbish | static_cast<std::uint32_t>(value); };
     const auto pointer = [](const void *address) { return reinterpret_cast<std::uintptr_t>(address); };
     if (parameter.name == "work") return pointer(workWord_);
+    if (parameter.kind == Kind::dense && parameter.name == "dst") return pointer((*this)["dst"].origin);
     if (parameter.kind == Kind::dense) return pointer(pivotsWord_);
     if (parameter.kind == Kind::size) return rubbish | (parameter.name == "rows" ? rows_ : size_);
     if (parameter.kind == Kind::count) return rubbish | count_;

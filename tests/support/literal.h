@@ -127,6 +127,7 @@ private:
         bool operator==(const Picture &) const = default;
     };
 
+    void addPlainResult();
     void shape(Place &place) const;
     void layOut(Geometry geometry);
     std::uint64_t wordOf(const catalogue::Parameter &parameter);
@@ -137,6 +138,7 @@ private:
     std::uint32_t size_;
     std::uint32_t rows_;
     std::uint32_t count_;
+    catalogue::Operand result_{}; // what a plain `dst` is taken for: an array of vectors of one element, packed
     std::vector<Place> places_;
     std::vector<std::byte> memory_;
     std::byte *spare_ = nullptr;

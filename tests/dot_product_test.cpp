@@ -1,0 +1,427 @@
+// Dot products: numbers by hand in every form, the order of the sum wherever it can be told, where a sum of doubles is
+// rounded on its way, results that lie over their sources, and what is tested in which order.
+#include "support/control.h"
+#include "support/literal.h"
+#include "support/literal_checks.h"
+
+#include "vonkk3.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <sys/mman.h>
+
+namespace {
+
+using catalogue::Function;
+using catalogue::Type;
+using literal::Call;
+using literal::callWith;
+using literal::wordOf;
+using support::Precision;
+using support::Rounding;
+using support::SettingScope;
+
+std::vector<const Function *> all() { return literal::members("dot-product"); }
+
+const std::vector<std::uint32_t> lengths{1, 2, 3, 7, 10, 11, 12, 19, 21, 40};
+
+// 2^24, beside which a float loses a 1.
+constexpr double big = 0x1p24;
+
+// ---- Results
+
+double left(std::uint32_t n, std::uint32_t j) { return 3.0 * n + j + 1; }
+double right(std::uint32_t n, std::uint32_t j) { return 2.0 * j - 5 - n; }
+
+void fill(Call &call) {
+    for (std::uint32_t j = 0; j < call.size(); ++j) {
+        for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n) call.set("src1", n, 0, j, left(n, j));
+        for (std::uint32_t n = 0; n < call.objectsOf("src2"); ++n) call.set("src2", n, 0, j, right(n, j));
+    }
+}
+
+void expectDone(Call &call, std::uint32_t n) {
+    double sum = 0; // of whole numbers, so that the order does not matter
+    for (std::uint32_t j = 0; j < call.size(); ++j)
+        sum += left(call.objectsOf("src1") == 1 ? 0 : n, j) * right(call.objectsOf("src2") == 1 ? 0 : n, j);
+    EXPECT_EQ(call.get("dst", n, 0, 0), sum);
+}
+
+const literal::Example example{fill, expectDone};
+
+TEST(DotProduct, HasAHundredAndFiftyForms) { EXPECT_EQ(all().size(), 150U); }
+
+TEST(DotProduct, AddsTheProductsInEveryFormAndGeometry) {
+    for (const Function *function : all()) literal::expectResults(*function, example, lengths);
+}
+
+// Blocks of four objects and what is left over.
+TEST(DotProduct, TakesAnyNumberOfObjects) {
+    for (const Function *function : all())
+        for (std::uint32_t count = 1; function->array() && count <= 9; ++count) {
+            SCOPED_TRACE(function->name + ", count " + std::to_string(count));
+            Call call(function->name, 5, count);
+            fill(call);
+            ASSERT_EQ(call.run(), vonkOk);
+            literal::expectAllDone(call, example);
+        }
+}
+
+TEST(DotProduct, LetsNansAndInfinitiesThrough) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const Function *function : all())
+        for (const std::uint32_t size : literal::sizesOf(*function, {3, 20}))
+            for (std::uint32_t j = 0; j < size; ++j)
+                for (const double value : {infinity, nan}) {
+                    SCOPED_TRACE(function->name + ", element " + std::to_string(j));
+                    Call call(function->name, size, 5);
+                    fill(call);
+                    call.set("src1", 0, 0, j, value);
+                    call.set("src2", 0, 0, j, -1);
+                    ASSERT_EQ(call.run(), vonkOk);
+                    literal::expectSame(-value, call.get("dst", 0, 0, 0), "the result");
+                    for (std::uint32_t n = 1; n < call.count(); ++n)
+                        EXPECT_TRUE(std::isfinite(call.get("dst", n, 0, 0)));
+                }
+}
+
+// ---- The sum of nothing but -0
+
+TEST(DotProduct, StartsFromPlusZeroAtRunTimeSizeAndFromTheFirstProductAtFixedSize) {
+    for (const Function *function : all())
+        for (const std::uint32_t size : literal::sizesOf(*function, {1, 2, 10, 11, 40})) {
+            SCOPED_TRACE(function->name + ", size " + std::to_string(size));
+            Call call(function->name, size, 5);
+            for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n)
+                call.set("src1", n, std::vector<double>(size, -0.0));
+            for (std::uint32_t n = 0; n < call.objectsOf("src2"); ++n)
+                call.set("src2", n, std::vector<double>(size, 1));
+            ASSERT_EQ(call.run(), vonkOk);
+            for (std::uint32_t n = 0; n < call.count(); ++n)
+                literal::expectSame(function->order == 0 ? 0.0 : -0.0, call.get("dst", n, 0, 0), "the result");
+        }
+}
+
+// ---- The order of the sum
+
+// Sets the products of every object.
+void setProducts(Call &call, const std::vector<double> &products) {
+    for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n) call.set("src1", n, products);
+    for (std::uint32_t n = 0; n < call.objectsOf("src2"); ++n)
+        call.set("src2", n, std::vector<double>(products.size(), 1));
+}
+
+void align(Call &call, const std::string &operand, std::int32_t offset) {
+    literal::Place &place = call[operand];
+    place.moveTo(place.origin - reinterpret_cast<std::uintptr_t>(place.origin) % 16 + offset);
+}
+
+// 2^24 + 1 stays 2^24, so from left to right nothing comes of the ones. In pairs two of them make a 2, which counts.
+TEST(DotProductOrder, IsFromLeftToRightButForFoursOfFloatsBesideOneVector) {
+    std::size_t inPairs = 0;
+    for (const Function *function : all()) {
+        if (function->type != Type::real32 || function->order == 0) continue;
+        const bool pairs =
+            function->name == "vonkDotProduct_vav_32f_4x1" || function->name == "vonkDotProduct_vav_32f_4x1_L";
+        inPairs += pairs;
+        for (std::uint32_t count = 1; count <= 9; ++count) {
+            SCOPED_TRACE(function->name + ", count " + std::to_string(count));
+            Call call(function->name, 0, count);
+            std::vector<double> products(call.size(), 1);
+            products[0] = big;
+            setProducts(call, products);
+            ASSERT_EQ(call.run(), vonkOk);
+            for (std::uint32_t n = 0; n < call.count(); ++n) EXPECT_EQ(call.get("dst", n, 0, 0), pairs ? big + 2 : big);
+        }
+    }
+    EXPECT_EQ(inPairs, 2U);
+}
+
+// (2^24 + 1) - 2^24 = 0, but (2^24 - 2^24) + 1 = 1. Only whole blocks of four objects take the outer pair first, and
+// only if the two sources, their strides and the result all lie on 16.
+TEST(DotProductOrder, OfThreesOfFloatsInTwoArraysIsTheOuterPairFirstInAlignedBlocks) {
+    struct Case {
+        std::int32_t src1, src1Stride, src2, src2Stride, dst;
+    };
+    for (const Case &off :
+         {Case{0, 0, 0, 0, 0}, Case{4, 0, 0, 0, 0}, Case{0, 4, 0, 0, 0}, Case{0, 0, 4, 0, 0}, Case{0, 0, 0, 4, 0},
+          Case{0, 0, 0, 0, 4}, Case{8, 0, 0, 0, 0}, Case{0, 0, 0, 8, 0}, Case{0, 0, 0, 0, 1}, Case{0, -32, 0, 0, 0}})
+        for (std::uint32_t count = 1; count <= 9; ++count) {
+            SCOPED_TRACE("off by " + std::to_string(off.src1) + " " + std::to_string(off.src1Stride) + " " +
+                         std::to_string(off.src2) + " " + std::to_string(off.src2Stride) + " " +
+                         std::to_string(off.dst) + ", count " + std::to_string(count));
+            Call call("vonkDotProduct_vava_32f_3x1", 0, count, {1, 5, true});
+            align(call, "src1", off.src1 + (off.src1Stride < 0 ? 16 * static_cast<std::int32_t>(count) : 0));
+            align(call, "src2", off.src2);
+            align(call, "dst", off.dst);
+            call["src1"].objectStride = 16 + off.src1Stride; // -32 makes it walk backwards
+            call["src2"].objectStride = 16 + off.src2Stride;
+            setProducts(call, {big, 1, -big});
+            ASSERT_EQ(call.run(), vonkOk);
+            const bool aligned = (off.src1 | off.src1Stride | off.src2 | off.src2Stride | off.dst) % 16 == 0;
+            for (std::uint32_t n = 0; n < count; ++n)
+                EXPECT_EQ(call.get("dst", n, 0, 0), aligned && n < count / 4 * 4 ? 1 : 0) << "object " << n;
+        }
+}
+
+TEST(DotProductOrder, OfThreesOfFloatsIsFromLeftToRightEverywhereElse) {
+    for (const Function *function : all()) {
+        if (function->type != Type::real32 || function->order != 3) continue;
+        if (function->name == "vonkDotProduct_vava_32f_3x1") continue;
+        SCOPED_TRACE(function->name);
+        Call call(function->name, 0, 9, {1, 4, false}); // 16 bytes from object to object where it is free
+        setProducts(call, {big, 1, -big});
+        ASSERT_EQ(call.run(), vonkOk);
+        for (std::uint32_t n = 0; n < call.count(); ++n) EXPECT_EQ(call.get("dst", n, 0, 0), 0);
+    }
+}
+
+// ---- The long form of floats on adjacent elements
+
+struct Buffers {
+    alignas(64) std::array<float, 80> src1{};
+    alignas(64) std::array<float, 80> src2{};
+
+    // The sources lie so many bytes behind a boundary of 16.
+    float run(const std::vector<double> &products, std::size_t offset1, std::size_t offset2) {
+        const auto length = static_cast<std::uint32_t>(products.size());
+        auto *const first = reinterpret_cast<std::byte *>(src1.data()) + offset1;
+        auto *const second = reinterpret_cast<std::byte *>(src2.data()) + offset2;
+        for (std::size_t j = 0; j < products.size(); ++j) {
+            const auto product = static_cast<float>(products[j]);
+            const float one = 1;
+            std::memcpy(first + 4 * j, &product, sizeof product);
+            std::memcpy(second + 4 * j, &one, sizeof one);
+        }
+        float result = -1;
+        EXPECT_EQ(callWith("vonkDotProduct_vv_32f", {wordOf(first), wordOf(second), wordOf(&result), length}), vonkOk);
+        return result;
+    }
+};
+
+struct Row {
+    std::vector<double> products;
+    std::array<double, 4> expected; // with src2 at 0, 4, 8 and 12 bytes behind a boundary
+    double leftToRight;
+};
+
+std::vector<double> onesBut(std::size_t length, std::size_t place, double value) {
+    std::vector<double> products(length, 1);
+    products[place] = value;
+    return products;
+}
+
+std::vector<double> zerosBut(std::size_t length, const std::vector<std::pair<std::size_t, double>> &others) {
+    std::vector<double> products(length, 0);
+    for (const auto &[place, value] : others) products[place] = value;
+    return products;
+}
+
+std::vector<Row> rows() {
+    return {
+        // From a boundary on, 2^24 takes its lane alone and loses the 1 of the second register: (2^24 + 2) + (2 + 2),
+        // then 1 three times, which goes to 8 by way of the tie at 7 and stays there. 4 bytes behind it, three come
+        // first, all eight of the block follow, and nothing is left over.
+        {onesBut(11, 0, big), {big + 8, big + 6, big + 8, big + 8}, big},
+        // 2^24 last: ten ones before it, but in the last lane of the one block, where it loses a 1, if three come
+        // first:
+        // ((3 + 1) + 1 + 2) + (2 + 2^24) is a tie at 9.
+        {onesBut(11, 10, big), {big + 10, big + 8, big + 10, big + 10}, big + 10},
+        // Lanes meet crosswise: (2^24 - 2^24) + (1 + 1). With three, two and one ahead of the block the first lane
+        // holds
+        // 2^24 + 1 - 2^24 + 1 = 1; 2^24 + 1 - 2^24 = 0 beside a 1; 2^24 + 1 = 2^24 beside -2^24 and across from a 1.
+        {zerosBut(11, {{0, big}, {1, 1}, {2, -big}, {3, 1}}), {2, 1, 1, 0}, 1},
+        // Two registers: 2^24 and the 1 at 8 fall on one lane, those at 4 and 12 on the same lane of the other. Off the
+        // boundary those at 4 and 8 meet in one lane, and the last comes singly: 2^24 + 2 + 1 is a tie and goes to 4.
+        {zerosBut(16, {{0, big}, {4, 1}, {8, 1}, {12, 1}}), {big + 2, big + 4, big + 4, big + 4}, big},
+    };
+}
+
+TEST(DotProductLong, GroupsTheSumByTheAlignmentOfTheSecondSource) {
+    Buffers buffers;
+    for (const Row &row : rows())
+        for (std::size_t offset2 = 0; offset2 < 16; offset2 += 4)
+            for (std::size_t offset1 = 0; offset1 < 16; ++offset1) {
+                SCOPED_TRACE("length " + std::to_string(row.products.size()) + ", src1 at " + std::to_string(offset1) +
+                             ", src2 at " + std::to_string(offset2));
+                EXPECT_EQ(buffers.run(row.products, offset1, offset2), row.expected[offset2 / 4]);
+            }
+}
+
+TEST(DotProductLong, AddsFromLeftToRightWhereTheSecondSourceIsOffTheGrid) {
+    Buffers buffers;
+    for (const Row &row : rows())
+        for (const std::size_t offset2 : {1U, 2U, 3U, 5U, 14U})
+            EXPECT_EQ(buffers.run(row.products, 0, offset2), row.leftToRight);
+}
+
+TEST(DotProductLong, AddsFromLeftToRightUpToTenElements) {
+    Buffers buffers;
+    for (std::size_t offset2 = 0; offset2 < 16; offset2 += 4) {
+        EXPECT_EQ(buffers.run(onesBut(10, 0, big), 0, offset2), big);
+        EXPECT_EQ(buffers.run(onesBut(10, 9, big), 0, offset2), big + 8); // 9 + 2^24 is a tie
+        EXPECT_EQ(buffers.run({3}, 0, offset2), 3);
+    }
+}
+
+// ---- Doubles
+
+// At 64 bits 1 + 2^-54 is a number of its own, and less 1 leaves 2^-54; as a double it is 1, and leaves 0.
+bool passesThroughDouble(const Function &function) {
+    return function.order == 0 && (function.group == "vv" || function.layout == "L");
+}
+
+TEST(DotProductOfDoubles, RoundsTheSumAheadOfAnOddTermInSomeFormsOfRunTimeSize) {
+    std::size_t passing = 0;
+    for (const Function *function : all()) {
+        if (function->type != Type::real64) continue;
+        passing += passesThroughDouble(*function);
+        for (const std::uint32_t size : literal::sizesOf(*function, {3, 5, 4, 6}))
+            for (const Precision precision : {Precision::bits53, Precision::bits64}) {
+                SCOPED_TRACE(function->name + ", size " + std::to_string(size));
+                Call call(function->name, size, 5);
+                std::vector<double> products(call.size(), 0);
+                products[0] = 1;
+                products[1] = 0x1p-54;
+                products.back() = -1; // the odd term, or the second of the last pair
+                setProducts(call, products);
+                {
+                    const SettingScope scope({precision, Rounding::nearest});
+                    ASSERT_EQ(call.run(), vonkOk);
+                }
+                const bool isRounded =
+                    precision == Precision::bits53 || (passesThroughDouble(*function) && size % 2 != 0);
+                for (std::uint32_t n = 0; n < call.count(); ++n)
+                    EXPECT_EQ(call.get("dst", n, 0, 0), isRounded ? 0 : 0x1p-54);
+            }
+    }
+    EXPECT_EQ(passing, 3U + 2U);
+}
+
+// (1 + 2^-30)^2 - (1 + 2^-29) = 2^-60.
+TEST(DotProductOfDoubles, LeavesProductsAsWideAsTheCallersPrecision) {
+    for (const Function *function : all()) {
+        if (function->type != Type::real64) continue;
+        for (const std::uint32_t size : literal::sizesOf(*function, {2, 4}))
+            for (const Precision precision : {Precision::bits53, Precision::bits64}) {
+                SCOPED_TRACE(function->name);
+                Call call(function->name, size, 2);
+                std::vector<double> first(size, 0);
+                std::vector<double> second(size, 0);
+                first[0] = second[0] = 1 + 0x1p-30;
+                first[1] = -1;
+                second[1] = 1 + 0x1p-29;
+                for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n) call.set("src1", n, first);
+                for (std::uint32_t n = 0; n < call.objectsOf("src2"); ++n) call.set("src2", n, second);
+                {
+                    const SettingScope scope({precision, Rounding::nearest});
+                    ASSERT_EQ(call.run(), vonkOk);
+                }
+                for (std::uint32_t n = 0; n < call.count(); ++n)
+                    EXPECT_EQ(call.get("dst", n, 0, 0), precision == Precision::bits53 ? 0 : 0x1p-60);
+            }
+    }
+}
+
+// (1 + 2^-12)^2 = 1 + 2^-11 + 2^-24 loses its last term ahead of the sum.
+TEST(DotProductOfFloats, RoundsEveryProduct) {
+    for (const Function *function : all()) {
+        if (function->type != Type::real32) continue;
+        for (const std::uint32_t size : literal::sizesOf(*function, {2, 10, 11, 24})) {
+            SCOPED_TRACE(function->name);
+            Call call(function->name, size, 5);
+            std::vector<double> first(size, 0);
+            std::vector<double> second(size, 0);
+            first[0] = second[0] = 1 + 0x1p-12;
+            first[1] = -1;
+            second[1] = 1 + 0x1p-11;
+            for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n) call.set("src1", n, first);
+            for (std::uint32_t n = 0; n < call.objectsOf("src2"); ++n) call.set("src2", n, second);
+            ASSERT_EQ(call.run(), vonkOk);
+            for (std::uint32_t n = 0; n < call.count(); ++n) EXPECT_EQ(call.get("dst", n, 0, 0), 0);
+        }
+    }
+}
+
+// ---- Results over their sources
+
+TEST(DotProductOverlap, DoesNoHarmInTheFirstElementOfTheOnlyObject) {
+    for (const Function *function : all())
+        for (const char *source : {"src1", "src2"})
+            for (const std::uint32_t size : literal::sizesOf(*function, {1, 10, 20})) {
+                SCOPED_TRACE(function->name + ", dst in " + source);
+                Call call(function->name, size, 1);
+                fill(call);
+                const double expected = [&] {
+                    double sum = 0;
+                    for (std::uint32_t j = 0; j < call.size(); ++j) sum += left(0, j) * right(0, j);
+                    return sum;
+                }();
+                call["dst"].moveTo(call[source].address(0, 0, 0));
+                ASSERT_EQ(call.run(), vonkOk);
+                EXPECT_EQ(call.get("dst", 0, 0, 0), expected);
+            }
+}
+
+// ---- What is tested, and when
+
+TEST(DotProductChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
+    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
+}
+
+TEST(DotProductChecks, RefuseLengthZeroAheadOfEntriesAndCount) {
+    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
+}
+
+TEST(DotProductChecks, LeaveAllAloneForNoObjects) {
+    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
+}
+
+TEST(DotProductChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
+    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
+}
+
+bool trustsEntries(const Function &function) {
+    return function.name == "vonkDotProduct_vav_32f_3x1_L" || function.name == "vonkDotProduct_vav_32f_4x1_L";
+}
+
+TEST(DotProductChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
+    for (const Function *function : all())
+        if (!trustsEntries(*function)) literal::expectNullObjectsStopTheWalk(*function, example);
+}
+
+// A null entry plus its shift is an address like any other: here one that was mapped low enough for a shift to reach.
+TEST(DotProductChecks, FollowNullEntriesInTwoListsOfFloats) {
+    void *const page =
+        mmap(nullptr, 4096, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_32BIT, -1, 0); // below 2^31
+    ASSERT_NE(page, MAP_FAILED);
+    std::size_t forms = 0;
+    for (const Function *function : all()) {
+        if (!trustsEntries(*function)) continue;
+        ++forms;
+        for (std::uint32_t count = 1; count <= 5; ++count)
+            for (std::uint32_t entry = 0; entry < count; ++entry) {
+                SCOPED_TRACE(function->name + ", entry " + std::to_string(entry) + " of " + std::to_string(count));
+                Call call(function->name, 0, count);
+                literal::Place &place = call["src1"];
+                const auto shift = static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(page));
+                for (std::byte *&address : place.entries) address += place.shift - std::ptrdiff_t{shift};
+                place.shift = shift;
+                fill(call);
+                place.entries[entry] = nullptr;
+                for (std::uint32_t j = 0; j < call.size(); ++j)
+                    call.setAt(static_cast<std::byte *>(page) + std::size_t{4} * j, left(entry, j));
+                ASSERT_EQ(call.run(), vonkOk);
+                literal::expectAllDone(call, example);
+            }
+    }
+    EXPECT_EQ(forms, 2U);
+    munmap(page, 4096);
+}
+
+} // namespace
