@@ -227,12 +227,16 @@ TEST(MatrixSumAlignment, ChangesNoResult) {
     std::size_t called = 0;
     for (const Function *function : all()) {
         if (!hasLanes(*function)) continue;
-        for (const char *moved : {"", "src1", "src2", "dst"})
-            for (const std::int32_t bytes : {4, 8, 2})
+        for (const char *offender : {"", "src1", "src2", "dst"})
+            for (const literal::Offence &offence : literal::offences)
                 for (const std::uint32_t count : {1U, 4U}) {
-                    SCOPED_TRACE(function->name + ", " + moved + " moved by " + std::to_string(bytes));
+                    SCOPED_TRACE(function->name + ", " + offender + " is off by " + std::to_string(offence.pointer) +
+                                 ", rows by " + std::to_string(offence.rowStride) + ", objects by " +
+                                 std::to_string(offence.objectStride));
                     Call call(function->name, 0, count);
-                    literal::alignAllBut(call, moved, bytes);
+                    literal::alignAllBut(call, offender, offence);
+                    if (runsAhead(*function) && function->group == "mamT") // has one stride for both
+                        call["src2"].rowStride = call["src1"].rowStride;
                     fill(call);
                     ASSERT_EQ(call.run(), vonkOk);
                     literal::expectAllDone(call, example);
