@@ -67,7 +67,7 @@ bool roundsSum(const Function &function) {
 
 double rootOf(const Function &function, long double sum) {
     if (function.type == Type::real64) {
-        const volatile double rounded = static_cast<double>(sum);
+        const volatile auto rounded = static_cast<double>(sum);
         return static_cast<double>(std::sqrt(roundsSum(function) ? static_cast<long double>(rounded) : sum));
     }
     const auto narrow = static_cast<float>(sum);

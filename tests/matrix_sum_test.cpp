@@ -374,9 +374,11 @@ TEST(MatrixSumSingle, IsHeldByFloatsOfThreeAndFourInLanesAndReadAnewByAllOthers)
             const double first = both(1, 100);
             const double seen = holds ? 100 : first;
             ASSERT_EQ(call.run(), vonkOk);
-            literal::expectSame(std::vector<double>(order * order, first), call.get("dst", 0), "object 0");
-            literal::expectSame(std::vector<double>(order * order, both(10, seen)), call.get("dst", 1), "object 1");
-            literal::expectSame(std::vector<double>(order * order, both(20, seen)), call.get("dst", 2), "object 2");
+            literal::expectSame(std::vector<double>(std::size_t{order} * order, first), call.get("dst", 0), "object 0");
+            literal::expectSame(std::vector<double>(std::size_t{order} * order, both(10, seen)), call.get("dst", 1),
+                                "object 1");
+            literal::expectSame(std::vector<double>(std::size_t{order} * order, both(20, seen)), call.get("dst", 2),
+                                "object 2");
         }
         holding += holds ? 1 : 0;
     }
@@ -401,7 +403,8 @@ TEST(MatrixSumAhead, LoadsTheNextObjectBeforeThisOneIsStored) {
             for (std::uint32_t n = 0; n < 4; ++n) {
                 const double result =
                     runsAhead(*function) ? combine(*function, 1000.0 * n + 1000, 1) : combine(*function, 1000, n + 1);
-                EXPECT_EQ(call.get("dst", n), std::vector<double>(order * order, result)) << "object " << n;
+                EXPECT_EQ(call.get("dst", n), std::vector<double>(std::size_t{order} * order, result))
+                    << "object " << n;
             }
         }
         ahead += runsAhead(*function) ? 1 : 0;
