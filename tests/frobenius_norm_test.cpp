@@ -67,7 +67,7 @@ bool roundsSum(const Function &function) {
 
 double rootOf(const Function &function, long double sum) {
     if (function.type == Type::real64) {
-        const volatile double rounded = static_cast<double>(sum);
+        const volatile auto rounded = static_cast<double>(sum);
         return static_cast<double>(std::sqrt(roundsSum(function) ? static_cast<long double>(rounded) : sum));
     }
     const auto narrow = static_cast<float>(sum);
@@ -368,12 +368,14 @@ TEST(FrobeniusNorm, KeepsObjectsApartInBlocks) {
 TEST(FrobeniusNormAlignment, ChangesNoResult) {
     for (const Function *function : all()) {
         if (!hasLanes(*function)) continue;
-        for (const char *moved : {"", "src"})
-            for (const std::int32_t bytes : {4, 8, 2})
+        for (const char *offender : {"", "src"})
+            for (const literal::Offence &offence : literal::offences)
                 for (const std::ptrdiff_t offset : {0, 4}) {
-                    SCOPED_TRACE(function->name + ", " + moved + " moved by " + std::to_string(bytes));
-                    Call call(function->name, 0, 6);
-                    literal::alignAllBut(call, moved, bytes);
+                    SCOPED_TRACE(function->name + ", " + offender + " is off by " + std::to_string(offence.pointer) +
+                                 ", rows by " + std::to_string(offence.rowStride) + ", objects by " +
+                                 std::to_string(offence.objectStride));
+                    Call call(function->name, 0, 5);
+                    literal::alignAllBut(call, offender, offence);
                     fill(call);
                     std::byte *const results = call.spareCell(1) + offset;
                     call.pass("dst", reinterpret_cast<std::uintptr_t>(results));

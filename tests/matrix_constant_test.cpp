@@ -100,11 +100,13 @@ TEST(MatrixConstantAlignment, ChangesNoResult) {
     std::size_t called = 0;
     for (const Function *function : all()) {
         if (!literal::hasLanes(*function)) continue;
-        for (const char *moved : {"", "src", "dst"})
-            for (const std::int32_t bytes : {4, 8, 2}) {
-                SCOPED_TRACE(function->name + ", " + moved + " moved by " + std::to_string(bytes));
+        for (const char *offender : {"", "src", "dst"})
+            for (const literal::Offence &offence : literal::offences) {
+                SCOPED_TRACE(function->name + ", " + offender + " is off by " + std::to_string(offence.pointer) +
+                             ", rows by " + std::to_string(offence.rowStride) + ", objects by " +
+                             std::to_string(offence.objectStride));
                 Call call(function->name, 0, 3);
-                literal::alignAllBut(call, moved, bytes);
+                literal::alignAllBut(call, offender, offence);
                 fill(call);
                 ASSERT_EQ(call.run(), vonkOk);
                 literal::expectAllDone(call, example);

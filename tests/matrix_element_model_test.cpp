@@ -230,7 +230,7 @@ TEST(FrobeniusNormModel, AddsInAnotherOrderInABlock) {
         const float r = _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(s)));
         return s * (r * (0.5F * (3.0F - s * (r * r))));
     };
-    std::vector<float> objects(5 * 9);
+    std::vector<float> objects(45);
     for (std::size_t n = 0; n < 5; ++n) {
         objects[9 * n] = 4096; // squared 2^24, whose neighbour above is 2 away
         objects[9 * n + 2] = objects[9 * n + 3] = 1;

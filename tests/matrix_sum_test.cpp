@@ -227,12 +227,16 @@ TEST(MatrixSumAlignment, ChangesNoResult) {
     std::size_t called = 0;
     for (const Function *function : all()) {
         if (!hasLanes(*function)) continue;
-        for (const char *moved : {"", "src1", "src2", "dst"})
-            for (const std::int32_t bytes : {4, 8, 2})
+        for (const char *offender : {"", "src1", "src2", "dst"})
+            for (const literal::Offence &offence : literal::offences)
                 for (const std::uint32_t count : {1U, 4U}) {
-                    SCOPED_TRACE(function->name + ", " + moved + " moved by " + std::to_string(bytes));
+                    SCOPED_TRACE(function->name + ", " + offender + " is off by " + std::to_string(offence.pointer) +
+                                 ", rows by " + std::to_string(offence.rowStride) + ", objects by " +
+                                 std::to_string(offence.objectStride));
                     Call call(function->name, 0, count);
-                    literal::alignAllBut(call, moved, bytes);
+                    literal::alignAllBut(call, offender, offence);
+                    if (runsAhead(*function) && function->group == "mamT") // has one stride for both
+                        call["src2"].rowStride = call["src1"].rowStride;
                     fill(call);
                     ASSERT_EQ(call.run(), vonkOk);
                     literal::expectAllDone(call, example);
@@ -370,9 +374,11 @@ TEST(MatrixSumSingle, IsHeldByFloatsOfThreeAndFourInLanesAndReadAnewByAllOthers)
             const double first = both(1, 100);
             const double seen = holds ? 100 : first;
             ASSERT_EQ(call.run(), vonkOk);
-            literal::expectSame(std::vector<double>(order * order, first), call.get("dst", 0), "object 0");
-            literal::expectSame(std::vector<double>(order * order, both(10, seen)), call.get("dst", 1), "object 1");
-            literal::expectSame(std::vector<double>(order * order, both(20, seen)), call.get("dst", 2), "object 2");
+            literal::expectSame(std::vector<double>(std::size_t{order} * order, first), call.get("dst", 0), "object 0");
+            literal::expectSame(std::vector<double>(std::size_t{order} * order, both(10, seen)), call.get("dst", 1),
+                                "object 1");
+            literal::expectSame(std::vector<double>(std::size_t{order} * order, both(20, seen)), call.get("dst", 2),
+                                "object 2");
         }
         holding += holds ? 1 : 0;
     }
@@ -397,7 +403,8 @@ TEST(MatrixSumAhead, LoadsTheNextObjectBeforeThisOneIsStored) {
             for (std::uint32_t n = 0; n < 4; ++n) {
                 const double result =
                     runsAhead(*function) ? combine(*function, 1000.0 * n + 1000, 1) : combine(*function, 1000, n + 1);
-                EXPECT_EQ(call.get("dst", n), std::vector<double>(order * order, result)) << "object " << n;
+                EXPECT_EQ(call.get("dst", n), std::vector<double>(std::size_t{order} * order, result))
+                    << "object " << n;
             }
         }
         ahead += runsAhead(*function) ? 1 : 0;

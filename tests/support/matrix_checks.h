@@ -58,17 +58,27 @@ inline void makeRectangular(Call &call, std::uint32_t rows, std::uint32_t cols) 
     call.pass("cols", cols);
 }
 
-// Lays all rows and objects of standard or list operands at multiples of 16, but for one operand that is moved by so
-// many bytes. Without one all pointers and strides fit.
-inline void alignAllBut(Call &call, std::string_view moved, std::int32_t bytes) {
+// What keeps an operand off multiples of 16.
+struct Offence {
+    std::int32_t pointer = 0;
+    std::int32_t rowStride = 0;
+    std::int32_t objectStride = 0;
+};
+
+inline constexpr Offence offences[] = {{4, 0, 0}, {8, 0, 0}, {2, 0, 0}, {0, 4, 0}, {0, 8, 0}, {0, 0, 4}, {0, 0, 8}};
+
+// Lays all rows and objects of standard or list operands at multiples of 16, but for those of one operand. Without one
+// all pointers and strides fit.
+inline void alignAllBut(Call &call, std::string_view offender, Offence offence) {
     for (const catalogue::Operand &operand : call.function().operands) {
+        const Offence own = operand.name == offender ? offence : Offence{};
         Place &place = call[operand.name];
-        place.rowStride = static_cast<std::int32_t>((place.cols * 4 + 15) / 16 * 16);
-        place.objectStride = static_cast<std::int32_t>(place.rows) * place.rowStride;
+        place.rowStride = static_cast<std::int32_t>((place.cols * 4 + 15) / 16 * 16) + own.rowStride;
+        place.objectStride = static_cast<std::int32_t>(place.rows) * place.rowStride + own.objectStride;
         if (place.tabled()) place.shift = 32;
         for (std::size_t n = 0; n < place.entries.size(); ++n)
             place.entries[n] = place.origin + place.objectStride * static_cast<std::ptrdiff_t>(n) - place.shift;
-        if (operand.name == moved) place.moveTo(place.origin + bytes);
+        place.moveTo(place.origin + own.pointer);
     }
 }
 
