@@ -60,6 +60,13 @@ struct Place {
     void moveTo(std::byte *newOrigin); // keeps the strides
 };
 
+// A dense block outside the layouts, other than pivots: results without a layout, and work space.
+struct Block {
+    std::string parameter;
+    std::size_t bytes = 0;
+    std::byte *address = nullptr;
+};
+
 struct Stray {
     std::string what; // of the first byte that should have stayed; empty if all is well
     explicit operator bool() const { return !what.empty(); }
@@ -87,6 +94,9 @@ public:
     void setAt(std::byte *address, double value) const; // an element of the call's type anywhere
     double getAt(const std::byte *address) const;
 
+    Block &block(std::string_view parameter);
+    std::vector<double> results(); // of a `dst` without a layout, all of them
+
     std::vector<std::uint32_t> pivots(std::uint32_t n) const;
     void setPivots(std::uint32_t n, const std::vector<std::uint32_t> &rows);
     void putPivotsAt(std::uint32_t *address) { pivotsWord_ = address; }
@@ -100,7 +110,7 @@ public:
 
     bool changedNothing() const;         // in the last run, in any memory of the call
     bool changedObject(std::uint32_t n); // a byte of object n of `dst`, or of its pivots where these are written
-    Stray strayWrites();                 // bytes changed outside the elements of `dst` and such pivots
+    Stray strayWrites();                 // bytes changed outside the elements of `dst`, such pivots and other blocks
     std::byte *spareCell(std::uint32_t n) { return spare_ + std::size_t{64} * n; } // away from the operands
 
 private:
@@ -115,12 +125,15 @@ private:
     void layOut(Geometry geometry);
     std::uint64_t wordOf(const catalogue::Parameter &parameter);
     Picture picture() const;
+    std::size_t bytesOf(const std::string &block) const;
+    bool changed(const std::byte *address, std::size_t bytes) const;
     bool writesPivots() const { return function_.family->operation == "LUDecomp"; }
 
     const catalogue::Function &function_;
     std::uint32_t size_;
     std::uint32_t count_;
     std::vector<Place> places_;
+    std::vector<Block> blocks_;
     std::vector<std::byte> memory_;
     std::byte *spare_ = nullptr;
     std::vector<std::uint32_t> pivots_;

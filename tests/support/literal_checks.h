@@ -98,6 +98,17 @@ inline void expectNullPointersAreCaught(const catalogue::Function &function, con
     }
 }
 
+// Five gathers from a table take their pointers as they are.
+inline bool trustsPointers(const catalogue::Function &function) {
+    return function.family->operation == "Extract" && function.layout == "P" && function.name != "vonkExtract_v_32f_P";
+}
+
+// Without objects most functions have nothing to do.
+inline std::int32_t statusOfNoObjects(const catalogue::Function &function) {
+    const std::string_view operation = function.family->operation;
+    return operation == "Extract" || operation == "LoadIdentity" ? vonkErrSize : vonkOk;
+}
+
 inline void blankEntries(Call &call) {
     for (const catalogue::Operand &operand : call.function().operands)
         for (std::byte *&entry : call[operand.name].entries) entry = nullptr;
