@@ -109,9 +109,12 @@ inline std::int32_t statusOfNoObjects(const catalogue::Function &function) {
     return operation == "Extract" || operation == "LoadIdentity" ? vonkErrSize : vonkOk;
 }
 
+inline void blankEntries(Call &call, std::string_view operand) {
+    for (std::byte *&entry : call[operand].entries) entry = nullptr;
+}
+
 inline void blankEntries(Call &call) {
-    for (const catalogue::Operand &operand : call.function().operands)
-        for (std::byte *&entry : call[operand.name].entries) entry = nullptr;
+    for (const catalogue::Operand &operand : call.function().operands) blankEntries(call, operand.name);
 }
 
 // Next come the sizes, ahead of entries and count.
