@@ -38,12 +38,6 @@ void *exportOf(const Function &function) {
     return address;
 }
 
-bool hasPlainResult(const Function &function) {
-    return std::ranges::any_of(function.parameters, [](const catalogue::Parameter &parameter) {
-        return parameter.name == "dst" && parameter.kind == Kind::dense;
-    });
-}
-
 bool isList(const Place &place) { return catalogue::isList(place.operand->layout) && place.operand->array; }
 
 // From the origin to an element, with objects, rows and columns as the strides say.
@@ -156,8 +150,17 @@ Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geome
         chooseStrides(place, geometry, count_);
         places_.push_back(place);
     }
-    if (hasPlainResult(function_)) addPlainResult();
+    if (hasPlainResult()) addPlainResult();
+    for (const catalogue::Parameter &parameter : function_.parameters)
+        if (parameter.kind == Kind::dense && parameter.name != "pivots" && parameter.name != "work" &&
+            (parameter.name != "dst" || !hasPlainResult()))
+            blocks_.push_back({parameter.name, bytesOf(parameter.name), nullptr});
     layOut(geometry);
+}
+
+bool Call::hasPlainResult() const {
+    const std::string_view operation = function_.family->operation;
+    return operation == "DotProduct" || operation == "L2Norm" || operation == "Trace" || operation == "FrobNorm";
 }
 
 void Call::addPlainResult() {
@@ -167,6 +170,14 @@ void Call::addPlainResult() {
     place.elementSize = function_.type == Type::real32 ? 4 : 8;
     place.elementStride = place.rowStride = place.objectStride = place.elementSize;
     places_.push_back(place);
+}
+
+std::size_t Call::bytesOf(const std::string &block) const {
+    const std::size_t element = function_.type == Type::real32 ? 4 : 8;
+    const std::size_t order = size_;
+    if (block == "scratch") return order * (order * element + 4);
+    const bool extracts = function_.family->operation == "Extract";
+    return count_ * element * (!extracts ? 1 : function_.operands.front().matrix ? order * order : order);
 }
 
 void Call::shape(Place &place) const {
@@ -187,8 +198,15 @@ void Call::layOut(Geometry geometry) {
         origins.push_back((start + 15) / 16 * 16);
         end = origins.back() + static_cast<std::size_t>(reach.high) + margin;
     }
-    memory_.assign(end + 64 * (std::size_t{count_} + 2), background);
+    std::size_t blockEnd = end + 64 * (std::size_t{count_} + 2);
+    std::vector<std::size_t> starts;
+    for (Block &block : blocks_) {
+        starts.push_back((blockEnd + 127) / 16 * 16);
+        blockEnd = starts.back() + block.bytes + 128;
+    }
+    memory_.assign(blockEnd, background);
     spare_ = memory_.data() + end;
+    for (std::size_t k = 0; k < blocks_.size(); ++k) blocks_[k].address = memory_.data() + starts[k];
     for (std::size_t k = 0; k < places_.size(); ++k) {
         Place &place = places_[k];
         place.origin = memory_.data() + origins[k];
@@ -200,6 +218,9 @@ void Call::layOut(Geometry geometry) {
             place.entries.push_back(place.origin + step * std::ptrdiff_t{entry} - place.shift);
         }
         place.before = place.entries.front();
+        // The ones of an identity run on along the table, here to one cell.
+        if (!isList(place) && function_.family->operation == "LoadIdentity")
+            place.entries.insert(place.entries.end(), std::size_t{size_} * count_, spareCell(1) - place.shift);
         // The displaced look at the last pivot goes beyond the positions, to a cell of its own for each object.
         if (!isList(place) && writesPivots() && place.operand->written)
             for (std::uint32_t n = 1; n < count_; ++n)
@@ -269,6 +290,20 @@ void Call::setConstant(std::string_view parameter, double value) {
     std::memcpy(&constants_[std::string(parameter)], bits, sizeof bits);
 }
 
+Block &Call::block(std::string_view parameter) {
+    for (Block &block : blocks_)
+        if (block.parameter == parameter) return block;
+    throw std::out_of_range(std::string(parameter));
+}
+
+std::vector<double> Call::results() {
+    const Block &found = block("dst");
+    const std::size_t element = function_.type == Type::real32 ? 4 : 8;
+    std::vector<double> values;
+    for (std::size_t at = 0; at < found.bytes; at += element) values.push_back(getAt(found.address + at));
+    return values;
+}
+
 std::vector<std::uint32_t> Call::pivots(std::uint32_t n) const {
     const std::uint32_t *const first = pivots_.data() + pivotMargin + std::size_t{n} * size_;
     return {first, first + size_};
@@ -291,8 +326,9 @@ std::uint64_t Call::wordOf(const catalogue::Parameter &parameter) {
     const auto bytes = [](std::int32_t value) { return rubbish | static_cast<std::uint32_t>(value); };
     const auto pointer = [](const void *address) { return reinterpret_cast<std::uintptr_t>(address); };
     if (parameter.name == "work") return pointer(workWord_);
-    if (parameter.kind == Kind::dense && parameter.name == "dst") return pointer((*this)["dst"].origin);
-    if (parameter.kind == Kind::dense) return pointer(pivotsWord_);
+    if (parameter.name == "pivots") return pointer(pivotsWord_);
+    if (parameter.kind == Kind::dense && hasPlainResult()) return pointer((*this)["dst"].origin);
+    if (parameter.kind == Kind::dense) return pointer(block(parameter.name).address);
     if (parameter.kind == Kind::size) return rubbish | (parameter.name == "rows" ? rows_ : size_);
     if (parameter.kind == Kind::count) return rubbish | count_;
     if (parameter.kind == Kind::ignored) return rubbish;
@@ -346,15 +382,22 @@ std::int32_t Call::run() {
 
 bool Call::changedNothing() const { return before_ == after_; }
 
+bool Call::changed(const std::byte *address, std::size_t bytes) const {
+    const std::ptrdiff_t at = address - memory_.data();
+    const auto end = at + static_cast<std::ptrdiff_t>(bytes);
+    return !std::equal(before_.memory.begin() + at, before_.memory.begin() + end, after_.memory.begin() + at);
+}
+
 bool Call::changedObject(std::uint32_t n) {
+    if (!places_.back().operand->written) {
+        const Block &results = block("dst");
+        const std::size_t bytes = results.bytes / count_;
+        return changed(results.address + n * bytes, bytes);
+    }
     const Place &place = (*this)["dst"];
     for (std::uint32_t i = 0; i < place.rows; ++i)
-        for (std::uint32_t j = 0; j < place.cols; ++j) {
-            const std::ptrdiff_t at = place.address(n, i, j) - memory_.data();
-            if (!std::equal(before_.memory.begin() + at, before_.memory.begin() + at + place.elementSize,
-                            after_.memory.begin() + at))
-                return true;
-        }
+        for (std::uint32_t j = 0; j < place.cols; ++j)
+            if (changed(place.address(n, i, j), static_cast<std::size_t>(place.elementSize))) return true;
     if (!writesPivots()) return false;
     const auto first = static_cast<std::ptrdiff_t>(pivotMargin + std::size_t{n} * size_);
     return !std::equal(before_.pivots.begin() + first, before_.pivots.begin() + first + size_,
@@ -363,12 +406,15 @@ bool Call::changedObject(std::uint32_t n) {
 
 Stray Call::strayWrites() {
     Picture expected = before_;
-    const Place &place = (*this)["dst"];
-    for (std::uint32_t n = 0; n < count_; ++n)
-        for (std::uint32_t k = 0; k < place.rows * place.cols; ++k) {
-            const std::ptrdiff_t at = place.address(n, k / place.cols, k % place.cols) - memory_.data();
-            std::copy_n(after_.memory.begin() + at, place.elementSize, expected.memory.begin() + at);
-        }
+    const auto allow = [&](const std::byte *address, std::size_t bytes) {
+        const std::ptrdiff_t at = address - memory_.data();
+        std::copy_n(after_.memory.begin() + at, bytes, expected.memory.begin() + at);
+    };
+    for (const Place &place : places_)
+        for (std::uint32_t n = 0; place.operand->written && n < count_; ++n)
+            for (std::uint32_t k = 0; k < place.rows * place.cols; ++k)
+                allow(place.address(n, k / place.cols, k % place.cols), static_cast<std::size_t>(place.elementSize));
+    for (const Block &block : blocks_) allow(block.address, block.bytes);
     if (writesPivots())
         std::copy_n(after_.pivots.begin() + pivotMargin, std::size_t{size_} * count_,
                     expected.pivots.begin() + pivotMargin);

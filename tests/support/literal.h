@@ -66,6 +66,13 @@ struct Place {
     void moveTo(std::byte *newOrigin); // keeps the strides
 };
 
+// A dense block outside the layouts, other than pivots: results without a layout, and work space.
+struct Block {
+    std::string parameter;
+    std::size_t bytes = 0;
+    std::byte *address = nullptr;
+};
+
 struct Stray {
     std::string what; // of the first byte that should have stayed; empty if all is well
     explicit operator bool() const { return !what.empty(); }
@@ -97,6 +104,10 @@ public:
     double getAt(const std::byte *address) const;
 
     void setConstant(std::string_view parameter, double value); // 3 unless it is set
+    // Whether `dst` has no layout and one element an object, and is an operand here like others.
+    bool hasPlainResult() const;
+    Block &block(std::string_view parameter); // of the other blocks
+    std::vector<double> results(); // of a `dst` without a layout, all of them
 
     std::vector<std::uint32_t> pivots(std::uint32_t n) const;
     void setPivots(std::uint32_t n, const std::vector<std::uint32_t> &rows);
@@ -115,7 +126,7 @@ public:
 
     bool changedNothing() const;         // in the last run, in any memory of the call
     bool changedObject(std::uint32_t n); // a byte of object n of `dst`, or of its pivots where these are written
-    Stray strayWrites();                 // bytes changed outside the elements of `dst`, such pivots and the work block
+    Stray strayWrites(); // bytes changed outside the elements of `dst`, such pivots, the work block and other blocks
     std::byte *spareCell(std::uint32_t n) { return spare_ + std::size_t{64} * n; } // away from the operands
 
 private:
@@ -132,6 +143,8 @@ private:
     void layOut(Geometry geometry);
     std::uint64_t wordOf(const catalogue::Parameter &parameter);
     Picture picture() const;
+    std::size_t bytesOf(const std::string &block) const;
+    bool changed(const std::byte *address, std::size_t bytes) const;
     bool writesPivots() const { return function_.family->operation == "LUDecomp"; }
 
     const catalogue::Function &function_;
@@ -140,6 +153,7 @@ private:
     std::uint32_t count_;
     catalogue::Operand result_{}; // what a plain `dst` is taken for: an array of vectors of one element, packed
     std::vector<Place> places_;
+    std::vector<Block> blocks_;
     std::vector<std::byte> memory_;
     std::byte *spare_ = nullptr;
     std::vector<std::uint32_t> pivots_;

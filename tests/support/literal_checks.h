@@ -98,9 +98,25 @@ inline void expectNullPointersAreCaught(const catalogue::Function &function, con
     }
 }
 
+// Five gathers from a table take their pointers as they are.
+inline bool trustsPointers(const catalogue::Function &function) {
+    return function.family->operation == "Extract" && function.layout == "P" && function.name != "vonkExtract_v_32f_P";
+}
+
+// Without objects most functions have nothing to do; for some the count is a size.
+inline std::int32_t statusOfNoObjects(const catalogue::Function &function) {
+    const std::string_view operation = function.family->operation;
+    const bool countsObjectsAsSize =
+        operation == "Extract" || operation == "LoadIdentity" || operation.starts_with("Cholesky");
+    return countsObjectsAsSize ? vonkErrSize : vonkOk;
+}
+
+inline void blankEntries(Call &call, std::string_view operand) {
+    for (std::byte *&entry : call[operand].entries) entry = nullptr;
+}
+
 inline void blankEntries(Call &call) {
-    for (const catalogue::Operand &operand : call.function().operands)
-        for (std::byte *&entry : call[operand.name].entries) entry = nullptr;
+    for (const catalogue::Operand &operand : call.function().operands) blankEntries(call, operand.name);
 }
 
 // Next come the sizes, ahead of entries and count.
