@@ -70,6 +70,7 @@ int main(int argc, char **argv) {
 
     bench::Rows rows;
     addSumRows(rows);
+    addVectorRows(rows);
     addLuRows(rows);
     addInverseRows(rows);
     addProductRows(rows);

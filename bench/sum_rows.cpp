@@ -1,10 +1,7 @@
 // Rows of sums and differences of vectors.
-#include "contest.h"
-#include "data.h"
 #include "peers/eigen_sums.h"
 #include "peers/plain_sums.h"
-
-#include <vonkk3.h>
+#include "vector_contest.h"
 
 #include <array>
 #include <cmath>
@@ -12,18 +9,6 @@
 
 namespace bench {
 namespace {
-
-constexpr std::size_t objectCounts[] = {64, 2048};
-
-template <class T> struct SumData {
-    Buffer<T> a, b, d;
-    VonkStatus status = vonkOk;
-
-    explicit SumData(std::size_t size) : a(size, 0), b(size, 1), d(size, 2) {
-        a.fillRandomly(1);
-        b.fillRandomly(2);
-    }
-};
 
 // Sums rounded once and twice differ by one unit in the last place at most.
 std::string doubleRounding(const Values &expected, const Values &found) {
@@ -33,55 +18,13 @@ std::string doubleRounding(const Values &expected, const Values &found) {
     return "";
 }
 
-// A row over a, b and d; `setUp` adds the contestants by name, agreement and work.
-template <class T> class SumContest {
-public:
-    SumContest(std::string unit, std::size_t units, std::size_t size) : data(std::make_shared<SumData<T>>(size)) {
-        SumData<T> *shared = data.get();
-        contest.unit = std::move(unit);
-        contest.units = units;
-        contest.data = data;
-        contest.spoil = [shared] { shared->d.fill(T(1e30)); };
-        contest.complaint = doubleRounding;
-    }
-
-    // Work is called with a, b and d; that of the library returns a status.
-    template <class Work> void library(Work work) {
-        const T *a = data->a.data(), *b = data->b.data();
-        T *d = data->d.data();
-        VonkStatus *status = &data->status;
-        enter("library", Agreement::bits, [=] { *status = work(a, b, d); });
-    }
-    template <class Work> void peer(std::string name, Work work, Agreement agreement = Agreement::bits) {
-        const T *a = data->a.data(), *b = data->b.data();
-        T *d = data->d.data();
-        enter(std::move(name), agreement, [=] { work(a, b, d); });
-    }
-
-    Contest contest;
-
-private:
-    std::shared_ptr<SumData<T>> data;
-
-    template <class Work> void enter(std::string name, Agreement agreement, Work work) {
-        SumData<T> *shared = data.get();
-        const auto results = [shared] {
-            if (shared->status != vonkOk) return Values();
-            return Values(shared->d.data(), shared->d.data() + shared->d.size());
-        };
-        contest.contestants.push_back({std::move(name), agreement, repeated(work), results});
-    }
-};
-
-using Single = SumContest<float>;
-using Double = SumContest<double>;
-
-std::string rowName(const std::string &function, std::size_t units) { return function + "/" + std::to_string(units); }
+using Single = VectorContest<float>;
+using Double = VectorContest<double>;
 
 // ---- Two vectors of run-time length ---------------------------------------------------------------------------------
 
 Contest longVectors32(std::size_t length) {
-    Single row("elements", length, length);
+    Single row("elements", length, length, doubleRounding);
     row.library([=](auto... p) { return vonkAdd_vv_32f(p..., std::uint32_t(length)); });
     row.peer("plain", [=](auto... p) { plain::add(p..., length); });
     row.peer("Eigen, Map of ArrayXf", [=](auto... p) { eigen::add(p..., length); });
@@ -89,7 +32,7 @@ Contest longVectors32(std::size_t length) {
 }
 
 Contest longVectors64(std::size_t length) {
-    Double row("elements", length, length);
+    Double row("elements", length, length, doubleRounding);
     row.library([=](auto... p) { return vonkAdd_vv_64f(p..., std::uint32_t(length)); });
     row.peer("plain, long double", [=](auto... p) { plain::addWide(p..., length); });
     row.peer(
@@ -109,7 +52,7 @@ void addFixedSize(Rows &rows) {
     const auto add = [&](const std::string &function, auto library, auto plainLoop, auto eigenLoop, auto eigenAtOnce) {
         for (const std::size_t count : objectCounts) {
             const auto prepare = [=] {
-                Single row("objects", count, count * length);
+                Single row("objects", count, count * length, doubleRounding);
                 row.library([=](auto... p) { return library(p..., std::uint32_t(count)); });
                 row.peer("plain", [=](auto... p) { plainLoop(p..., count); });
                 row.peer("Eigen", [=](auto... p) { eigenLoop(p..., count); });
@@ -153,7 +96,7 @@ template <class Pointer> std::array<Pointer, 4> tableOf(Pointer p, std::size_t c
 }
 
 Contest tables(std::size_t count) {
-    Single row("objects", count, count * 4);
+    Single row("objects", count, count * 4, doubleRounding);
     const auto overTables = [=](auto work) {
         return [=](const float *a, const float *b, float *d) {
             const auto aTable = tableOf(a, count), bTable = tableOf(b, count);
@@ -170,7 +113,7 @@ Contest tables(std::size_t count) {
 Contest runTimeLength(std::size_t count) {
     constexpr std::size_t length = 4;
     constexpr std::int32_t stride = length * sizeof(float);
-    Single row("objects", count, count * length);
+    Single row("objects", count, count * length, doubleRounding);
     row.library([=](auto *a, auto *b, auto *d) {
         return vonkAdd_vava_32f(a, stride, b, stride, d, stride, length, std::uint32_t(count));
     });

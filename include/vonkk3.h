@@ -64,6 +64,716 @@ typedef struct VonkLibVersion {
 
 const VonkLibVersion *vonkGetLibVersion(void);
 
+/* ---- Vector and constant --------------------------------------------------------------------------------------------
+ *
+ * vonkAdd:           dst(n, j) = src(n, j) + val
+ * vonkSub vc, vac:   dst(n, j) = src(n, j) - val
+ * vonkSub cv, cva:   dst(n, j) = val - src(n, j)
+ * vonkMul:           dst(n, j) = src(n, j) * val
+ *
+ * for j below `len` and each object n; one rounded operation per element. The vector stands first among the parameters
+ * in all groups. `val` has the type of the elements.
+ *
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
+ * list entry is null: in single forms in `P` entry by entry just before each element, earlier elements being final; in
+ * `P` and `PS2` of arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when
+ * the object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - The four forms `32f` of a single vector of run-time length in the standard layout are built for length: from 11
+ *   elements on, with a `dst` that does not overlap `src` and lies at a multiple of 4, they bring `dst` to a 16-byte
+ *   boundary and work blocks of eight in four-lane registers. The results are those of the plain loop.
+ * - `32f` of fixed size, standard layout and `L`: an object is loaded whole before it is stored.
+ *
+ * Overlap:
+ * `dst` may be `src` itself. Where it overlaps a source otherwise, elements are read and written in ascending
+ * order, so a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L`
+ * load an object whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.
+ *
+ * Read beyond the operands:
+ * Nothing.
+ */
+
+VonkStatus vonkAdd_vc_32f(const float *src, float val, float *dst, uint32_t len);
+VonkStatus vonkAdd_vc_32f_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride,
+    uint32_t len);
+VonkStatus vonkAdd_vc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len);
+VonkStatus vonkAdd_vc_32f_3x1(const float *src, float val, float *dst);
+VonkStatus vonkAdd_vc_32f_3x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vc_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkAdd_vc_32f_4x1(const float *src, float val, float *dst);
+VonkStatus vonkAdd_vc_32f_4x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vc_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkAdd_vc_32f_5x1(const float *src, float val, float *dst);
+VonkStatus vonkAdd_vc_32f_5x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vc_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkAdd_vc_32f_6x1(const float *src, float val, float *dst);
+VonkStatus vonkAdd_vc_32f_6x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkAdd_vc_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkAdd_vc_64f(const double *src, double val, double *dst, uint32_t len);
+VonkStatus vonkAdd_vc_64f_S2(const double *src, int32_t srcElemStride, double val, double *dst, int32_t dstElemStride,
+    uint32_t len);
+VonkStatus vonkAdd_vc_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len);
+VonkStatus vonkAdd_vc_64f_3x1(const double *src, double val, double *dst);
+VonkStatus vonkAdd_vc_64f_3x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_vc_64f_3x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkAdd_vc_64f_4x1(const double *src, double val, double *dst);
+VonkStatus vonkAdd_vc_64f_4x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_vc_64f_4x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkAdd_vc_64f_5x1(const double *src, double val, double *dst);
+VonkStatus vonkAdd_vc_64f_5x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_vc_64f_5x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkAdd_vc_64f_6x1(const double *src, double val, double *dst);
+VonkStatus vonkAdd_vc_64f_6x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_vc_64f_6x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkAdd_vac_32f(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_32f_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_32f_L(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_32f_3x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vac_32f_3x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_32f_3x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_3x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_32f_3x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_4x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vac_32f_4x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_32f_4x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_4x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_32f_4x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_5x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vac_32f_5x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_32f_5x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_5x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_32f_5x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_6x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vac_32f_6x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_32f_6x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vac_32f_6x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_32f_6x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_vac_64f(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_64f_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_64f_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkAdd_vac_64f_3x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vac_64f_3x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_3x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_64f_3x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_3x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_64f_3x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_4x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vac_64f_4x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_4x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_64f_4x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_4x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_64f_4x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_5x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vac_64f_5x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_5x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_64f_5x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_5x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_64f_5x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_6x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_vac_64f_6x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_6x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_64f_6x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_vac_64f_6x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_vac_64f_6x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_vc_32f(const float *src, float val, float *dst, uint32_t len);
+VonkStatus vonkSub_vc_32f_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride,
+    uint32_t len);
+VonkStatus vonkSub_vc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len);
+VonkStatus vonkSub_vc_32f_3x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_vc_32f_3x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vc_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_vc_32f_4x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_vc_32f_4x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vc_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_vc_32f_5x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_vc_32f_5x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vc_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_vc_32f_6x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_vc_32f_6x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_vc_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkSub_vc_64f(const double *src, double val, double *dst, uint32_t len);
+VonkStatus vonkSub_vc_64f_S2(const double *src, int32_t srcElemStride, double val, double *dst, int32_t dstElemStride,
+    uint32_t len);
+VonkStatus vonkSub_vc_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len);
+VonkStatus vonkSub_vc_64f_3x1(const double *src, double val, double *dst);
+VonkStatus vonkSub_vc_64f_3x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkSub_vc_64f_3x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_vc_64f_4x1(const double *src, double val, double *dst);
+VonkStatus vonkSub_vc_64f_4x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkSub_vc_64f_4x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_vc_64f_5x1(const double *src, double val, double *dst);
+VonkStatus vonkSub_vc_64f_5x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkSub_vc_64f_5x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_vc_64f_6x1(const double *src, double val, double *dst);
+VonkStatus vonkSub_vc_64f_6x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkSub_vc_64f_6x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkSub_vac_32f(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_32f_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_32f_L(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_32f_3x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vac_32f_3x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_32f_3x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_3x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_32f_3x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_4x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vac_32f_4x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_32f_4x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_4x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_32f_4x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_5x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vac_32f_5x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_32f_5x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_5x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_32f_5x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_6x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vac_32f_6x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_32f_6x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vac_32f_6x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_32f_6x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_vac_64f(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_64f_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_64f_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_vac_64f_3x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vac_64f_3x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_3x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_64f_3x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_3x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_64f_3x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_4x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vac_64f_4x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_4x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_64f_4x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_4x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_64f_4x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_5x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vac_64f_5x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_5x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_64f_5x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_5x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_64f_5x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_6x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_vac_64f_6x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_6x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_64f_6x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_vac_64f_6x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_vac_64f_6x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_cv_32f(const float *src, float val, float *dst, uint32_t len);
+VonkStatus vonkSub_cv_32f_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride,
+    uint32_t len);
+VonkStatus vonkSub_cv_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len);
+VonkStatus vonkSub_cv_32f_3x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_cv_32f_3x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_cv_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_cv_32f_4x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_cv_32f_4x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_cv_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_cv_32f_5x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_cv_32f_5x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_cv_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_cv_32f_6x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_cv_32f_6x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkSub_cv_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkSub_cv_64f(const double *src, double val, double *dst, uint32_t len);
+VonkStatus vonkSub_cv_64f_S2(const double *src, int32_t srcElemStride, double val, double *dst, int32_t dstElemStride,
+    uint32_t len);
+VonkStatus vonkSub_cv_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len);
+VonkStatus vonkSub_cv_64f_3x1(const double *src, double val, double *dst);
+VonkStatus vonkSub_cv_64f_3x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkSub_cv_64f_3x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_cv_64f_4x1(const double *src, double val, double *dst);
+VonkStatus vonkSub_cv_64f_4x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkSub_cv_64f_4x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_cv_64f_5x1(const double *src, double val, double *dst);
+VonkStatus vonkSub_cv_64f_5x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkSub_cv_64f_5x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkSub_cv_64f_6x1(const double *src, double val, double *dst);
+VonkStatus vonkSub_cv_64f_6x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkSub_cv_64f_6x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkSub_cva_32f(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_32f_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_32f_L(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_32f_3x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_cva_32f_3x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_32f_3x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_3x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_32f_3x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_4x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_cva_32f_4x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_32f_4x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_4x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_32f_4x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_5x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_cva_32f_5x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_32f_5x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_5x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_32f_5x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_6x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_cva_32f_6x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_32f_6x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_cva_32f_6x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_32f_6x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_cva_64f(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_64f_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_64f_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSub_cva_64f_3x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_cva_64f_3x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_3x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_64f_3x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_3x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_64f_3x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_4x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_cva_64f_4x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_4x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_64f_4x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_4x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_64f_4x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_5x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_cva_64f_5x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_5x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_64f_5x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_5x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_64f_5x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_6x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_cva_64f_6x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_6x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_64f_6x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_cva_64f_6x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_cva_64f_6x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_vc_32f(const float *src, float val, float *dst, uint32_t len);
+VonkStatus vonkMul_vc_32f_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride,
+    uint32_t len);
+VonkStatus vonkMul_vc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len);
+VonkStatus vonkMul_vc_32f_3x1(const float *src, float val, float *dst);
+VonkStatus vonkMul_vc_32f_3x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_vc_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_vc_32f_4x1(const float *src, float val, float *dst);
+VonkStatus vonkMul_vc_32f_4x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_vc_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_vc_32f_5x1(const float *src, float val, float *dst);
+VonkStatus vonkMul_vc_32f_5x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_vc_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_vc_32f_6x1(const float *src, float val, float *dst);
+VonkStatus vonkMul_vc_32f_6x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
+VonkStatus vonkMul_vc_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkMul_vc_64f(const double *src, double val, double *dst, uint32_t len);
+VonkStatus vonkMul_vc_64f_S2(const double *src, int32_t srcElemStride, double val, double *dst, int32_t dstElemStride,
+    uint32_t len);
+VonkStatus vonkMul_vc_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len);
+VonkStatus vonkMul_vc_64f_3x1(const double *src, double val, double *dst);
+VonkStatus vonkMul_vc_64f_3x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkMul_vc_64f_3x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_vc_64f_4x1(const double *src, double val, double *dst);
+VonkStatus vonkMul_vc_64f_4x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkMul_vc_64f_4x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_vc_64f_5x1(const double *src, double val, double *dst);
+VonkStatus vonkMul_vc_64f_5x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkMul_vc_64f_5x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_vc_64f_6x1(const double *src, double val, double *dst);
+VonkStatus vonkMul_vc_64f_6x1_S2(const double *src, int32_t srcElemStride, double val, double *dst,
+    int32_t dstElemStride);
+VonkStatus vonkMul_vc_64f_6x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkMul_vac_32f(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_32f_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_32f_L(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_32f_3x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_vac_32f_3x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_32f_3x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_3x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_32f_3x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_4x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_vac_32f_4x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_32f_4x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_4x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_32f_4x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_5x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_vac_32f_5x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_32f_5x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_5x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_32f_5x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_6x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_vac_32f_6x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_32f_6x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_vac_32f_6x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_32f_6x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_vac_64f(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_64f_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_64f_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkMul_vac_64f_3x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_vac_64f_3x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_3x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_64f_3x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_3x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_64f_3x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_4x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_vac_64f_4x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_4x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_64f_4x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_4x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_64f_4x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_5x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_vac_64f_5x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_5x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_64f_5x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_5x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_64f_5x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_6x1(const double *src, int32_t srcObjStride, double val, double *dst, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkMul_vac_64f_6x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_6x1_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_64f_6x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_vac_64f_6x1_L(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_vac_64f_6x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
 /* ---- Vector and vector ----------------------------------------------------------------------------------------------
  *
  * vonkAdd: dst(n, j) = src1(n, j) + src2(n, j)
@@ -921,6 +1631,1544 @@ VonkStatus vonkSub_vava_64f_6x1_PS2(const double *const *src1, int32_t src1Shift
 VonkStatus vonkSub_vava_64f_6x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkSub_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+/* ---- Saxpy ----------------------------------------------------------------------------------------------------------
+ *
+ * dst(n, j) = src1(n, j) * val + src2(n, j)
+ *
+ * for j below `len` and each object n. The product is rounded before the sum in `32f` and never fused with it; in `64f`
+ * it stays in 80 bits and the sum rounds. Groups: `vv` two vectors, `vav` an array and a vector, `vva` a vector and an
+ * array, `vava` two arrays. A single vector serves all objects.
+ *
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
+ * list entry is null: in single forms in `P` entry by entry just before each element, earlier elements being final; in
+ * `P` and `PS2` of arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when
+ * the object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - vonkSaxpy_vv_32f is built for length, as vonkAdd_vv_32f is, with the results of the plain loop.
+ * - vonkSaxpy_vav_32f and vonkSaxpy_vava_32f of 4x1 and 6x1 work in lanes if `src1`, `src2`, `dst`, `src1ObjStride` and
+ *   `dstObjStride` are all multiples of 16. `vav` then loads its single vector once, ahead of all objects; everywhere
+ *   else it is read anew for each object. `vava` then takes `src2ObjStride` for a multiple of 16 without a look: it must
+ *   be one.
+ *
+ * Overlap:
+ * `dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
+ * order, so a `dst` that runs ahead of a source sees new elements.
+ *
+ * Read beyond the operands:
+ * Nothing.
+ */
+
+VonkStatus vonkSaxpy_vv_32f(const float *src1, float val, const float *src2, float *dst, uint32_t len);
+VonkStatus vonkSaxpy_vv_32f_S2(const float *src1, int32_t src1ElemStride, float val, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride, uint32_t len);
+VonkStatus vonkSaxpy_vv_32f_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t len);
+VonkStatus vonkSaxpy_vv_32f_3x1(const float *src1, float val, const float *src2, float *dst);
+VonkStatus vonkSaxpy_vv_32f_3x1_S2(const float *src1, int32_t src1ElemStride, float val, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkSaxpy_vv_32f_3x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSaxpy_vv_32f_4x1(const float *src1, float val, const float *src2, float *dst);
+VonkStatus vonkSaxpy_vv_32f_4x1_S2(const float *src1, int32_t src1ElemStride, float val, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkSaxpy_vv_32f_4x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSaxpy_vv_32f_5x1(const float *src1, float val, const float *src2, float *dst);
+VonkStatus vonkSaxpy_vv_32f_5x1_S2(const float *src1, int32_t src1ElemStride, float val, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkSaxpy_vv_32f_5x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSaxpy_vv_32f_6x1(const float *src1, float val, const float *src2, float *dst);
+VonkStatus vonkSaxpy_vv_32f_6x1_S2(const float *src1, int32_t src1ElemStride, float val, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkSaxpy_vv_32f_6x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkSaxpy_vv_64f(const double *src1, double val, const double *src2, double *dst, uint32_t len);
+VonkStatus vonkSaxpy_vv_64f_S2(const double *src1, int32_t src1ElemStride, double val, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride, uint32_t len);
+VonkStatus vonkSaxpy_vv_64f_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t len);
+VonkStatus vonkSaxpy_vv_64f_3x1(const double *src1, double val, const double *src2, double *dst);
+VonkStatus vonkSaxpy_vv_64f_3x1_S2(const double *src1, int32_t src1ElemStride, double val, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkSaxpy_vv_64f_3x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSaxpy_vv_64f_4x1(const double *src1, double val, const double *src2, double *dst);
+VonkStatus vonkSaxpy_vv_64f_4x1_S2(const double *src1, int32_t src1ElemStride, double val, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkSaxpy_vv_64f_4x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSaxpy_vv_64f_5x1(const double *src1, double val, const double *src2, double *dst);
+VonkStatus vonkSaxpy_vv_64f_5x1_S2(const double *src1, int32_t src1ElemStride, double val, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkSaxpy_vv_64f_5x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSaxpy_vv_64f_6x1(const double *src1, double val, const double *src2, double *dst);
+VonkStatus vonkSaxpy_vv_64f_6x1_S2(const double *src1, int32_t src1ElemStride, double val, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkSaxpy_vv_64f_6x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkSaxpy_vav_32f(const float *src1, int32_t src1ObjStride, float val, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_L(const float *const *src1, int32_t src1Shift, float val, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_3x1(const float *src1, int32_t src1ObjStride, float val, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_3x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, float val, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_4x1(const float *src1, int32_t src1ObjStride, float val, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_4x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_4x1_L(const float *const *src1, int32_t src1Shift, float val, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_5x1(const float *src1, int32_t src1ObjStride, float val, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_5x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_5x1_L(const float *const *src1, int32_t src1Shift, float val, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_6x1(const float *src1, int32_t src1ObjStride, float val, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_6x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_6x1_L(const float *const *src1, int32_t src1Shift, float val, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkSaxpy_vav_64f(const double *src1, int32_t src1ObjStride, double val, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_L(const double *const *src1, int32_t src1Shift, double val, const double *src2,
+    double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_3x1(const double *src1, int32_t src1ObjStride, double val, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_3x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_3x1_L(const double *const *src1, int32_t src1Shift, double val, const double *src2,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_4x1(const double *src1, int32_t src1ObjStride, double val, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_4x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_4x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_4x1_L(const double *const *src1, int32_t src1Shift, double val, const double *src2,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_4x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_5x1(const double *src1, int32_t src1ObjStride, double val, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_5x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_5x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_5x1_L(const double *const *src1, int32_t src1Shift, double val, const double *src2,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_5x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_6x1(const double *src1, int32_t src1ObjStride, double val, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_6x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_6x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_6x1_L(const double *const *src1, int32_t src1Shift, double val, const double *src2,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vav_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkSaxpy_vva_32f(const float *src1, float val, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_S2(const float *src1, int32_t src1ElemStride, float val, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_PS2(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_L(const float *src1, float val, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_LS2(const float *src1, int32_t src1ElemStride, float val, const float *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_3x1(const float *src1, float val, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_3x1_S2(const float *src1, int32_t src1ElemStride, float val, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_3x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_3x1_L(const float *src1, float val, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_3x1_LS2(const float *src1, int32_t src1ElemStride, float val, const float *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_4x1(const float *src1, float val, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_4x1_S2(const float *src1, int32_t src1ElemStride, float val, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_4x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_4x1_L(const float *src1, float val, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_4x1_LS2(const float *src1, int32_t src1ElemStride, float val, const float *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_5x1(const float *src1, float val, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_5x1_S2(const float *src1, int32_t src1ElemStride, float val, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_5x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_5x1_L(const float *src1, float val, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_5x1_LS2(const float *src1, int32_t src1ElemStride, float val, const float *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_6x1(const float *src1, float val, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_6x1_S2(const float *src1, int32_t src1ElemStride, float val, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_6x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_6x1_L(const float *src1, float val, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_32f_6x1_LS2(const float *src1, int32_t src1ElemStride, float val, const float *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkSaxpy_vva_64f(const double *src1, double val, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_S2(const double *src1, int32_t src1ElemStride, double val, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_PS2(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t len,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_L(const double *src1, double val, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_LS2(const double *src1, int32_t src1ElemStride, double val, const double *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_3x1(const double *src1, double val, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_3x1_S2(const double *src1, int32_t src1ElemStride, double val, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_3x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_3x1_L(const double *src1, double val, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_3x1_LS2(const double *src1, int32_t src1ElemStride, double val, const double *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_4x1(const double *src1, double val, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_4x1_S2(const double *src1, int32_t src1ElemStride, double val, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_4x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_4x1_L(const double *src1, double val, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_4x1_LS2(const double *src1, int32_t src1ElemStride, double val, const double *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_5x1(const double *src1, double val, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_5x1_S2(const double *src1, int32_t src1ElemStride, double val, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_5x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_5x1_L(const double *src1, double val, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_5x1_LS2(const double *src1, int32_t src1ElemStride, double val, const double *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_6x1(const double *src1, double val, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_6x1_S2(const double *src1, int32_t src1ElemStride, double val, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_6x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_6x1_L(const double *src1, double val, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vva_64f_6x1_LS2(const double *src1, int32_t src1ElemStride, double val, const double *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkSaxpy_vava_32f(const float *src1, int32_t src1ObjStride, float val, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_L(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_3x1(const float *src1, int32_t src1ObjStride, float val, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_3x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_3x1_L(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_4x1(const float *src1, int32_t src1ObjStride, float val, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_4x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_4x1_L(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_5x1(const float *src1, int32_t src1ObjStride, float val, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_5x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_5x1_L(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_6x1(const float *src1, int32_t src1ObjStride, float val, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_6x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_6x1_L(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSaxpy_vava_64f(const double *src1, int32_t src1ObjStride, double val, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_L(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_3x1(const double *src1, int32_t src1ObjStride, double val, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_3x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_3x1_L(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_4x1(const double *src1, int32_t src1ObjStride, double val, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_4x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_4x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_4x1_L(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_4x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_5x1(const double *src1, int32_t src1ObjStride, double val, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_5x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_5x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_5x1_L(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_5x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_6x1(const double *src1, int32_t src1ObjStride, double val, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_6x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_6x1_P(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_6x1_L(const double *const *src1, int32_t src1Shift, double val, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSaxpy_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+/* ---- Linear combination ---------------------------------------------------------------------------------------------
+ *
+ * dst(n, j) = src1(n, j) * val1 + src2(n, j) * val2
+ *
+ * for j below `len` and each object n. In `32f` both products and the sum round; in `64f` they stay in 80 bits, and the
+ * result rounds. There is no shortcut for a constant of 0: with an infinity it makes a NaN. Groups: `vv` two vectors,
+ * `vav` an array and a vector, `vava` two arrays. A single vector serves all objects.
+ *
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
+ * list entry is null: in single forms in `P` entry by entry just before each element, earlier elements being final; in
+ * `P` and `PS2` of arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when
+ * the object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - vonkLComb_vv_32f is built for length, as vonkAdd_vv_32f is, with the results of the plain loop.
+ * - `vav` of `32f` of fixed size, standard layout and `L`: the single vector is loaded once, ahead of all objects.
+ *   Everywhere else it is read anew for each object.
+ * - `32f` of 4x1 to 6x1 in the standard layout, and vonkLComb_vav_32f_4x1_L, look whether pointers and object strides are
+ *   multiples of 16 and then move in aligned registers. That changes no result.
+ *
+ * Overlap:
+ * `dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
+ * order, so a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L`
+ * load an object whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.
+ *
+ * Read beyond the operands:
+ * Nothing.
+ */
+
+VonkStatus vonkLComb_vv_32f(const float *src1, float val1, const float *src2, float val2, float *dst, uint32_t len);
+VonkStatus vonkLComb_vv_32f_S2(const float *src1, int32_t src1ElemStride, float val1, const float *src2,
+    int32_t src2ElemStride, float val2, float *dst, int32_t dstElemStride, uint32_t len);
+VonkStatus vonkLComb_vv_32f_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t len);
+VonkStatus vonkLComb_vv_32f_3x1(const float *src1, float val1, const float *src2, float val2, float *dst);
+VonkStatus vonkLComb_vv_32f_3x1_S2(const float *src1, int32_t src1ElemStride, float val1, const float *src2,
+    int32_t src2ElemStride, float val2, float *dst, int32_t dstElemStride);
+VonkStatus vonkLComb_vv_32f_3x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift);
+VonkStatus vonkLComb_vv_32f_4x1(const float *src1, float val1, const float *src2, float val2, float *dst);
+VonkStatus vonkLComb_vv_32f_4x1_S2(const float *src1, int32_t src1ElemStride, float val1, const float *src2,
+    int32_t src2ElemStride, float val2, float *dst, int32_t dstElemStride);
+VonkStatus vonkLComb_vv_32f_4x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift);
+VonkStatus vonkLComb_vv_32f_5x1(const float *src1, float val1, const float *src2, float val2, float *dst);
+VonkStatus vonkLComb_vv_32f_5x1_S2(const float *src1, int32_t src1ElemStride, float val1, const float *src2,
+    int32_t src2ElemStride, float val2, float *dst, int32_t dstElemStride);
+VonkStatus vonkLComb_vv_32f_5x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift);
+VonkStatus vonkLComb_vv_32f_6x1(const float *src1, float val1, const float *src2, float val2, float *dst);
+VonkStatus vonkLComb_vv_32f_6x1_S2(const float *src1, int32_t src1ElemStride, float val1, const float *src2,
+    int32_t src2ElemStride, float val2, float *dst, int32_t dstElemStride);
+VonkStatus vonkLComb_vv_32f_6x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkLComb_vv_64f(const double *src1, double val1, const double *src2, double val2, double *dst,
+    uint32_t len);
+VonkStatus vonkLComb_vv_64f_S2(const double *src1, int32_t src1ElemStride, double val1, const double *src2,
+    int32_t src2ElemStride, double val2, double *dst, int32_t dstElemStride, uint32_t len);
+VonkStatus vonkLComb_vv_64f_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t len);
+VonkStatus vonkLComb_vv_64f_3x1(const double *src1, double val1, const double *src2, double val2, double *dst);
+VonkStatus vonkLComb_vv_64f_3x1_S2(const double *src1, int32_t src1ElemStride, double val1, const double *src2,
+    int32_t src2ElemStride, double val2, double *dst, int32_t dstElemStride);
+VonkStatus vonkLComb_vv_64f_3x1_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift);
+VonkStatus vonkLComb_vv_64f_4x1(const double *src1, double val1, const double *src2, double val2, double *dst);
+VonkStatus vonkLComb_vv_64f_4x1_S2(const double *src1, int32_t src1ElemStride, double val1, const double *src2,
+    int32_t src2ElemStride, double val2, double *dst, int32_t dstElemStride);
+VonkStatus vonkLComb_vv_64f_4x1_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift);
+VonkStatus vonkLComb_vv_64f_5x1(const double *src1, double val1, const double *src2, double val2, double *dst);
+VonkStatus vonkLComb_vv_64f_5x1_S2(const double *src1, int32_t src1ElemStride, double val1, const double *src2,
+    int32_t src2ElemStride, double val2, double *dst, int32_t dstElemStride);
+VonkStatus vonkLComb_vv_64f_5x1_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift);
+VonkStatus vonkLComb_vv_64f_6x1(const double *src1, double val1, const double *src2, double val2, double *dst);
+VonkStatus vonkLComb_vv_64f_6x1_S2(const double *src1, int32_t src1ElemStride, double val1, const double *src2,
+    int32_t src2ElemStride, double val2, double *dst, int32_t dstElemStride);
+VonkStatus vonkLComb_vv_64f_6x1_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkLComb_vav_32f(const float *src1, int32_t src1ObjStride, float val1, const float *src2, float val2,
+    float *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_32f_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val1,
+    const float *const *src2, int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_32f_L(const float *const *src1, int32_t src1Shift, float val1, const float *src2, float val2,
+    float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ElemStride, float val2, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_32f_3x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2, float val2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_3x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val1,
+    const float *const *src2, int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *src2,
+    float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ElemStride, float val2, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_4x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2, float val2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_4x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val1,
+    const float *const *src2, int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_4x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *src2,
+    float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ElemStride, float val2, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_5x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2, float val2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_5x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val1,
+    const float *const *src2, int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_5x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *src2,
+    float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ElemStride, float val2, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_6x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2, float val2,
+    float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_6x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val1,
+    const float *const *src2, int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_32f_6x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *src2,
+    float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ElemStride, float val2, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkLComb_vav_64f(const double *src1, int32_t src1ObjStride, double val1, const double *src2, double val2,
+    double *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ElemStride, double val2, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_64f_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_64f_L(const double *const *src1, int32_t src1Shift, double val1, const double *src2,
+    double val2, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ElemStride, double val2, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vav_64f_3x1(const double *src1, int32_t src1ObjStride, double val1, const double *src2,
+    double val2, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ElemStride, double val2, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_64f_3x1_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_3x1_L(const double *const *src1, int32_t src1Shift, double val1, const double *src2,
+    double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ElemStride, double val2, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_4x1(const double *src1, int32_t src1ObjStride, double val1, const double *src2,
+    double val2, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_4x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ElemStride, double val2, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_64f_4x1_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_4x1_L(const double *const *src1, int32_t src1Shift, double val1, const double *src2,
+    double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_64f_4x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ElemStride, double val2, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_5x1(const double *src1, int32_t src1ObjStride, double val1, const double *src2,
+    double val2, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_5x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ElemStride, double val2, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_64f_5x1_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_5x1_L(const double *const *src1, int32_t src1Shift, double val1, const double *src2,
+    double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_64f_5x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ElemStride, double val2, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_6x1(const double *src1, int32_t src1ObjStride, double val1, const double *src2,
+    double val2, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_6x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ElemStride, double val2, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkLComb_vav_64f_6x1_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vav_64f_6x1_L(const double *const *src1, int32_t src1Shift, double val1, const double *src2,
+    double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vav_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ElemStride, double val2, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkLComb_vava_32f(const float *src1, int32_t src1ObjStride, float val1, const float *src2,
+    int32_t src2ObjStride, float val2, float *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_32f_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val1,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float val2, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_32f_L(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float val2, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_32f_3x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2,
+    int32_t src2ObjStride, float val2, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_3x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val1,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float val2, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_3x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float val2, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_4x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2,
+    int32_t src2ObjStride, float val2, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_4x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val1,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float val2, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_4x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float val2, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_5x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2,
+    int32_t src2ObjStride, float val2, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_5x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val1,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float val2, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_5x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float val2, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_6x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2,
+    int32_t src2ObjStride, float val2, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_6x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float val1,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float val2, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_32f_6x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
+    int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float val2, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkLComb_vava_64f(const double *src1, int32_t src1ObjStride, double val1, const double *src2,
+    int32_t src2ObjStride, double val2, double *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double val2, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_64f_P(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val1,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double val2, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_64f_L(const double *const *src1, int32_t src1Shift, double val1, const double *const *src2,
+    int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val1,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double val2, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+VonkStatus vonkLComb_vava_64f_3x1(const double *src1, int32_t src1ObjStride, double val1, const double *src2,
+    int32_t src2ObjStride, double val2, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double val2, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_3x1_P(const double *const *src1, int32_t src1Shift, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val1,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double val2, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_3x1_L(const double *const *src1, int32_t src1Shift, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val1,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double val2, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_4x1(const double *src1, int32_t src1ObjStride, double val1, const double *src2,
+    int32_t src2ObjStride, double val2, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_4x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double val2, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_4x1_P(const double *const *src1, int32_t src1Shift, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val1,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double val2, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_4x1_L(const double *const *src1, int32_t src1Shift, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_64f_4x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val1,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double val2, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_5x1(const double *src1, int32_t src1ObjStride, double val1, const double *src2,
+    int32_t src2ObjStride, double val2, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_5x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double val2, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_5x1_P(const double *const *src1, int32_t src1Shift, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val1,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double val2, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_5x1_L(const double *const *src1, int32_t src1Shift, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_64f_5x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val1,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double val2, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_6x1(const double *src1, int32_t src1ObjStride, double val1, const double *src2,
+    int32_t src2ObjStride, double val2, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_6x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride, double val1,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double val2, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_6x1_P(const double *const *src1, int32_t src1Shift, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, double val1,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double val2, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkLComb_vava_64f_6x1_L(const double *const *src1, int32_t src1Shift, double val1,
+    const double *const *src2, int32_t src2Shift, double val2, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkLComb_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride, double val1,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double val2, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+/* ---- Dot product ----------------------------------------------------------------------------------------------------
+ *
+ * dst[n] = sum over j of src1(n, j) * src2(n, j)
+ *
+ * for j below `len`. `dst` is a plain pointer in every layout: one element for `vv`, `count` packed elements for arrays.
+ * Groups: `vv` two vectors, `vav` an array against one vector, `vava` two arrays.
+ *
+ * With p0, p1, ... for the products, the sum is ((p0 + p1) + p2) + ..., from +0 at run-time length and from p0 at fixed
+ * length. In `32f` products and sums round one by one and are never fused; in `64f` they stay in 80 bits, and the result
+ * rounds.
+ *
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or list
+ * entry is null: in `P` and `PS2` all entries ahead of everything else, even at `count` 0; in `L` and `LS2` when the
+ * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - vonkDotProduct_vv_32f from 11 elements on, with `src2` at a multiple of 4, sums in lanes: one by one up to a 16-byte
+ *   boundary of `src2`, then blocks of eight in two registers X (which begins with the sum so far in lane 0) and Y, then
+ *   with L = X + Y as (L0 + L2) + (L1 + L3), then one by one. The last bits depend on `len` and the alignment of `src2`.
+ * - vonkDotProduct_vav_32f_4x1 and vonkDotProduct_vav_32f_4x1_L: (p0 + p1) + (p2 + p3).
+ * - vonkDotProduct_vava_32f_3x1, if `src1`, `src2`, their object strides and `dst` are all multiples of 16: the first
+ *   `count` / 4 * 4 objects are summed as (p0 + p2) + p1, those that remain left to right.
+ * - vonkDotProduct_vav_32f_3x1_L and vonkDotProduct_vav_32f_4x1_L never test an entry.
+ * - `64f` of run-time length, `vv` in all layouts and arrays in `L`: of an odd number of terms the sum is rounded to 64
+ *   bits before the last.
+ *
+ * Overlap:
+ * Results are stored behind the sum that they are, object by object; where objects are taken four at a time (3x1 and
+ * 4x1 of `vav`, 3x1 of `vava` of `32f`, standard layout and `L`) four results are stored behind four sums. A `dst` under
+ * operands of later objects changes those.
+ *
+ * Read beyond the operands:
+ * vonkDotProduct_vava_32f_3x1 on its aligned way reads the element behind each of the objects that it takes four at a
+ * time. No other.
+ */
+
+VonkStatus vonkDotProduct_vv_32f(const float *src1, const float *src2, float *dst, uint32_t len);
+VonkStatus vonkDotProduct_vv_32f_S2(const float *src1, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, uint32_t len);
+VonkStatus vonkDotProduct_vv_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t len);
+VonkStatus vonkDotProduct_vv_32f_3x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkDotProduct_vv_32f_3x1_S2(const float *src1, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst);
+VonkStatus vonkDotProduct_vv_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst);
+VonkStatus vonkDotProduct_vv_32f_4x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkDotProduct_vv_32f_4x1_S2(const float *src1, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst);
+VonkStatus vonkDotProduct_vv_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst);
+VonkStatus vonkDotProduct_vv_32f_5x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkDotProduct_vv_32f_5x1_S2(const float *src1, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst);
+VonkStatus vonkDotProduct_vv_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst);
+VonkStatus vonkDotProduct_vv_32f_6x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkDotProduct_vv_32f_6x1_S2(const float *src1, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst);
+VonkStatus vonkDotProduct_vv_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst);
+
+VonkStatus vonkDotProduct_vv_64f(const double *src1, const double *src2, double *dst, uint32_t len);
+VonkStatus vonkDotProduct_vv_64f_S2(const double *src1, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, uint32_t len);
+VonkStatus vonkDotProduct_vv_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t len);
+VonkStatus vonkDotProduct_vv_64f_3x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkDotProduct_vv_64f_3x1_S2(const double *src1, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst);
+VonkStatus vonkDotProduct_vv_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst);
+VonkStatus vonkDotProduct_vv_64f_4x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkDotProduct_vv_64f_4x1_S2(const double *src1, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst);
+VonkStatus vonkDotProduct_vv_64f_4x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst);
+VonkStatus vonkDotProduct_vv_64f_5x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkDotProduct_vv_64f_5x1_S2(const double *src1, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst);
+VonkStatus vonkDotProduct_vv_64f_5x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst);
+VonkStatus vonkDotProduct_vv_64f_6x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkDotProduct_vv_64f_6x1_S2(const double *src1, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst);
+VonkStatus vonkDotProduct_vv_64f_6x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst);
+
+VonkStatus vonkDotProduct_vav_32f(const float *src1, int32_t src1ObjStride, const float *src2, float *dst, uint32_t len,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_L(const float *const *src1, int32_t src1Shift, const float *src2, float *dst,
+    uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_5x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_6x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_6x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
+
+VonkStatus vonkDotProduct_vav_64f(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_L(const double *const *src1, int32_t src1Shift, const double *src2, double *dst,
+    uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_3x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_4x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_4x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_4x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_4x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_4x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_5x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_5x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_5x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_5x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_6x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_6x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_6x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_6x1_L(const double *const *src1, int32_t src1Shift, const double *src2, double *dst,
+    uint32_t count);
+VonkStatus vonkDotProduct_vav_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, uint32_t count);
+
+VonkStatus vonkDotProduct_vava_32f(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
+    float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2,
+    int32_t src2ObjStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2,
+    int32_t src2ObjStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2,
+    int32_t src2ObjStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_5x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_6x1(const float *src1, int32_t src1ObjStride, const float *src2,
+    int32_t src2ObjStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_6x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *dst, uint32_t count);
+
+VonkStatus vonkDotProduct_vava_64f(const double *src1, int32_t src1ObjStride, const double *src2, int32_t src2ObjStride,
+    double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2,
+    int32_t src2ObjStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_3x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_4x1(const double *src1, int32_t src1ObjStride, const double *src2,
+    int32_t src2ObjStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_4x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_4x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_4x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_4x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_4x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2,
+    int32_t src2ObjStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_5x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_5x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_5x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_5x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_5x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_6x1(const double *src1, int32_t src1ObjStride, const double *src2,
+    int32_t src2ObjStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_6x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_6x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_6x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_6x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *dst, uint32_t count);
+VonkStatus vonkDotProduct_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *dst, uint32_t count);
+
+/* ---- L2 norm --------------------------------------------------------------------------------------------------------
+ *
+ * dst[n] = square root of the sum over j of src(n, j) * src(n, j)
+ *
+ * for j below `len`. `dst` is a plain pointer in every layout: one element for `v`, `count` packed elements for `va`.
+ * Squares are added left to right from +0, rounded one by one in `32f`, in 80 bits in `64f`; the root is correctly
+ * rounded. Squares that overflow give infinity; those of `64f` cannot in 80 bits.
+ *
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or list
+ * entry is null: in `P` and `PS2` all entries ahead of everything else, even at `count` 0; in `L` and `LS2` when the
+ * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - `32f` of fixed size in the standard layout and `L` is approximate, and its norm of a zero vector is NaN, where all
+ *   other forms give 0. With q0, q1, ... for the squares, s is (q0 + q1) + q2; (q0 + q1) + (q2 + q3); that + q4; that +
+ *   (q4 + q5). With r the processor's estimate of 1 / root of s, of about 12 bits, the result is s * (r * (0.5 * (3.0 -
+ *   s * (r * r)))), each operation rounded. Method: one Newton step for the reciprocal root.
+ * - vonkL2Norm_v_32f from 11 elements on, with `src` at a multiple of 4, sums squares in lanes as vonkDotProduct_vv_32f
+ *   sums products.
+ * - vonkL2Norm_va_32f_4x1_L never tests an entry.
+ *
+ * Overlap:
+ * Results are stored behind the sum that they are, object by object, or four by four in `va` of `32f` of fixed size in
+ * the standard layout and `L`. A `dst` under later objects changes those.
+ *
+ * Read beyond the operands:
+ * Nothing.
+ */
+
+VonkStatus vonkL2Norm_v_32f(const float *src, float *dst, uint32_t len);
+VonkStatus vonkL2Norm_v_32f_S2(const float *src, int32_t srcElemStride, float *dst, uint32_t len);
+VonkStatus vonkL2Norm_v_32f_P(const float *const *src, int32_t srcShift, float *dst, uint32_t len);
+VonkStatus vonkL2Norm_v_32f_3x1(const float *src, float *dst);
+VonkStatus vonkL2Norm_v_32f_3x1_S2(const float *src, int32_t srcElemStride, float *dst);
+VonkStatus vonkL2Norm_v_32f_3x1_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkL2Norm_v_32f_4x1(const float *src, float *dst);
+VonkStatus vonkL2Norm_v_32f_4x1_S2(const float *src, int32_t srcElemStride, float *dst);
+VonkStatus vonkL2Norm_v_32f_4x1_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkL2Norm_v_32f_5x1(const float *src, float *dst);
+VonkStatus vonkL2Norm_v_32f_5x1_S2(const float *src, int32_t srcElemStride, float *dst);
+VonkStatus vonkL2Norm_v_32f_5x1_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkL2Norm_v_32f_6x1(const float *src, float *dst);
+VonkStatus vonkL2Norm_v_32f_6x1_S2(const float *src, int32_t srcElemStride, float *dst);
+VonkStatus vonkL2Norm_v_32f_6x1_P(const float *const *src, int32_t srcShift, float *dst);
+
+VonkStatus vonkL2Norm_v_64f(const double *src, double *dst, uint32_t len);
+VonkStatus vonkL2Norm_v_64f_S2(const double *src, int32_t srcElemStride, double *dst, uint32_t len);
+VonkStatus vonkL2Norm_v_64f_P(const double *const *src, int32_t srcShift, double *dst, uint32_t len);
+VonkStatus vonkL2Norm_v_64f_3x1(const double *src, double *dst);
+VonkStatus vonkL2Norm_v_64f_3x1_S2(const double *src, int32_t srcElemStride, double *dst);
+VonkStatus vonkL2Norm_v_64f_3x1_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkL2Norm_v_64f_4x1(const double *src, double *dst);
+VonkStatus vonkL2Norm_v_64f_4x1_S2(const double *src, int32_t srcElemStride, double *dst);
+VonkStatus vonkL2Norm_v_64f_4x1_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkL2Norm_v_64f_5x1(const double *src, double *dst);
+VonkStatus vonkL2Norm_v_64f_5x1_S2(const double *src, int32_t srcElemStride, double *dst);
+VonkStatus vonkL2Norm_v_64f_5x1_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkL2Norm_v_64f_6x1(const double *src, double *dst);
+VonkStatus vonkL2Norm_v_64f_6x1_S2(const double *src, int32_t srcElemStride, double *dst);
+VonkStatus vonkL2Norm_v_64f_6x1_P(const double *const *src, int32_t srcShift, double *dst);
+
+VonkStatus vonkL2Norm_va_32f(const float *src, int32_t srcObjStride, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst, uint32_t len,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_P(const float *const *src, int32_t srcShift, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_L(const float *const *src, int32_t srcShift, float *dst, uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
+    uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_3x1(const float *src, int32_t srcObjStride, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_3x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_3x1_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_3x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_3x1_L(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_3x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_4x1(const float *src, int32_t srcObjStride, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_4x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_4x1_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_4x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_4x1_L(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_4x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_5x1(const float *src, int32_t srcObjStride, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_5x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_5x1_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_5x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_5x1_L(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_5x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_6x1(const float *src, int32_t srcObjStride, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_6x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_6x1_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_6x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_32f_6x1_L(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_32f_6x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
+    uint32_t count);
+
+VonkStatus vonkL2Norm_va_64f(const double *src, int32_t srcObjStride, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double *dst,
+    uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_P(const double *const *src, int32_t srcShift, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_L(const double *const *src, int32_t srcShift, double *dst, uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double *dst,
+    uint32_t len, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_3x1(const double *src, int32_t srcObjStride, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_3x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_3x1_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_3x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_3x1_L(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_3x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_4x1(const double *src, int32_t srcObjStride, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_4x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_4x1_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_4x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_4x1_L(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_4x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_5x1(const double *src, int32_t srcObjStride, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_5x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_5x1_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_5x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_5x1_L(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_5x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_6x1(const double *src, int32_t srcObjStride, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_6x1_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_6x1_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_6x1_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkL2Norm_va_64f_6x1_L(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkL2Norm_va_64f_6x1_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double *dst,
+    uint32_t count);
+
+/* ---- Cross product --------------------------------------------------------------------------------------------------
+ *
+ * dst(n)[0] = a[1] * b[2] - a[2] * b[1]
+ * dst(n)[1] = a[2] * b[0] - a[0] * b[2]
+ * dst(n)[2] = a[0] * b[1] - a[1] * b[0]
+ *
+ * with a from `src1` and b from `src2`. In `32f` products and difference round one by one; in `64f` they stay in 80
+ * bits, and the component rounds. Groups: `vv` two vectors, `vav` an array and a vector, `vva` a vector and an array,
+ * `vava` two arrays. A single vector serves all objects.
+ *
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrNullPtr if a table or list
+ * entry is null: in `P` and `PS2` all entries ahead of everything else, even at `count` 0; in `L` and `LS2` when the
+ * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - `vav` and `vva` of `32f` in `S2`, `P`, `PS2` and `LS2` form u v - w x as u v + (0 - w) x, and those of `64f`, in all
+ *   layouts, as u v + (-w) x. That shows in the sign of zeros and in rounding modes other than to nearest. They store
+ *   each component before they load what the next one needs.
+ * - vonkCrossProduct_vava_32f_3x1 takes objects four at a time, one in each lane, with the same results.
+ *
+ * Overlap:
+ * Where both vectors are loaded first (all but the forms told above) `dst` may be either source.
+ * vonkCrossProduct_vava_32f_3x1 loads four objects before it stores four.
+ *
+ * Read beyond the operands:
+ * Nothing.
+ */
+
+VonkStatus vonkCrossProduct_vv_32f_3x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkCrossProduct_vv_32f_3x1_S2(const float *src1, int32_t src1ElemStride, const float *src2,
+    int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkCrossProduct_vv_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkCrossProduct_vv_64f_3x1(const double *src1, const double *src2, double *dst);
+VonkStatus vonkCrossProduct_vv_64f_3x1_S2(const double *src1, int32_t src1ElemStride, const double *src2,
+    int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkCrossProduct_vv_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkCrossProduct_vav_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCrossProduct_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkCrossProduct_vav_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkCrossProduct_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *src2,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkCrossProduct_vav_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCrossProduct_vav_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkCrossProduct_vav_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vav_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkCrossProduct_vav_64f_3x1_L(const double *const *src1, int32_t src1Shift, const double *src2,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vav_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkCrossProduct_vva_32f_3x1(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCrossProduct_vva_32f_3x1_S2(const float *src1, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkCrossProduct_vva_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vva_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkCrossProduct_vva_32f_3x1_L(const float *src1, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vva_32f_3x1_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkCrossProduct_vva_64f_3x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCrossProduct_vva_64f_3x1_S2(const double *src1, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkCrossProduct_vva_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vva_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkCrossProduct_vva_64f_3x1_L(const double *src1, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vva_64f_3x1_LS2(const double *src1, int32_t src1ElemStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkCrossProduct_vava_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCrossProduct_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkCrossProduct_vava_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vava_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCrossProduct_vava_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vava_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkCrossProduct_vava_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCrossProduct_vava_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkCrossProduct_vava_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vava_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCrossProduct_vava_64f_3x1_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkCrossProduct_vava_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 

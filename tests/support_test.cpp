@@ -15,8 +15,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstring>
 #include <functional>
+#include <limits>
 #include <map>
 #include <set>
 #include <string>
@@ -209,6 +211,47 @@ TEST(Comparison, FindsStrayStoresInOpenCalls) {
     EXPECT_TRUE(open.passed);
     EXPECT_EQ(open.extent, Extent::statusOnly);
     EXPECT_FALSE(compareNans(call, false, true, 1).passed);
+}
+
+// One element of the destination, of which the model promises 1 within 2^-20.
+Verdict compareBounded(const Call &call, float result, long double exact, long double error) {
+    const std::uintptr_t place = call.operands.back().address(0, 0, 0);
+    support::Comparison comparison(
+        arena(),
+        [=](const Call &) {
+            std::memcpy(reinterpret_cast<void *>(place), &result, sizeof result);
+            return 0;
+        },
+        [=](const model::Call &) {
+            const auto rounded = static_cast<float>(exact);
+            std::memcpy(reinterpret_cast<void *>(place), &rounded, sizeof rounded);
+            return model::Outcome{0, {{place, 4}}, false, false, {{place, 4, exact, error}}};
+        });
+    return comparison.compare(call, call.setting);
+}
+
+TEST(Comparison, HoldsAnElementToItsBoundAndTellsItsError) {
+    const Call call = plainCall("vonkAdd_vv_32f_4x1");
+    const Verdict within = compareBounded(call, 1 + 0x1p-21F, 1, 0x1p-20L);
+    EXPECT_TRUE(within.passed) << within.complaint;
+    EXPECT_EQ(within.extent, Extent::withinBounds);
+    EXPECT_EQ(within.accuracy.elements, 1U);
+    EXPECT_EQ(within.accuracy.underTightBound, 4.0); // units of 2^-23
+    EXPECT_EQ(within.accuracy.shareOfBound, 0.5);
+    const Verdict beyond = compareBounded(call, 1 + 0x1.8p-20F, 1, 0x1p-20L);
+    EXPECT_FALSE(beyond.passed);
+    EXPECT_NE(beyond.complaint.find("with a bound of"), std::string::npos);
+    EXPECT_FALSE(compareBounded(call, std::nanf(""), 1, 0x1p-20L).passed);
+}
+
+TEST(Comparison, TakesBoundsThatAreNoNumbersForWhatTheySay) {
+    constexpr long double infinity = std::numeric_limits<long double>::infinity();
+    const Call call = plainCall("vonkAdd_vv_32f_4x1");
+    EXPECT_TRUE(compareBounded(call, std::nanf(""), 0, infinity).passed) << "anything";
+    EXPECT_EQ(compareBounded(call, 5, 0, infinity).extent, Extent::statusOnly);
+    EXPECT_TRUE(compareBounded(call, std::nanf(""), infinity, 0).passed) << "not finite";
+    EXPECT_FALSE(compareBounded(call, 3e38F, infinity, 0).passed);
+    EXPECT_FALSE(compareBounded(call, std::numeric_limits<float>::infinity(), std::nanl(""), 0).passed) << "a NaN";
 }
 
 TEST(Comparison, DoesNotTolerateANumberInTheNansPlace) {

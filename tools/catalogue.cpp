@@ -20,25 +20,29 @@ constexpr std::string_view differenceGroups = "mm mmT mTm mTmT mma mmaT mTma mTm
 // One row a family, in header order.
 constexpr std::array familyTable = std::to_array<Family>({
     // Vectors and constants
-    {"vector-constant", "Add", "vc vac", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count", ""},
-    {"vector-constant", "Sub", "vc vac cv cva", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count",
-     ""},
-    {"vector-constant", "Mul", "vc vac", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count", ""},
+    {"vector-constant", "Add", "vc vac", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count",
+     "vector::combineConstant<vector::Sum>"},
+    {"vector-constant", "Sub", "vc vac", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count",
+     "vector::combineConstant<vector::Difference>"},
+    {"vector-constant", "Sub", "cv cva", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count",
+     "vector::combineConstant<vector::ReversedDifference>"},
+    {"vector-constant", "Mul", "vc vac", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count",
+     "vector::combineConstant<vector::Product>"},
     // Vectors and vectors
     {"vector-vector", "Add", "vv vav vava", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src1 src2 dst len? count",
      "vector::combine<vector::Sum>"},
     {"vector-vector", "Sub", "vv vav vva vava", bothTypes, vectorSizes, sixLayouts, "@", 'v',
      "src1 src2 dst len? count", "vector::combine<vector::Difference>"},
     {"saxpy", "Saxpy", "vv vav vva vava", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src1 val src2 dst len? count",
-     ""},
+     "vector::saxpy"},
     {"linear-combination", "LComb", "vv vav vava", bothTypes, vectorSizes, sixLayouts, "@", 'v',
-     "src1 val1 src2 val2 dst len? count", ""},
+     "src1 val1 src2 val2 dst len? count", "vector::combineLinearly"},
     // Products and norm of vectors
     {"dot-product", "DotProduct", "vv vav vava", bothTypes, vectorSizes, sixLayouts, "@", '-',
-     "src1 src2 dst* len? count", ""},
-    {"norm", "L2Norm", "v va", bothTypes, vectorSizes, sixLayouts, "@", '-', "src dst* len? count", ""},
+     "src1 src2 dst* len? count", "vector::dotProduct"},
+    {"norm", "L2Norm", "v va", bothTypes, vectorSizes, sixLayouts, "@", '-', "src dst* len? count", "vector::norm"},
     {"cross-product", "CrossProduct", "vv vav vva vava", bothTypes, "3x1", sixLayouts, "@", 'v', "src1 src2 dst count",
-     ""},
+     "vector::crossProduct"},
     // Matrices element by element
     {"matrix-matrix", "Add", sumGroups, bothTypes, matrixSizes, sixLayouts, "@", 'm', "src1 src2 dst cols? rows? count",
      ""},

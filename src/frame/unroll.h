@@ -18,6 +18,9 @@
 
 namespace vonkk3 {
 
+// In the body of a loop of a few rounds: without it, a compiler adds more code for lanes than the loop takes time.
+inline void keepLoopPlain() { __asm__ volatile(""); }
+
 // body(i) for i from `from` to `to` - 1, as long as it returns true; whether it always did. Order says whether the
 // bounds are known when compiling.
 template <class Order, class Body>

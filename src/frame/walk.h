@@ -33,12 +33,17 @@ template <class... Operands> inline bool anyTableEntryNull(std::size_t positions
 // the objects before it are complete; `work` gets the object's number and returns a status, which ends the walk if it
 // is a failure. At `count` 0 nothing happens.
 template <class Count, class Work, class... Operands>
-VONKK3_INLINE VonkStatus forEachObject(Count count, Work work, const Operands &...operands) {
-    for (std::size_t n = 0; n < count; ++n) {
+VONKK3_INLINE VonkStatus forEachObjectFrom(std::size_t first, Count count, Work work, const Operands &...operands) {
+    for (std::size_t n = first; n < count; ++n) {
         if ((operands.listHasNull(n) || ...)) return vonkErrNullPtr;
         if (const VonkStatus status = work(n); status != vonkOk) return status;
     }
     return vonkOk;
+}
+
+template <class Count, class Work, class... Operands>
+VONKK3_INLINE VonkStatus forEachObject(Count count, Work work, const Operands &...operands) {
+    return forEachObjectFrom(0, count, work, operands...);
 }
 
 // The same for objects that take only a few instructions and cannot fail: the loop is unrolled, or its own counting

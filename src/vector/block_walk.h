@@ -1,8 +1,10 @@
-// The walk over two long Real32 vectors of adjacent elements: blocks of eight in four-lane registers, and a plain
-// forward loop for whatever blocks cannot do. Both give the same results, element for element.
+// The walks over long Real32 vectors of adjacent elements: blocks of eight in four-lane registers, and a plain forward
+// loop for whatever blocks cannot do. Vectors that are combined give the same results by either, element for element;
+// a sum over elements is grouped by lanes in blocks, and so is the order of its roundings.
 #pragma once
 
 #include "frame/lanes.h"
+#include "frame/unroll.h"
 
 namespace vonkk3::vector {
 
@@ -17,6 +19,18 @@ inline constexpr std::size_t prefetchDistance = 64; // bytes ahead of the block'
 // the place of two loads a block, cost a quarter of the speed.
 inline constexpr std::size_t prefetchThreshold = 4096;
 
+// Where the hints of a block stand: all ahead of its first half, or one ahead of each half.
+enum class Prefetch { atHead, inHalves };
+
+inline std::size_t pastBoundary(const std::byte *address) {
+    return reinterpret_cast<std::uintptr_t>(address) % laneBytes;
+}
+
+// How many elements lie ahead of the next 16-byte boundary; `address` is a multiple of 4.
+inline std::size_t elementsToBoundary(const std::byte *address) {
+    return (laneBytes - pastBoundary(address)) % laneBytes / sizeof(Real32);
+}
+
 // Whether two runs of as many bytes share any; equal addresses count as sharing.
 inline bool overlap(const std::byte *a, const std::byte *b, std::size_t bytes) {
     const auto first = reinterpret_cast<std::uintptr_t>(a);
@@ -24,50 +38,106 @@ inline bool overlap(const std::byte *a, const std::byte *b, std::size_t bytes) {
     return first < second + bytes && second < first + bytes;
 }
 
+// ---- Element by element into a destination --------------------------------------------------------------------------
+
 // The plain loop, over elements [from, to). A destination that runs ahead of a source sees elements already written.
-template <class Operation>
-inline void walkElements(const std::byte *a, const std::byte *b, std::byte *d, std::size_t from, std::size_t to,
-                         Operation operation) {
+// Only where there may be many of them is it worth the compiler's while to look for lanes in it.
+enum class Many { yes, no };
+
+template <Many many, class Operation, class... Sources>
+inline void walkElements(const Operation &operation, std::byte *d, std::size_t from, std::size_t to,
+                         Sources... sources) {
     for (std::size_t j = from; j < to; ++j) {
+        if constexpr (many == Many::no) keepLoopPlain();
         const std::size_t at = j * sizeof(Real32);
-        storeAt<Real32>(d + at, operation(loadAt<Real32>(a + at), loadAt<Real32>(b + at)));
+        storeAt<Real32>(d + at, operation(loadAt<Real32>(sources + at)...));
     }
 }
 
 // Blocks from `from` on as long as whole ones remain; returns the first element that they leave. The destination is
-// aligned to 16 bytes here, the second source only if the template says so, the first is never expected to be.
-template <bool secondAligned, class Operation>
-inline std::size_t walkWholeBlocks(const std::byte *a, const std::byte *b, std::byte *d, std::size_t from,
-                                   std::size_t length, Operation operation) {
+// aligned to 16 bytes here, the last source only if the template says so, another one is never expected to be.
+template <Alignment ofLast, class Operation, class... Others>
+inline std::size_t walkWholeBlocks(const Operation &operation, std::byte *d, std::size_t from, std::size_t length,
+                                   const std::byte *last, Others... others) {
     const std::size_t end = from + (length - from) / blockElements * blockElements;
-    const auto second = [](const std::byte *address) { return secondAligned ? load4Aligned(address) : load4(address); };
     for (std::size_t at = from * sizeof(Real32); at < end * sizeof(Real32); at += blockBytes) {
-        if (length >= prefetchThreshold) {
-            prefetchOnce(b + at + prefetchDistance);
-            prefetchOnce(a + at + prefetchDistance);
-        }
-        store4Aligned(d + at, operation(load4(a + at), second(b + at)));
-        store4Aligned(d + at + laneBytes, operation(load4(a + at + laneBytes), second(b + at + laneBytes)));
+        const std::size_t half = at + laneBytes;
+        const bool far = length >= prefetchThreshold;
+        if (far) prefetchOnce(last + at + prefetchDistance);
+        if (far && Operation::prefetch == Prefetch::atHead) (prefetchOnce(others + at + prefetchDistance), ...);
+        store4Aligned(d + at, operation(load4(others + at)..., load4<ofLast>(last + at)));
+        if (far && Operation::prefetch == Prefetch::inHalves) (prefetchOnce(others + at + prefetchDistance), ...);
+        store4Aligned(d + half, operation(load4(others + half)..., load4<ofLast>(last + half)));
     }
     return end;
 }
 
-// d(j) = operation(a(j), b(j)) for j below `length`. Blocks are for destinations that overlap neither source anywhere
-// and can be brought to a 16-byte boundary by whole elements; of the sources' alignments only the second's is looked
-// at, so there are two inner loops and not four.
-template <class Operation>
-inline void walkBlocks(const std::byte *a, const std::byte *b, std::byte *d, std::size_t length, Operation operation) {
+// d(j) = operation(others(j)..., last(j)) for j below `length`. Blocks are for destinations that overlap no source
+// anywhere and can be brought to a 16-byte boundary by whole elements; of the sources' alignments only the last one's
+// is looked at, so there are two inner loops and not four.
+template <class Operation, class... Others>
+inline void walkBlocks(const Operation &operation, std::byte *d, std::size_t length, const std::byte *last,
+                       Others... others) {
     const std::size_t bytes = length * sizeof(Real32);
-    const std::size_t pastBoundary = reinterpret_cast<std::uintptr_t>(d) % laneBytes;
-    if (length < blockThreshold || overlap(a, d, bytes) || overlap(b, d, bytes) || pastBoundary % sizeof(Real32) != 0)
-        return walkElements(a, b, d, 0, length, operation);
+    if (length < blockThreshold || overlap(last, d, bytes) || (overlap(others, d, bytes) || ...) ||
+        pastBoundary(d) % sizeof(Real32) != 0)
+        return walkElements<Many::yes>(operation, d, 0, length, others..., last);
 
-    const std::size_t peeled = pastBoundary == 0 ? 0 : (laneBytes - pastBoundary) / sizeof(Real32);
-    walkElements(a, b, d, 0, peeled, operation);
-    const std::size_t done = isAligned(b + peeled * sizeof(Real32))
-                                 ? walkWholeBlocks<true>(a, b, d, peeled, length, operation)
-                                 : walkWholeBlocks<false>(a, b, d, peeled, length, operation);
-    walkElements(a, b, d, done, length, operation);
+    const std::size_t peeled = elementsToBoundary(d);
+    walkElements<Many::no>(operation, d, 0, peeled, others..., last);
+    const std::size_t done = isAligned(last + peeled * sizeof(Real32))
+                                 ? walkWholeBlocks<Alignment::lanes>(operation, d, peeled, length, last, others...)
+                                 : walkWholeBlocks<Alignment::any>(operation, d, peeled, length, last, others...);
+    walkElements<Many::no>(operation, d, done, length, others..., last);
+}
+
+// ---- Sums over elements ---------------------------------------------------------------------------------------------
+
+// The sum of term(sources(j)...) for j below `length`, from +0. In blocks it runs in eight lanes, two registers of
+// four, so its roundings depend on the length and on the alignment of the last source, by design: that source is
+// brought to a 16-byte boundary first, and the sum up to there goes on in lane 0.
+template <class Term, class... Others>
+inline Real32 sumTerms(const Term &term, Real32 sum, std::size_t from, std::size_t to, const std::byte *last,
+                       Others... others) {
+    for (std::size_t j = from; j < to; ++j) {
+        keepLoopPlain();
+        const std::size_t at = j * sizeof(Real32);
+        sum = sum + term(loadAt<Real32>(others + at)..., loadAt<Real32>(last + at));
+    }
+    return sum;
+}
+
+template <Alignment ofOthers, class Term, class... Others>
+inline Real32 sumWholeBlocks(const Term &term, Real32 sum, std::size_t from, std::size_t end, std::size_t length,
+                             const std::byte *last, Others... others) {
+    __m128 low = _mm_set_ss(sum);
+    __m128 high = _mm_setzero_ps();
+    for (std::size_t at = from * sizeof(Real32); at < end * sizeof(Real32); at += blockBytes) {
+        const std::size_t half = at + laneBytes;
+        if (length >= prefetchThreshold) {
+            Term::hint(last + at + prefetchDistance);
+            (Term::hint(others + at + prefetchDistance), ...);
+        }
+        low = _mm_add_ps(low, term(load4<ofOthers>(others + at)..., load4Aligned(last + at)));
+        high = _mm_add_ps(high, term(load4<ofOthers>(others + half)..., load4Aligned(last + half)));
+    }
+    const __m128 lanes = _mm_add_ps(low, high);                          // 0, 1, 2, 3
+    const __m128 pairs = _mm_add_ps(lanes, _mm_movehl_ps(lanes, lanes)); // 0 + 2, 1 + 3
+    return _mm_cvtss_f32(pairs) + _mm_cvtss_f32(_mm_shuffle_ps(pairs, pairs, 1));
+}
+
+template <class Term, class... Others>
+inline Real32 sumInBlocks(const Term &term, std::size_t length, const std::byte *last, Others... others) {
+    if (length < blockThreshold || pastBoundary(last) % sizeof(Real32) != 0)
+        return sumTerms(term, 0, 0, length, last, others...);
+
+    const std::size_t ahead = elementsToBoundary(last);
+    const std::size_t end = ahead + (length - ahead) / blockElements * blockElements;
+    Real32 sum = sumTerms(term, 0, 0, ahead, last, others...);
+    sum = (isAligned(others + ahead * sizeof(Real32)) && ...)
+              ? sumWholeBlocks<Alignment::lanes>(term, sum, ahead, end, length, last, others...)
+              : sumWholeBlocks<Alignment::any>(term, sum, ahead, end, length, last, others...);
+    return sumTerms(term, sum, end, length, last, others...);
 }
 
 } // namespace vonkk3::vector

@@ -34,14 +34,27 @@ struct Execution {
     }
 };
 
+Status addOrSubtractMatrices(const Execution &execution);
 Status addOrSubtractVectors(const Execution &execution);
+Status addScaledVector(const Execution &execution);
+Status combineLinearly(const Execution &execution);
+Status combineVectorAndConstant(const Execution &execution);
+Status computeDeterminant(const Execution &execution);
+Status computeInverse(const Execution &execution);
 Status copy(const Execution &execution);
+Status crossVectors(const Execution &execution);
 Status decomposeLu(const Execution &execution);
 Status extract(const Execution &execution);
 Status loadIdentity(const Execution &execution);
 Status multiplyAndAdd(const Execution &execution);
 Status multiplyMatrices(const Execution &execution);
+Status multiplyMatrixByConstant(const Execution &execution);
 Status multiplyMatrixByVector(const Execution &execution);
+Status multiplyVectors(const Execution &execution);
 Status substituteBackLu(const Execution &execution);
+Status sumDiagonal(const Execution &execution);
+Status takeFrobeniusNorm(const Execution &execution);
+Status takeNorm(const Execution &execution);
+Status transposeMatrices(const Execution &execution);
 
 } // namespace model

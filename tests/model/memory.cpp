@@ -24,6 +24,13 @@ std::uint32_t Memory::loadIndex(std::uintptr_t address) {
     return load<std::uint32_t>(address);
 }
 
+bool Memory::holdsApproximation(std::uintptr_t address, std::size_t size) const {
+    const auto &all = outcome_.approximations;
+    return std::any_of(all.begin(), all.end(), [&](const Approximation &approximation) {
+        return overlap(approximation.address, approximation.size, address, size);
+    });
+}
+
 void Memory::note(std::uintptr_t address, std::size_t size) {
     outcome_.writes.push_back({address, size});
     writtenWords_.insert(address / 8);

@@ -30,6 +30,15 @@ public:
         note(address, sizeof value);
     }
 
+    // Stores an element that is held to accuracy; see Approximation.
+    template <class Value> void storeApproximation(std::uintptr_t address, long double exact, long double error) {
+        store(address, static_cast<Value>(exact));
+        outcome_.approximations.push_back({address, sizeof(Value), exact, error});
+    }
+
+    // Whether such an element is found in these bytes: then what is read there is known roughly at best.
+    bool holdsApproximation(std::uintptr_t address, std::size_t size) const;
+
     // Moves an element as it stands, bit by bit: a signalling NaN stays one.
     void move(std::uintptr_t to, std::uintptr_t from, std::size_t size);
 

@@ -16,6 +16,18 @@ bool isVectorSum(const Form &form) {
     return (form.operation == "Add" || form.operation == "Sub") && form.isOnVectors() && form.sources.size() == 2;
 }
 
+bool isVectorWithConstant(const Form &form) {
+    return form.isOnVectors() && form.sources.size() == 1 && form.group.find('c') != std::string::npos;
+}
+
+bool isMatrixSum(const Form &form) {
+    return (form.operation == "Add" || form.operation == "Sub") && !form.isOnVectors();
+}
+
+bool isScaledMatrix(const Form &form) {
+    return form.operation == "Mul" && form.sources.size() == 1 && form.sources[0].isMatrix;
+}
+
 // Of a matrix and another operand that is no constant.
 bool isProduct(const Form &form) {
     return form.operation == "Mul" && form.sources.size() == 2 && form.sources[0].isMatrix;
@@ -27,12 +39,25 @@ bool isMatrixByVector(const Form &form) { return isProduct(form) && !form.source
 
 const Family families[] = {
     {isVectorSum, addOrSubtractVectors},
+    {isVectorWithConstant, combineVectorAndConstant},
+    {[](const Form &form) { return form.operation == "Saxpy"; }, addScaledVector},
+    {[](const Form &form) { return form.operation == "LComb"; }, combineLinearly},
+    {[](const Form &form) { return form.operation == "DotProduct"; }, multiplyVectors},
+    {[](const Form &form) { return form.operation == "L2Norm"; }, takeNorm},
+    {[](const Form &form) { return form.operation == "CrossProduct"; }, crossVectors},
+    {isMatrixSum, addOrSubtractMatrices},
+    {isScaledMatrix, multiplyMatrixByConstant},
+    {[](const Form &form) { return form.operation == "Transpose"; }, transposeMatrices},
+    {[](const Form &form) { return form.operation == "Trace"; }, sumDiagonal},
+    {[](const Form &form) { return form.operation == "FrobNorm"; }, takeFrobeniusNorm},
     {isMatrixProduct, multiplyMatrices},
     {isMatrixByVector, multiplyMatrixByVector},
     {[](const Form &form) { return form.operation == "Gaxpy"; }, multiplyAndAdd},
     {[](const Form &form) { return form.operation == "Copy"; }, copy},
     {[](const Form &form) { return form.operation == "Extract"; }, extract},
     {[](const Form &form) { return form.operation == "LoadIdentity"; }, loadIdentity},
+    {[](const Form &form) { return form.operation == "Det"; }, computeDeterminant},
+    {[](const Form &form) { return form.operation == "Invert"; }, computeInverse},
     {[](const Form &form) { return form.operation == "LUDecomp"; }, decomposeLu},
     {[](const Form &form) { return form.operation == "LUBackSubst"; }, substituteBackLu},
 };

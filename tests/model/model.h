@@ -43,6 +43,17 @@ struct Write {
     std::size_t size;
 };
 
+// An element that is held to accuracy instead of bit for bit, as the order of the sums behind it is free: it has to lie
+// within `error` of `exact`, which comes from an arithmetic of higher precision. An infinite error fixes nothing, an
+// infinity in place of a number allows any infinity or NaN, and a NaN allows NaNs. Of several for one element the last
+// one counts.
+struct Approximation {
+    std::uintptr_t address;
+    std::size_t size;
+    long double exact;
+    long double error;
+};
+
 struct Outcome {
     std::int32_t status;
     std::vector<Write> writes; // in the order in which they were made
@@ -52,6 +63,7 @@ struct Outcome {
     // The result hangs on something that the contract leaves open, such as the order of loads and stores inside a lane
     // operation that overlaps its own destination.
     bool open;
+    std::vector<Approximation> approximations = {};
 };
 
 // Carries out the call on the memory that its words point to.

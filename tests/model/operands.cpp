@@ -1,6 +1,7 @@
 // Address arithmetic of the six layouts, written out once per kind of layout.
 #include "model/operands.h"
 
+#include <cstring>
 #include <stdexcept>
 #include <utility>
 
@@ -22,6 +23,20 @@ std::uint64_t Arguments::word(const std::string &name) const {
 std::uint64_t Arguments::bytes(const std::string &name) const {
     const auto narrow = static_cast<std::int32_t>(static_cast<std::uint32_t>(word(name)));
     return static_cast<std::uint64_t>(static_cast<std::int64_t>(narrow));
+}
+
+float Arguments::real32(const std::string &name) const {
+    const auto bits = static_cast<std::uint32_t>(word(name));
+    float value;
+    std::memcpy(&value, &bits, sizeof value);
+    return value;
+}
+
+double Arguments::real64(const std::string &name) const {
+    const std::uint64_t bits = word(name);
+    double value;
+    std::memcpy(&value, &bits, sizeof value);
+    return value;
 }
 
 bool Arguments::hasNullPointer() const {

@@ -20,6 +20,8 @@ public:
     std::uint64_t bytes(const std::string &name) const; // sign-extended, to be added with wrapping
     std::uint32_t size(const std::string &name) const { return static_cast<std::uint32_t>(word(name)); }
     std::int32_t signedSize(const std::string &name) const { return static_cast<std::int32_t>(size(name)); }
+    float real32(const std::string &name) const;
+    double real64(const std::string &name) const;
     // Of any of the pointers, plain ones included.
     bool hasNullPointer() const;
 

@@ -71,6 +71,8 @@ private:
     std::int64_t chooseDelta(int follower, int leader, bool alike);
     std::uint32_t chooseResidue();
     std::vector<Item> makeItems();
+    void borrowStrides();
+    void layResultOnSource();
     void place();
     void placeItems(std::vector<Item> &items);
     void placeSourceByDestination();
@@ -191,7 +193,9 @@ void Builder::layDestinationOn(int source, Overlap overlap) {
     const int written = operandCount() - 1;
     relate(source, written, overlap);
     for (int k = 0; k < written && overlap == Overlap::inPlace; ++k) // now and then on two sources at once
-        if (k != source && isAlike(k, source) && random.percent(15)) relate(k, written, overlap);
+        if (k != source && isAlike(k, source) &&
+            (!mixture.fixedOutcomesOnly || families::isFixedInPlace(function, described(k))) && random.percent(15))
+            relate(k, written, overlap);
 }
 
 void Builder::chooseRelations() {
@@ -203,7 +207,8 @@ void Builder::chooseRelations() {
                                 : share < mixture.inPlace + mixture.partial ? Overlap::partial
                                                                             : Overlap::none;
         const int source = chooseLeader(written);
-        if (source >= 0 && overlap != Overlap::none) layDestinationOn(source, overlap);
+        const bool rather = !families::leavesOverlapOpen(function) || random.percent(12);
+        if (source >= 0 && overlap != Overlap::none && rather) layDestinationOn(source, overlap);
     }
     // Two sources may be one.
     for (int k = 1; k < operandCount(); ++k)
@@ -213,6 +218,24 @@ void Builder::chooseRelations() {
 }
 
 // --- places
+
+// Makes room for an operand that is walked with the strides of another.
+void Builder::borrowStrides() {
+    for (int k = 0; k < operandCount(); ++k)
+        operand(k).reach.include(families::borrowedReach(function, described(k), call.operands));
+}
+
+// Where nothing keeps a plain result out of its source.
+void Builder::layResultOnSource() {
+    if (mixture.fixedOutcomesOnly || !families::mayLieInSource(function) || !random.percent(15)) return;
+    Block &result = *std::ranges::find(call.blocks, "dst", &Block::parameter);
+    const auto source = operandCount() == 1 ? 0 : static_cast<int>(random.below(call.operands.size()));
+    const std::vector<std::uintptr_t> places = operand(source).elements();
+    std::uintptr_t address = random.pick(std::span<const std::uintptr_t>(places));
+    if (random.percent(15)) address += static_cast<std::uintptr_t>(random.between(1, elementSize - 1));
+    const std::uintptr_t end = operand(source).origin + static_cast<std::uintptr_t>(operand(source).reach.high);
+    if (address + result.bytes <= end) result.address = address; // what lies behind may be a table
+}
 
 std::uint32_t Builder::chooseResidue() {
     if (allAligned || random.percent(40)) return 0;
@@ -246,6 +269,7 @@ void Builder::placeItems(std::vector<Item> &items) {
 std::vector<Item> Builder::makeItems() {
     std::vector<Item> items;
     for (const Placement &placement : call.operands) items.push_back({placement.reach, chooseResidue()});
+    if (families::mustKeepOffBoundary(function, call.operands)) items.back().residue = 4;
     for (std::size_t k = 0; k < call.operands.size(); ++k) { // a follower moves in with its leader
         const Relation &relation = relations[k];
         if (relation.leader < 0) continue;
@@ -304,6 +328,7 @@ void Builder::place() {
             call.operands[k].shift = operand(relations[k].leader).shift;
         }
     for (std::size_t k = 0; k < call.blocks.size(); ++k) call.blocks[k].address = items[2 * operands + k].origin;
+    layResultOnSource();
 }
 
 void Builder::chooseShift(Placement &placement) {
@@ -312,6 +337,7 @@ void Builder::chooseShift(Placement &placement) {
     else if (kind < 60) placement.shift = static_cast<std::int32_t>(random.between(-40, 40) * elementSize);
     else if (kind < 85) placement.shift = static_cast<std::int32_t>(random.between(-300, 300));
     else placement.shift = static_cast<std::int32_t>(random.next());
+    if (allAligned && families::looksAtAlignment(function)) placement.shift &= ~15;
 }
 
 // --- contents
@@ -470,26 +496,37 @@ bool shareMemory(const Placement &a, const Placement &b) {
            b.origin + static_cast<std::uintptr_t>(b.reach.low) < a.origin + static_cast<std::uintptr_t>(a.reach.high);
 }
 
+void noteSharedElements(Traits &traits, const std::vector<std::uintptr_t> &to, std::vector<std::uintptr_t> from,
+                        std::uintptr_t size) {
+    const bool same = to == from;
+    std::ranges::sort(from);
+    bool any = false;
+    for (const std::uintptr_t place : to)
+        for (auto at = std::ranges::lower_bound(from, place - size + 1); at != from.end() && *at < place + size; ++at) {
+            any = true;
+            traits.crossesElements |= *at != place;
+        }
+    if (any && !same) traits.overlap = Overlap::partial;
+    else if (any && traits.overlap == Overlap::none) traits.overlap = Overlap::inPlace;
+}
+
 void noteOverlap(Call &call) {
     if (call.operands.empty() || !call.function->operands.back().written) return;
     const Placement &written = call.operands.back();
-    const std::uintptr_t size = written.elementSize;
     for (std::size_t k = 0; k + 1 < call.operands.size(); ++k) {
         const Placement &source = call.operands[k];
         if (!shareMemory(written, source)) continue;
-        const std::vector<std::uintptr_t> to = written.elements();
-        std::vector<std::uintptr_t> from = source.elements();
-        const bool same = to == from;
-        std::ranges::sort(from);
-        bool any = false;
-        for (const std::uintptr_t place : to)
-            for (auto at = std::ranges::lower_bound(from, place - size + 1); at != from.end() && *at < place + size;
-                 ++at) {
-                any = true;
-                call.traits.crossesElements |= *at != place;
-            }
-        if (any && !same) call.traits.overlap = Overlap::partial;
-        else if (any && call.traits.overlap == Overlap::none) call.traits.overlap = Overlap::inPlace;
+        noteSharedElements(call.traits, written.elements(), source.elements(), written.elementSize);
+    }
+}
+
+void noteResultInSource(Call &call) {
+    if (!families::mayLieInSource(*call.function)) return;
+    const Block &result = *std::ranges::find(call.blocks, "dst", &Block::parameter);
+    for (const Placement &source : call.operands) {
+        std::vector<std::uintptr_t> to;
+        for (std::uint32_t at = 0; at < result.bytes; at += source.elementSize) to.push_back(result.address + at);
+        noteSharedElements(call.traits, to, source.elements(), source.elementSize);
     }
 }
 
@@ -502,15 +539,17 @@ Setting chooseSetting(Random &random) {
 
 Call Builder::build(const Arena &arena) {
     arena.fill(random.next());
-    allAligned = random.percent(30);
+    allAligned = random.percent(families::looksAtAlignment(function) ? 50 : 30);
     chooseSizes();
     layOutOperands();
     chooseRelations();
+    borrowStrides();
     place();
     writeValues();
     injectFaults();
     noteTraits();
     noteOverlap(call);
+    noteResultInSource(call);
     call.setting = chooseSetting(random);
     return std::move(call);
 }

@@ -5,8 +5,11 @@
 #include "values.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
+#include <iomanip>
 #include <sstream>
+#include <unordered_map>
 #include <utility>
 
 namespace support {
@@ -102,7 +105,54 @@ bool isNanInBoth(const Call &call, const model::Write *write, const Image &libra
     return isNanElement(library.data() + offset, type) && isNanElement(model.data() + offset, type);
 }
 
+// The last bound of each element.
+std::unordered_map<std::uintptr_t, model::Approximation> boundsOf(const model::Outcome &outcome) {
+    std::unordered_map<std::uintptr_t, model::Approximation> bounds;
+    for (const model::Approximation &approximation : outcome.approximations)
+        bounds.insert_or_assign(approximation.address, approximation);
+    return bounds;
+}
+
+bool isWithinBound(double result, const model::Approximation &bound) {
+    if (std::isinf(bound.error)) return true;
+    if (std::isnan(bound.exact)) return std::isnan(result);
+    if (std::isinf(bound.exact)) return !std::isfinite(result);
+    return std::abs(result - bound.exact) <= bound.error;
+}
+
+long double unitInTheLastPlace(long double value, catalogue::Type type) {
+    const bool narrow = type == catalogue::Type::real32;
+    const int exponent = value == 0 ? -20000 : std::ilogb(value);
+    return std::ldexp(1.0L, std::max(exponent, narrow ? -126 : -1022) - (narrow ? 23 : 52));
+}
+
+Accuracy measure(double result, const model::Approximation &bound, catalogue::Type type) {
+    if (std::isinf(bound.error)) return {};
+    Accuracy accuracy{1, 0, 0, 0};
+    if (!std::isfinite(bound.exact)) return accuracy;
+    const long double unit = unitInTheLastPlace(bound.exact, type);
+    const long double error = std::abs(result - bound.exact);
+    if (bound.error <= Accuracy::tightBound * unit) accuracy.underTightBound = static_cast<double>(error / unit);
+    else if (bound.error < std::abs(bound.exact)) accuracy.elsewhere = static_cast<double>(error / unit);
+    if (bound.error > 0) accuracy.shareOfBound = static_cast<double>(error / bound.error);
+    return accuracy;
+}
+
+std::string outOfBound(double result, const model::Approximation &bound) {
+    std::ostringstream text;
+    text << std::setprecision(20) << "  element at arena + 0x" << std::hex << bound.address - Arena::address
+         << ": library " << result << ", model " << bound.exact << " with a bound of " << bound.error << "\n";
+    return text.str();
+}
+
 } // namespace
+
+void Accuracy::include(const Accuracy &other) {
+    elements += other.elements;
+    underTightBound = std::max(underTightBound, other.underTightBound);
+    elsewhere = std::max(elsewhere, other.elsewhere);
+    shareOfBound = std::max(shareOfBound, other.shareOfBound);
+}
 
 std::int32_t Comparison::callLibrary(const Call &call, Setting setting, Verdict &verdict) {
     MachineState found, left;
@@ -133,20 +183,43 @@ void Comparison::compareMemory(const Call &call, const model::Outcome &outcome, 
             std::copy_n(byModel.begin() + static_cast<std::ptrdiff_t>(offset), block.bytes,
                         byLibrary.begin() + static_cast<std::ptrdiff_t>(offset));
         }
-    if (!outcome.open && std::memcmp(byLibrary.data(), byModel.data(), Arena::size) == 0) return;
+    const bool differs = std::memcmp(byLibrary.data(), byModel.data(), Arena::size) != 0;
+    if (!outcome.open && !differs && outcome.approximations.empty()) return;
 
     const WriteMap writes(outcome.writes);
     const bool nansLeak = outcome.nanSeen && (writes.anyTangled() || call.traits.crossesElements);
-    if (outcome.open || nansLeak) {
+    const bool boundsLeak = !outcome.approximations.empty() && writes.anyTangled();
+    if (outcome.open || nansLeak || boundsLeak) {
         verdict.extent = Extent::statusOnly;
         const WriteMap open = writable(call, outcome.writes);
         judge(differences(byLibrary, before), verdict, [&](std::uintptr_t byte) { return open.covers(byte); });
     } else {
-        verdict.extent = Extent::nanTolerated;
+        const Addresses accurate = accurateElements(call, outcome, verdict);
+        verdict.extent = outcome.approximations.empty()   ? Extent::nanTolerated
+                         : verdict.accuracy.elements != 0 ? Extent::withinBounds
+                                                          : Extent::statusOnly;
         judge(differences(byLibrary, byModel), verdict, [&](std::uintptr_t byte) {
-            return outcome.nanSeen && isNanInBoth(call, writes.only(byte), byLibrary, byModel);
+            const model::Write *const write = writes.only(byte);
+            if (write != nullptr && accurate.contains(write->address)) return true;
+            return outcome.nanSeen && isNanInBoth(call, write, byLibrary, byModel);
         });
     }
+}
+
+// Those that lie within their bounds.
+Addresses Comparison::accurateElements(const Call &call, const model::Outcome &outcome, Verdict &verdict) const {
+    Addresses accurate;
+    for (const auto &[address, bound] : boundsOf(outcome)) {
+        const auto *const bytes = byLibrary.data() + (address - Arena::address);
+        const double result = loadElement(reinterpret_cast<std::uintptr_t>(bytes), call.function->type);
+        if (!isWithinBound(result, bound)) {
+            verdict.complaint += outOfBound(result, bound);
+            continue;
+        }
+        accurate.insert(address);
+        verdict.accuracy.include(measure(result, bound, call.function->type));
+    }
+    return accurate;
 }
 
 void Comparison::judge(const std::vector<std::size_t> &differing, Verdict &verdict,

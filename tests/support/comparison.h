@@ -9,6 +9,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <unordered_set>
 
 namespace support {
 
@@ -19,7 +20,20 @@ using ModelRun = std::function<model::Outcome(const model::Call &)>;
 enum class Extent {
     full,         // every byte agrees
     nanTolerated, // every byte but the signs and payloads of NaNs
+    withinBounds, // the elements that are held to accuracy lie within their bounds, all else agrees
     statusOnly,   // the rest hangs on what is left open; nothing was touched that the call has no business with
+};
+
+// How far elements that are held to accuracy lie from what they should be.
+struct Accuracy {
+    static constexpr double tightBound = 64; // in units in the last place
+
+    std::uint64_t elements = 0;
+    double underTightBound = 0; // largest error in units in the last place, of elements with a bound up to this
+    double elsewhere = 0;       // and of badly conditioned ones, as long as the bound leaves them a digit
+    double shareOfBound = 0;    // largest error as a part of its bound
+
+    void include(const Accuracy &other);
 };
 
 struct Verdict {
@@ -27,8 +41,11 @@ struct Verdict {
     Extent extent = Extent::full;
     std::int32_t status = 0; // the library's
     bool worked = false;     // the model wrote something
+    Accuracy accuracy;       // of the library
     std::string complaint;   // of a failed call, line by line
 };
+
+using Addresses = std::unordered_set<std::uintptr_t>;
 
 class Comparison {
 public:
@@ -47,6 +64,7 @@ private:
     model::Outcome callModel(const Call &call, Setting setting);
     void compareMemory(const Call &call, const model::Outcome &outcome, Verdict &verdict);
     void compareStatus(const model::Outcome &outcome, Verdict &verdict) const;
+    Addresses accurateElements(const Call &call, const model::Outcome &outcome, Verdict &verdict) const;
     void judge(const std::vector<std::size_t> &differing, Verdict &verdict,
                const std::function<bool(std::uintptr_t)> &tolerated) const;
 

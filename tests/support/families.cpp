@@ -20,9 +20,6 @@ constexpr std::int32_t nullPointer = -8;
 constexpr std::int32_t singular = -10;
 constexpr std::int32_t notPositiveDefinite = -179;
 
-// Of LUDecomp, in both element types.
-constexpr double pivotTolerance = 0x1p-23;
-
 bool in(const Function &function, std::initializer_list<std::string_view> sections) {
     return std::ranges::find(sections, function.section->id) != sections.end();
 }
@@ -31,6 +28,15 @@ std::uint32_t elementSize(const Function &function) { return function.type == ca
 
 std::uint32_t orderOf(const Function &function, const Sizes &sizes) {
     return function.order != 0 ? static_cast<std::uint32_t>(function.order) : sizes.largest();
+}
+
+bool isFixedInverse(const Function &function) { return in(function, {"inverse"}) && function.order != 0; }
+
+// What a pivot is compared with, or in inverses of fixed size a determinant.
+double toleranceOf(const Function &function) {
+    const bool narrow = function.type == catalogue::Type::real32;
+    if (isFixedInverse(function)) return narrow ? static_cast<double>(1e-7F) : 1e-15;
+    return narrow || in(function, {"lu-decomposition"}) ? 0x1p-23 : 0x1p-52;
 }
 
 bool refusesZeroCount(const Function &function) {
@@ -100,10 +106,16 @@ void makeSizesNegative(Sizes &sizes, Random &random) {
     else if (kind < 10) sizes.dimensions[1].value = negative;
 }
 
+// The inverse of a single element may read anywhere.
+void avoidOrderOne(Sizes &sizes) {
+    for (Sizes::Named &dimension : sizes.dimensions) dimension.value = std::max(dimension.value, 2U);
+}
+
 } // namespace
 
 void relateDimensions(const Function &function, Sizes &sizes, Random &random) {
     if (in(function, {"identity"})) return makeSizesNegative(sizes, random);
+    if (in(function, {"inverse"})) return avoidOrderOne(sizes);
     if (!in(function, {"matrix-product", "matrix-vector"}) || sizes.dimensions.empty() || random.percent(10)) return;
     const auto [model, follower] = comparedWords(function);
     const bool square = random.percent(40);
@@ -196,6 +208,42 @@ bool addsShift(const Function &function) {
     return function.name != "vonkExtract_mT_32f_P" && function.name != "vonkExtract_mT_64f_P";
 }
 
+namespace {
+
+// The forms of an array and a single matrix that load an object ahead of the one they store.
+bool runsAhead(const Function &function) {
+    return in(function, {"matrix-matrix"}) && function.type == catalogue::Type::real32 && function.order == 3 &&
+           (function.group == "mam" || function.group == "mamT") && (function.layout.empty() || function.layout == "L");
+}
+
+} // namespace
+
+// With the single matrix transposed those walk its rows with the stride of the array's.
+Reach borrowedReach(const Function &function, const Operand &operand, std::span<const Placement> operands) {
+    if (!runsAhead(function) || !operand.transposed) return {};
+    const std::int64_t last = 2 * operands.front().rowStride;
+    return {std::min<std::int64_t>(last, 0), std::max<std::int64_t>(last, 0) + 12};
+}
+
+bool looksAtAlignment(const Function &function) {
+    return in(function, {"vector-constant", "saxpy", "linear-combination", "dot-product", "norm", "matrix-matrix",
+                         "matrix-constant", "frobenius-norm"}) &&
+           function.order != 0 && function.type == catalogue::Type::real32 &&
+           (function.layout.empty() || function.layout == "L");
+}
+
+bool mayLieInSource(const Function &function) {
+    return in(function, {"dot-product", "norm", "trace", "frobenius-norm", "determinant"});
+}
+
+// Aligned where all the others are, whatever the stride of the second source, which nobody looks at.
+bool mustKeepOffBoundary(const Function &function, std::span<const Placement> operands) {
+    const bool trusts = in(function, {"saxpy"}) && function.type == catalogue::Type::real32 &&
+                        function.group == "vava" && function.layout.empty() &&
+                        (function.order == 4 || function.order == 6);
+    return trusts && operands[1].objects > 1 && operands[1].objectStride % 16 != 0;
+}
+
 bool testsPointers(const Function &function) {
     static constexpr std::array<std::string_view, 5> untested{"vonkExtract_m_32f_P", "vonkExtract_m_64f_P",
                                                               "vonkExtract_mT_32f_P", "vonkExtract_mT_64f_P",
@@ -221,12 +269,42 @@ std::uint32_t scannedEntries(const Function &function, const Operand &operand, c
     return (function.operands[0].transposed ? rows1 : cols1) * (function.operands[1].transposed ? cols2 : rows2);
 }
 
-// The kernels of 3x3 in tables and strided lists trust the entries.
+// Of a table read at run-time size with the lengths of its rows exchanged: all that count as its entries are looked at
+// ahead of an array, those that are used along with a single matrix.
+bool testsExchangedEntry(const Operand &operand, const Sizes &sizes, std::uint32_t entry) {
+    const std::uint32_t cols = sizes["cols"];
+    const std::uint32_t rows = sizes["rows"];
+    if (operand.array) return entry < cols * rows;
+    // As many rows as a row is long, and of each so many entries, which may run into the next row.
+    const std::uint32_t length = operand.written ? cols : rows;
+    const std::uint32_t used = operand.written ? rows : cols;
+    for (std::uint32_t row = 0; row < length; ++row)
+        if (entry >= row * length && entry - row * length < used) return true;
+    return false;
+}
+
+// Arrays are scanned from the start of the table and no further than the diagonal is long; a single matrix is tested
+// along the diagonal. Off the diagonal nothing is ever read.
+bool traceMayMeetNull(const Operand &operand, std::uint32_t order, std::uint32_t entry) {
+    const bool onDiagonal = entry % (order + 1) == 0;
+    return !operand.array || entry < order || !onDiagonal;
+}
+
+bool testsListEntry(const Function &function, const Operand &operand, const Sizes &sizes, std::uint32_t entry) {
+    if (runsAhead(function)) return !operand.written || entry != 0 || sizes.count == 1;
+    const bool takesBlocks = in(function, {"frobenius-norm"}) && function.type == catalogue::Type::real32 &&
+                             function.layout == "L" && (function.order == 3 || function.order == 4);
+    return !takesBlocks || entry < sizes.count - sizes.count % 4;
+}
+
+// The kernels of 3x3 in tables and strided lists trust the entries, and so do some walks in blocks.
 bool trustsEntries(const Function &function) {
-    static constexpr std::array<std::string_view, 10> trusting{
-        "vonkMul_mam_32f_3x3_P",    "vonkMul_maTm_32f_3x3_P",   "vonkMul_mamT_32f_3x3_P",  "vonkMul_mam_32f_3x3_PS2",
-        "vonkMul_maTm_32f_3x3_PS2", "vonkMul_mamT_32f_3x3_PS2", "vonkMul_mam_32f_3x3_LS2", "vonkMul_maTm_32f_3x3_LS2",
-        "vonkMul_mamT_32f_3x3_LS2", "vonkMul_maTmT_32f_3x3_LS2"};
+    static constexpr std::array<std::string_view, 13> trusting{
+        "vonkMul_mam_32f_3x3_P",     "vonkMul_maTm_32f_3x3_P",       "vonkMul_mamT_32f_3x3_P",
+        "vonkMul_mam_32f_3x3_PS2",   "vonkMul_maTm_32f_3x3_PS2",     "vonkMul_mamT_32f_3x3_PS2",
+        "vonkMul_mam_32f_3x3_LS2",   "vonkMul_maTm_32f_3x3_LS2",     "vonkMul_mamT_32f_3x3_LS2",
+        "vonkMul_maTmT_32f_3x3_LS2", "vonkDotProduct_vav_32f_3x1_L", "vonkDotProduct_vav_32f_4x1_L",
+        "vonkL2Norm_va_32f_4x1_L"};
     return std::ranges::find(trusting, function.name) != trusting.end();
 }
 
@@ -237,6 +315,13 @@ bool testsEntry(const Function &function, const Operand &operand, const Sizes &s
     if (in(function, {"copy", "extract", "identity", "cholesky-decomposition", "cholesky-back-substitution"}))
         return false;
     if (trustsEntries(function)) return false;
+    if (isFixedInverse(function) && function.type == catalogue::Type::real32 && function.layout == "L") return false;
+    if (isList(operand.layout)) return testsListEntry(function, operand, sizes, entry);
+    if (in(function, {"trace"})) return traceMayMeetNull(operand, orderOf(function, sizes), entry);
+    if (in(function, {"transpose"}) && function.order == 0) return testsExchangedEntry(operand, sizes, entry);
+    if (in(function, {"matrix-matrix", "matrix-constant"}) && !function.array() && operand.transposed &&
+        function.order == 4 && entry == 8)
+        return false;
     if (function.group == "mTv" && function.order == 4 && operand.name == "src1" && entry == 8) return false;
     const bool scansShape = in(function, {"matrix-product", "matrix-vector", "gaxpy"}) && function.order == 0;
     if (scansShape && isTable(operand.layout)) return entry < scannedEntries(function, operand, sizes);
@@ -245,19 +330,23 @@ bool testsEntry(const Function &function, const Operand &operand, const Sizes &s
 
 // Some forms of these run ahead of the object whose entries they test.
 bool stopsAtNullEntry(const Function &function, const Operand &operand) {
+    if (isFixedInverse(function) && isList(operand.layout)) return false;
     return isTable(operand.layout) ? !in(function, {"trace"}) : !in(function, {"matrix-matrix", "matrix-product"});
 }
 
 bool isFixedInPlace(const Function &function, const Operand &source) {
     if (source.transposed) return false;
     if (in(function, {"cholesky-back-substitution"})) return source.name == "src2";
+    if (in(function, {"cross-product"})) return function.group == "vv" && function.layout.empty();
     return in(function, {"vector-constant", "vector-vector", "saxpy", "linear-combination", "matrix-matrix",
                          "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition", "copy"});
 }
 
 // Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.
 ValueMixture usualValues(const Function &function) {
-    if (in(function, {"lu-decomposition", "inverse", "qr-decomposition"}))
+    if (isFixedInverse(function))
+        return {.smallIntegers = 20, .wideExponents = 3, .ties = 5, .nearTies = 8, .specials = 10};
+    if (in(function, {"lu-decomposition", "determinant", "inverse", "qr-decomposition"}))
         return {.smallIntegers = 15, .wideExponents = 4, .ties = 5, .nearTies = 8, .specials = 15};
     return {};
 }
@@ -281,7 +370,11 @@ void fillBlock(const Function &function, std::string_view parameter, std::span<s
         fillPivots(block, orderOf(function, sizes), random);
 }
 
-bool hasTrouble(const Function &function) { return in(function, {"lu-decomposition"}); }
+bool hasTrouble(const Function &function) {
+    return in(function, {"norm", "frobenius-norm", "lu-decomposition", "determinant", "inverse"});
+}
+
+bool leavesOverlapOpen(const Function &function) { return isFixedInverse(function); }
 
 namespace {
 
@@ -309,26 +402,48 @@ void clearColumn(const MatrixObject &matrix, Random &random) {
     for (std::uint32_t i = 0; i < matrix.order(); ++i) matrix.set(i, column, 0.0);
 }
 
-double besideTolerance(catalogue::Type type, Random &random) {
+double besideTolerance(const Function &function, Random &random) {
     const double side = random.percent(50) ? 0.0 : 1.0;
-    double value = pivotTolerance;
+    double value = toleranceOf(function);
     if (random.percent(67))
-        value = type == catalogue::Type::real32
+        value = function.type == catalogue::Type::real32
                     ? static_cast<double>(std::nextafterf(static_cast<float>(value), static_cast<float>(side)))
                     : std::nextafter(value, side);
     return random.percent(50) ? -value : value;
 }
 
-// Rows of an upper triangle in any order: no step changes a pivot, and one of them lies at the tolerance.
-void placePivotAtTolerance(const MatrixObject &matrix, Random &random) {
+// Rows of an upper triangle in any order: no step changes a pivot, and one of them lies at the tolerance. So does the
+// determinant if the others are 1.
+void placePivotAtTolerance(const MatrixObject &matrix, const Function &function, Random &random) {
+    const std::int64_t largest = isFixedInverse(function) ? 1 : 3;
     std::vector<std::uint32_t> rows(matrix.order());
     std::iota(rows.begin(), rows.end(), 0);
     random.shuffle(rows);
     const auto critical = static_cast<std::uint32_t>(random.below(matrix.order()));
     for (std::uint32_t i = 0; i < matrix.order(); ++i)
         for (std::uint32_t j = 0; j < matrix.order(); ++j)
-            matrix.set(rows[i], j, j < i ? 0.0 : static_cast<double>(random.between(1, 3)));
-    matrix.set(rows[critical], critical, besideTolerance(matrix.type, random));
+            matrix.set(rows[i], j, j < i ? 0.0 : static_cast<double>(random.between(1, largest)));
+    matrix.set(rows[critical], critical, besideTolerance(function, random));
+}
+
+// A determinant far below any tolerance that is no zero.
+void shrinkRow(const MatrixObject &matrix, Random &random) {
+    const auto row = static_cast<std::uint32_t>(random.below(matrix.order()));
+    const auto exponent = static_cast<int>(random.between(-90, -20));
+    for (std::uint32_t j = 0; j < matrix.order(); ++j) matrix.set(row, j, std::ldexp(matrix.get(row, j), exponent));
+}
+
+// All zeros, or numbers whose squares lie about the ends of the element's range.
+void moveSquaresToTheEdge(const MatrixObject &matrix, Random &random) {
+    const bool narrow = matrix.type == catalogue::Type::real32;
+    const auto kind = random.below(3);
+    const int exponent = kind == 0 ? (narrow ? 63 : 511) : narrow ? -70 : -530;
+    for (std::uint32_t i = 0; i < matrix.placement.shape.rows; ++i)
+        for (std::uint32_t j = 0; j < matrix.placement.shape.cols; ++j) {
+            const auto step = static_cast<int>(random.between(-6, 1));
+            const auto size = static_cast<double>(random.between(4, 8)) / 8;
+            matrix.set(i, j, kind == 1 ? 0.0 : std::ldexp(size, exponent + step));
+        }
 }
 
 } // namespace
@@ -337,10 +452,12 @@ void makeTrouble(const Function &function, std::span<const Placement> operands, 
     const Placement &source = operands.front();
     const auto n = static_cast<std::uint32_t>(random.percent(50) ? 0 : random.below(source.objects));
     const MatrixObject matrix{source, function.type, n};
-    switch (random.below(4)) {
+    if (in(function, {"norm", "frobenius-norm"})) return moveSquaresToTheEdge(matrix, random);
+    switch (random.below(in(function, {"inverse"}) ? 5 : 4)) {
     case 0: return repeatRow(matrix, random);
     case 1: return clearColumn(matrix, random);
-    default: return placePivotAtTolerance(matrix, random);
+    case 4: return shrinkRow(matrix, random);
+    default: return placePivotAtTolerance(matrix, function, random);
     }
 }
 

@@ -45,10 +45,23 @@ bool readsThroughDestination(const catalogue::Function &function);
 // Whether the shift of a table is added to its entries.
 bool addsShift(const catalogue::Function &function);
 
+// Bytes that a call may touch beyond the elements of an operand, since it walks that with the strides of another.
+Reach borrowedReach(const catalogue::Function &function, const catalogue::Operand &operand,
+                    std::span<const Placement> operands);
+
+// Whether calls take another road where all pointers and strides are multiples of 16.
+bool looksAtAlignment(const catalogue::Function &function);
+
+// Whether calls are to lay the block `dst` over their source.
+bool mayLieInSource(const catalogue::Function &function);
+
+// Whether the destination must not lie at a multiple of 16, since a call would then take more for aligned than it is.
+bool mustKeepOffBoundary(const catalogue::Function &function, std::span<const Placement> operands);
+
 // Whether a null pointer parameter is answered by a status.
 bool testsPointers(const catalogue::Function &function);
 
-// Whether a null at this entry of the operand's table is answered by a status.
+// Whether a null at this entry of the operand's table is answered by a status, or in a trace never met.
 bool testsEntry(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes,
                 std::uint32_t entry);
 
@@ -57,6 +70,9 @@ bool stopsAtNullEntry(const catalogue::Function &function, const catalogue::Oper
 
 // Whether the result is fixed when the destination is this source, element on element.
 bool isFixedInPlace(const catalogue::Function &function, const catalogue::Operand &source);
+
+// Whether hardly anything is promised where the destination shares memory with a source: such calls are to be few.
+bool leavesOverlapOpen(const catalogue::Function &function);
 
 // How elements are chosen.
 ValueMixture usualValues(const catalogue::Function &function);

@@ -38,7 +38,9 @@ void Tally::add(const Call &call, const Verdict &verdict) {
     failed += verdict.passed ? 0 : 1;
     full += verdict.extent == Extent::full ? 1 : 0;
     nanTolerated += verdict.extent == Extent::nanTolerated ? 1 : 0;
+    withinBounds += verdict.extent == Extent::withinBounds ? 1 : 0;
     statusOnly += verdict.extent == Extent::statusOnly ? 1 : 0;
+    accuracy.include(verdict.accuracy);
     worked += verdict.status == 0 && verdict.worked ? 1 : 0;
     inPlace += call.traits.overlap == Overlap::inPlace ? 1 : 0;
     partialOverlap += call.traits.overlap == Overlap::partial ? 1 : 0;
@@ -50,7 +52,9 @@ void Tally::add(const Tally &other) {
     failed += other.failed;
     full += other.full;
     nanTolerated += other.nanTolerated;
+    withinBounds += other.withinBounds;
     statusOnly += other.statusOnly;
+    accuracy.include(other.accuracy);
     worked += other.worked;
     inPlace += other.inPlace;
     partialOverlap += other.partialOverlap;
@@ -61,8 +65,9 @@ std::vector<std::string> shortcomings(const Tally &tally, const catalogue::Funct
     std::vector<std::string> found;
     const auto percentage = [&](std::uint64_t part) { return part * 100 / tally.calls; };
     if (tally.calls >= enoughForShares) {
-        if (fallsShort(tally.full, tally.calls, leastFull))
-            found.push_back("only " + std::to_string(percentage(tally.full)) + " % of the calls were compared in full");
+        const std::uint64_t inFull = tally.full + tally.withinBounds;
+        if (fallsShort(inFull, tally.calls, leastFull))
+            found.push_back("only " + std::to_string(percentage(inFull)) + " % of the calls were compared in full");
         if (fallsShort(tally.worked, tally.calls, leastWorked))
             found.push_back("only " + std::to_string(percentage(tally.worked)) + " % of the calls did their work");
     }
@@ -78,6 +83,11 @@ std::string summary(const Tally &tally) {
          << " but for the payload of NaNs, " << tally.statusOnly << " by status alone\n"
          << tally.worked << " did their work, " << tally.inPlace << " in place, " << tally.partialOverlap
          << " with partial overlap\n";
+    if (tally.accuracy.elements != 0)
+        text << tally.withinBounds << " compared within bounds: " << tally.accuracy.elements
+             << " elements, the largest error " << tally.accuracy.underTightBound
+             << " units in the last place where the bound is at most " << Accuracy::tightBound << ", "
+             << tally.accuracy.elsewhere << " elsewhere, " << tally.accuracy.shareOfBound << " of its bound\n";
     for (const auto &[status, times] : tally.perStatus) text << times << " returned " << nameOf(status) << "\n";
     return text.str();
 }

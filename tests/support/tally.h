@@ -16,10 +16,12 @@ struct Tally {
     std::uint64_t failed = 0;
     std::uint64_t full = 0;
     std::uint64_t nanTolerated = 0;
+    std::uint64_t withinBounds = 0;
     std::uint64_t statusOnly = 0;
     std::uint64_t worked = 0; // returned vonkOk and wrote something
     std::uint64_t inPlace = 0;
     std::uint64_t partialOverlap = 0;
+    Accuracy accuracy;
     std::map<std::int32_t, std::uint64_t> perStatus;
 
     void add(const Call &call, const Verdict &verdict);

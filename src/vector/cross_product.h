@@ -1,0 +1,93 @@
+// Cross product of vectors of three elements, single ones or arrays.
+#pragma once
+
+#include "frame/walk.h"
+#include "vector/four_objects.h"
+
+namespace vonkk3::vector {
+
+// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+
+// How a component u v - w x is written, which shows in the sign of a zero, and in rounding modes other than to nearest.
+// The plain form loads both vectors before it stores; the others store each component before they load for the next.
+enum class CrossForm {
+    difference,    // u v - w x
+    zeroLessFirst, // u v + (0 - w) x
+    negatedFirst,  // u v + (-w) x
+};
+
+// A single vector against an array takes the longer forms, but for Real32 where elements are adjacent.
+template <class A, class B> constexpr CrossForm crossForm() {
+    constexpr bool sharesOne = A::isArray != B::isArray;
+    if (!sharesOne) return CrossForm::difference;
+    if (std::is_same_v<typename A::Element, Real64>) return CrossForm::negatedFirst;
+    const bool isAdjacent = A::layout == Layout::Standard || A::layout == Layout::L;
+    return isAdjacent ? CrossForm::difference : CrossForm::zeroLessFirst;
+}
+
+// vonkCrossProduct_vava_32f_3x1 alone takes objects four at a time, one in each lane.
+template <class A, class B>
+inline constexpr bool crossesFourAtATime =
+    std::is_same_v<typename A::Element, Real32> &&A::isArray &&B::isArray &&A::layout == Layout::Standard;
+
+// ---- One object -----------------------------------------------------------------------------------------------------
+
+template <class T, class A, class B, class D> VONKK3_INLINE void crossAfterLoading(const A &a, const B &b, const D &d) {
+    using W = Working<T>;
+    const W a0 = a.load(0), a1 = a.load(1), a2 = a.load(2);
+    const W b0 = b.load(0), b1 = b.load(1), b2 = b.load(2);
+    d.store(0, round<T>(a1 * b2 - a2 * b1));
+    d.store(1, round<T>(a2 * b0 - a0 * b2));
+    d.store(2, round<T>(a0 * b1 - a1 * b0));
+}
+
+template <class T, CrossForm form, class A, class B, class D>
+VONKK3_INLINE void crossByComponent(const A &a, const B &b, const D &d) {
+    using W = Working<T>;
+    for (std::size_t i = 0; i < 3; ++i) {
+        const std::size_t j = (i + 1) % 3, k = (i + 2) % 3;
+        const W u = a.load(j), v = b.load(k), w = a.load(k), x = b.load(j);
+        const W negated = form == CrossForm::zeroLessFirst ? W(0) - w : -w;
+        d.store(i, round<T>(u * v + negated * x));
+    }
+}
+
+// ---- Blocks of four objects -----------------------------------------------------------------------------------------
+
+VONKK3_INLINE FourTriples cross(const FourTriples &a, const FourTriples &b) {
+    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+}
+
+// How many objects were done.
+template <class A, class B, class D>
+inline std::size_t crossInBlocks(const A &a, const B &b, const D &d, std::size_t count) {
+    const std::size_t end = inBlocks(count);
+    const auto work = [&](const auto &p, const auto &q, const auto &r) VONKK3_INLINED {
+        for (std::size_t n = 0; n < end; n += blockObjects)
+            cross(FourTriples::load(p, n), FourTriples::load(q, n)).store(r, n);
+        return end;
+    };
+    return withKnownSpacing<3>(work, a, b, d);
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+// d(n) = a(n) x b(n); a single operand serves all objects.
+template <class A, class B, class D, class Count>
+VONKK3_INLINE VonkStatus crossProduct(const A &a, const B &b, const D &d, Count count) {
+    using T = typename D::Element;
+    constexpr CrossForm form = crossForm<A, B>();
+    if (anyNull(a, b, d)) return vonkErrNullPtr;
+    if (anyTableEntryNull(3, a, b, d)) return vonkErrNullPtr;
+
+    std::size_t done = 0;
+    if constexpr (crossesFourAtATime<A, B>) done = crossInBlocks(a, b, d, count);
+    const auto work = [&](std::size_t n) VONKK3_INLINED {
+        if constexpr (form == CrossForm::difference) crossAfterLoading<T>(a.view(n), b.view(n), d.view(n));
+        else crossByComponent<T, form>(a.view(n), b.view(n), d.view(n));
+        return vonkOk;
+    };
+    return forEachObjectFrom(done, count, work, a, b, d);
+}
+
+} // namespace vonkk3::vector

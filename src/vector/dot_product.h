@@ -1,0 +1,192 @@
+// Dot product: of two vectors, of an array and one vector, or of two arrays pairwise. Results are a dense block.
+#pragma once
+
+#include "frame/extent.h"
+#include "frame/walk.h"
+#include "vector/block_walk.h"
+#include "vector/four_objects.h"
+
+namespace vonkk3::vector {
+
+// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+
+template <class A, class B, class Length> struct DotForm {
+    using T = typename A::Element;
+    static constexpr Layout layout = A::layout;
+    static constexpr bool isReal32 = std::is_same_v<T, Real32>;
+    static constexpr bool isArray = A::isArray;
+    static constexpr bool sharesOne = A::isArray && !B::isArray;
+    static constexpr bool isFixed = Length::isFixed;
+    static constexpr std::size_t length = Length::value;
+};
+
+// Real64 sums stay wide to the store. Only those of a run-time length of two single vectors, and of arrays in L, are
+// rounded between the pairs of terms and the term that an odd length leaves over.
+template <class F>
+inline constexpr bool roundsBeforeLeftOver = !F::isReal32 && !F::isFixed && (!F::isArray || F::layout == Layout::L);
+
+// Only two single Real32 vectors of adjacent elements are built for length, and summed in lanes.
+template <class F>
+inline constexpr bool sumsInBlocks = F::isReal32 && !F::isFixed && !F::isArray && F::layout == Layout::Standard;
+
+// An array against one vector of four sums in pairs, (p0 + p1) + (p2 + p3); all others of fixed size go left to right.
+template <class F>
+inline constexpr bool sumsInPairs = F::isReal32 &&F::sharesOne &&F::length == 4 &&
+                                    (F::layout == Layout::Standard || F::layout == Layout::L);
+
+// These take objects four at a time, one in each lane, whatever their operands overlap: 3x1 and 4x1 of an array against
+// one vector, the standard layout's 3x1 only if `src1`, its object stride and `dst` are multiples of 16. The two in L
+// never test an entry.
+template <class F>
+inline constexpr bool takesFourAgainstOne = F::isReal32 &&F::sharesOne && (F::length == 3 || F::length == 4) &&
+                                            (F::layout == Layout::Standard || F::layout == Layout::L);
+template <class F> inline constexpr bool trustsEntries = takesFourAgainstOne<F> &&F::layout == Layout::L;
+
+// And 3x1 of two arrays, if both, their object strides and `dst` are multiples of 16. It reads the element behind each
+// object along, and sums (p0 + p2) + p1 in blocks, but left to right in the objects that follow.
+template <class F>
+inline constexpr bool takesAlignedTriples =
+    F::isReal32 &&F::isArray && !F::sharesOne && F::length == 3 && F::layout == Layout::Standard;
+
+// All arrays of fixed size and adjacent elements in the standard layout go in blocks where results lie apart from
+// operands: nobody can tell then.
+template <class F>
+inline constexpr bool mayTakeBlocks = F::isReal32 &&F::isArray &&F::isFixed &&F::layout == Layout::Standard;
+
+// ---- One object -----------------------------------------------------------------------------------------------------
+
+struct ProductTerm {
+    template <class Real> Real operator()(Real a, Real b) const { return a * b; }
+    __m128 operator()(__m128 a, __m128 b) const { return _mm_mul_ps(a, b); }
+    static void hint(const std::byte *address) { prefetchOnce(address); }
+};
+
+// Left to right; a fixed length begins with its first product, so that a sum of -0 alone is -0, others with +0.
+template <class F, class A, class B, class Length>
+VONKK3_INLINE Working<typename F::T> sumProducts(const A &a, const B &b, Length length) {
+    using T = typename F::T;
+    const auto product = [&](std::size_t j) VONKK3_INLINED { return Working<T>(a.load(j)) * Working<T>(b.load(j)); };
+    if constexpr (sumsInPairs<F>) return (product(0) + product(1)) + (product(2) + product(3));
+    else {
+        Working<T> sum = F::isFixed ? product(0) : Working<T>(0);
+        for (std::size_t j = F::isFixed; j < length; ++j) {
+            if (roundsBeforeLeftOver<F> && j + 1 == length && j % 2 == 0) sum = round<T>(sum);
+            sum = sum + product(j);
+        }
+        return sum;
+    }
+}
+
+// ---- Blocks of four objects -----------------------------------------------------------------------------------------
+
+// The products of a block are all there before its results are stored. In that it differs from one object after the
+// other only if results overlap operands.
+template <class F, class A, class B>
+inline bool resultsLieApart(const Real32 *dst, const A &a, const B &b, Objects count) {
+    const Extent results(dst, count * sizeof(Real32));
+    const auto isApart = [&](const auto &operand) {
+        const RowsView<const Real32> objects(operand.view(0).base, operand.objectSpacing());
+        return areApart(results, Extent(objects, count, F::length));
+    };
+    return isApart(a) && isApart(b);
+}
+
+template <class... Operands> inline bool allAligned(const Real32 *dst, const Operands &...operands) {
+    const std::uintptr_t words =
+        (reinterpret_cast<std::uintptr_t>(dst) | ... |
+         (reinterpret_cast<std::uintptr_t>(operands.view(0).base) | std::uintptr_t(operands.objectSpacing())));
+    return words % laneBytes == 0;
+}
+
+// Element j of what is multiplied: of four objects, or of the one vector in all lanes.
+template <class B> struct FourOrOne {
+    const B &b;
+    std::size_t n;
+    VONKK3_INLINE __m128 element(std::size_t j) const {
+        if constexpr (B::isArray) return gather(SourceBlock(b, n), j * sizeof(Real32));
+        else return _mm_set1_ps(b.view(0).load(j));
+    }
+    VONKK3_INLINE __m128 row(std::size_t k) const { return load4(b.view(B::isArray ? n + k : 0).base); }
+    VONKK3_INLINE FourTriples triples() const {
+        if constexpr (B::isArray) return FourTriples::load(b, n);
+        else return {element(0), element(1), element(2)};
+    }
+};
+
+// The sums of objects n to n + 3.
+template <class F, class A, class B> VONKK3_INLINE __m128 dotBlock(const A &a, const B &b, std::size_t n) {
+    const FourOrOne<A> p{a, n};
+    const FourOrOne<B> q{b, n};
+    if constexpr (F::length == 3) {
+        const FourTriples u = p.triples(), v = q.triples();
+        return (u.x * v.x + u.y * v.y) + u.z * v.z;
+    } else {
+        const auto product = [&](std::size_t k) VONKK3_INLINED { return p.row(k) * q.row(k); };
+        if constexpr (sumsInPairs<F>) return addRows(product(0), product(1), product(2), product(3));
+        const Columns products(product(0), product(1), product(2), product(3));
+        __m128 sum = ((products[0] + products[1]) + products[2]) + products[3];
+        for (std::size_t j = 4; j < F::length; ++j) sum = sum + p.element(j) * q.element(j);
+        return sum;
+    }
+}
+
+// Products in rows of xyz and the element behind, which is worked along and dropped.
+template <class A, class B> VONKK3_INLINE __m128 dotAlignedTriples(const A &a, const B &b, std::size_t n) {
+    const SourceBlock p(a, n), q(b, n);
+    const auto product = [&](std::size_t k) VONKK3_INLINED { return load4Aligned(p.at[k]) * load4Aligned(q.at[k]); };
+    const Columns products(product(0), product(1), product(2), product(3));
+    return (products[0] + products[2]) + products[1];
+}
+
+// Works whole blocks; the first object that they leave.
+template <class Sums> VONKK3_INLINE std::size_t forEachBlock(Objects count, std::byte *results, const Sums &sums) {
+    const std::size_t end = inBlocks(count);
+    for (std::size_t n = 0; n < end; n += blockObjects) store4(results + n * sizeof(Real32), sums(n));
+    return end;
+}
+
+// How many objects were done in blocks.
+template <class F, class A, class B>
+inline std::size_t dotInBlocks(const A &a, const B &b, Real32 *dst, Objects count) {
+    std::byte *results = reinterpret_cast<std::byte *>(dst);
+    if constexpr (takesAlignedTriples<F>)
+        if (allAligned(dst, a, b))
+            return forEachBlock(count, results,
+                                [&](std::size_t n) VONKK3_INLINED { return dotAlignedTriples(a, b, n); });
+    if constexpr (mayTakeBlocks<F>) {
+        const bool must = takesFourAgainstOne<F> && (F::length == 4 || allAligned(dst, a));
+        if (!must && !resultsLieApart<F>(dst, a, b, count)) return 0;
+    }
+    const auto work = [&](const auto &p, const auto &q) VONKK3_INLINED {
+        return forEachBlock(count, results, [&](std::size_t n) VONKK3_INLINED { return dotBlock<F>(p, q, n); });
+    };
+    if constexpr (B::isArray) return withKnownSpacing<F::length>(work, a, b);
+    else return withKnownSpacing<F::length>([&](const auto &p) VONKK3_INLINED { return work(p, b); }, a);
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+// dst[n] = sum over j of a(n, j) * b(n, j).
+template <class A, class B, class T, class Length, class Count>
+VONKK3_INLINE VonkStatus dotProduct(const A &a, const B &b, T *dst, Length length, Count count) {
+    using F = DotForm<A, B, Length>;
+    if (anyNull(a, b, dst)) return vonkErrNullPtr;
+    if (length.isZero()) return vonkErrSize;
+    if (anyTableEntryNull(length, a, b)) return vonkErrNullPtr;
+    if (count == 0) return vonkOk;
+
+    std::byte *results = reinterpret_cast<std::byte *>(dst);
+    std::size_t done = 0;
+    if constexpr (takesFourAgainstOne<F> || mayTakeBlocks<F>) done = dotInBlocks<F>(a, b, dst, count);
+    const auto work = [&](std::size_t n) VONKK3_INLINED {
+        Working<T> sum;
+        if constexpr (sumsInBlocks<F>) sum = sumInBlocks(ProductTerm{}, length, b.view(0).base, a.view(0).base);
+        else sum = sumProducts<F>(a.view(n), b.view(n), length);
+        storeAt<T>(results + n * sizeof(T), round<T>(sum));
+        return vonkOk;
+    };
+    if constexpr (trustsEntries<F>) return forEachObjectFrom(done, count, work);
+    else return forEachObjectFrom(done, count, work, a, b);
+}
+
+} // namespace vonkk3::vector

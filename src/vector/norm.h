@@ -1,0 +1,128 @@
+// Euclidean norm of a vector or of each vector of an array: the root of the sum of squares. Results are a dense block.
+#pragma once
+
+#include "frame/estimate.h"
+#include "frame/walk.h"
+#include "vector/block_walk.h"
+#include "vector/four_objects.h"
+
+namespace vonkk3::vector {
+
+// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+
+// Real32 of fixed size, where elements are adjacent, trades exactness for speed: squares are added as a tree, and the
+// root comes from the estimate of a reciprocal root. The norm of a zero vector is NaN there, and 0 in all other forms.
+template <class Source, class Length>
+inline constexpr bool rootsByEstimate = std::is_same_v<typename Source::Element, Real32> &&Length::isFixed &&
+                                        (Source::layout == Layout::Standard || Source::layout == Layout::L);
+
+// vonkL2Norm_va_32f_4x1_L never tests an entry.
+template <class Source, class Length>
+inline constexpr bool normTrustsEntries = rootsByEstimate<Source, Length> &&Source::isList &&Length::value == 4;
+
+// Only the run-time norm of one Real32 vector of adjacent elements is built for length. Its hint differs from that of
+// the dot product: the vector is kept in the caches.
+template <class Source, class Length>
+inline constexpr bool squaresInBlocks = std::is_same_v<typename Source::Element, Real32> && !Length::isFixed &&
+                                        !Source::isArray && Source::layout == Layout::Standard;
+
+// ---- One object, or four in lanes -----------------------------------------------------------------------------------
+
+struct SquareTerm {
+    Real32 operator()(Real32 a) const { return a * a; }
+    __m128 operator()(__m128 a) const { return _mm_mul_ps(a, a); }
+    static void hint(const std::byte *address) { prefetch(address); }
+};
+
+template <class T, class View, class Length> VONKK3_INLINE Working<T> sumSquares(const View &view, Length length) {
+    Working<T> sum = 0;
+    for (std::size_t j = 0; j < length; ++j) {
+        const Working<T> element = view.load(j);
+        sum = sum + element * element;
+    }
+    return sum;
+}
+
+inline Real32 root(Real32 s) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(s))); }
+inline Wide root(Wide s) { return __builtin_sqrtl(s); }
+
+// The sum of squares q(j) as the forms with an estimated root group it; Reals are one object's or four objects'.
+template <std::size_t length, class Square> VONKK3_INLINE auto addAsTree(const Square &q) {
+    if constexpr (length == 3) return (q(0) + q(1)) + q(2);
+    else {
+        const auto four = (q(0) + q(1)) + (q(2) + q(3));
+        if constexpr (length == 4) return four;
+        else if constexpr (length == 5) return four + q(4);
+        else return four + (q(4) + q(5));
+    }
+}
+
+template <std::size_t length, class View> VONKK3_INLINE Real32 normByEstimate(const View &view) {
+    return rootByEstimate(addAsTree<length>([&](std::size_t j) VONKK3_INLINED {
+        const Real32 element = view.load(j);
+        return element * element;
+    }));
+}
+
+// ---- Blocks of four objects -----------------------------------------------------------------------------------------
+
+// The sums of squares of objects n to n + 3.
+template <std::size_t length, class Source> VONKK3_INLINE __m128 sumFourSquares(const Source &source, std::size_t n) {
+    if constexpr (length == 3) {
+        const FourTriples v = FourTriples::load(source, n);
+        return (v.x * v.x + v.y * v.y) + v.z * v.z;
+    } else {
+        const SourceBlock block(source, n);
+        const auto square = [](__m128 a) VONKK3_INLINED { return a * a; };
+        const auto elements = [&](std::size_t j) VONKK3_INLINED { return square(gather(block, j * sizeof(Real32))); };
+        const __m128 four = addRows(square(load4(block.at[0])), square(load4(block.at[1])), square(load4(block.at[2])),
+                                    square(load4(block.at[3])));
+        if constexpr (length == 4) return four;
+        else if constexpr (length == 5) return four + elements(4);
+        else return four + (elements(4) + elements(5));
+    }
+}
+
+// Blocks from the first object on, as long as no entry of theirs is null; the first object that they leave.
+template <std::size_t length, bool testsEntries, class Source>
+inline std::size_t normInBlocks(const Source &source, std::byte *results, Objects count) {
+    const auto work = [&](const auto &vectors) VONKK3_INLINED {
+        const std::size_t end = inBlocks(count);
+        for (std::size_t n = 0; n < end; n += blockObjects) {
+            for (std::size_t k = 0; testsEntries && k < blockObjects; ++k)
+                if (source.listHasNull(n + k)) return n;
+            store4(results + n * sizeof(Real32), rootByEstimate(sumFourSquares<length>(vectors, n)));
+        }
+        return end;
+    };
+    return withKnownSpacing<length>(work, source);
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+// dst[n] = root of the sum over j of the square of source(n, j).
+template <class Source, class T, class Length, class Count>
+VONKK3_INLINE VonkStatus norm(const Source &source, T *dst, Length length, Count count) {
+    if (anyNull(source, dst)) return vonkErrNullPtr;
+    if (length.isZero()) return vonkErrSize;
+    if (anyTableEntryNull(length, source)) return vonkErrNullPtr;
+
+    constexpr bool testsEntries = !normTrustsEntries<Source, Length>;
+    std::byte *results = reinterpret_cast<std::byte *>(dst);
+    std::size_t done = 0;
+    if constexpr (rootsByEstimate<Source, Length> && Count::isArray)
+        done = normInBlocks<Length::value, testsEntries>(source, results, count);
+    const auto work = [&](std::size_t n) VONKK3_INLINED {
+        T result;
+        if constexpr (rootsByEstimate<Source, Length>) result = normByEstimate<Length::value>(source.view(n));
+        else if constexpr (squaresInBlocks<Source, Length>)
+            result = root(sumInBlocks(SquareTerm{}, length, source.view(0).base));
+        else result = round<T>(root(sumSquares<T>(source.view(n), length)));
+        storeAt<T>(results + n * sizeof(T), result);
+        return vonkOk;
+    };
+    if constexpr (testsEntries) return forEachObjectFrom(done, count, work, source);
+    else return forEachObjectFrom(done, count, work);
+}
+
+} // namespace vonkk3::vector
