@@ -80,9 +80,9 @@ private:
     VONKK3_INLINE bool pairsAreClear(std::size_t n) const {
         bool overlapped = false;
         forIndices(0, four, fixed<four>, [&](std::size_t a) VONKK3_INLINED {
-            const std::byte *target = written.view(n + a).base;
-            forIndices(a, Read::isArray ? four : a + 1, fixed<four>, [&](std::size_t b) VONKK3_INLINED {
-                if (isItself && a == b) return;
+            forIndices(0, Read::isArray ? four : 1, fixed<four>, [&](std::size_t b) VONKK3_INLINED {
+                if (Read::isArray && (isItself ? b <= a : b < a)) return; // read ahead of the writing anyway
+                const std::byte *target = written.view(n + a).base;
                 const std::byte *source = read.view(n + b).base;
                 const bool isOwn = Read::isArray && a == b && mayBeSame && source == target;
                 overlapped |= !isOwn & overlap(target, source);
