@@ -554,13 +554,13 @@ TEST(QrBackSubstitutionDisplaced, FindsTheTriangleAheadOfTheMatrixWithAMatrixFor
     const double own = 3;
     std::memcpy(matrix + 1 - 16, &found, 8);
     std::memcpy(matrix, &own, 8);
-    const std::byte *const matrices[1] = {matrix - 40};
+    const std::byte *const matrices[1] = {matrix - 16};
     const double side[1] = {20};
     const double *const sides[1] = {side};
     double work[1] = {};
     double solved[1] = {};
     double *const solutions[1] = {solved};
-    EXPECT_EQ(literal::callWith("vonkQRBackSubst_mava_64f_L", {wordOf(matrices), 40, 16, wordOf(work), wordOf(sides), 0,
+    EXPECT_EQ(literal::callWith("vonkQRBackSubst_mava_64f_L", {wordOf(matrices), 16, 16, wordOf(work), wordOf(sides), 0,
                                                                wordOf(solutions), 0, 1, 1, 1}),
               vonkOk);
     EXPECT_EQ(solved[0], 2.5);
