@@ -45,6 +45,7 @@ struct Row {
 using Rows = std::vector<Row>;
 
 void addSumRows(Rows &rows);
+void addMatrixRows(Rows &rows);
 void addLuRows(Rows &rows);
 void addProductRows(Rows &rows);
 void addCallRows(Rows &rows);

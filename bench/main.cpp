@@ -70,6 +70,7 @@ int main(int argc, char **argv) {
 
     bench::Rows rows;
     addSumRows(rows);
+    addMatrixRows(rows);
     addLuRows(rows);
     addProductRows(rows);
     addCallRows(rows);
