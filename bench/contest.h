@@ -46,6 +46,7 @@ using Rows = std::vector<Row>;
 
 void addSumRows(Rows &rows);
 void addVectorRows(Rows &rows);
+void addMatrixRows(Rows &rows);
 void addLuRows(Rows &rows);
 void addInverseRows(Rows &rows);
 void addProductRows(Rows &rows);

@@ -71,6 +71,7 @@ int main(int argc, char **argv) {
     bench::Rows rows;
     addSumRows(rows);
     addVectorRows(rows);
+    addMatrixRows(rows);
     addLuRows(rows);
     addInverseRows(rows);
     addProductRows(rows);
