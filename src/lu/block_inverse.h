@@ -125,7 +125,7 @@ public:
         multiplyBlocks(leading, A, X);
         multiplyBlocks(X, last, upper);
         multiplyBlocks(last, Y, lower);
-        multiplyBlocks(upper, Y, correction);
+        multiplyBlocks(X, lower, correction);
         for (std::size_t i = 0; i < lead; ++i)
             for (std::size_t j = 0; j < lead; ++j) leading[i][j] = leading[i][j] + correction[i][j];
         return true;
