@@ -46,6 +46,7 @@ using Rows = std::vector<Row>;
 
 void addSumRows(Rows &rows);
 void addLuRows(Rows &rows);
+void addCholeskyAndQrRows(Rows &rows);
 void addProductRows(Rows &rows);
 void addCallRows(Rows &rows);
 

@@ -71,6 +71,7 @@ int main(int argc, char **argv) {
     bench::Rows rows;
     addSumRows(rows);
     addLuRows(rows);
+    addCholeskyAndQrRows(rows);
     addProductRows(rows);
     addCallRows(rows);
 
