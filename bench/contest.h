@@ -49,6 +49,7 @@ void addVectorRows(Rows &rows);
 void addMatrixRows(Rows &rows);
 void addLuRows(Rows &rows);
 void addInverseRows(Rows &rows);
+void addCholeskyAndQrRows(Rows &rows);
 void addProductRows(Rows &rows);
 void addCallRows(Rows &rows);
 

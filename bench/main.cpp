@@ -74,6 +74,7 @@ int main(int argc, char **argv) {
     addMatrixRows(rows);
     addLuRows(rows);
     addInverseRows(rows);
+    addCholeskyAndQrRows(rows);
     addProductRows(rows);
     addCallRows(rows);
 

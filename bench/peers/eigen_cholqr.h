@@ -1,0 +1,31 @@
+// Cholesky and QR decomposition and solving with Eigen: its own decomposition object for each matrix, of fixed size. T
+// is what memory holds, W what Eigen works in.
+#pragma once
+
+#include <Eigen/Cholesky>
+#include <Eigen/Core>
+#include <Eigen/QR>
+
+#include <cstddef>
+
+namespace bench::eigen {
+
+template <class W, std::size_t order> using Square = Eigen::Matrix<W, int(order), int(order)>;
+template <class W, std::size_t order> using Cholesky = Eigen::LLT<Square<W, order>>;
+template <class W, std::size_t order> using Qr = Eigen::HouseholderQR<Square<W, order>>;
+
+// Decomposition is Cholesky or Qr.
+template <class T, class W, std::size_t order, template <class, std::size_t> class Decomposition> struct Factoring {
+    using Factors = Decomposition<W, order>;
+
+    static void decompose(const T *source, Factors *factors, std::size_t count);
+
+    // Each matrix its own right-hand side.
+    static void solve(const Factors *factors, const T *b, T *x, std::size_t count);
+
+    // One matrix for all right-hand sides: one after the other, and as the columns of one matrix.
+    static void solveForOne(const Factors &factors, const T *b, T *x, std::size_t count);
+    static void solveForOneAtOnce(const Factors &factors, const T *b, T *x, std::size_t count);
+};
+
+} // namespace bench::eigen
