@@ -47,6 +47,7 @@ using Rows = std::vector<Row>;
 void addSumRows(Rows &rows);
 void addVectorRows(Rows &rows);
 void addLuRows(Rows &rows);
+void addInverseRows(Rows &rows);
 void addProductRows(Rows &rows);
 void addCallRows(Rows &rows);
 

@@ -72,6 +72,7 @@ int main(int argc, char **argv) {
     addSumRows(rows);
     addVectorRows(rows);
     addLuRows(rows);
+    addInverseRows(rows);
     addProductRows(rows);
     addCallRows(rows);
 

@@ -45,15 +45,16 @@ constexpr std::array familyTable = std::to_array<Family>({
      "vector::crossProduct"},
     // Matrices element by element
     {"matrix-matrix", "Add", sumGroups, bothTypes, matrixSizes, sixLayouts, "@", 'm', "src1 src2 dst cols? rows? count",
-     ""},
+     "matrix::combine<matrix::Sum>"},
     {"matrix-matrix", "Sub", differenceGroups, bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src1 src2 dst cols? rows? count", ""},
+     "src1 src2 dst cols? rows? count", "matrix::combine<matrix::Difference>"},
     {"matrix-constant", "Mul", "mc mTc mac maTc", bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src val dst cols? rows? count", ""},
-    {"transpose", "Transpose", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src cols? rows? dst count", ""},
-    {"trace", "Trace", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src order? dst* count", ""},
+     "src val dst cols? rows? count", "matrix::scale"},
+    {"transpose", "Transpose", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src cols? rows? dst count",
+     "matrix::transpose"},
+    {"trace", "Trace", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src order? dst* count", "matrix::trace"},
     {"frobenius-norm", "FrobNorm", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src cols? rows? dst* count",
-     ""},
+     "matrix::frobeniusNorm"},
     // Products of matrices
     {"matrix-product", "Mul", differenceGroups, bothTypes, matrixSizes, sixLayouts, "@", 'm',
      "src1 src1Cols? src1Rows? src2 src2Cols? src2Rows? dst count", "product::multiply"},
@@ -62,33 +63,41 @@ constexpr std::array familyTable = std::to_array<Family>({
     {"gaxpy", "Gaxpy", "v va", bothTypes, matrixSizes, sixLayouts, "m@@", 'v', "src1 src2 src3 dst cols? rows? count",
      "product::gaxpy"},
     // Data movement
-    {"copy", "Copy", "va", bothTypes, runTimeSize, "SS SP SL PS PP PL LS LP LL", "@", 'v', "src dst len? count", ""},
+    {"copy", "Copy", "va", bothTypes, runTimeSize, "SS SP SL PS PP PL LS LP LL", "@", 'v', "src dst len? count",
+     "move::copy"},
     {"copy", "Copy", "ma", bothTypes, runTimeSize, "SS SP SL PS PP PL LS LP LL", "@", 'm', "src dst cols? rows? count",
-     ""},
-    {"extract", "Extract", "v", bothTypes, runTimeSize, "S2 P", "@", '-', "src dst* len? count", ""},
-    {"extract", "Extract", "va", bothTypes, runTimeSize, "S2 PS2 LS2", "@", '-', "src dst* len? count", ""},
-    {"extract", "Extract", "m", bothTypes, runTimeSize, "S2 P", "@", '-', "src dst* cols? rows? count", ""},
-    {"extract", "Extract", "mT", "32f", runTimeSize, "S2 P", "@", '-', "src dst* cols? rows? count", ""},
-    {"extract", "Extract", "mT", "64f", runTimeSize, "P", "@", '-', "src dst* cols? rows? count", ""},
-    {"extract", "Extract", "ma", bothTypes, runTimeSize, "S2 PS2 LS2", "@", '-', "src dst* cols? rows? count", ""},
-    {"extract", "Extract", "maT", bothTypes, runTimeSize, "PS2 LS2", "@", '-', "src dst* cols? rows? count", ""},
-    {"identity", "LoadIdentity", "ma", bothTypes, runTimeSize, "S P L", "", 'm', "dst cols? rows? count", ""},
+     "move::copy"},
+    {"extract", "Extract", "v", bothTypes, runTimeSize, "S2 P", "@", '-', "src dst* len? count", "move::extract"},
+    {"extract", "Extract", "va", bothTypes, runTimeSize, "S2 PS2 LS2", "@", '-', "src dst* len? count",
+     "move::extract"},
+    {"extract", "Extract", "m", bothTypes, runTimeSize, "S2 P", "@", '-', "src dst* cols? rows? count",
+     "move::extract"},
+    {"extract", "Extract", "mT", "32f", runTimeSize, "S2 P", "@", '-', "src dst* cols? rows? count", "move::extract"},
+    {"extract", "Extract", "mT", "64f", runTimeSize, "P", "@", '-', "src dst* cols? rows? count", "move::extract"},
+    {"extract", "Extract", "ma", bothTypes, runTimeSize, "S2 PS2 LS2", "@", '-', "src dst* cols? rows? count",
+     "move::extract"},
+    {"extract", "Extract", "maT", bothTypes, runTimeSize, "PS2 LS2", "@", '-', "src dst* cols? rows? count",
+     "move::extract"},
+    {"identity", "LoadIdentity", "ma", bothTypes, runTimeSize, "S P L", "", 'm', "dst cols? rows? count",
+     "move::loadIdentity"},
     // LU
     {"lu-decomposition", "LUDecomp", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm',
      "src pivots* dst order? count", "lu::decompose"},
     {"lu-back-substitution", "LUBackSubst", "mv mva mava", bothTypes, matrixSizes, sixLayouts, "@", 'v',
      "src1 pivots* src2 dst order? count", "lu::backSubstitute"},
-    {"determinant", "Det", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src order? scratch*? dst* count", ""},
-    {"inverse", "Invert", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src order? scratch*? dst count", ""},
+    {"determinant", "Det", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src order? scratch*? dst* count",
+     "lu::determinant"},
+    {"inverse", "Invert", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src order? scratch*? dst count",
+     "lu::invert"},
     // Cholesky and QR
     {"cholesky-decomposition", "CholeskyDecomp", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src dst order? count", ""},
+     "src dst order? count", "cholqr::choleskyDecompose"},
     {"cholesky-back-substitution", "CholeskyBackSubst", "mv mva mava", bothTypes, matrixSizes, sixLayouts, "@", 'v',
-     "src1 src2 dst order? count", ""},
+     "src1 src2 dst order? count", "cholqr::choleskyBackSubstitute"},
     {"qr-decomposition", "QRDecomp", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src work* dst cols? rows? count", ""},
+     "src work* dst cols? rows? count", "cholqr::qrDecompose"},
     {"qr-back-substitution", "QRBackSubst", "mv mva mava", bothTypes, matrixSizes, sixLayouts, "@", 'v',
-     "src1 work* src2 dst cols? rows? count", ""},
+     "src1 work* src2 dst cols? rows? count", "cholqr::qrBackSubstitute"},
 });
 
 std::vector<std::string_view> words(std::string_view text) {
@@ -289,6 +298,15 @@ std::string_view unit(Kind kind) {
     case Kind::count: return "objects";
     default: return "";
     }
+}
+
+// An array of strided vectors lies like the rows of one strided matrix. The second pair leaves its `T` undone.
+std::string bodyOf(const Function &function) {
+    if (function.family->operation != "Extract") return function.name;
+    const std::string type(suffix(function.type));
+    if (function.group == "va" && function.layout == "S2") return "vonkExtract_m_" + type + "_S2";
+    if (function.group == "maT" && function.layout == "PS2") return "vonkExtract_ma_" + type + "_PS2";
+    return function.name;
 }
 
 bool Function::array() const { return std::ranges::any_of(operands, &Operand::array); }

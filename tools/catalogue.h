@@ -108,6 +108,10 @@ struct Function {
     bool array() const;
 };
 
+// The function whose code this one is: its own name but for four members of vonkExtract, which lead to the address of
+// another one.
+std::string bodyOf(const Function &function);
+
 std::span<const Section> sections();
 std::span<const Family> families();
 

@@ -45,12 +45,16 @@ std::vector<std::string> arguments(const Function &function) {
         if (dimension) word.pop_back();
         const bool block = word.ends_with('*');
         if (block) word.pop_back();
+        if (dimension && block && function.order != 0) continue; // scratch memory is for run-time sizes only
 
         const auto operand = std::ranges::find(function.operands, word, &Operand::name);
+        const auto parameter = std::ranges::find(function.parameters, word, &Parameter::name);
+        const bool isSigned = parameter != function.parameters.end() && parameter->type == "int32_t";
+        const std::string size = isSigned ? "std::uint32_t(" + word + ")" : word; // the routine knows the sign
         if (operand != function.operands.end())
             list.push_back(operandExpression(function, int(operand - function.operands.begin())));
-        else if (word == "count") list.emplace_back(function.array() ? "Objects{count}" : "oneObject");
-        else if (dimension && !block) list.push_back(function.order != 0 ? extent : "RunTime{" + word + "}");
+        else if (word == "count") list.push_back(function.array() ? "Objects{" + size + "}" : "oneObject");
+        else if (dimension && !block) list.push_back(function.order != 0 ? extent : "RunTime{" + size + "}");
         else list.push_back(word); // a block or a constant goes as it is
     }
     return list;
@@ -82,7 +86,13 @@ std::string opening(const catalogue::Family &family) {
            "using enum vonkk3::Layout;\n";
 }
 
+// A function that is another one under a second name.
+std::string secondName(const Function &function, const std::string &body) {
+    return "\n" + text::prototype(function, "") + "\n__attribute__((alias(\"" + body + "\")));\n";
+}
+
 std::string stub(const Function &function) {
+    if (const std::string body = catalogue::bodyOf(function); body != function.name) return secondName(function, body);
     const std::string call = "{ return " + std::string(function.family->routine) + "(";
     return "\n" + text::definitionHead(function) + "\n" + text::joinWrapped(call, arguments(function), "); }", "    ") +
            "\n";

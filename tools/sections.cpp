@@ -169,11 +169,11 @@ Members that behave unlike their siblings:
      R"(Where both vectors are loaded first (all but the forms told above) `dst` may be either source.
 vonkCrossProduct_vava_32f_3x1 loads four objects before it stores four.)",
      R"(Nothing.)", true},
-    {"matrix-matrix", "Matrix and matrix", "element-wise sum and difference of matrices", "", "", "", false},
-    {"matrix-constant", "Matrix times constant", "each element times a constant", "", "", "", false},
-    {"transpose", "Transpose", "rows and columns exchanged", "", "", "", false},
-    {"trace", "Trace", "sum of the diagonal", "", "", "", false},
-    {"frobenius-norm", "Frobenius norm", "root of the sum of the squares of all elements", "", "", "", false},
+    {"matrix-matrix", "Matrix and matrix", "element-wise sum and difference of matrices", "", "", "", true},
+    {"matrix-constant", "Matrix times constant", "each element times a constant", "", "", "", true},
+    {"transpose", "Transpose", "rows and columns exchanged", "", "", "", true},
+    {"trace", "Trace", "sum of the diagonal", "", "", "", true},
+    {"frobenius-norm", "Frobenius norm", "root of the sum of the squares of all elements", "", "", "", true},
     {"matrix-product", "Matrix by matrix", "product of two matrices",
      R"(dst(n, i, j) = sum over k of A(i, k) B(k, j)
 
@@ -255,9 +255,73 @@ all four tables ahead of everything else, even at `count` 0; in `L` and `LS2` wh
      R"(Nothing tests overlap. `32f` of fixed size in the standard layout and `L` holds both vectors before it stores, so
 `dst` may be `src2` or `src3`; elsewhere the sum that is stored at every step destroys what lies under it.)",
      R"(Nothing.)", true},
-    {"copy", "Copy", "from any of three layouts into any of three layouts", "", "", "", false},
-    {"extract", "Extract", "gathering into one dense block", "", "", "", false},
-    {"identity", "LoadIdentity", "identity matrices", "", "", "", false},
+    {"copy", "Copy", "from any of three layouts into any of three layouts",
+     R"(dst(n, j) = src(n, j)          (`va`, of `len` elements)
+dst(n, i, j) = src(n, i, j)    (`ma`, of `rows` by `cols`)
+
+Two letters at the end of a name say where the elements come from and where they go: `S` strided (elsewhere `S2`),
+`P` strided pointer (`PS2`), `L` strided list (`LS2`). Nothing is converted. Objects, rows and elements are walked
+in ascending order, one element at a time. A `float` is moved as the word that it is; a `double` goes through the
+80-bit unit, so that a signalling NaN arrives as a quiet one.
+
+Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len` is 0. Entries of tables and lists are not
+tested. `count` 0 gives vonkOk.
+
+Members that behave unlike their siblings:
+- vonkCopy_va_32f_PP and vonkCopy_va_64f_PP never read the `src` table. Both ends of the copy are found through the
+  `dst` table: element j of object n comes from dst[j] + `srcShift` + n * `srcObjStride` and goes to dst[j] +
+  `dstShift` + n * `dstObjStride`.
+- `ma`: `cols` or `rows` 0 is no error; nothing is written and the status is vonkOk.)",
+     R"(`dst` may be `src` itself with the same strides or tables, and all is as before. Any other overlap behaves as the
+forward walk, element by element: a `dst` that runs ahead of `src` sees new elements.)",
+     R"(Nothing.)", true},
+    {"extract", "Extract", "gathering into one dense block",
+     R"(`dst` is a plain pointer and is filled in ascending order, without gaps and strides:
+
+- `v`, `va`: dst[n * `len` + j] = src(n, j)
+- `m`, `ma`: dst[(n * `rows` + i) * `cols` + j] = src(n, i, j)
+- `mT`, `maT`: dst[(n * `rows` + i) * `cols` + j] = src(n, j, i): `rows` and `cols` are those of the result
+
+A `float` is moved as the word that it is; a `double` goes through the 80-bit unit, so that a signalling NaN arrives
+as a quiet one.
+
+Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len`, `cols`, `rows` or `count` is 0. Entries of
+tables and lists are not tested.
+
+Members that behave unlike their siblings:
+- vonkExtract_maT of `PS2` does not transpose: it is vonkExtract_ma of `PS2` under a second name. (vonkExtract_va of
+  `S2` is vonkExtract_m of `S2` in the same way, which is what its words say.)
+- vonkExtract_mT of `P`: `rows` and `cols` are those of the table, dst[j * `rows` + i] is what entry i * `cols` + j
+  points to, and `srcShift` is never added.
+- vonkExtract_m and vonkExtract_mT of `P` and vonkExtract_v_64f_P test no pointer, and a size of 0 gives vonkOk
+  (`m`: if `cols` * `rows` is 0 in 32 bits). vonkExtract_v_32f_P has the usual tests.
+- There is no standard layout, no `maT` of `S2`, and no `mT` of `S2` in `64f`.)",
+     R"(Behaves as the forward walk, element by element: elements of `src` that lie under what is written already are new.)",
+     R"(Nothing.)", true},
+    {"identity", "LoadIdentity", "identity matrices",
+     R"(For each object n and each row i, in ascending order: columns 0 to `cols` - 1 of the row become 0, then column n *
+`rows` + i becomes 1. That column runs on from object to object, so only `count` 1 makes an identity: in later
+objects the ones fall beyond the columns of their row, on whatever lies there by the stride arithmetic, and zeros of
+a later row may take a one away again. In `P` the one of row i goes through table entry i * `cols` + n * `rows` + i,
+which lies beyond the table for all objects but the first.
+
+One letter at the end of a name is the layout: `S` strided (elsewhere `S2`), `P` strided pointer (`PS2`), `L`
+strided list (`LS2`). `cols` and `rows` are signed (int32_t): with `rows` below 1 nothing is written, with `cols`
+below 1 the ones are written all the same.
+
+Strides that are too small are replaced, with no error: `dstElemStride` by the size of an element, `dstRowStride` by
+`cols` times that (`S`, `L`), `dstObjStride` of `P` by the size of an element. They are compared as unsigned words,
+so negative strides stand.
+
+Status: vonkErrNullPtr if `dst` is null; vonkErrSize if `count` is 0. `cols`, `rows` and entries of tables and lists
+are not tested.
+
+Members that behave unlike their siblings:
+- vonkLoadIdentity_ma_64f_L takes 4 for the least `dstElemStride`: with a smaller one its elements overlap.)",
+     R"(There is no source. Objects and rows that overlap are written one after the other.)",
+     R"(In `P`, entries behind the table's own, `rows` * `count` - `cols` of them if there are more rows in all than
+columns; and they are written through, so leave valid ones there.)",
+     true},
     {"lu-decomposition", "LU decomposition", "Gaussian elimination with partial pivoting",
      R"(vonkLUDecomp factors each matrix of `src`, `order` by `order`, into a unit lower and an upper triangular factor by
 Gaussian elimination with partial pivoting. Rows are never moved: `pivots`, `order` row indices per object and
@@ -319,14 +383,194 @@ Members that behave unlike their siblings:
      R"(`dst` must not be `src2` unless the permutation is the identity: x(i) is written while b(p[i]) of later rows is
 still needed. Nothing tests overlap; sweeps read what memory holds by then.)",
      R"(Nothing.)", true},
-    {"determinant", "Determinant", "determinant by LU decomposition", "", "", "", false},
-    {"inverse", "Inverse", "inverse of a matrix", "", "", "", false},
-    {"cholesky-decomposition", "Cholesky decomposition", "lower factor of a positive definite matrix", "", "", "",
-     false},
-    {"cholesky-back-substitution", "Cholesky back substitution", "solving with a Cholesky factor", "", "", "", false},
-    {"qr-decomposition", "QR decomposition", "Householder reflectors and upper factor", "", "", "", false},
-    {"qr-back-substitution", "QR back substitution", "least squares with the factors of a QR decomposition", "", "", "",
-     false},
+    {"determinant", "Determinant", "determinant, by elimination or as a polynomial in the elements",
+     R"(dst[n] = det src(n)
+
+`dst` is packed in every layout: one element per object, without a stride. A singular matrix is no failure.
+
+Run-time size: Gaussian elimination with partial pivoting in `scratch`, which is `order` * `order` elements and
+behind them `order` 32-bit integers, at any address that suits an element; one `scratch` serves all objects of a
+call, and its contents are of no use afterwards. The pivot of a column is the element of largest magnitude, the
+first of equals. One below 2^-23 = 1.1920928955078125e-7 (`32f`) or 2^-52 = 2.220446049250313e-16 (`64f`), absolute
+numbers both, or a NaN, makes the determinant 0; so does a last pivot that is not ABOVE that. The product of the
+pivots grows in the result's cell, which follows every column. Method: Golub and Van Loan, Matrix Computations, "LU
+with partial pivoting", the outer-product form with row indices in place of row exchanges.
+
+Fixed size: no division, no test, no `scratch`. Minors of the last two rows come first, each level of larger minors
+is built on the one below, and row 0 comes last. A singular matrix gives 0 as far as rounding lets it. The standard
+layout and `L` work both types in 80 bits and round once, at the result; in `S2`, `P`, `PS2` and `LS2` each
+operation of `32f` is rounded to float, so that a `32f` determinant may differ in its last place between layouts.
+With a(i,j) for the elements, 3x3 is
+- `32f`, standard layout and `L`:
+  (a20 a12 - a10 a22) a01 + (a21 a10 - a20 a11) a02 + (a11 a22 - a12 a21) a00
+- `64f`, standard layout and `L`:
+  (a12 a01 - a11 a02) a20 + (a11 a22 - a12 a21) a00 + (a21 a02 - a01 a22) a10
+- all others:
+  (a11 a22 - a21 a12) a00 + (a12 a20 - a22 a10) a01 + (a10 a21 - a20 a11) a02
+and how larger sums are grouped is not promised.
+
+Status: vonkErrNullPtr if `src`, `scratch` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a table
+entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`), the
+determinants of earlier objects being in place; `count` 0 gives vonkOk.
+
+Members that behave unlike their siblings:
+- `64f` of run-time size keeps the magnitude of the best pivot so far as a float: of candidates that agree in that
+  precision, its rounding decides.
+- Arrays of run-time size go on behind a pivot that is too small: the 0 is still multiplied by the last pivot, such
+  as it is then, and may become -0, or NaN if that is infinite.
+- vonkDet_m of run-time size in `P` tests table entries one by one as it fills `scratch`.)",
+     R"(Run-time size copies a matrix to `scratch` first, so `dst` may lie in it; fixed sizes read all of it before they
+store. In arrays, `dst` must not lie in matrices that are yet to come. `scratch` must overlap nothing.)",
+     R"(Nothing.)", true},
+    {"inverse", "Inverse", "inverse of a matrix",
+     R"(dst(n) = inverse of src(n), by one of three methods, each with its own test for a singular matrix: what one of them
+finds singular, another may invert. vonkErrSingular ends the call at once: earlier objects are complete, the failing
+one and later ones untouched.
+
+Run-time size: the adjugate over the determinant. Determinant D and the minor m of every element come from
+eliminations in `scratch`, as in vonkDet and with its tolerances: 2^-23 (`32f`), 2^-52 (`64f`). A pivot below, or a
+last pivot not above, is vonkErrSingular for D and makes a minor 0. dst(q, c) = (m(c, q) (1 / D)) (+1 or -1), so the
+inverse of a diagonal matrix has -0 in places. The work grows with the fifth power of `order`. `scratch` is `order`
+* `order` elements and behind them `order` 32-bit integers, one for all objects. `order` 1 gives 1 / D, which is not
+promised. Method: Cramer's rule.
+
+3x3 and 4x4: D is the sum of row 0's elements times their cofactors, dst(q, c) = cofactor(c, q) r with r = 1 / D.
+Singular is -1e-7 < D < 1e-7 (`32f`) or -1e-15 < D < 1e-15 (`64f`), the ends and a NaN excluded.
+
+5x5 and 6x6: block inversion. Three columns (5x5: two) are brought to the front, the k-th such that the minor of the
+first k rows on the columns chosen is largest in magnitude. The leading block and its Schur complement are inverted
+as above, and each determinant is tested as above: a regular matrix whose leading block is close to singular fails.
+Columns 0 to 4 are candidates. Method: Golub and Van Loan, Matrix Computations, "block elimination"; Press et al.,
+Numerical Recipes, "inversion by partitioning".
+
+Status: vonkErrNullPtr if `src`, `scratch` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if an entry
+of the `src` or `dst` table is null, even at `count` 0 (`P`, `PS2`), or, at run-time size, a list entry when the
+object's turn comes (`L`, `LS2`); `count` 0 gives vonkOk; vonkErrSingular as told.
+
+Members that behave unlike their siblings:
+- `32f` of fixed size in the standard layout and `L` makes r from the processor's estimate, x, and one Newton step:
+  x + x - (D x) x in 3x3, x + x - D (x x) in the others.
+- Of these, 3x3 and 4x4 find only a D of exactly 0 singular: one of 1e-30 gives huge numbers.
+- Of these, 5x5 and 6x6 work through `dst`: a failure of the second block leaves it partly written. In 6x6, column 5
+  is a candidate as well: where row 0 is zero but for column 5, all other 6x6 forms find a regular matrix singular.
+- Lists of fixed size: in `32f` `L` no entry is ever tested; in `64f` `L` and in `LS2` all of them are, ahead of the
+  first object.
+- vonkInvert_m of run-time size in `P` tests table entries one by one as it fills `scratch`.
+- 4x4 to 6x6, and r of the forms that estimate it, are right to rounding, but not promised bit for bit.)",
+     R"(Run-time size reads `src` to the end: `dst` must not overlap it. Fixed sizes read a matrix whole before they store,
+except that 5x5 and 6x6 of `32f` in the standard layout and `L` leave the matrix changed where they fail in place.
+In arrays, no object may lie under the result of an earlier one. `scratch` must overlap nothing.)",
+     R"(Nothing.)", true},
+    {"cholesky-decomposition", "Cholesky decomposition", "lower factor of a positive definite matrix",
+     R"(vonkCholeskyDecomp factors each symmetric positive definite matrix A of `src`, `order` by `order`, into L L', L
+lower triangular with a positive diagonal. `dst` gets L below the diagonal and on it the RECIPROCALS 1 / L(i, i), so
+that vonkCholeskyBackSubst need not divide. Only lower triangles are read and written, with their diagonals:
+elements above them, and the pointers of such positions, may be anything, and in `dst` they stay.
+
+Row by row: F(i, j) = (A(i, j) - the sum of F(i, k) F(j, k) over k < j) F(j, j) for j < i, then s = A(i, i) - the
+sum of F(i, k)^2 over k < i and F(i, i) = 1 / root of s; products are taken off one by one, k ascending. Unless s >
+0 the call ends with vonkErrNotPosDef. There is no tolerance. Method: Golub and Van Loan, Matrix Computations,
+"Cholesky factorization", row by row.
+
+Rounding: `32f` rounds every operation, but takes root and reciprocal in the 80-bit type and rounds them once; in
+`P` and `PS2` both are `32f` operations. `64f` in the 80-bit type, at the calling thread's precision: orders 3 to 6,
+also as `order`, keep all of F unrounded and round what they store, but for `P` and `PS2`; these and all other
+orders read F back from `dst`, and round a difference behind its pairs of products, not behind an odd last one.
+
+Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `order` is 0, or `count` is; vonkErrNotPosDef if a
+matrix is not positive definite, with a NaN in its pivot or not: rows before the failing one and, of that, the
+elements below the diagonal are stored by then, objects before it are complete, and those after it untouched.
+Entries of tables and lists are not tested; but in `L` and `LS2` an entry that is null WITH its shift gives
+vonkErrNullPtr when its turn comes.
+
+Members that behave unlike their siblings:
+- Arrays: `count` 0 is vonkErrSize. With its top bit set nothing is done and vonkOk returned, but in `P` and `PS2`,
+  where it is a very large number.
+- Orders 3 to 6, also as `order`, in `S2` and `LS2`: element strides count in whole elements; bits below are
+  dropped.
+- `64f`, order 3 and 4, but for `P` and `PS2`: a NaN passes as the very first pivot. F(0, 0) and F(1, 0) are stored,
+  and the call fails at the second.)",
+     R"(`dst` may be `src` itself, with the same strides or tables. No other overlap is supported.)", R"(Nothing.)",
+     true},
+    {"cholesky-back-substitution", "Cholesky back substitution", "solving with a Cholesky factor",
+     R"(vonkCholeskyBackSubst solves A x = b with what vonkCholeskyDecomp left: `src1` the factor F with the reciprocals on
+its diagonal, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system;
+`mva` one factor for `count` right-hand sides; `mava` a factor per object. Nothing above the diagonal of `src1` is
+read.
+
+Forward: x(i) = (b(i) - the sum of F(i, k) x(k) over k < i) F(i, i). Backward, from the last row up: x(i) = (x(i) -
+the sum of F(k, i) x(k) over k > i) F(i, i). Products are taken off one by one, forward with k ascending, backward
+with k DESCENDING; x is its own scratch space. `32f` rounds every operation; `64f` is worked in the 80-bit type and
+rounded where it is stored. Nothing divides. Method: Golub and Van Loan, Matrix Computations, "Triangular systems".
+
+Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `order` is 0, or `count` is; else vonkOk.
+Neither the numbers nor entries of tables and lists are tested; but in `L` and `LS2` an object one of whose entries
+is null WITH its shift is passed over, without a word, and the next is worked.
+
+Members that behave unlike their siblings:
+- Arrays: `count` 0 is vonkErrSize; with its top bit set nothing is done and vonkOk returned. In `S2` and `LS2` the
+  same goes for the top bit of `order`.
+- `mva` has no word behind `src1` that its matrix does not need, as the other two families of solvers have.)",
+     R"(`dst` may be `src2` itself. Nothing tests overlap; both ways read what memory holds by then.)", R"(Nothing.)",
+     true},
+    {"qr-decomposition", "QR decomposition", "Householder reflectors and upper factor",
+     R"(vonkQRDecomp factors each matrix of `src`, `rows` by `cols` with `rows` >= `cols`, into an orthogonal Q and an upper
+triangular R by Householder reflections, column by column. `dst` gets R on and above the diagonal and below it, in
+column k, reflector k: elements k + 1 and on of the vector v whose element k is 1. The reflection is I + beta v v'
+with beta = -2 / (v'v), which vonkQRBackSubst reckons anew. There is a reflection for each column, but none for the
+last column of a square matrix. `work` is a block of `rows` elements in every layout, used for every object anew;
+what it holds before does not matter, and on return it holds the last reflector.
+
+For column k: s = the sum of d(i, k)^2 over i >= k. If s is below 2^-23 = 1.1920928955078125e-7 or a NaN, the call
+ends with vonkErrSingular: an absolute bound on the SQUARED norm, the same for both types, so columns with elements
+of about 1e-4 fail; scale such data. Then alpha = d(k, k) + t, where t is the root of s with the sign of d(k, k),
+minus for 0; v(i) = d(i, k) (1 / alpha); and for each column c >= k: p = (d(k, c) + the sum of d(i, c) v(i)) beta,
+d(i, c) = v(i) p + d(i, c). All sums ascend. The diagonal of R has the sign opposite to t. Method: Golub and Van
+Loan, Matrix Computations, "Householder QR".
+
+Rounding: `32f` rounds every operation; the root is taken in the 80-bit type and rounded. `64f` in the 80-bit type:
+s and v'v are rounded behind their pairs of terms and again behind an odd last one; v, beta and the elements of
+`dst` are rounded, but v'v is the sum over unrounded v; nothing else is rounded.
+
+Status: vonkErrNullPtr if `src`, `work` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a
+table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`);
+`count` 0 gives vonkOk. vonkErrSingular leaves the objects before the failing one complete, that one with the
+reflections before the failing column, and those after it untouched. A matrix with more columns than rows always
+fails so: after its last row there is nothing left.)",
+     R"(`dst` may be `src` itself, with the same strides or tables. `work` must overlap neither.)", R"(Nothing.)",
+     true},
+    {"qr-back-substitution", "QR back substitution", "least squares with the factors of a QR decomposition",
+     R"(vonkQRBackSubst solves A x = b with what vonkQRDecomp left in `src1`, `rows` by `cols`: exactly if A is square, else
+x minimises the residual. `src2` is b, of `rows` elements, `dst` is x, of `cols`. `work` is a block of `rows`
+elements in every layout, used for every object anew; on return it holds Q'b of the last object, whose elements from
+`cols` on are the residual's. Groups: `mv` one system; `mva` one decomposition for `count` right-hand sides; `mava`
+one per object.
+
+b is copied to `work`. For each reflector v in turn: p = (work(k) + the sum of work(i) v(i)) beta, beta = -2 /
+(v'v), work(i) = v(i) p + work(i). Then from the last row up: x(i) = (work(i) - s) / R(i, i), s the sum of R(i, j)
+x(j) over j > i, grown from 0 with j ascending. `32f` rounds every operation; `64f` is worked in the 80-bit type and
+rounded where `work` and `dst` are stored. Method: Golub and Van Loan, Matrix Computations, "Householder QR" and
+"Full rank least squares".
+
+Status: vonkErrNullPtr if `src1`, `work`, `src2` or `dst` is null; vonkErrSize if `cols` or `rows` is 0;
+vonkErrNullPtr if a table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn
+comes (`L`, `LS2`); `count` 0 gives vonkOk. Of the table of `src2` the first `cols` entries are tested, though
+`rows` are used. The numbers are not tested: a zero on the diagonal divides through to an infinity or a NaN with
+vonkOk.
+
+Members that behave unlike their siblings:
+- `mva` in the standard layout, `S2`, `L` and `LS2` has a word behind `src1` (`src1ObjStride` or `src1Shift`) that
+  is accepted and never read, so that `mva` and `mava` have one parameter list. In `L` and `LS2` `src1` is a plain
+  pointer.
+- `mva` of `64f` in `L`, of every size, steps through the columns of `src1` by 4 bytes: element (i, j) is the double
+  at i * `src1RowStride` + j * 4.
+- `mava` of `64f` in `L`, of every size, reads the reflectors where they are, but R(i, j) at 8 * j + i + 1 -
+  `src1RowStride` bytes behind the object. Neither form solves the system, unless `cols` is 1 (`mva`) or the data
+  lie so. `LS2` and all other forms follow their strides.
+- vonkQRBackSubst_mv_32f copies b in blocks of eight from 11 rows on, where `work` does not overlap it.)",
+     R"(`dst` may be `src2`, which is read before. `work` must not overlap `src1` or `dst`; the copy from `src2` runs
+forward, element by element.)",
+     R"(`mava` of `64f` in `L`: what lies at the places told above, up to a row ahead of the object.)", true},
 });
 } // namespace
 

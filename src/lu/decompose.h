@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/walk.h"
+#include "lu/arithmetic.h"
 #include "lu/rows.h"
 
 namespace vonkk3::lu {
@@ -38,15 +39,8 @@ inline std::size_t testedLastColumn(std::size_t order, std::size_t n) { return o
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
-inline Real32 magnitude(Real32 value) { return __builtin_fabsf(value); }
-inline Wide magnitude(Wide value) { return __builtin_fabsl(value); }
-
 // A NaN does not pass.
 template <class W> inline bool passesAsPivot(W value) { return magnitude(value) >= W(pivotTolerance); }
-
-// A zero Real32 multiplier is negated to +0 by taking it from zero, a zero Real64 one to the other zero.
-inline Real32 negated(Real32 multiplier) { return 0.0F - multiplier; }
-inline Wide negated(Wide multiplier) { return -multiplier; }
 
 // The position from k on of the row whose element in column k is largest in magnitude; the first of equals. Candidates
 // are selected without branches: which one wins is as good as random.

@@ -106,7 +106,8 @@ inline bool trustsPointers(const catalogue::Function &function) {
 // Without objects most functions have nothing to do.
 inline std::int32_t statusOfNoObjects(const catalogue::Function &function) {
     const std::string_view operation = function.family->operation;
-    return operation == "Extract" || operation == "LoadIdentity" ? vonkErrSize : vonkOk;
+    const bool counts = operation == "Extract" || operation == "LoadIdentity" || operation.starts_with("Cholesky");
+    return counts ? vonkErrSize : vonkOk;
 }
 
 inline void blankEntries(Call &call, std::string_view operand) {

@@ -1,0 +1,84 @@
+// Inverses. Of run-time order by minors in the caller's scratch memory; 3x3 and 4x4 by the adjugate; 5x5 and 6x6 by
+// blocks. Each method has its own test for a singular matrix, so that one may find a matrix singular that another
+// inverts.
+#pragma once
+
+#include "frame/walk.h"
+#include "lu/block_inverse.h"
+#include "lu/closed_inverse.h"
+#include "lu/invert_by_minors.h"
+#include "lu/lane_inverse.h"
+
+namespace vonkk3::lu {
+
+// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+
+// Real32 of fixed order in the standard and list layouts is built for speed: reciprocals are estimated; 3x3 and 4x4 are
+// singular only if their determinant is exactly zero; 5x5 and 6x6 pass through the destination, so that a failure at
+// the second block leaves it partly written, and take all columns for candidates. All other forms divide, test an
+// interval around zero, choose among five columns, and leave the destination of a singular matrix as it was.
+template <class Source>
+inline constexpr bool isBuiltForSpeed = std::is_same_v<typename Source::Element, Real32> &&
+                                        (Source::layout == Layout::Standard || Source::layout == Layout::L);
+
+// When the entries of lists are tested in arrays of fixed order: in Real32 `L` never, in the other two all of them
+// ahead of the first object. At run-time order it is each object's when its turn comes.
+template <class Source> inline constexpr bool scansListsFirst = Source::isList && !isBuiltForSpeed<Source>;
+
+// ---- One object -----------------------------------------------------------------------------------------------------
+
+template <class Source, class SourceView, class View, std::size_t order>
+VONKK3_INLINE bool invertObject(const SourceView &source, const View &inverse, Fixed<order>) {
+    if constexpr (isBuiltForSpeed<Source> && order == 3) return invertThreeInLanes(source, inverse);
+    else if constexpr (isBuiltForSpeed<Source> && order == 4) return invertFourInLanes(source, inverse);
+    else if constexpr (isBuiltForSpeed<Source>) return invertByBlocksThroughDestination<order>(source, inverse);
+    else {
+        using T = typename Source::Element;
+        const SmallMatrix<T, order> matrix(source);
+        SmallMatrix<T, order> result;
+        if constexpr (order <= 4) {
+            if (!invertClosed(matrix, result)) return false;
+        } else if (!invertByBlocks(matrix, result)) return false;
+        result.store(inverse);
+        return true;
+    }
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+template <class Source, class Destination>
+inline bool anyListEntryNull(std::size_t objects, const Source &src, const Destination &dst) {
+    for (std::size_t n = 0; n < objects; ++n)
+        if (src.listHasNull(n) || dst.listHasNull(n)) return true;
+    return false;
+}
+
+// The first singular object ends the call.
+template <class Source, class Destination, std::size_t order, class Count>
+VONKK3_INLINE VonkStatus invert(const Source &src, Fixed<order> size, const Destination &dst, Count count) {
+    if (anyNull(src, dst)) return vonkErrNullPtr;
+    if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
+    if (scansListsFirst<Source> && anyListEntryNull(count, src, dst)) return vonkErrNullPtr;
+    return forEachObject(count, [&](std::size_t n) VONKK3_INLINED {
+        return invertObject<Source>(src.view(n, order), dst.view(n, order), size) ? vonkOk : vonkErrSingular;
+    });
+}
+
+template <class Source, class Destination, class Count>
+VONKK3_INLINE VonkStatus invert(const Source &src, RunTime order, void *scratch, const Destination &dst, Count count) {
+    if (anyNull(src, scratch, dst)) return vonkErrNullPtr;
+    if (order.isZero()) return vonkErrSize;
+    if (scansTablesFirst<Count> && anyTableEntryNull(std::size_t(order) * order, src, dst)) return vonkErrNullPtr;
+    const ScratchMatrix<typename Source::Element> matrix(scratch, order);
+    return forEachObject(
+        count,
+        [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
+            const auto source = src.view(n, order);
+            const auto inverse = dst.view(n, order);
+            if (!copyToScratch<!scansTablesFirst<Count>>(matrix, order, source, inverse)) return vonkErrNullPtr;
+            return invertByMinors(matrix, order, source, inverse);
+        },
+        src, dst);
+}
+
+} // namespace vonkk3::lu
