@@ -19,10 +19,12 @@ std::vector<double> wellConditioned(std::uint32_t order, std::uint32_t variant) 
     return matrix;
 }
 
-std::vector<double> hilbert(std::uint32_t order, std::uint32_t variant) {
-    std::vector<double> matrix;
-    for (std::uint32_t i = 0; i < order; ++i)
-        for (std::uint32_t j = 0; j < order; ++j) matrix.push_back(1.0F / static_cast<float>(i + j + 1 + variant));
+std::vector<double> badlyConditioned(std::uint32_t order, std::uint32_t variant) {
+    std::vector<double> matrix = wellConditioned(order, variant);
+    for (std::uint32_t j = 0; j < order; ++j) {
+        double &last = matrix[(order - 1) * order + j];
+        last = matrix[(order - 2) * order + j] + last / 1024;
+    }
     return matrix;
 }
 

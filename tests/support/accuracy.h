@@ -19,8 +19,8 @@ using MatrixOf = std::function<std::vector<double>(std::uint32_t order, std::uin
 // Numbers from -1 to 1, and 4 more on the diagonal.
 std::vector<double> wellConditioned(std::uint32_t order, std::uint32_t variant);
 
-// 1 / (i + j + 1 + variant), in Real32.
-std::vector<double> hilbert(std::uint32_t order, std::uint32_t variant);
+// The same, but the last row is nearly the one before.
+std::vector<double> badlyConditioned(std::uint32_t order, std::uint32_t variant);
 
 struct Measured {
     support::Accuracy accuracy;

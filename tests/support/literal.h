@@ -66,7 +66,7 @@ struct Place {
     void moveTo(std::byte *newOrigin); // keeps the strides
 };
 
-// A dense block outside the layouts, other than pivots: results without a layout, and work space.
+// A dense block outside the layouts, other than pivots and work: results without a layout, and scratch memory.
 struct Block {
     std::string parameter;
     std::size_t bytes = 0;
@@ -160,7 +160,7 @@ private:
     std::uint32_t *pivotsWord_;
     std::map<std::string, std::uint64_t> constants_;          // by their bits
     std::map<std::string, std::vector<std::byte *>> fronted_; // tables with the entry in front
-    std::vector<std::byte> work_; // with margins
+    std::vector<std::byte> work_;                             // with margins
     std::byte *workWord_;
     std::map<std::string, std::uint64_t> passed_;
     std::vector<std::uint64_t> words_; // of the run
