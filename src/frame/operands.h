@@ -66,10 +66,10 @@ public:
     }
     std::ptrdiff_t objectSpacing() const { return objectStride; }
 
-    // The operand with the row stride of another one.
-    template <class Other> Operand walkedAs(const Other &other) const {
+    // The operand with another row stride.
+    Operand walkedBy(std::ptrdiff_t otherStride) const {
         Operand copy = *this;
-        copy.rowStride = other.rowSpacing();
+        copy.rowStride = otherStride;
         return copy;
     }
     std::ptrdiff_t rowSpacing() const { return rowStride; }
