@@ -42,7 +42,7 @@ private:
 
 // Begins with the first element, so that a sum of nothing but -0 stays -0.
 void Trace::inLanes(std::uint64_t n) {
-    float sum = memory_.load<float>(src_.element(n, 0, 0));
+    auto sum = memory_.load<float>(src_.element(n, 0, 0));
     for (std::uint64_t i = 1; i < order_; ++i) sum = arithmetic_.add(sum, memory_.load<float>(src_.element(n, i, i)));
     memory_.store(result(n), sum);
 }

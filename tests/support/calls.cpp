@@ -60,6 +60,7 @@ private:
 
     void chooseSizes();
     std::uint32_t chooseDimension();
+    bool keepsAligned();
     Style chooseStyle(const Operand &operand);
     bool isAlike(int a, int b);
     int chooseLeader(int written);
@@ -120,9 +121,12 @@ void Builder::chooseSizes() {
 
 // --- strides and relations
 
+// Where alignment opens another route, one pointer or the strides of one operand may be all that closes it.
+bool Builder::keepsAligned() { return allAligned && !(families::looksAtAlignment(function) && random.percent(6)); }
+
 Style Builder::chooseStyle(const Operand &operand) {
     Style style;
-    style.aligned = allAligned;
+    style.aligned = keepsAligned();
     style.onGrid = operand.written && mixture.fixedOutcomesOnly;
     // Equal rows are singular, and a destination on itself is open: both are to stay rare.
     const unsigned share = operand.written ? 15 : families::hasTrouble(function) ? 20 : 60;
@@ -235,7 +239,7 @@ void Builder::layResultOnSource() {
 }
 
 std::uint32_t Builder::chooseResidue() {
-    if (allAligned || random.percent(40)) return 0;
+    if (keepsAligned() || random.percent(40)) return 0;
     const bool onGrid = random.percent(65);
     return static_cast<std::uint32_t>(onGrid ? random.below(16 / static_cast<std::uint64_t>(elementSize)) *
                                                    static_cast<std::uint64_t>(elementSize)
@@ -511,7 +515,7 @@ Setting chooseSetting(Random &random) {
 
 Call Builder::build(const Arena &arena) {
     arena.fill(random.next());
-    allAligned = random.percent(families::looksAtAlignment(function) ? 50 : 30);
+    allAligned = random.percent(families::looksAtAlignment(function) ? 60 : 30);
     chooseSizes();
     layOutOperands();
     chooseRelations();

@@ -126,6 +126,7 @@ std::byte *Place::address(std::uint32_t n, std::uint32_t i, std::uint32_t j) con
 
 void Place::moveTo(std::byte *newOrigin) {
     for (std::byte *&entry : entries) entry += newOrigin - origin;
+    if (before != nullptr) before += newOrigin - origin;
     origin = newOrigin;
 }
 
@@ -174,6 +175,7 @@ void Call::layOut(Geometry geometry) {
             const std::ptrdiff_t step = isList(place) ? place.objectStride : place.positionStride;
             place.entries.push_back(place.origin + step * std::ptrdiff_t{entry} - place.shift);
         }
+        place.before = place.entries.front();
         // The displaced look at the last pivot goes beyond the positions, to a cell of its own for each object.
         if (!isList(place) && writesPivots() && place.operand->written)
             for (std::uint32_t n = 1; n < count_; ++n)
@@ -237,6 +239,12 @@ std::vector<double> Call::get(std::string_view operand, std::uint32_t n) {
     return values;
 }
 
+void Call::setConstant(std::string_view parameter, double value) {
+    std::byte bits[sizeof(std::uint64_t)] = {};
+    setAt(bits, value);
+    std::memcpy(&constants_[std::string(parameter)], bits, sizeof bits);
+}
+
 std::vector<std::uint32_t> Call::pivots(std::uint32_t n) const {
     const std::uint32_t *const first = pivots_.data() + pivotMargin + std::size_t{n} * size_;
     return {first, first + size_};
@@ -253,11 +261,21 @@ std::uint64_t Call::wordOf(const catalogue::Parameter &parameter) {
     if (parameter.kind == Kind::size) return rubbish | size_;
     if (parameter.kind == Kind::count) return rubbish | count_;
     if (parameter.kind == Kind::ignored) return rubbish;
+    if (parameter.kind == Kind::constant) {
+        if (!constants_.contains(parameter.name)) setConstant(parameter.name, 3);
+        return constants_[parameter.name];
+    }
     const Place &place = places_.at(static_cast<std::size_t>(parameter.operand));
     switch (parameter.kind) {
     case Kind::base: return pointer(place.origin);
     case Kind::table:
-    case Kind::list: return pointer(place.table == nullptr ? place.entries.data() : place.table);
+    case Kind::list: {
+        if (place.table != nullptr) return pointer(place.table);
+        std::vector<std::byte *> &fronted = fronted_[place.operand->name];
+        fronted.assign(2, place.before); // one more, so that the table is aligned like the rest
+        fronted.insert(fronted.end(), place.entries.begin(), place.entries.end());
+        return pointer(fronted.data() + 2);
+    }
     case Kind::shift: return bytes(place.shift);
     case Kind::objectStride: return bytes(place.objectStride);
     case Kind::rowStride: return bytes(place.rowStride);
@@ -279,6 +297,7 @@ std::vector<std::uint64_t> Call::words() {
 Call::Picture Call::picture() const {
     Picture taken{memory_, pivots_, {}};
     for (const Place &place : places_) taken.tables.push_back(place.entries);
+    for (const auto &[operand, entries] : fronted_) taken.tables.push_back(entries);
     return taken;
 }
 

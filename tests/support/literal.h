@@ -52,6 +52,7 @@ struct Place {
     std::int32_t positionStride = 0; // from one position of a table to the next
     std::int32_t shift = 0;
     std::vector<std::byte *> entries;  // of its table or list, with the shift taken off
+    std::byte *before = nullptr;       // the entry in front of the first, with the shift taken off
     std::byte *const *table = nullptr; // what the call gets: the entries, unless they were put elsewhere
     std::ptrdiff_t alias = 0;          // from an address of the call to the same memory as the test reaches it
 
@@ -86,6 +87,8 @@ public:
     std::vector<double> get(std::string_view operand, std::uint32_t n);
     void setAt(std::byte *address, double value) const; // an element of the call's type anywhere
     double getAt(const std::byte *address) const;
+
+    void setConstant(std::string_view parameter, double value); // 3 unless it is set
 
     std::vector<std::uint32_t> pivots(std::uint32_t n) const;
     void setPivots(std::uint32_t n, const std::vector<std::uint32_t> &rows);
@@ -125,6 +128,8 @@ private:
     std::byte *spare_ = nullptr;
     std::vector<std::uint32_t> pivots_;
     std::uint32_t *pivotsWord_;
+    std::map<std::string, std::uint64_t> constants_;          // by their bits
+    std::map<std::string, std::vector<std::byte *>> fronted_; // tables with the entry in front
     std::map<std::string, std::uint64_t> passed_;
     std::vector<std::uint64_t> words_; // of the run
     Picture before_;
