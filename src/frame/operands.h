@@ -69,10 +69,10 @@ public:
     // Whether the rows of a matrix, of so many elements, lie one behind the other.
     bool hasPackedRows(std::size_t columns) const { return rowStride == std::ptrdiff_t(columns * sizeof(T)); }
 
-    // The operand with the row stride of another one.
-    template <class Other> Operand walkedAs(const Other &other) const {
+    // The operand with another row stride.
+    Operand walkedBy(std::ptrdiff_t otherStride) const {
         Operand copy = *this;
-        copy.rowStride = other.rowSpacing();
+        copy.rowStride = otherStride;
         return copy;
     }
     std::ptrdiff_t rowSpacing() const { return rowStride; }

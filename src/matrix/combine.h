@@ -138,6 +138,7 @@ VONKK3_INLINE VonkStatus pipelined(const A &a, const D &d, std::size_t count, Ho
     const std::size_t lastEntry = count - 1;
     if (a.listHasNull(0) || d.listHasNull(lastEntry)) return vonkErrNullPtr;
     auto inHand = hold(a.view(0));
+    VONKK3_UNROLL_FOURFOLD
     for (std::size_t n = 1; n < count; ++n) {
         if (a.listHasNull(n) || d.listHasNull(n)) return vonkErrNullPtr;
         const auto next = hold(a.view(n));
@@ -159,26 +160,33 @@ template <class F, class Operand> VONKK3_INLINE bool isRun(const Operand &operan
     return isHeld<F, Operand> || areRuns<F::order>(operand);
 }
 
-// What gives an operand's object n as a run; a single one that is held is read once, here.
-template <class F, class Operand> VONKK3_INLINE auto runByObject(const Operand &operand) {
-    if constexpr (isHeld<F, Operand>)
-        return [held = HeldRun<F::order>(operand.view(0))](std::size_t) VONKK3_INLINED { return held; };
-    else return [&operand](std::size_t n) VONKK3_INLINED { return StoredRun<F::order>(operand.view(n).base); };
+// What gives an operand's object n as a run. A single one is read once, here, and held.
+template <class F, class Operand> VONKK3_INLINE auto runsOf(const Operand &operand) {
+    if constexpr (Operand::isArray || !F::isArray) return ArrayRuns<F::order, Operand>(operand);
+    else if constexpr (isHeld<F, Operand>) return HeldRun<F::order>(operand.view(0));
+    else return SingleRun<F::order>(operand.view(0).base);
+}
+
+template <class Runs> VONKK3_INLINE auto objectOf(const Runs &runs, std::size_t n) { return runs.object(n); }
+template <std::size_t order> VONKK3_INLINE const HeldRun<order> &objectOf(const HeldRun<order> &held, std::size_t) {
+    return held;
 }
 
 template <class F, class A, class B, class D, class Count, class Operation>
 VONKK3_INLINE VonkStatus combineRuns(const A &a, const B &b, const D &d, Count count, Operation operation) {
-    const auto first = runByObject<F>(a);
-    const auto second = runByObject<F>(b);
+    auto first = runsOf<F>(a);
+    auto second = runsOf<F>(b);
     return forEachObject(
         count,
         [&](std::size_t n) VONKK3_INLINED {
-            const auto x = first(n);
-            const auto y = second(n);
             const auto view = d.view(n);
-            if (x.isOvertakenBy(view.base) || y.isOvertakenBy(view.base))
-                workRows<F::order, Placement::anywhere>(x, y, view, operation);
-            else workRun<F::order>(x, y, view.base, operation);
+            if constexpr (isWorkedWhole<F::order>) {
+                workRun<F::order>(objectOf(first, n), objectOf(second, n), view.base, operation);
+            } else if (first.mustGoByRows(n, view.base) || second.mustGoByRows(n, view.base)) {
+                workRows<F::order, Placement::anywhere>(first.stored(n), second.stored(n), view, operation);
+                first.refresh();
+                second.refresh();
+            } else workRun<F::order>(first.object(n), second.object(n), view.base, operation);
             return vonkOk;
         },
         a, b, d);
@@ -268,7 +276,7 @@ VONKK3_INLINE VonkStatus combine(const A &a, const B &b, const D &d, Columns col
             },
             a, b, d);
     } else if constexpr (borrowsRowStride<F>)
-        return combineInLanes<F>(a, Transposed{b.walkedAs(a)}, d, count, operation);
+        return combineInLanes<F>(a, Transposed{b.walkedBy(a.rowSpacing())}, d, count, operation);
     else if constexpr (worksInLanes<F>) return combineInLanes<F>(a, b, d, count, operation);
     else
         return forEachObject(

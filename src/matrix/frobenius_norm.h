@@ -59,42 +59,79 @@ VONKK3_INLINE Working<T> sumOfSquares(const View &a, std::size_t columns, std::s
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
+constexpr std::size_t block = 4;
+
+template <Rows rows, class A, std::size_t order>
+VONKK3_INLINE void normOfBlock(const A &a, std::size_t n, Fixed<order> size, std::byte *results) {
+    const auto view = [&](std::size_t k) VONKK3_INLINED { return a.view(n + k); };
+    store4(results + n * sizeof(Real32), rootByEstimate(sumsOfSquares<rows>(view, size)));
+}
+
+template <class A, std::size_t order>
+VONKK3_INLINE void normOfOne(const A &a, std::size_t n, Fixed<order> size, std::byte *results) {
+    store1(results + n * sizeof(Real32), rootByEstimate(sumOfSquares(a.view(n), size)));
+}
+
 template <class A, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus normsInLanes(const A &a, Fixed<order> size, std::byte *results, Count count) {
     return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED {
-            store1(results + n * sizeof(Real32), rootByEstimate(sumOfSquares(a.view(n), size)));
-            return vonkOk;
-        },
-        a);
+        count, [&](std::size_t n) VONKK3_INLINED { return normOfOne(a, n, size, results), vonkOk; }, a);
 }
 
-// The list entries of a block are tested together, those of the objects that fill no block never.
-template <class A, std::size_t order>
+// 3x3 and 4x4. The list entries of a block are tested together, those of the objects that fill no block never.
+template <Rows rows, class A, std::size_t order>
 VONKK3_INLINE VonkStatus normsByFour(const A &a, Fixed<order> size, std::byte *results, std::size_t count) {
     std::size_t n = 0;
-    for (; n + 4 <= count; n += 4) {
+    for (; n + block <= count; n += block) {
         if (a.listHasNull(n) || a.listHasNull(n + 1) || a.listHasNull(n + 2) || a.listHasNull(n + 3))
             return vonkErrNullPtr;
-        const auto view = [&](std::size_t k) VONKK3_INLINED { return a.view(n + k); };
-        store4(results + n * sizeof(Real32), rootByEstimate(sumsOfSquares(view, size)));
+        normOfBlock<rows>(a, n, size, results);
     }
-    for (; n < count; ++n) store1(results + n * sizeof(Real32), rootByEstimate(sumOfSquares(a.view(n), size)));
+    for (; n < count; ++n) normOfOne(a, n, size, results);
     return vonkOk;
 }
 
-template <class A, class Columns, class Rows, class T, class Count>
-VONKK3_INLINE VonkStatus frobeniusNorm(const A &a, Columns columns, Rows rows, T *results, Count count) {
+// 6x6 gives the same results one by one or four at a time, but four at a time must not be seen: no result may lie where
+// one of the block's other objects is read, and no list entry of the block may be null.
+template <class A> VONKK3_INLINE VonkStatus normsOfSix(const A &a, std::byte *results, std::size_t count) {
+    const Touching touching(reachOf<6>(a), Reach(block * sizeof(Real32)));
+    const auto mayWorkBlock = [&](std::size_t n) VONKK3_INLINED {
+        const auto mayWork = [&](std::size_t k) VONKK3_INLINED {
+            return !a.listHasNull(k) && !touching(a.view(k).base, results + n * sizeof(Real32));
+        };
+        return mayWork(n) && mayWork(n + 1) && mayWork(n + 2) && mayWork(n + 3);
+    };
+    std::size_t n = 0;
+    for (; n + block <= count; n += block) {
+        if (mayWorkBlock(n)) normOfBlock<Rows::anywhere>(a, n, fixed<6>, results);
+        else
+            for (std::size_t k = n; k < n + block; ++k) {
+                if (a.listHasNull(k)) return vonkErrNullPtr;
+                normOfOne(a, k, fixed<6>, results);
+            }
+    }
+    for (; n < count; ++n) {
+        if (a.listHasNull(n)) return vonkErrNullPtr;
+        normOfOne(a, n, fixed<6>, results);
+    }
+    return vonkOk;
+}
+
+template <class A, class Columns, class RowCount, class T, class Count>
+VONKK3_INLINE VonkStatus frobeniusNorm(const A &a, Columns columns, RowCount rows, T *results, Count count) {
     constexpr NormOrder way = normOrder<T, A, Columns>();
     if (anyNull(a, results)) return vonkErrNullPtr;
     if (columns.isZero() || rows.isZero()) return vonkErrSize;
     if (anyTableEntryNull(std::size_t(columns) * rows, a)) return vonkErrNullPtr;
 
     const auto cells = reinterpret_cast<std::byte *>(results);
-    if constexpr (way == NormOrder::inLanes) return normsInLanes(a, columns, cells, count);
-    else if constexpr (way == NormOrder::inLanesByFour) return normsByFour(a, columns, cells, count);
-    else
+    if constexpr (way == NormOrder::inLanes && A::isArray && Columns::value == 6) return normsOfSix(a, cells, count);
+    else if constexpr (way == NormOrder::inLanes) return normsInLanes(a, columns, cells, count);
+    else if constexpr (way == NormOrder::inLanesByFour) {
+        if constexpr (Columns::value == 3)
+            if (areRuns<3>(a)) return normsByFour<Rows::adjacent>(withRuns<3>(a), columns, cells, count);
+        return normsByFour<Rows::anywhere>(a, columns, cells, count);
+    } else
         return forEachObject(
             count,
             [&](std::size_t n) VONKK3_INLINED {

@@ -4,8 +4,7 @@
 
 #include "frame/estimate.h"
 #include "frame/lanes.h"
-#include "frame/unroll.h"
-#include "frame/views.h"
+#include "matrix/runs.h"
 
 namespace vonkk3::matrix {
 
@@ -62,28 +61,36 @@ VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<5>) {
     return _mm_add_ss(sumOfFour(c), c4);
 }
 
-// Columns 0 to 3: cj = ((p0j + p1j) + (p2j + p3j)) + (p4j + p5j); columns 4 and 5: ((p0j + p2j) + p4j) + ((p1j + p3j) +
-// p5j); ((c0 + c2) + (c1 + c3)) + (c4 + c5)
+// Columns 0 to 3: cj = ((p0j + p1j) + (p2j + p3j)) + (p4j + p5j). Columns 4 and 5: ((p0j + p2j) + p4j) + ((p1j + p3j) +
+// p5j), in lanes as c4, c5 of the even rows and c4, c5 of the odd ones. ((c0 + c2) + (c1 + c3)) + (c4 + c5)
+VONKK3_INLINE __m128 headsOfSix(const RowsView<const Real32> &a) {
+    return add(firstFourRows<6>(a), add(loadSquares<6>(a, 4), loadSquares<6>(a, 5)));
+}
+VONKK3_INLINE __m128 tailsOfSix(const RowsView<const Real32> &a) {
+    const auto twoRows = [&](std::size_t i)
+                             VONKK3_INLINED { return square(_mm_loadh_pi(load2(a.at(i, 4)), pair(a.at(i + 1, 4)))); };
+    return add(add(twoRows(0), twoRows(2)), twoRows(4));
+}
+
 VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<6>) {
-    const __m128 c = add(firstFourRows<6>(a), add(loadSquares<6>(a, 4), loadSquares<6>(a, 5)));
-    const auto ends = [&](std::size_t i) VONKK3_INLINED { // of rows i and i + 1
-        return square(_mm_loadh_pi(load2(a.at(i, 4)), pair(a.at(i + 1, 4))));
-    };
-    const __m128 evenAndOdd = add(add(ends(0), ends(2)), ends(4));
-    const __m128 c45 = add(evenAndOdd, _mm_movehl_ps(evenAndOdd, evenAndOdd));
-    return _mm_add_ss(sumOfFour(c), _mm_add_ss(c45, lane(c45, 1)));
+    return _mm_add_ss(sumOfFour(headsOfSix(a)), sumOfFour(tailsOfSix(a)));
 }
 
 // ---- Four objects, one per lane -------------------------------------------------------------------------------------
 
 // ((p00 + p01) + p22) + (p02 + p10)) + ((p11 + p12) + (p20 + p21))
-template <class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<3>) {
+template <Rows rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<3>) {
     __m128 first[4], second[4], corner[4]; // p00 p01 p02 p10, p11 p12 p20 p21, p22
-    forIndices(0, 4, fixed<4>, [&](std::size_t k) VONKK3_INLINED {
+    forEachBelow<4>([&](std::size_t k) VONKK3_INLINED {
         const RowsView<const Real32> a = view(k);
-        const __m128 middle = _mm_unpacklo_ps(load1(a.at(0, 2)), load1(a.at(1, 0)));
-        first[k] = square(_mm_movelh_ps(load2(a.at(0, 0)), middle));
-        second[k] = square(_mm_loadh_pi(load2(a.at(1, 1)), pair(a.at(2, 0))));
+        if constexpr (rows == Rows::adjacent) {
+            first[k] = square(load4(a.base));
+            second[k] = square(load4(a.base + 16));
+        } else {
+            const __m128 middle = _mm_unpacklo_ps(load1(a.at(0, 2)), load1(a.at(1, 0)));
+            first[k] = square(_mm_movelh_ps(load2(a.at(0, 0)), middle));
+            second[k] = square(_mm_loadh_pi(load2(a.at(1, 1)), pair(a.at(2, 0))));
+        }
         corner[k] = load1(a.at(2, 2));
     });
     const __m128 lowFirst = addNeighbours(first[0], first[1]), highFirst = addNeighbours(first[2], first[3]);
@@ -96,10 +103,21 @@ template <class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, F
 }
 
 // (c0 + c1) + (c2 + c3)
-template <class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<4>) {
+template <Rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<4>) {
     const __m128 low = addNeighbours(firstFourRows<4>(view(0)), firstFourRows<4>(view(1)));
     const __m128 high = addNeighbours(firstFourRows<4>(view(2)), firstFourRows<4>(view(3)));
     return addNeighbours(low, high);
+}
+
+// The order of one object, four times over.
+template <Rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<6>) {
+    const auto twoObjects = [&](auto parts, std::size_t k)
+                                VONKK3_INLINED { return addHalves(parts(view(k)), parts(view(k + 1))); };
+    const auto heads = [](const auto &a) VONKK3_INLINED { return headsOfSix(a); };
+    const auto tails = [](const auto &a) VONKK3_INLINED { return tailsOfSix(a); };
+    const __m128 low = twoObjects(heads, 0), lowTails = twoObjects(tails, 0);
+    const __m128 high = twoObjects(heads, 2), highTails = twoObjects(tails, 2);
+    return add(addNeighbours(low, high), addNeighbours(lowTails, highTails));
 }
 
 } // namespace vonkk3::matrix

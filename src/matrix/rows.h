@@ -3,7 +3,7 @@
 #pragma once
 
 #include "frame/lanes.h"
-#include "frame/unroll.h"
+#include "frame/straight.h"
 #include "frame/views.h"
 
 namespace vonkk3::matrix {
@@ -46,8 +46,7 @@ template <std::size_t order, Placement placement = Placement::anywhere> struct T
     __m128 below[2]; // rows 4 and 5 as stored
 
     VONKK3_INLINE explicit TurnedRows(const TransposedView<RowsView<const Real32>> &view) : stored(view.stored) {
-        forIndices(0, 4, fixed<4>,
-                   [&](std::size_t i) VONKK3_INLINED { heads[i] = loadFour<placement>(stored.at(i, 0)); });
+        forEachBelow<4>([&](std::size_t i) VONKK3_INLINED { heads[i] = loadFour<placement>(stored.at(i, 0)); });
         _MM_TRANSPOSE4_PS(heads[0], heads[1], heads[2], heads[3]);
         if constexpr (order > 4) below[0] = loadFour<placement>(stored.at(4, 0));
         if constexpr (order > 5) below[1] = loadFour<placement>(stored.at(5, 0));
@@ -107,11 +106,12 @@ VONKK3_INLINE auto rowsOf(const TransposedView<RowsView<const Real32>> &view) {
 
 // Taken out of memory.
 template <std::size_t order> struct HeldRows {
-    Lanes<order> rows[order];
+    static_assert(order <= 4);
+    __m128 heads[order];
     template <class Rows> VONKK3_INLINE explicit HeldRows(const Rows &source) {
-        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { rows[i] = source.row(i); });
+        forEachBelow<order>([&](std::size_t i) VONKK3_INLINED { heads[i] = source.row(i).head; });
     }
-    VONKK3_INLINE Lanes<order> row(std::size_t i) const { return rows[i]; }
+    VONKK3_INLINE Lanes<order> row(std::size_t i) const { return {heads[i], _mm_setzero_ps()}; }
 };
 
 // Whether the rows of all of them begin at multiples of 16 bytes.
@@ -133,7 +133,7 @@ template <std::size_t order> struct ConstantRows {
 // d(i) = operation(a(i), b(i)), each row read before it is written.
 template <std::size_t order, Placement placement, class Operation, class A, class B>
 VONKK3_INLINE void workRows(const A &a, const B &b, const RowsView<Real32> &d, Operation operation) {
-    forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+    forEachBelow<order>([&](std::size_t i) VONKK3_INLINED {
         const Lanes<order> x = a.row(i), y = b.row(i);
         Lanes<order> result{operation(x.head, y.head), x.tail};
         if constexpr (order > 4) result.tail = operation(x.tail, y.tail);

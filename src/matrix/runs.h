@@ -4,13 +4,16 @@
 #pragma once
 
 #include "frame/lanes.h"
-#include "frame/unroll.h"
-#include "frame/views.h"
+#include "frame/straight.h"
+#include "matrix/touch.h"
 
 namespace vonkk3::matrix {
 
 template <std::size_t order> inline constexpr std::size_t rowBytes = order * sizeof(Real32);
 template <std::size_t order> inline constexpr std::size_t objectBytes = order *rowBytes<order>;
+
+// What a kernel is told about rows: that they lie anywhere, or that they make runs.
+enum class Rows { anywhere, adjacent };
 
 // Whether each matrix of the operands is a run, and whether matrix follows matrix as well. A single one follows itself.
 template <std::size_t order, class... Operands> VONKK3_INLINE bool areRuns(const Operands &...operands) {
@@ -19,6 +22,11 @@ template <std::size_t order, class... Operands> VONKK3_INLINE bool areRuns(const
 template <std::size_t order, class... Operands> VONKK3_INLINE bool areOneRun(const Operands &...operands) {
     return areRuns<order>(operands...) &&
            ((!Operands::isArray || operands.objectSpacing() == std::ptrdiff_t(objectBytes<order>)) && ...);
+}
+
+// An operand that is known to have runs: the compiler is told the row stride.
+template <std::size_t order, class Operand> VONKK3_INLINE Operand withRuns(const Operand &operand) {
+    return operand.walkedBy(rowBytes<order>);
 }
 
 // Whether what is written going forward is yet to be read: the destination begins behind the source's first byte and
@@ -38,7 +46,6 @@ template <std::size_t order> struct StoredRun {
     VONKK3_INLINE __m128 four(std::size_t k) const { return load4(base + k * laneBytes); }
     VONKK3_INLINE __m128 last() const { return load1(base + runFours<order> * laneBytes); }
     VONKK3_INLINE Lanes<order> row(std::size_t i) const { return Lanes<order>::load(base + i * rowBytes<order>); }
-    VONKK3_INLINE bool isOvertakenBy(const std::byte *d) const { return runsAhead(d, base, objectBytes<order>); }
 };
 
 // Taken out of memory, from wherever its elements are.
@@ -46,29 +53,20 @@ template <std::size_t order> struct HeldRun {
     __m128 fours[runFours<order>];
     __m128 over;
 
-    template <class View> VONKK3_INLINE explicit HeldRun(const View &view) {
+    template <class View> VONKK3_INLINE explicit HeldRun(const View &view) : over(_mm_setzero_ps()) {
         const auto element = [&](std::size_t k) VONKK3_INLINED { return view.load(k / order, k % order); };
-        forIndices(0, runFours<order>, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+        forEachBelow<runFours<order>>([&](std::size_t k) VONKK3_INLINED {
             fours[k] = _mm_setr_ps(element(4 * k), element(4 * k + 1), element(4 * k + 2), element(4 * k + 3));
         });
         if constexpr (order % 2 != 0) over = _mm_set_ss(element(order * order - 1));
     }
-    VONKK3_INLINE explicit HeldRun(const StoredRun<order> &run) {
-        forIndices(0, runFours<order>, fixed<order>, [&](std::size_t k) VONKK3_INLINED { fours[k] = run.four(k); });
+    VONKK3_INLINE explicit HeldRun(const StoredRun<order> &run) : over(_mm_setzero_ps()) {
+        forEachBelow<runFours<order>>([&](std::size_t k) VONKK3_INLINED { fours[k] = run.four(k); });
         if constexpr (order % 2 != 0) over = run.last();
     }
 
     VONKK3_INLINE __m128 four(std::size_t k) const { return fours[k]; }
     VONKK3_INLINE __m128 last() const { return over; }
-    VONKK3_INLINE Lanes<order> row(std::size_t i) const {
-        static_assert(order <= 4);
-        if constexpr (order == 4) return {fours[i], _mm_setzero_ps()};
-        else return {_mm_setr_ps(element(3 * i), 0, element(3 * i + 1), element(3 * i + 2)), _mm_setzero_ps()};
-    }
-    static constexpr bool isOvertakenBy(const std::byte *) { return false; }
-
-private:
-    VONKK3_INLINE Real32 element(std::size_t k) const { return k == 8 ? over[0] : fours[k / 4][k % 4]; }
 };
 
 struct ConstantRun {
@@ -78,12 +76,57 @@ struct ConstantRun {
     VONKK3_INLINE __m128 last() const { return value; }
 };
 
+// 3x3 and 4x4 fit registers and are worked before any of the result is stored.
+template <std::size_t order> inline constexpr bool isWorkedWhole = order <= 4;
+
 template <std::size_t order, class Operation, class A, class B>
 VONKK3_INLINE void workRun(const A &a, const B &b, std::byte *d, Operation operation) {
-    forIndices(0, runFours<order>, fixed<order>,
-               [&](std::size_t k) VONKK3_INLINED { store4(d + k * laneBytes, operation(a.four(k), b.four(k))); });
-    if constexpr (order % 2 != 0) store1(d + runFours<order> * laneBytes, operation(a.last(), b.last()));
+    constexpr std::size_t fours = runFours<order>, lastAt = fours * laneBytes;
+    if constexpr (isWorkedWhole<order>) {
+        __m128 results[fours];
+        forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { results[k] = operation(a.four(k), b.four(k)); });
+        if constexpr (order % 2 == 0)
+            forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { store4(d + k * laneBytes, results[k]); });
+        else {
+            const __m128 last = operation(a.last(), b.last());
+            forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { store4(d + k * laneBytes, results[k]); });
+            store1(d + lastAt, last);
+        }
+    } else {
+        forEachBelow<fours>([&](std::size_t k)
+                                VONKK3_INLINED { store4(d + k * laneBytes, operation(a.four(k), b.four(k))); });
+        if constexpr (order % 2 != 0) store1(d + lastAt, operation(a.last(), b.last()));
+    }
 }
+
+// ---- One operand, object by object ----------------------------------------------------------------------------------
+//
+// object(n) is what a run is worked from. Where an object is not worked whole, mustGoByRows() tells whether a result at
+// d has to be worked row by row from stored(n) instead; afterwards refresh() brings up to date what is held.
+
+template <std::size_t order, class Operand> struct ArrayRuns {
+    const Operand &operand;
+    VONKK3_INLINE explicit ArrayRuns(const Operand &operand) : operand(operand) {}
+    VONKK3_INLINE StoredRun<order> object(std::size_t n) const { return stored(n); }
+    VONKK3_INLINE StoredRun<order> stored(std::size_t n) const { return StoredRun<order>(operand.view(n).base); }
+    VONKK3_INLINE bool mustGoByRows(std::size_t n, const std::byte *d) const {
+        return runsAhead(d, operand.view(n).base, objectBytes<order>);
+    }
+    VONKK3_INLINE void refresh() const {}
+};
+
+template <std::size_t order> struct SingleRun {
+    StoredRun<order> source;
+    HeldRun<order> held;
+    VONKK3_INLINE explicit SingleRun(const std::byte *base) : source(base), held(source) {}
+    VONKK3_INLINE const HeldRun<order> &object(std::size_t) const { return held; }
+    VONKK3_INLINE StoredRun<order> stored(std::size_t) const { return source; }
+    VONKK3_INLINE bool mustGoByRows(std::size_t, const std::byte *d) const {
+        const Reach reach(objectBytes<order>);
+        return Touching(reach, reach)(d, source.base);
+    }
+    VONKK3_INLINE void refresh() { held = HeldRun<order>(source); }
+};
 
 // ---- Many matrices --------------------------------------------------------------------------------------------------
 
@@ -126,7 +169,7 @@ template <std::size_t order> struct RepeatedRun {
             const std::size_t position = k % (order * order);
             return view.load(position / order, position % order);
         };
-        forIndices(0, fours, fixed<fours>, [&](std::size_t k) VONKK3_INLINED {
+        forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED {
             held[k] = _mm_setr_ps(element(4 * k), element(4 * k + 1), element(4 * k + 2), element(4 * k + 3));
         });
     }
@@ -134,7 +177,7 @@ template <std::size_t order> struct RepeatedRun {
     template <class Operation>
     VONKK3_INLINE void work(const std::byte *a, std::byte *d, std::size_t count, Operation operation) const {
         for (; count >= matrices; count -= matrices) {
-            forIndices(0, fours, fixed<fours>, [&](std::size_t k) VONKK3_INLINED {
+            forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED {
                 store4(d + k * laneBytes, operation(load4(a + k * laneBytes), held[k]));
             });
             a += fours * laneBytes;
@@ -142,7 +185,7 @@ template <std::size_t order> struct RepeatedRun {
         }
         if constexpr (matrices > 1)
             for (; count > 0; --count) {
-                forIndices(0, runFours<order>, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+                forEachBelow<runFours<order>>([&](std::size_t k) VONKK3_INLINED {
                     store4(d + k * laneBytes, operation(load4(a + k * laneBytes), held[k]));
                 });
                 constexpr std::size_t at = runFours<order> * laneBytes;

@@ -45,7 +45,7 @@ VONKK3_INLINE VonkStatus scaleRuns(const A &a, Real32 value, const D &d, Count c
         [&](std::size_t n) VONKK3_INLINED {
             const StoredRun<order> source(a.view(n).base);
             const auto view = d.view(n);
-            if (source.isOvertakenBy(view.base))
+            if (!isWorkedWhole<order> && runsAhead(view.base, source.base, objectBytes<order>))
                 workRows<order, Placement::anywhere>(source, ConstantRows<order>(value), view, Product());
             else workRun<order>(source, ConstantRun(value), view.base, Product());
             return vonkOk;

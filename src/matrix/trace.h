@@ -1,6 +1,7 @@
 // The sum of a diagonal, of single matrices and arrays. Results are packed in every layout.
 #pragma once
 
+#include "frame/straight.h"
 #include "frame/walk.h"
 
 namespace vonkk3::matrix {
@@ -42,7 +43,7 @@ VONKK3_INLINE VonkStatus sumDiagonal(const View &a, std::size_t order, T *result
 
 template <class View, std::size_t order> VONKK3_INLINE Real32 diagonalSum(const View &a, Fixed<order>) {
     Real32 sum = a.load(0, 0);
-    forIndices(1, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { sum = sum + a.load(i, i); });
+    forEachBelow<order - 1>([&](std::size_t i) VONKK3_INLINED { sum = sum + a.load(i + 1, i + 1); });
     return sum;
 }
 

@@ -1,7 +1,6 @@
 // Rows and columns exchanged, single matrices and arrays. Elements are moved and not worked: every bit stays.
 #pragma once
 
-#include "frame/extent.h"
 #include "frame/walk.h"
 #include "matrix/rows.h"
 #include "matrix/runs.h"
@@ -31,37 +30,100 @@ VONKK3_INLINE VonkStatus transposeElements(const A &a, const D &d, std::size_t c
     return vonkOk;
 }
 
+// ---- One object in registers: all of it is read before any of it is written -----------------------------------------
+
+template <Rows rows, std::size_t order>
+VONKK3_INLINE void turn(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<order>) {
+    const TurnedRows<order> turned{TransposedView{from}};
+    forEachBelow<order>([&](std::size_t i) VONKK3_INLINED { turned.row(i).store(to.at(i, 0)); });
+}
+
+// e0 ... e8 as e0 e3 e6 e1, e4 e7 e2 e5, e8
+template <>
+VONKK3_INLINE void turn<Rows::adjacent>(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<3>) {
+    const __m128 low = load4(from.base), high = load4(from.base + 16);
+    const Real32 last = loadAt<Real32>(from.base + 32);
+    const __m128 e61 = _mm_shuffle_ps(high, low, _MM_SHUFFLE(1, 1, 2, 2));
+    const __m128 e25 = _mm_shuffle_ps(low, high, _MM_SHUFFLE(1, 1, 2, 2));
+    store4(to.base, _mm_shuffle_ps(low, e61, _MM_SHUFFLE(2, 0, 3, 0)));
+    store4(to.base + 16, _mm_shuffle_ps(high, e25, _MM_SHUFFLE(2, 0, 3, 0)));
+    storeAt<Real32>(to.base + 32, last);
+}
+
+// Two columns at a time, which become two rows.
+template <Rows rows> VONKK3_INLINE void turnSix(const RowsView<const Real32> &from, const RowsView<Real32> &to) {
+    __m128 pairs[3][3]; // of columns j and j + 1: rows 0 and 1, 2 and 3, 4 and 5
+    forEachBelow<3>([&](std::size_t column) VONKK3_INLINED {
+        forEachBelow<3>([&](std::size_t row) VONKK3_INLINED {
+            const std::byte *const upper = from.at(2 * row, 2 * column), *const lower =
+                                                                             from.at(2 * row + 1, 2 * column);
+            pairs[column][row] = _mm_loadh_pi(load2(upper), pair(lower));
+        });
+    });
+    forEachBelow<3>([&](std::size_t column) VONKK3_INLINED {
+        const auto &[first, second, third] = pairs[column];
+        const std::size_t i = 2 * column;
+        const __m128 ends = _mm_shuffle_ps(third, first, _MM_SHUFFLE(3, 1, 2, 0));
+        store4(to.at(i, 0), _mm_shuffle_ps(first, second, _MM_SHUFFLE(2, 0, 2, 0)));
+        if constexpr (rows == Rows::adjacent) store4(to.at(i, 4), ends);
+        else store2(to.at(i, 4), ends), _mm_storeh_pi(pair(to.at(i + 1, 0)), ends);
+        store4(to.at(i + 1, 2), _mm_shuffle_ps(second, third, _MM_SHUFFLE(3, 1, 3, 1)));
+    });
+}
+template <>
+VONKK3_INLINE void turn<Rows::anywhere>(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<6>) {
+    turnSix<Rows::anywhere>(from, to);
+}
+template <>
+VONKK3_INLINE void turn<Rows::adjacent>(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<6>) {
+    turnSix<Rows::adjacent>(from, to);
+}
+
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 // Objects that lie apart from their results are turned round in registers; others element by element.
-template <class A, class D, std::size_t order, class Count>
-VONKK3_INLINE VonkStatus transposeInLanes(const A &a, const D &d, Fixed<order>, Count count) {
+template <Rows rows, class A, class D, std::size_t order, class Count>
+VONKK3_INLINE VonkStatus transposeInLanes(const A &a, const D &d, Fixed<order> size, Count count) {
+    const Reach source = reachOf<order>(a), destination = reachOf<order>(d);
+    if constexpr (A::isArray && A::layout == Layout::Standard) {
+        const Touching touching(source.repeated(count, a.objectSpacing()),
+                                destination.repeated(count, d.objectSpacing()));
+        if (!touching(a.view(0).base, d.view(0).base)) {
+            for (std::size_t n = 0; n < count; ++n) turn<rows>(a.view(n), d.view(n), size);
+            return vonkOk;
+        }
+    }
+    const Touching touching(source, destination);
     return forEachObject(
         count,
-        [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
+        [&](std::size_t n) VONKK3_INLINED {
             const auto from = a.view(n);
             const auto to = d.view(n);
-            if (!areApart(Extent(from, order, order), Extent(to, order, order)))
-                return transposeElements<false>(from, to, order, order);
-            const TurnedRows<order> rows{TransposedView{from}};
-            forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { rows.row(i).store(to.at(i, 0)); });
+            if (touching(from.base, to.base)) transposeElements<false>(from, to, order, order);
+            else turn<rows>(from, to, size);
             return vonkOk;
         },
         a, d);
 }
 
 // d(n, j, i) = a(n, i, j), for `rows` by `columns` of the source.
-template <class A, class D, class Columns, class Rows, class Count>
-VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, Rows rows, const D &d, Count count) {
+template <class A, class D, class Columns, class RowCount, class Count>
+VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, RowCount rows, const D &d, Count count) {
     if (anyNull(a, d)) return vonkErrNullPtr;
     if (columns.isZero() || rows.isZero()) return vonkErrSize;
     if constexpr (Count::isArray)
         if (anyTableEntryNull(std::size_t(columns) * rows, a, d)) return vonkErrNullPtr;
 
     constexpr bool isAdjacent = D::layout == Layout::Standard || D::layout == Layout::L;
-    if constexpr (std::is_same_v<typename D::Element, Real32> && isAdjacent && Columns::isFixed)
-        return transposeInLanes(a, d, columns, count);
-    else {
+    if constexpr (std::is_same_v<typename D::Element, Real32> && isAdjacent && Columns::isFixed) {
+        if (count == 0) return vonkOk;
+        constexpr bool maySaveStores = Columns::value == 3 || Columns::value == 6;
+        if constexpr (maySaveStores)
+            if (areRuns<Columns::value>(a, d))
+                return transposeInLanes<Rows::adjacent>(withRuns<Columns::value>(a), withRuns<Columns::value>(d),
+                                                        columns, count);
+        return transposeInLanes<Rows::anywhere>(a, d, columns, count);
+    } else {
         const TableRowLengths lengths(columns, rows);
         return forEachObject(
             count,
