@@ -45,14 +45,14 @@ fault() { # NAME FILE SED_SCRIPT
 
 # Checks and their order
 fault 'a null test is dropped (pivots)' src/lu/decompose.h 's/anyNull\(src, pivots, dst\)/anyNull(src, dst)/'
-fault 'sizes are tested ahead of pointers' src/vector/combine.h \
-    '/if \(anyNull\(a, b, d\)\)/{s/.*/    if (length.isZero()) return vonkErrSize;/;p;s/.*/    if (anyNull(a, b, d)) return vonkErrNullPtr;/}'
+fault 'sizes are tested ahead of pointers' src/vector/elementwise.h \
+    '/if \(anyNull\(sources\.\.\., d\)\)/{s/.*/    if (length.isZero()) return vonkErrSize;/;p;s/.*/    if (anyNull(sources..., d)) return vonkErrNullPtr;/}'
 fault 'the scan of tables leaves out its last entry' src/frame/walk.h 's/position < positions;/position + 1 < positions;/'
 fault 'count 0 wins over a null table entry' src/lu/back_substitute.h \
     's/if \(anyTableEntryNull\(order, src2/if (count != 0 \&\& anyTableEntryNull(order, src2/'
 fault 'list entries are not tested' src/frame/operands.h 's/return loadAt<T \*>\(listSlot\(n\)\) == nullptr/return n == ~std::size_t(0)/'
-fault 'a table entry of a single vector is tested after its element' src/vector/combine.h \
-    's/a\.hasNullEntry\(j\) \|\| b\.hasNullEntry\(j\) \|\| d\.hasNullEntry\(j\)/(j + 1 < length \&\& (a.hasNullEntry(j + 1) || b.hasNullEntry(j + 1) || d.hasNullEntry(j + 1)))/'
+fault 'a table entry of a single vector is tested after its element' src/vector/elementwise.h \
+    's/\(sources\.hasNullEntry\(j\) \|\| \.\.\.\) \|\| d\.hasNullEntry\(j\)/j + 1 < length \&\& ((sources.hasNullEntry(j + 1) || ...) || d.hasNullEntry(j + 1))/'
 
 # Addressing
 fault 'row and element stride are swapped' src/frame/views.h \
@@ -84,8 +84,20 @@ fault 'an unordered candidate counts as a smaller one' src/lu/decompose.h 's/ret
 fault 'every object has its own last pivot tested' src/lu/decompose.h 's/return order - 1 \+ n \* order/return order - 1 + 0 * n/'
 fault 'the tolerance is relative to the type' src/lu/decompose.h 's/W\(pivotTolerance\)/(sizeof(W) > 4 ? W(0x1p-52) : W(pivotTolerance))/'
 fault 'the half column step is levelled' src/lu/back_substitute.h 's/sizeof\(Real64\) \/ 2/sizeof(Real64)/'
-fault 'a single operand is read anew for each object' src/vector/combine.h \
-    's/return \[held = Lanes<length>::load\(operand\.view\(0\)\.base\)\]\(std::size_t\) \{ return held; \}/return [\&](std::size_t) { return Lanes<length>::load(operand.view(0).base); }/'
+fault 'a single operand is read anew for each object' src/vector/elementwise.h \
+    's/return \[held = load\(0\)\]\(std::size_t\) \{ return held; \}/return [load](std::size_t) { return load(0); }/'
+
+# Vectors
+fault 'the reversed difference is the plain one' src/vector/operations.h '/struct ReversedDifference/,/^}/s/return b - a/return a - b/'
+fault 'a scaled sum is fused' src/vector/operations.h '/struct ScaledSum/,/^}/s/return a \* factor \+ b/return Working<T>(Wide(a) * Wide(factor) + Wide(b))/'
+fault 'four products are added in order' src/vector/dot_product.h \
+    's/\(product\(0\) \+ product\(1\)\) \+ \(product\(2\) \+ product\(3\)\)/((product(0) + product(1)) + product(2)) + product(3)/'
+fault 'aligned triples are summed left to right' src/vector/dot_product.h 's/\(products\[0\] \+ products\[2\]\) \+ products\[1\]/(products[0] + products[1]) + products[2]/'
+fault 'a sum of products stays wide to its end' src/vector/dot_product.h 's/if \(roundsBeforeLeftOver<F> /if (false /'
+fault 'a fixed sum of products begins with zero' src/vector/dot_product.h 's/F::isFixed \? product\(0\) : Working<T>\(0\)/F::isFixed ? Working<T>(0) + product(0) : Working<T>(0)/'
+fault 'the norm of nothing is zero' src/frame/estimate.h 's/^    return s \* \(r \*/    if (s == 0) return 0;\n    return s * (r */'
+fault 'lists of four trust no entry in norms' src/vector/norm.h 's/Source::isList \&\& Length::value == 4/false/'
+fault 'zero less w is minus w' src/vector/cross_product.h 's/W\(0\) - w : -w/-w : -w/'
 
 # Products
 fault 'the dimension tests of mma are levelled' src/product/shape.h 's/P::secondArray \? rows1 == cols2 : cols1 == rows2/cols1 == rows2/'
@@ -107,10 +119,10 @@ fault 'the entry at position 8 is tested' src/product/multiply_vector.h 's/Cols:
 
 # Loads, stores, blocks
 fault 'three lanes store a fourth' src/frame/lanes.h '/void store3/,/^}/s/store1\(address, lanes\);/_mm_storeu_ps(floats(address), lanes);/'
-fault 'five lanes load an eighth' src/frame/lanes.h 's/length == 5\) return \{load4\(address\), load1\(address \+ 16\)\}/length == 5) return {load4(address), load4(address + 16)}/'
-fault 'blocks ignore an overlap with the second source' src/vector/block_walk.h 's/ \|\| overlap\(b, d, bytes\)//'
-fault 'blocks take destinations off the element grid' src/vector/block_walk.h 's/ \|\| pastBoundary % sizeof\(Real32\) != 0//'
-fault 'the last elements behind the blocks are left out' src/vector/block_walk.h 's/walkElements\(a, b, d, done, length, operation\)/walkElements(a, b, d, done, length - 1, operation)/'
+fault 'five lanes load an eighth' src/frame/lanes.h 's/length == 5\) return \{load4<alignment>\(address\), load1\(address \+ 16\)\}/length == 5) return {load4<alignment>(address), load4(address + 16)}/'
+fault 'blocks ignore an overlap with the last source' src/vector/block_walk.h 's/ \|\| overlap\(last, d, bytes\)//'
+fault 'blocks take destinations off the element grid' src/vector/block_walk.h 's/^( +)pastBoundary\(d\) % sizeof\(Real32\) != 0\)/\1false)/'
+fault 'the last elements behind the blocks are left out' src/vector/block_walk.h 's/\(operation, d, done, length, others/(operation, d, done, length - 1, others/'
 
 
 fault 'registers are used whatever the matrices overlap' src/lu/rows.h 's/return areApart\(.*/return true;/'

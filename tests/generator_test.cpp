@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <sstream>
 
 namespace {
@@ -76,6 +77,37 @@ TEST(Exports, AreSortedAndHaveTheVersionFunction) {
 
 TEST(CheckedInFiles, TheHeaderIsCurrent) {
     EXPECT_TRUE(read(root / "include/vonkk3.h") == emit::header()) << "include/vonkk3.h " << howToUpdate;
+}
+
+TEST(CheckedInFiles, TheTableOfFunctionsIsCurrentAndPointsAtTheSections) {
+    const std::string page = emit::functions();
+    EXPECT_TRUE(read(root / "docs/functions.md") == page) << "docs/functions.md " << howToUpdate;
+    EXPECT_NE(page.find("5572 exports"), std::string::npos);
+
+    std::vector<std::string> header;
+    std::istringstream lines(emit::header());
+    for (std::string line; std::getline(lines, line);) header.push_back(line);
+    const std::regex link(R"(\[([^\]]+)\]\(\.\./include/vonkk3\.h#L([0-9]+)\))");
+    std::size_t links = 0;
+    for (auto at = std::sregex_iterator(page.begin(), page.end(), link); at != std::sregex_iterator(); ++at, ++links)
+        EXPECT_TRUE(header.at(std::stoul((*at)[2]) - 1).starts_with("/* ---- " + (*at)[1].str() + " -")) << (*at)[0];
+    EXPECT_EQ(links, catalogue::sections().size());
+}
+
+TEST(Header, DeclaresExactlyTheCatalogue) {
+    std::istringstream lines(emit::header());
+    const std::regex prototype(R"(^(?:VonkStatus |const VonkLibVersion \*)(vonk\w+)\()");
+    std::vector<std::string> declared;
+    std::smatch found;
+    for (std::string line; std::getline(lines, line);)
+        if (std::regex_search(line, found, prototype)) declared.push_back(found[1]);
+    std::ranges::sort(declared);
+
+    std::vector<std::string> named{"vonkGetLibVersion"};
+    for (const catalogue::Function &function : catalogue::expand()) named.push_back(function.name);
+    std::ranges::sort(named);
+    EXPECT_EQ(named.size(), 5572U);
+    EXPECT_EQ(declared, named);
 }
 
 TEST(Header, KeepsToTheLineWidth) {

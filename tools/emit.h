@@ -1,5 +1,5 @@
 // What the generator writes, each from the catalogue alone: the public header, the export stubs, the list of exports,
-// functions.json and the reference pages.
+// functions.json, the reference pages and the table of all functions.
 #pragma once
 
 #include <map>
@@ -10,6 +10,7 @@ namespace emit {
 std::string header();                           // include/vonkk3.h
 std::map<std::string, std::string> stubs();     // source files by name, one per operation and type
 std::string exports();                          // exported names, one a line, sorted
+std::string functions();                        // docs/functions.md
 std::string functionsJson();                    // the catalogue as data for bindings and editors
 std::map<std::string, std::string> reference(); // Markdown pages by name
 
