@@ -134,7 +134,7 @@ check 'iris: a folder' 1 - "$work" "$iris" "$work"
 
 # ---- least_squares
 
-# The last column of the table.
+# The last column of the table; how good the fits have to be, tests/least_squares_test.cpp says.
 : >"$work/in"
 cat >"$work/digits" <<'END'
 Norris 12.3 14.4
