@@ -1,6 +1,7 @@
 /* Tells the species of Fisher's iris flowers apart by their Mahalanobis distances to the three species' means
  * (quadratic discriminant analysis): the three 4 by 4 covariance matrices are factored in one call, and every
- * species' 150 linear systems are solved in one more. Usage: iris [file.csv] */
+ * species' 150 linear systems are solved in one more, by LU or by Cholesky decomposition: the table is the same.
+ * Usage: iris [--cholesky] [file.csv] */
 #include <vonkk3.h>
 
 #include <math.h>
@@ -38,7 +39,9 @@ static void require(VonkStatus status, const char *action)
 {
     if (status != vonkOk) {
         fprintf(stderr, "iris: cannot %s: status %d%s\n", action, (int)status,
-                status == vonkErrSingular ? " (a covariance matrix is singular)" : "");
+                status == vonkErrSingular    ? " (a covariance matrix is singular)"
+                : status == vonkErrNotPosDef ? " (a covariance matrix is not positive definite)"
+                                             : "");
         exit(EXIT_FAILURE);
     }
 }
@@ -142,15 +145,23 @@ static void estimate(int species, double mean[MEASUREMENTS], double covariance[M
     }
 }
 
-/* The factors of the three covariance matrices, side by side: row i of all matrices, then row i + 1 of all.
+/* A way to solve with the three covariance matrices: factor all, then, for one species, the logarithm of the
+ * determinant and the solutions for `count` right-hand sides. */
+typedef struct {
+    void (*factor)(double covariances[SPECIES][MEASUREMENTS][MEASUREMENTS]);
+    double (*logDeterminant)(int species);
+    void (*solve)(int species, double rightSides[][MEASUREMENTS], double solutions[][MEASUREMENTS], int count);
+} Route;
+
+/* The LU factors, side by side: row i of all matrices, then row i + 1 of all.
  * In an array, the library tests for matrix n's last pivot not the pivot itself but the element n matrix rows
  * (of MEASUREMENTS numbers) behind it. Side by side, that element lies in slot 2n, always one not written yet, so
- * it holds the 1 that factorSpecies puts there and the test passes; hence the spare slots. logDeterminant tests
+ * it holds the 1 that factorByLU puts there and the test passes; hence the spare slots. logDeterminantByLU tests
  * the true last pivots. */
 static double factors[MEASUREMENTS][2 * SPECIES][MEASUREMENTS];
 static uint32_t pivots[SPECIES][MEASUREMENTS];
 
-static void factorSpecies(double covariances[SPECIES][MEASUREMENTS][MEASUREMENTS])
+static void factorByLU(double covariances[SPECIES][MEASUREMENTS][MEASUREMENTS])
 {
     for (int i = 0; i < MEASUREMENTS; ++i) {
         for (int slot = 0; slot < 2 * SPECIES; ++slot) {
@@ -166,7 +177,7 @@ static void factorSpecies(double covariances[SPECIES][MEASUREMENTS][MEASUREMENTS
 }
 
 /* Rows are not moved by the factoring: row i of the triangle is the row pivots[i] of the factors. */
-static double logDeterminant(int species)
+static double logDeterminantByLU(int species)
 {
     double sum = 0;
     for (int i = 0; i < MEASUREMENTS; ++i) {
@@ -177,8 +188,54 @@ static double logDeterminant(int species)
     return sum;
 }
 
+/* One matrix, many right-hand sides: the stride from matrix to matrix is there for the parameter's place only. */
+static void solveByLU(int species, double rightSides[][MEASUREMENTS], double solutions[][MEASUREMENTS], int count)
+{
+    require(vonkLUBackSubst_mva_64f_4x4(&factors[0][species][0], 0, sizeof factors[0], pivots[species],
+                                        &rightSides[0][0], sizeof rightSides[0], &solutions[0][0],
+                                        sizeof solutions[0], (uint32_t)count),
+            "solve for the Mahalanobis distances");
+}
+
+/* The Cholesky factors, one matrix after the other, with the reciprocals of their diagonals on the diagonal. Above
+ * it nothing is written or read. */
+static double lowerFactors[SPECIES][MEASUREMENTS][MEASUREMENTS];
+
+static void factorByCholesky(double covariances[SPECIES][MEASUREMENTS][MEASUREMENTS])
+{
+    require(vonkCholeskyDecomp_ma_64f_4x4(&covariances[0][0][0], sizeof covariances[0], sizeof covariances[0][0],
+                                          &lowerFactors[0][0][0], sizeof lowerFactors[0], sizeof lowerFactors[0][0],
+                                          SPECIES),
+            "factor the covariance matrices");
+}
+
+/* The decomposition takes any pivot above 0, so what rounding leaves of a zero is refused here. */
+static double logDeterminantByCholesky(int species)
+{
+    double sum = 0;
+    for (int i = 0; i < MEASUREMENTS; ++i) {
+        double reciprocal = lowerFactors[species][i][i];
+        double pivot = 1 / (reciprocal * reciprocal);
+        require(pivot >= tolerance ? vonkOk : vonkErrSingular, "take a determinant's logarithm");
+        sum += log(pivot);
+    }
+    return sum;
+}
+
+static void solveByCholesky(int species, double rightSides[][MEASUREMENTS], double solutions[][MEASUREMENTS],
+                            int count)
+{
+    require(vonkCholeskyBackSubst_mva_64f_4x4(&lowerFactors[species][0][0], sizeof lowerFactors[species][0],
+                                              &rightSides[0][0], sizeof rightSides[0], &solutions[0][0],
+                                              sizeof solutions[0], count),
+            "solve for the Mahalanobis distances");
+}
+
+static const Route byLU = {factorByLU, logDeterminantByLU, solveByLU};
+static const Route byCholesky = {factorByCholesky, logDeterminantByCholesky, solveByCholesky};
+
 /* scores[f] = log of the species' Gaussian density at flower f plus log of its prior, but for a common constant. */
-static void scoreFlowers(int species, const double mean[MEASUREMENTS], double scores[MOST_FLOWERS])
+static void scoreFlowers(const Route *route, int species, const double mean[MEASUREMENTS], double scores[MOST_FLOWERS])
 {
     static double differences[MOST_FLOWERS][MEASUREMENTS];
     static double solutions[MOST_FLOWERS][MEASUREMENTS];
@@ -187,12 +244,8 @@ static void scoreFlowers(int species, const double mean[MEASUREMENTS], double sc
             differences[f][i] = flowers[f].measured[i] - mean[i];
         }
     }
-    /* One matrix, many right-hand sides: the stride from matrix to matrix is there for the parameter's place only. */
-    require(vonkLUBackSubst_mva_64f_4x4(&factors[0][species][0], 0, sizeof factors[0], pivots[species],
-                                        &differences[0][0], sizeof differences[0], &solutions[0][0],
-                                        sizeof solutions[0], (uint32_t)flowerCount),
-            "solve for the Mahalanobis distances");
-    double constant = -0.5 * logDeterminant(species) + log(1.0 / SPECIES);
+    route->solve(species, differences, solutions, flowerCount);
+    double constant = -0.5 * route->logDeterminant(species) + log(1.0 / SPECIES);
     for (int f = 0; f < flowerCount; ++f) {
         double squaredDistance = 0;
         for (int i = 0; i < MEASUREMENTS; ++i) {
@@ -258,17 +311,23 @@ int main(int argc, char **argv)
     static double means[SPECIES][MEASUREMENTS];
     static double covariances[SPECIES][MEASUREMENTS][MEASUREMENTS];
     static double scores[SPECIES][MOST_FLOWERS];
-    if (argc > 2) {
-        fprintf(stderr, "usage: iris [file.csv]\n");
+    const Route *route = &byLU;
+    if (argc > 1 && strcmp(argv[1], "--cholesky") == 0) {
+        route = &byCholesky;
+        --argc;
+        ++argv;
+    }
+    if (argc > 2 || (argc == 2 && argv[1][0] == '-')) {
+        fprintf(stderr, "usage: iris [--cholesky] [file.csv]\n");
         return EXIT_FAILURE;
     }
     readFlowers(argc == 2 ? argv[1] : VONKK3_IRIS_CSV);
     for (int species = 0; species < SPECIES; ++species) {
         estimate(species, means[species], covariances[species]);
     }
-    factorSpecies(covariances);
+    route->factor(covariances);
     for (int species = 0; species < SPECIES; ++species) {
-        scoreFlowers(species, means[species], scores[species]);
+        scoreFlowers(route, species, means[species], scores[species]);
     }
     printReport(scores);
     return fflush(stdout) == 0 ? EXIT_SUCCESS : EXIT_FAILURE;

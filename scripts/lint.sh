@@ -3,7 +3,7 @@
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
-need clang clang-format clang-tidy cmake make libgtest-dev libcli11-dev
+need clang clang-format clang-tidy cmake make libgtest-dev libcli11-dev liblapacke-dev libopenblas-dev
 files=$(git ls-files '*.cpp' '*.h' ':!include')
 clang-format --dry-run --Werror $files
 cmake --preset clang >/dev/null

@@ -1,15 +1,16 @@
 #!/bin/sh
-# Runs the example programs: the flowers' confusion table, the solutions of sample systems, and the answer (message
-# and exit status) to every kind of malformed and singular input.
-# Usage: examples_test.sh <iris program> <solve program> <examples folder>
+# Runs the example programs: the flowers' confusion table, the solutions of sample systems, the fits of reference data,
+# and the answer (message and exit status) to every kind of malformed and singular input.
+# Usage: examples_test.sh <iris program> <solve program> <least_squares program> <examples folder>
 
-if [ $# -ne 3 ]; then
-    echo "usage: $0 <iris program> <solve program> <examples folder>" >&2
+if [ $# -ne 4 ]; then
+    echo "usage: $0 <iris program> <solve program> <least_squares program> <examples folder>" >&2
     exit 2
 fi
 iris=$1
 solve=$2
-examples=$3
+least_squares=$3
+examples=$4
 work=$(mktemp -d) || exit 2
 trap 'rm -rf "$work"' EXIT
 trap 'exit 1' HUP INT TERM
@@ -88,6 +89,11 @@ flower  84: versicolor, classified as virginica with probability 0.8457
 flower 134: virginica, classified as versicolor with probability 0.6050
 END
 check 'iris: confusion table' 0 "=$work/table" - "$iris" "$examples/iris.csv"
+check 'iris: by Cholesky decomposition' 0 "=$work/table" - "$iris" --cholesky "$examples/iris.csv"
+check 'iris: the file that comes along' 0 "=$work/table" - "$iris"
+check 'iris: the file that comes along, by Cholesky decomposition' 0 "=$work/table" - "$iris" --cholesky
+check 'iris: unknown option' 1 - 'usage: iris' "$iris" --fast
+check 'iris: two files' 1 - 'usage: iris' "$iris" --cholesky "$examples/iris.csv" "$examples/iris.csv"
 
 awk '{ printf "%s\r\n", $0 }' "$examples/iris.csv" >"$work/crlf.csv"
 check 'iris: lines that end in CR LF' 0 "=$work/table" - "$iris" "$work/crlf.csv"
@@ -109,16 +115,79 @@ head -n 101 "$examples/iris.csv" >"$work/bad.csv"
 check 'iris: two species' 1 - 'line 101: the file ends before a third species' "$iris" "$work/bad.csv"
 head -n 102 "$examples/iris.csv" >"$work/bad.csv"
 check 'iris: a species of one flower' 1 - 'a single flower of the species virginica' "$iris" "$work/bad.csv"
+# singular <name>: what both routes say of $work/bad.csv. Rounding may leave a little of a pivot that should be zero.
+# The Cholesky decomposition takes it if it is above zero, so the message is its own or the program's.
+singular() {
+    check "iris: $1" 1 - 'a covariance matrix is singular' "$iris" "$work/bad.csv"
+    check "iris: $1, by Cholesky decomposition" 1 - '(a covariance matrix is ' "$iris" --cholesky "$work/bad.csv"
+}
 # The first 103 lines hold two virginica: their covariance matrix has rank 1.
 head -n 103 "$examples/iris.csv" >"$work/bad.csv"
-check 'iris: a species of two flowers' 1 - 'a covariance matrix is singular' "$iris" "$work/bad.csv"
+singular 'a species of two flowers'
 # A petal width that never changes makes only the last pivot of every covariance matrix zero.
 awk -F, -v OFS=, 'NR > 1 { $4 = 0.25 } { print }' "$examples/iris.csv" >"$work/bad.csv"
-check 'iris: the last pivot is zero in all' 1 - 'a covariance matrix is singular' "$iris" "$work/bad.csv"
+singular 'the last pivot is zero in all'
 awk -F, -v OFS=, 'NR > 101 { $4 = 0.25 } { print }' "$examples/iris.csv" >"$work/bad.csv"
-check 'iris: the last pivot is zero in the third' 1 - 'a covariance matrix is singular' "$iris" "$work/bad.csv"
+singular 'the last pivot is zero in the third'
 check 'iris: no such file' 1 - "$work/none.csv" "$iris" "$work/none.csv"
 check 'iris: a folder' 1 - "$work" "$iris" "$work"
+
+# ---- least_squares
+
+# The last column of the table; how good the fits have to be, tests/least_squares_test.cpp says.
+: >"$work/in"
+cat >"$work/digits" <<'END'
+Norris 12.3 14.4
+Longley 12.6 11.3 12.2 12.9 13.6 12.1 12.6
+Wampler1 9.5 9.6 10.2 11.1 12.5 14.2
+Wampler2 14.4 13.4 12.9 12.8 13.1 13.8
+Wampler3 9.6 9.8 10.5 11.8 14.0 15.0
+Wampler4 8.9 8.5 8.9 9.8 11.0 12.7
+Wampler5 6.8 6.5 6.9 7.7 9.0 10.7
+END
+line='Longley    B1                 15.0618722714482        15.0618722713733     11.3'
+check 'least_squares: reference data' 0 "$line" - "$least_squares"
+awk 'NR == 1 { next }
+     $1 != set { printf "%s%s", end, $1; set = $1; end = "\n" }
+     { printf " %s", $5 }
+     END { print "" }' "$work/out" >"$work/found"
+problem=
+cmp -s "$work/digits" "$work/found" || problem='other digits than expected'
+passed_or_failed 'least_squares: digits' "$problem" || diff "$work/digits" "$work/found" | sed 's/^/    /'
+
+# fitted <name> <expected in stdout>, misfit <name> <expected message>: the data set on standard input
+fitted() {
+    cat >"$work/data"
+    check "least_squares: $1" 0 "$2" - "$least_squares" "$work/data"
+}
+misfit() {
+    cat >"$work/data"
+    check "least_squares: $1" 1 'certified' "$2" "$least_squares" "$work/data"
+}
+printf 'linear 1\r\nB0 3 # intercept\r\n\r\n B1 0\r\n# y x1\r\n3 1\r\n3\t2' |
+    fitted 'comments, CR LF, no end of the last line' \
+        'data       B0                                3                       3     15.0'
+# The second column's squared norm, 2 e^2, is 2^-23 for e = 2^-12, about 2.44e-4.
+printf 'linear 1\nB0 1\nB1 4000\n2 2.5e-4\n0 -2.5e-4\n1 0\n' |
+    fitted 'a small column' 'data       B1                             4000                    4000     15.0'
+printf 'linear 1\nB0 1\nB1 5000\n2.2 2.4e-4\n-0.2 -2.4e-4\n1 0\n' |
+    misfit 'too small a column' 'squared norm is below 2^-23'
+printf 'polynomial 1\nB0 1\nB1 1\n1 2\n2 2\n3 2\n' | misfit 'equal columns' 'squared norm is below 2^-23'
+misfit 'empty' "line 0: expected 'polynomial' or 'linear'" </dev/null
+printf 'cubic 3\n' | misfit 'unknown model' "line 1: expected 'polynomial' or 'linear'"
+printf 'linear\n' | misfit 'no number of terms' "line 1: expected 'polynomial' or 'linear'"
+printf 'linear 0\n' | misfit 'no term' 'line 1: expected 1 to 15 terms'
+printf 'linear 16\n' | misfit 'too many terms' 'line 1: expected 1 to 15 terms'
+printf 'linear 1\nB0 1\n1 2\n' | misfit 'too few coefficients' 'line 3: expected the next certified coefficient'
+printf 'linear 1\nB0 1\nB1 one\n' | misfit 'a word for a number' 'line 3: expected another number'
+printf 'linear 1\nB0 1\nB1 1\n1\n' | misfit 'a short observation' 'line 4: expected another number'
+printf 'linear 1\nB0 1\nB1 1\n1 2 3\n' | misfit 'a long observation' 'line 4: expected nothing more'
+printf 'linear 1\nB0 1\nB1 1\n1 inf\n' | misfit 'not finite' 'line 4: expected another number'
+printf 'linear 1\nB0 1\nB1 1\n1 2\n' | misfit 'one observation' 'line 4: fewer observations than coefficients'
+printf '%0600d\n' 0 | misfit 'a long line' 'line 1: the line is too long'
+{ printf 'linear 1\nB0 1\nB1 1\n'; yes '1 2' | head -n 1001; } | misfit 'too many observations' 'line 1004: too many'
+check 'least_squares: no such file' 1 'certified' "$work/none" "$least_squares" "$work/none"
+check 'least_squares: a folder' 1 'certified' "$work" "$least_squares" "$work"
 
 # ---- solve: what has a solution
 
