@@ -48,6 +48,7 @@ void addSumRows(Rows &rows);
 void addVectorRows(Rows &rows);
 void addLuRows(Rows &rows);
 void addInverseRows(Rows &rows);
+void addMoveRows(Rows &rows);
 void addProductRows(Rows &rows);
 void addCallRows(Rows &rows);
 

@@ -73,6 +73,7 @@ int main(int argc, char **argv) {
     addVectorRows(rows);
     addLuRows(rows);
     addInverseRows(rows);
+    addMoveRows(rows);
     addProductRows(rows);
     addCallRows(rows);
 

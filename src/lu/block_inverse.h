@@ -165,12 +165,13 @@ template <std::size_t order>
 [[gnu::noinline]] bool invertByBlocksThroughDestination(RowsView<const Real32> source, RowsView<Real32> destination) {
     const SmallMatrix<Real32, order> matrix(source);
     const auto a = [&](std::size_t i, std::size_t j) VONKK3_INLINED { return matrix.elements[i][j]; };
+    const auto estimated = [](Real32 divisor) { return reciprocalByEstimate(divisor); };
     const auto c = chooseColumns<order - 3, Real32, order>(a, order);
     Blocks<Real32, order> blocks(a, c);
-    if (!blocks.invertLeading(reciprocalByEstimate)) return false;
+    if (!blocks.invertLeading(estimated)) return false;
     for (std::size_t i = 0; i < order - 3; ++i)
         for (std::size_t j = 0; j < order - 3; ++j) destination.store(c[i], j, blocks.leadingInverse(i, j));
-    if (!blocks.invertRest(reciprocalByEstimate)) return false;
+    if (!blocks.invertRest(estimated)) return false;
     for (std::size_t i = 0; i < order; ++i)
         for (std::size_t j = 0; j < order; ++j) destination.store(c[i], j, blocks.inverse(i, j));
     return true;
