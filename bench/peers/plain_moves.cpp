@@ -18,10 +18,9 @@ void moveStrided(const T *__restrict source, Strides from, T *__restrict destina
                  std::size_t rows, std::size_t count) {
     for (std::size_t n = 0; n < count; ++n)
         for (std::size_t i = 0; i < rows; ++i) {
-            const T *__restrict sourceRow = &at(source, std::ptrdiff_t(n) * from.object + std::ptrdiff_t(i) * from.row);
-            T *__restrict destinationRow = &at(destination, std::ptrdiff_t(n) * to.object + std::ptrdiff_t(i) * to.row);
-            for (std::size_t j = 0; j < columns; ++j)
-                at(destinationRow, std::ptrdiff_t(j) * to.element) = at(sourceRow, std::ptrdiff_t(j) * from.element);
+            const T *s = &at(source, std::ptrdiff_t(n) * from.object + std::ptrdiff_t(i) * from.row);
+            T *d = &at(destination, std::ptrdiff_t(n) * to.object + std::ptrdiff_t(i) * to.row);
+            for (std::size_t j = 0; j < columns; ++j, s = &at(s, from.element), d = &at(d, to.element)) *d = *s;
         }
 }
 
