@@ -50,6 +50,7 @@ void addMatrixRows(Rows &rows);
 void addLuRows(Rows &rows);
 void addInverseRows(Rows &rows);
 void addCholeskyAndQrRows(Rows &rows);
+void addMoveRows(Rows &rows);
 void addProductRows(Rows &rows);
 void addCallRows(Rows &rows);
 

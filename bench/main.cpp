@@ -75,6 +75,7 @@ int main(int argc, char **argv) {
     addLuRows(rows);
     addInverseRows(rows);
     addCholeskyAndQrRows(rows);
+    addMoveRows(rows);
     addProductRows(rows);
     addCallRows(rows);
 

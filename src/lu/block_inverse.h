@@ -74,12 +74,8 @@ VONKK3_INLINE void multiplyBlocks(const W (&a)[rows][inner], const W (&b)[inner]
 // The inverse of a block of 2 or 3 rows; false if its determinant is in the interval that is taken for zero.
 template <class W, class Reciprocal>
 VONKK3_INLINE bool invertBlock(const W (&block)[3][3], W (&inverse)[3][3], const Reciprocal &reciprocal) {
-    const AdjugateOfThree<W> adjugate([&](std::size_t i, std::size_t j) VONKK3_INLINED { return block[i][j]; });
-    if (isInSingularInterval(adjugate.determinant)) return false;
-    const W r = reciprocal(adjugate.determinant);
-    for (std::size_t i = 0; i < 3; ++i)
-        for (std::size_t j = 0; j < 3; ++j) inverse[i][j] = adjugate.elements[i][j] * r;
-    return true;
+    return invertThree<W>([&](std::size_t i, std::size_t j) VONKK3_INLINED { return block[i][j]; }, reciprocal,
+                          [&](std::size_t i, std::size_t j, W value) VONKK3_INLINED { inverse[i][j] = value; });
 }
 
 template <class W, class Reciprocal>
@@ -147,7 +143,7 @@ private:
 // In the working type throughout, rounded at the results. False, and nothing stored, if either determinant is in the
 // interval that is taken for zero.
 template <class T, std::size_t order>
-[[gnu::noinline]] bool invertByBlocks(const SmallMatrix<T, order> &matrix, SmallMatrix<T, order> &inverse) {
+[[gnu::noinline]] bool invertByBlocks(const SmallMatrix<T, order> &matrix, RowsView<T> inverse) {
     using W = Working<T>;
     const auto a = [&](std::size_t i, std::size_t j) VONKK3_INLINED { return W(matrix.elements[i][j]); };
     const auto reciprocal = [](W divisor) { return W(1) / divisor; };
@@ -155,7 +151,7 @@ template <class T, std::size_t order>
     Blocks<W, order> blocks(a, c);
     if (!blocks.invertLeading(reciprocal) || !blocks.invertRest(reciprocal)) return false;
     for (std::size_t i = 0; i < order; ++i)
-        for (std::size_t j = 0; j < order; ++j) inverse.elements[c[i]][j] = round<T>(blocks.inverse(i, j));
+        for (std::size_t j = 0; j < order; ++j) inverse.store(c[i], j, round<T>(blocks.inverse(i, j)));
     return true;
 }
 
@@ -165,12 +161,13 @@ template <std::size_t order>
 [[gnu::noinline]] bool invertByBlocksThroughDestination(RowsView<const Real32> source, RowsView<Real32> destination) {
     const SmallMatrix<Real32, order> matrix(source);
     const auto a = [&](std::size_t i, std::size_t j) VONKK3_INLINED { return matrix.elements[i][j]; };
+    const auto estimated = [](Real32 divisor) { return reciprocalByEstimate(divisor); };
     const auto c = chooseColumns<order - 3, Real32, order>(a, order);
     Blocks<Real32, order> blocks(a, c);
-    if (!blocks.invertLeading(reciprocalByEstimate)) return false;
+    if (!blocks.invertLeading(estimated)) return false;
     for (std::size_t i = 0; i < order - 3; ++i)
         for (std::size_t j = 0; j < order - 3; ++j) destination.store(c[i], j, blocks.leadingInverse(i, j));
-    if (!blocks.invertRest(reciprocalByEstimate)) return false;
+    if (!blocks.invertRest(estimated)) return false;
     for (std::size_t i = 0; i < order; ++i)
         for (std::size_t j = 0; j < order; ++j) destination.store(c[i], j, blocks.inverse(i, j));
     return true;

@@ -48,4 +48,18 @@ private:
     const std::byte *address;
 };
 
+// The elements of a view, to be worked in W. What is worked in 80 bits has few registers: there, elements stay where
+// they are until they are used, for each use anew.
+template <class W, class View> class Elements {
+public:
+    VONKK3_INLINE explicit Elements(const View &view) : view(view) {}
+    VONKK3_INLINE auto operator()(std::size_t i, std::size_t j) const {
+        if constexpr (std::is_same_v<W, Wide>) return ElementInMemory<typename View::Element>(view.at(i, j));
+        else return view.load(i, j);
+    }
+
+private:
+    const View &view;
+};
+
 } // namespace vonkk3::lu

@@ -33,14 +33,20 @@ VONKK3_INLINE bool invertObject(const SourceView &source, const View &inverse, F
     else if constexpr (isBuiltForSpeed<Source> && order == 4) return invertFourInLanes(source, inverse);
     else if constexpr (isBuiltForSpeed<Source>) return invertByBlocksThroughDestination<order>(source, inverse);
     else {
-        using T = typename Source::Element;
-        const SmallMatrix<T, order> matrix(source);
-        SmallMatrix<T, order> result;
-        if constexpr (order <= 4) {
-            if (!invertClosed(matrix, result)) return false;
-        } else if (!invertByBlocks(matrix, result)) return false;
-        result.store(inverse);
-        return true;
+        // One body of each method serves all layouts. It works on a copy, and stores through rows of adjacent elements:
+        // straight to where they are such, or they would be read back before they have settled.
+        const SmallMatrix<typename Source::Element, order> matrix(source);
+        const auto invertTo = [&](const auto &rows) VONKK3_INLINED {
+            if constexpr (order <= 4) return invertClosed(matrix, rows);
+            else return invertByBlocks(matrix, rows);
+        };
+        if constexpr (std::is_same_v<View, RowsView<typename Source::Element>>) return invertTo(inverse);
+        else {
+            SmallMatrix<typename Source::Element, order> result;
+            if (!invertTo(result.writableView())) return false;
+            result.store(inverse);
+            return true;
+        }
     }
 }
 

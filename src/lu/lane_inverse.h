@@ -37,10 +37,10 @@ VONKK3_INLINE bool invertThreeInLanes(const RowsView<const Real32> &matrix, cons
     const __m128 column2 = crossTurned(row0, left0, row1, left1);
 
     const __m128 terms = _mm_mul_ps(column0, turnedRight(row0)); // z, x, y
-    const __m128 determinant =
-        _mm_add_ss(_mm_add_ss(_mm_movehl_ps(terms, terms), pick<3, 3, 3, 3>(terms)), terms); // (x + y) + z
+    const __m128 determinant =                                   // (x + y) + z, in all lanes
+        _mm_add_ps(_mm_add_ps(pick<2, 2, 2, 2>(terms), pick<3, 3, 3, 3>(terms)), pick<0, 0, 0, 0>(terms));
     if (_mm_cvtss_f32(determinant) == 0) return false;
-    const __m128 r = _mm_set1_ps(reciprocalByEstimateOfThree(_mm_cvtss_f32(determinant)));
+    const __m128 r = reciprocalByEstimateOfThree(determinant);
 
     const __m128 z = _mm_mul_ps(_mm_unpacklo_ps(column0, column1), r);
     const __m128 xy = _mm_mul_ps(_mm_unpackhi_ps(column0, column1), r);
@@ -54,58 +54,60 @@ VONKK3_INLINE bool invertThreeInLanes(const RowsView<const Real32> &matrix, cons
     return true;
 }
 
-// ---- 4x4: 2x2 blocks | A B | of the matrix, each in the four lanes of a register, row after row ---------------------
-//                      | C D |
+// ---- 4x4: a row lies in its lanes, and column indices count round from 3 to 0 ---------------------------------------
 
-// adj(M) N, whose elements are 2x2 minors of the rows that M and N share.
-VONKK3_INLINE __m128 adjugateTimes(__m128 m, __m128 n) {
-    return _mm_sub_ps(_mm_mul_ps(pick<3, 3, 0, 0>(m), n), _mm_mul_ps(pick<1, 1, 2, 2>(m), pick<2, 3, 0, 1>(n)));
+VONKK3_INLINE __m128 turnedByOne(__m128 row) { return pick<1, 2, 3, 0>(row); }
+VONKK3_INLINE __m128 turnedByTwo(__m128 row) { return pick<2, 3, 0, 1>(row); }
+
+// A row, and the same turned.
+struct TurnedRow {
+    __m128 row, byOne, byTwo;
+    VONKK3_INLINE explicit TurnedRow(__m128 row) : row(row), byOne(turnedByOne(row)), byTwo(turnedByTwo(row)) {}
+};
+
+// The 2x2 minors of two rows on columns k and k + 1, and on columns k and k + 2, in lane k.
+struct PairMinors {
+    __m128 near, nearByOne, far;
+    VONKK3_INLINE PairMinors(const TurnedRow &u, const TurnedRow &v)
+        : near(_mm_sub_ps(_mm_mul_ps(u.row, v.byOne), _mm_mul_ps(u.byOne, v.row))), nearByOne(turnedByOne(near)) {
+        far = _mm_sub_ps(_mm_mul_ps(u.row, v.byTwo), _mm_mul_ps(u.byTwo, v.row));
+    }
+};
+
+// In lane k, up to a sign that alternates, the 3x3 minor of a row and of the two rows of other minors that leaves out
+// column k - 1.
+VONKK3_INLINE __m128 minorsOfThree(const TurnedRow &v, const PairMinors &m) {
+    return _mm_add_ps(_mm_sub_ps(_mm_mul_ps(v.row, m.nearByOne), _mm_mul_ps(v.byOne, m.far)),
+                      _mm_mul_ps(v.byTwo, m.near));
+}
+VONKK3_INLINE __m128 minorsOfThreeNegated(const TurnedRow &v, const PairMinors &m) {
+    return _mm_sub_ps(_mm_sub_ps(_mm_mul_ps(v.byOne, m.far), _mm_mul_ps(v.row, m.nearByOne)),
+                      _mm_mul_ps(v.byTwo, m.near));
 }
 
-// M N
-VONKK3_INLINE __m128 timesBlock(__m128 m, __m128 n) {
-    return _mm_add_ps(_mm_mul_ps(pick<0, 0, 2, 2>(m), _mm_movelh_ps(n, n)),
-                      _mm_mul_ps(pick<1, 1, 3, 3>(m), _mm_movehl_ps(n, n)));
-}
-
-// M adj(N)
-VONKK3_INLINE __m128 timesAdjugate(__m128 m, __m128 n) {
-    return _mm_sub_ps(_mm_mul_ps(m, pick<3, 0, 3, 0>(n)), _mm_mul_ps(pick<1, 0, 3, 2>(m), pick<2, 1, 2, 1>(n)));
-}
-
-// Every cofactor is made of elements and the minors of the two upper or the two lower rows: |D| A - B adj(D) C holds
-// those of the leading block, and the others follow alike. False, and nothing stored, if the determinant is zero.
+// The cofactors of a row, from the row that is paired with it and the minors of the two others, are a column of the
+// adjugate. The determinant comes from the minors of both pairs, with the alternating signs of the cofactors. False,
+// and nothing stored, if it is zero.
 VONKK3_INLINE bool invertFourInLanes(const RowsView<const Real32> &matrix, const RowsView<Real32> &inverse) {
-    const __m128 row0 = load4(matrix.at(0, 0)), row1 = load4(matrix.at(1, 0));
-    const __m128 row2 = load4(matrix.at(2, 0)), row3 = load4(matrix.at(3, 0));
-    const __m128 a = _mm_movelh_ps(row0, row1), b = _mm_movehl_ps(row1, row0);
-    const __m128 c = _mm_movelh_ps(row2, row3), d = _mm_movehl_ps(row3, row2);
+    const TurnedRow row2(load4(matrix.at(2, 0))), row3(load4(matrix.at(3, 0)));
+    const PairMinors lower(row2, row3);
+    const TurnedRow row0(load4(matrix.at(0, 0))), row1(load4(matrix.at(1, 0)));
+    __m128 column0 = minorsOfThree(row1, lower), column1 = minorsOfThree(row0, lower);
+    const PairMinors upper(row0, row1);
+    __m128 column2 = minorsOfThree(row3, upper), column3 = minorsOfThree(row2, upper);
 
-    // |A|, |B|, |C|, |D|
-    const __m128 upper = _mm_mul_ps(row0, pick<1, 0, 3, 2>(row1)), lower = _mm_mul_ps(row2, pick<1, 0, 3, 2>(row3));
-    const __m128 minors = _mm_sub_ps(pick<0, 2, 0, 2>(upper, lower), pick<1, 3, 1, 3>(upper, lower));
-    const __m128 ab = adjugateTimes(a, b), dc = adjugateTimes(d, c);
-
-    // |A| |D| + |B| |C| - trace(adj(A) B adj(D) C)
-    const __m128 products = _mm_mul_ps(minors, pick<3, 2, 1, 0>(minors));
-    const __m128 mixed = _mm_mul_ps(pick<0, 2, 1, 3>(dc), ab);
-    const __m128 pairs = _mm_add_ps(mixed, _mm_movehl_ps(mixed, mixed));
-    const __m128 trace = _mm_add_ss(pairs, pick<1, 1, 1, 1>(pairs));
-    const __m128 determinant = _mm_sub_ss(_mm_add_ss(products, pick<1, 1, 1, 1>(products)), trace);
+    const __m128 near = _mm_mul_ps(upper.near, turnedByTwo(lower.near));
+    const __m128 far = _mm_mul_ps(upper.far, turnedByOne(lower.far));
+    const __m128 halves = _mm_add_ps(_mm_sub_ps(near, far), turnedByTwo(near));
+    const __m128 determinant = _mm_sub_ps(halves, turnedByOne(halves)); // D, -D, D, -D
     if (_mm_cvtss_f32(determinant) == 0) return false;
-    const __m128 signs = _mm_castsi128_ps(_mm_setr_epi32(0, INT32_MIN, INT32_MIN, 0));
-    const __m128 r = _mm_xor_ps(_mm_set1_ps(reciprocalByEstimate(_mm_cvtss_f32(determinant))), signs);
+    const __m128 r = reciprocalByEstimate(determinant), negatedR = turnedByOne(r);
 
-    const auto blockOf = [&](__m128 minor, __m128 block, __m128 other)
-                             VONKK3_INLINED { return _mm_mul_ps(_mm_sub_ps(_mm_mul_ps(minor, block), other), r); };
-    const __m128 x = blockOf(pick<3, 3, 3, 3>(minors), a, timesBlock(b, dc));
-    const __m128 y = blockOf(pick<1, 1, 1, 1>(minors), c, timesAdjugate(d, ab));
-    const __m128 z = blockOf(pick<2, 2, 2, 2>(minors), b, timesAdjugate(a, dc));
-    const __m128 w = blockOf(pick<0, 0, 0, 0>(minors), d, timesBlock(c, ab));
-    store4(inverse.at(0, 0), pick<3, 1, 3, 1>(x, y));
-    store4(inverse.at(1, 0), pick<2, 0, 2, 0>(x, y));
-    store4(inverse.at(2, 0), pick<3, 1, 3, 1>(z, w));
-    store4(inverse.at(3, 0), pick<2, 0, 2, 0>(z, w));
+    _MM_TRANSPOSE4_PS(column0, column1, column2, column3);
+    store4(inverse.at(0, 0), _mm_mul_ps(column1, r));
+    store4(inverse.at(1, 0), _mm_mul_ps(column2, negatedR));
+    store4(inverse.at(2, 0), _mm_mul_ps(column3, r));
+    store4(inverse.at(3, 0), _mm_mul_ps(column0, negatedR));
     return true;
 }
 

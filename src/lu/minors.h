@@ -11,20 +11,6 @@
 
 namespace vonkk3::lu {
 
-// The elements of a view, to be worked in W. What is worked in 80 bits has few registers: there, elements stay where
-// they are until they are used, for each use anew.
-template <class W, class View> class Elements {
-public:
-    VONKK3_INLINE explicit Elements(const View &view) : view(view) {}
-    VONKK3_INLINE auto operator()(std::size_t i, std::size_t j) const {
-        if constexpr (std::is_same_v<W, Wide>) return ElementInMemory<typename View::Element>(view.at(i, j));
-        else return view.load(i, j);
-    }
-
-private:
-    const View &view;
-};
-
 // ---- 3x3: three expansions, each with an order of its own -----------------------------------------------------------
 
 // Along row 0, the last cofactor first.

@@ -19,17 +19,16 @@ inline bool isInSingularInterval(Wide divisor) {
     return -Wide(singularBelow<Real64>) < divisor && divisor < Wide(singularBelow<Real64>);
 }
 
-inline Real32 reciprocalEstimate(Real32 d) { return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(d))); }
-
-// One Newton step from the processor's estimate of about 12 bits: x + x - d x^2, which is multiplied in one order for
+// One Newton step from the processor's estimate x of about 12 bits: x + x - d x^2, which is multiplied in one order for
 // 3x3 and in the other for larger matrices.
-inline Real32 reciprocalByEstimateOfThree(Real32 d) {
-    const Real32 x = reciprocalEstimate(d);
-    return (x + x) - (d * x) * x;
+inline __m128 reciprocalByEstimateOfThree(__m128 d) {
+    const __m128 x = _mm_rcp_ps(d);
+    return _mm_sub_ps(_mm_add_ps(x, x), _mm_mul_ps(_mm_mul_ps(d, x), x));
 }
-inline Real32 reciprocalByEstimate(Real32 d) {
-    const Real32 x = reciprocalEstimate(d);
-    return (x + x) - d * (x * x);
+inline __m128 reciprocalByEstimate(__m128 d) {
+    const __m128 x = _mm_rcp_ps(d);
+    return _mm_sub_ps(_mm_add_ps(x, x), _mm_mul_ps(d, _mm_mul_ps(x, x)));
 }
+inline Real32 reciprocalByEstimate(Real32 d) { return _mm_cvtss_f32(reciprocalByEstimate(_mm_set1_ps(d))); }
 
 } // namespace vonkk3::lu

@@ -20,6 +20,7 @@ template <class T, std::size_t order> struct SmallMatrix {
             for (std::size_t j = 0; j < order; ++j) view.store(i, j, elements[i][j]);
     }
 
+    RowsView<T> writableView() { return {reinterpret_cast<std::byte *>(elements), std::ptrdiff_t(order * sizeof(T))}; }
     RowsView<const T> view() const {
         return {reinterpret_cast<const std::byte *>(elements), std::ptrdiff_t(order * sizeof(T))};
     }
