@@ -183,7 +183,7 @@ VONKK3_INLINE VonkStatus combineRuns(const A &a, const B &b, const D &d, Count c
             if constexpr (isWorkedWhole<F::order>) {
                 workRun<F::order>(objectOf(first, n), objectOf(second, n), view.base, operation);
             } else if (first.mustGoByRows(n, view.base) || second.mustGoByRows(n, view.base)) {
-                workRows<F::order, Placement::anywhere>(first.stored(n), second.stored(n), view, operation);
+                workRunByRows<F::order>(first.stored(n), second.stored(n), view.base, operation);
                 first.refresh();
                 second.refresh();
             } else workRun<F::order>(first.object(n), second.object(n), view.base, operation);

@@ -3,8 +3,7 @@
 // row by row gives, unless the destination begins inside a source.
 #pragma once
 
-#include "frame/lanes.h"
-#include "frame/straight.h"
+#include "matrix/rows.h"
 #include "matrix/touch.h"
 
 namespace vonkk3::matrix {
@@ -99,6 +98,12 @@ VONKK3_INLINE void workRun(const A &a, const B &b, std::byte *d, Operation opera
     }
 }
 
+// The same row by row.
+template <std::size_t order, class Operation>
+VONKK3_APART void workRunByRows(StoredRun<order> a, StoredRun<order> b, std::byte *d, Operation operation) {
+    workRows<order, Placement::anywhere>(a, b, RowsView<Real32>(d, rowBytes<order>), operation);
+}
+
 // ---- One operand, object by object ----------------------------------------------------------------------------------
 //
 // object(n) is what a run is worked from. Where an object is not worked whole, mustGoByRows() tells whether a result at
@@ -144,7 +149,7 @@ struct ConstantStream {
 
 // So many bytes of whole elements, front to back.
 template <class Operation, class A, class B>
-VONKK3_INLINE void workStream(const A &a, const B &b, std::byte *d, std::size_t bytes, Operation operation) {
+VONKK3_APART void workStream(A a, B b, std::byte *d, std::size_t bytes, Operation operation) {
     const std::size_t bytesInFours = bytes / laneBytes * laneBytes;
     const auto workFour = [&](std::size_t at) VONKK3_INLINED { store4(d + at, operation(a.four(at), b.four(at))); };
     std::size_t at = 0;

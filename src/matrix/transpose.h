@@ -30,6 +30,11 @@ VONKK3_INLINE VonkStatus transposeElements(const A &a, const D &d, std::size_t c
     return vonkOk;
 }
 
+// The same for rows of adjacent elements that something keeps from being turned round in registers.
+template <std::size_t order> VONKK3_APART void transposeInMemory(RowsView<const Real32> a, RowsView<Real32> d) {
+    transposeElements<false>(a, d, order, order);
+}
+
 // ---- One object in registers: all of it is read before any of it is written -----------------------------------------
 
 template <Rows rows, std::size_t order>
@@ -99,7 +104,7 @@ VONKK3_INLINE VonkStatus transposeInLanes(const A &a, const D &d, Fixed<order> s
         [&](std::size_t n) VONKK3_INLINED {
             const auto from = a.view(n);
             const auto to = d.view(n);
-            if (touching(from.base, to.base)) transposeElements<false>(from, to, order, order);
+            if (touching(from.base, to.base)) transposeInMemory<order>(from, to);
             else turn<rows>(from, to, size);
             return vonkOk;
         },
@@ -117,11 +122,9 @@ VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, RowCount rows, c
     constexpr bool isAdjacent = D::layout == Layout::Standard || D::layout == Layout::L;
     if constexpr (std::is_same_v<typename D::Element, Real32> && isAdjacent && Columns::isFixed) {
         if (count == 0) return vonkOk;
-        constexpr bool maySaveStores = Columns::value == 3 || Columns::value == 6;
-        if constexpr (maySaveStores)
-            if (areRuns<Columns::value>(a, d))
-                return transposeInLanes<Rows::adjacent>(withRuns<Columns::value>(a), withRuns<Columns::value>(d),
-                                                        columns, count);
+        if (areRuns<Columns::value>(a, d))
+            return transposeInLanes<Rows::adjacent>(withRuns<Columns::value>(a), withRuns<Columns::value>(d), columns,
+                                                    count);
         return transposeInLanes<Rows::anywhere>(a, d, columns, count);
     } else {
         const TableRowLengths lengths(columns, rows);
