@@ -75,7 +75,7 @@ struct ConstantRun {
     VONKK3_INLINE __m128 last() const { return value; }
 };
 
-// 3x3 and 4x4 fit registers and are worked before any of the result is stored.
+// 3x3 and 4x4 fit registers beside what is held, and are worked before any of the result is stored.
 template <std::size_t order> inline constexpr bool isWorkedWhole = order <= 4;
 
 template <std::size_t order, class Operation, class A, class B>
