@@ -8,6 +8,9 @@
 #define VONKK3_INLINE [[gnu::always_inline]] inline   // before a function
 #define VONKK3_INLINED __attribute__((always_inline)) // behind the parameters of a lambda
 
+// For a loop or a rare way out that must not cost its neighbours their registers.
+#define VONKK3_APART [[gnu::noinline]]
+
 #ifdef __clang__
 #define VONKK3_UNROLL_WHOLE _Pragma("unroll")
 #define VONKK3_UNROLL_FOURFOLD _Pragma("unroll 4")

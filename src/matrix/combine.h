@@ -137,16 +137,22 @@ template <class A, class D, class Hold, class Work>
 VONKK3_INLINE VonkStatus pipelined(const A &a, const D &d, std::size_t count, Hold hold, Work work) {
     const std::size_t lastEntry = count - 1;
     if (a.listHasNull(0) || d.listHasNull(lastEntry)) return vonkErrNullPtr;
-    auto inHand = hold(a.view(0));
-    VONKK3_UNROLL_FOURFOLD
-    for (std::size_t n = 1; n < count; ++n) {
-        if (a.listHasNull(n) || d.listHasNull(n)) return vonkErrNullPtr;
-        const auto next = hold(a.view(n));
-        work(inHand, d.view(n - 1));
-        inHand = next;
+    auto first = hold(a.view(0));
+    auto firstTarget = d.view(D::isList && count == 0 ? lastEntry : 0);
+    for (std::size_t n = 1; n < count; n += 2) { // two objects take turns in registers
+        if (a.listHasNull(n) || d.listHasNull(n)) [[unlikely]]
+            return vonkErrNullPtr;
+        const auto second = hold(a.view(n));
+        const auto secondTarget = d.view(n);
+        work(first, firstTarget);
+        if (n + 1 == count) return work(second, secondTarget), vonkOk;
+        if (a.listHasNull(n + 1) || d.listHasNull(n + 1)) [[unlikely]]
+            return vonkErrNullPtr;
+        first = hold(a.view(n + 1));
+        firstTarget = d.view(n + 1);
+        work(second, secondTarget);
     }
-    work(inHand, d.view(D::isList || count != 0 ? lastEntry : 0));
-    return vonkOk;
+    return work(first, firstTarget), vonkOk;
 }
 
 // ---- Runs -----------------------------------------------------------------------------------------------------------
@@ -183,7 +189,7 @@ VONKK3_INLINE VonkStatus combineRuns(const A &a, const B &b, const D &d, Count c
             if constexpr (isWorkedWhole<F::order>) {
                 workRun<F::order>(objectOf(first, n), objectOf(second, n), view.base, operation);
             } else if (first.mustGoByRows(n, view.base) || second.mustGoByRows(n, view.base)) {
-                workRows<F::order, Placement::anywhere>(first.stored(n), second.stored(n), view, operation);
+                workRunByRows<F::order>(first.stored(n), second.stored(n), view.base, operation);
                 first.refresh();
                 second.refresh();
             } else workRun<F::order>(first.object(n), second.object(n), view.base, operation);
@@ -192,30 +198,39 @@ VONKK3_INLINE VonkStatus combineRuns(const A &a, const B &b, const D &d, Count c
         a, b, d);
 }
 
+// Which members may meet all matrices in one go: standard arrays that are read as they lie, beside another such array
+// or a single matrix that can be repeated.
+template <class F>
+inline constexpr bool mayBeOneRun = F::isArray &&F::layout == Layout::Standard &&
+                                    (F::firstArray && F::secondArray
+                                         ? !F::firstTransposed && !F::secondTransposed
+                                         : F::order != 5 &&
+                                               (F::firstArray ? !F::firstTransposed : !F::secondTransposed));
+
+// The single matrix y beside all of array x; false where that is not allowed.
+template <class F, class X, class Y, class D, class Operation>
+VONKK3_INLINE bool repeatSingle(const X &x, const Y &y, const D &d, std::size_t count, Operation operation) {
+    const std::size_t bytes = count * objectBytes<F::order>;
+    const std::byte *const from = x.view(0).base;
+    std::byte *const to = d.view(0).base;
+    if (!areOneRun<F::order>(x, d) || count < worthRepeating || runsAhead(to, from, bytes)) return false;
+    if (!isHeld<F, Y> && !areApart(Extent(asStored(y.view(0)), F::order, F::order), Extent(to, bytes))) return false;
+    return RepeatedRun<F::order>(y.view(0)).work(from, to, count, operation), true;
+}
+
 // All matrices in one go, if they follow one another and nothing is written that is yet to be read; else false.
 template <class F, class A, class B, class D, class Operation>
 VONKK3_INLINE bool combineAsOneRun(const A &a, const B &b, const D &d, std::size_t count, Operation operation) {
-    const std::size_t bytes = count * objectBytes<F::order>;
-    std::byte *const to = d.view(0).base;
-    const auto isSafe = [&](const std::byte *from) VONKK3_INLINED { return !runsAhead(to, from, bytes); };
-    if constexpr (F::firstArray && F::secondArray && mayWorkRuns<F, A, B>) {
+    const auto reversed = [=](__m128 x, __m128 y) VONKK3_INLINED { return operation(y, x); };
+    if constexpr (!F::secondArray) return repeatSingle<F>(a, b, d, count, operation);
+    else if constexpr (!F::firstArray) return repeatSingle<F>(b, a, d, count, reversed);
+    else {
+        const std::size_t bytes = count * objectBytes<F::order>;
         const std::byte *const first = a.view(0).base, *const second = b.view(0).base;
-        if (!areOneRun<F::order>(a, b, d) || !isSafe(first) || !isSafe(second)) return false;
+        std::byte *const to = d.view(0).base;
+        if (!areOneRun<F::order>(a, b, d) || runsAhead(to, first, bytes) || runsAhead(to, second, bytes)) return false;
         return workStream(StoredStream{first}, StoredStream{second}, to, bytes, operation), true;
-    } else if constexpr (F::firstArray && !F::secondArray && !F::firstTransposed && F::order != 5) {
-        if (!areOneRun<F::order>(a, d) || count < worthRepeating || !isSafe(a.view(0).base)) return false;
-        if (!isHeld<F, B> && !areApart(Extent(asStored(b.view(0)), F::order, F::order), Extent(to, bytes)))
-            return false;
-        RepeatedRun<F::order>(b.view(0)).work(a.view(0).base, to, count, operation);
-        return true;
-    } else if constexpr (!F::firstArray && F::secondArray && !F::secondTransposed && F::order != 5) {
-        const auto reversed = [&](__m128 x, __m128 y) VONKK3_INLINED { return operation(y, x); };
-        if (!areOneRun<F::order>(b, d) || count < worthRepeating || !isSafe(b.view(0).base)) return false;
-        if (!isHeld<F, A> && !areApart(Extent(asStored(a.view(0)), F::order, F::order), Extent(to, bytes)))
-            return false;
-        RepeatedRun<F::order>(a.view(0)).work(b.view(0).base, to, count, reversed);
-        return true;
-    } else return false;
+    }
 }
 
 template <class F, class A, class B, class D, class Operation>
@@ -236,16 +251,28 @@ VONKK3_INLINE VonkStatus combinePipelined(const A &a, const B &b, const D &d, st
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 template <class F, class A, class B, class D, class Count, class Operation>
-VONKK3_INLINE VonkStatus combineInLanes(const A &a, const B &b, const D &d, Count count, Operation operation) {
-    if (count == 0 && !isPipelined<F>) return vonkOk; // nothing is read, a single operand neither
-    if constexpr (F::isArray && F::layout == Layout::Standard)
-        if (combineAsOneRun<F>(a, b, d, count, operation)) return vonkOk;
+VONKK3_INLINE VonkStatus combineByObject(const A &a, const B &b, const D &d, Count count, Operation operation) {
     if constexpr (isPipelined<F>) return combinePipelined<F>(a, b, d, count, operation);
     else {
         if constexpr (mayWorkRuns<F, A, B>)
             if (isRun<F>(a) && isRun<F>(b) && isRun<F>(d)) return combineRuns<F>(a, b, d, count, operation);
         return combineRows<F>(a, b, d, count, operation);
     }
+}
+
+template <class F, class A, class B, class D, class Count, class Operation>
+VONKK3_APART VonkStatus combineByObjectApart(A a, B b, D d, Count count, Operation operation) {
+    return combineByObject<F>(a, b, d, count, operation);
+}
+
+template <class F, class A, class B, class D, class Count, class Operation>
+VONKK3_INLINE VonkStatus combineInLanes(const A &a, const B &b, const D &d, Count count, Operation operation) {
+    if (count == 0 && !isPipelined<F>) return vonkOk; // nothing is read, a single operand neither
+    if constexpr (mayBeOneRun<F>) {
+        if (combineAsOneRun<F>(a, b, d, count, operation)) [[likely]]
+            return vonkOk;
+        return combineByObjectApart<F>(a, b, d, count, operation);
+    } else return combineByObject<F>(a, b, d, count, operation);
 }
 
 // The view of an operand's object n in the shape of the result.

@@ -69,7 +69,7 @@ VONKK3_INLINE void normOfBlock(const A &a, std::size_t n, Fixed<order> size, std
 
 template <class A, std::size_t order>
 VONKK3_INLINE void normOfOne(const A &a, std::size_t n, Fixed<order> size, std::byte *results) {
-    store1(results + n * sizeof(Real32), rootByEstimate(sumOfSquares(a.view(n), size)));
+    storeAt<Real32>(results + n * sizeof(Real32), rootByEstimate(_mm_cvtss_f32(sumOfSquares(a.view(n), size))));
 }
 
 template <class A, std::size_t order, class Count>
@@ -92,29 +92,43 @@ VONKK3_INLINE VonkStatus normsByFour(const A &a, Fixed<order> size, std::byte *r
 }
 
 // 6x6 gives the same results one by one or four at a time, but four at a time must not be seen: no result may lie where
-// one of the block's other objects is read, and no list entry of the block may be null.
-template <class A> VONKK3_INLINE VonkStatus normsOfSix(const A &a, std::byte *results, std::size_t count) {
-    const Touching touching(reachOf<6>(a), Reach(block * sizeof(Real32)));
-    const auto mayWorkBlock = [&](std::size_t n) VONKK3_INLINED {
-        const auto mayWork = [&](std::size_t k) VONKK3_INLINED {
-            return !a.listHasNull(k) && !touching(a.view(k).base, results + n * sizeof(Real32));
-        };
-        return mayWork(n) && mayWork(n + 1) && mayWork(n + 2) && mayWork(n + 3);
-    };
-    std::size_t n = 0;
-    for (; n + block <= count; n += block) {
-        if (mayWorkBlock(n)) normOfBlock<Rows::anywhere>(a, n, fixed<6>, results);
-        else
-            for (std::size_t k = n; k < n + block; ++k) {
-                if (a.listHasNull(k)) return vonkErrNullPtr;
-                normOfOne(a, k, fixed<6>, results);
-            }
-    }
-    for (; n < count; ++n) {
+// a later object is read, and objects ahead of a null list entry are complete.
+template <class A>
+VONKK3_APART VonkStatus normsOfSixOneByOne(const A &a, std::size_t from, std::size_t to, std::byte *results) {
+    for (std::size_t n = from; n < to; ++n) {
         if (a.listHasNull(n)) return vonkErrNullPtr;
         normOfOne(a, n, fixed<6>, results);
     }
     return vonkOk;
+}
+
+template <class A, class MayWorkBlock>
+VONKK3_INLINE VonkStatus normsOfSix(const A &a, std::byte *results, std::size_t count, MayWorkBlock mayWorkBlock) {
+    std::size_t n = 0;
+    for (; n + block <= count; n += block) {
+        if (mayWorkBlock(n)) normOfBlock<Rows::adjacent>(a, n, fixed<6>, results);
+        else if (normsOfSixOneByOne(a, n, n + block, results) != vonkOk) return vonkErrNullPtr;
+    }
+    return normsOfSixOneByOne(a, n, count, results);
+}
+
+template <class A> VONKK3_INLINE VonkStatus normsOfSix(const A &a, std::byte *results, std::size_t count) {
+    const Reach reach = reachOf<6>(a);
+    if constexpr (A::layout == Layout::Standard) {
+        if (count == 0) return vonkOk;
+        const Touching touching(reach.repeated(count, a.objectSpacing()), Reach(count * sizeof(Real32)));
+        if (touching(a.view(0).base, results)) return normsOfSixOneByOne(a, 0, count, results);
+        return normsOfSix(a, results, count, [](std::size_t) VONKK3_INLINED { return true; });
+    } else {
+        const Touching touching(reach, Reach(block * sizeof(Real32)));
+        const auto mayWorkBlock = [&](std::size_t n) VONKK3_INLINED {
+            const auto mayWork = [&](std::size_t k) VONKK3_INLINED {
+                return !a.listHasNull(k) && !touching(a.view(k).base, results + n * sizeof(Real32));
+            };
+            return mayWork(n) && mayWork(n + 1) && mayWork(n + 2) && mayWork(n + 3);
+        };
+        return normsOfSix(a, results, count, mayWorkBlock);
+    }
 }
 
 template <class A, class Columns, class RowCount, class T, class Count>
@@ -125,9 +139,11 @@ VONKK3_INLINE VonkStatus frobeniusNorm(const A &a, Columns columns, RowCount row
     if (anyTableEntryNull(std::size_t(columns) * rows, a)) return vonkErrNullPtr;
 
     const auto cells = reinterpret_cast<std::byte *>(results);
-    if constexpr (way == NormOrder::inLanes && A::isArray && Columns::value == 6) return normsOfSix(a, cells, count);
-    else if constexpr (way == NormOrder::inLanes) return normsInLanes(a, columns, cells, count);
-    else if constexpr (way == NormOrder::inLanesByFour) {
+    if constexpr (way == NormOrder::inLanes) {
+        if constexpr (A::isArray && Columns::value == 6)
+            if (areRuns<6>(a)) return normsOfSix(withRuns<6>(a), cells, count);
+        return normsInLanes(a, columns, cells, count);
+    } else if constexpr (way == NormOrder::inLanesByFour) {
         if constexpr (Columns::value == 3)
             if (areRuns<3>(a)) return normsByFour<Rows::adjacent>(withRuns<3>(a), columns, cells, count);
         return normsByFour<Rows::anywhere>(a, columns, cells, count);

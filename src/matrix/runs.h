@@ -3,8 +3,7 @@
 // row by row gives, unless the destination begins inside a source.
 #pragma once
 
-#include "frame/lanes.h"
-#include "frame/straight.h"
+#include "matrix/rows.h"
 #include "matrix/touch.h"
 
 namespace vonkk3::matrix {
@@ -76,7 +75,7 @@ struct ConstantRun {
     VONKK3_INLINE __m128 last() const { return value; }
 };
 
-// 3x3 and 4x4 fit registers and are worked before any of the result is stored.
+// 3x3 and 4x4 fit registers beside what is held, and are worked before any of the result is stored.
 template <std::size_t order> inline constexpr bool isWorkedWhole = order <= 4;
 
 template <std::size_t order, class Operation, class A, class B>
@@ -97,6 +96,12 @@ VONKK3_INLINE void workRun(const A &a, const B &b, std::byte *d, Operation opera
                                 VONKK3_INLINED { store4(d + k * laneBytes, operation(a.four(k), b.four(k))); });
         if constexpr (order % 2 != 0) store1(d + lastAt, operation(a.last(), b.last()));
     }
+}
+
+// The same row by row.
+template <std::size_t order, class Operation>
+VONKK3_APART void workRunByRows(StoredRun<order> a, StoredRun<order> b, std::byte *d, Operation operation) {
+    workRows<order, Placement::anywhere>(a, b, RowsView<Real32>(d, rowBytes<order>), operation);
 }
 
 // ---- One operand, object by object ----------------------------------------------------------------------------------
@@ -144,7 +149,7 @@ struct ConstantStream {
 
 // So many bytes of whole elements, front to back.
 template <class Operation, class A, class B>
-VONKK3_INLINE void workStream(const A &a, const B &b, std::byte *d, std::size_t bytes, Operation operation) {
+VONKK3_APART void workStream(A a, B b, std::byte *d, std::size_t bytes, Operation operation) {
     const std::size_t bytesInFours = bytes / laneBytes * laneBytes;
     const auto workFour = [&](std::size_t at) VONKK3_INLINED { store4(d + at, operation(a.four(at), b.four(at))); };
     std::size_t at = 0;

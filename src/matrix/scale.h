@@ -31,23 +31,28 @@ template <class A, class Columns> inline constexpr bool scaleLooksAtAlignment = 
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
+template <std::size_t order> VONKK3_APART void scaleRunByRows(StoredRun<order> source, Real32 value, std::byte *d) {
+    workRows<order, Placement::anywhere>(source, ConstantRows<order>(value), RowsView<Real32>(d, rowBytes<order>),
+                                         Product());
+}
+
 template <std::size_t order, class A, class D, class Count>
 VONKK3_INLINE VonkStatus scaleRuns(const A &a, Real32 value, const D &d, Count count) {
     if constexpr (A::isArray && A::layout == Layout::Standard) {
         const std::size_t bytes = count * objectBytes<order>;
         const std::byte *const from = a.view(0).base;
         std::byte *const to = d.view(0).base;
-        if (areOneRun<order>(a, d) && !runsAhead(to, from, bytes))
+        if (areOneRun<order>(a, d) && !runsAhead(to, from, bytes)) [[likely]]
             return workStream(StoredStream{from}, ConstantStream{_mm_set1_ps(value)}, to, bytes, Product()), vonkOk;
     }
     return forEachObject(
         count,
         [&](std::size_t n) VONKK3_INLINED {
             const StoredRun<order> source(a.view(n).base);
-            const auto view = d.view(n);
-            if (!isWorkedWhole<order> && runsAhead(view.base, source.base, objectBytes<order>))
-                workRows<order, Placement::anywhere>(source, ConstantRows<order>(value), view, Product());
-            else workRun<order>(source, ConstantRun(value), view.base, Product());
+            std::byte *const to = d.view(n).base;
+            if (!isWorkedWhole<order> && runsAhead(to, source.base, objectBytes<order>))
+                scaleRunByRows(source, value, to);
+            else workRun<order>(source, ConstantRun(value), to, Product());
             return vonkOk;
         },
         a, d);

@@ -17,6 +17,10 @@ struct TableRowLengths {
     TableRowLengths(std::size_t columns, std::size_t rows) : source(rows), destination(columns) {}
 };
 
+// Real32 of fixed size where elements are adjacent: 3x3 goes along the rows of the source, element by element, so that
+// in place the upper triangle overwrites the lower one before that is read. Larger ones read all of an object first.
+template <class Columns> inline constexpr bool storesBeforeItHasRead = Columns::value == 3;
+
 // ---- One object -----------------------------------------------------------------------------------------------------
 
 // Along the rows of the source; an element is read when its turn comes.
@@ -30,66 +34,81 @@ VONKK3_INLINE VonkStatus transposeElements(const A &a, const D &d, std::size_t c
     return vonkOk;
 }
 
+// The same for rows of adjacent elements that something keeps from being turned round in registers.
+template <std::size_t order> VONKK3_APART void transposeInMemory(RowsView<const Real32> a, RowsView<Real32> d) {
+    transposeElements<false>(a, d, order, order);
+}
+
 // ---- One object in registers: all of it is read before any of it is written -----------------------------------------
+
+// e0 ... e8 as e0 e3 e6 e1, e4 e7 e2 e5, e8
+VONKK3_INLINE void turnRunOfThree(const std::byte *from, std::byte *to) {
+    const __m128 low = load4(from), high = load4(from + 16);
+    const Real32 last = loadAt<Real32>(from + 32);
+    const __m128 e61 = _mm_shuffle_ps(high, low, _MM_SHUFFLE(1, 1, 2, 2));
+    const __m128 e25 = _mm_shuffle_ps(low, high, _MM_SHUFFLE(1, 1, 2, 2));
+    store4(to, _mm_shuffle_ps(low, e61, _MM_SHUFFLE(2, 0, 3, 0)));
+    store4(to + 16, _mm_shuffle_ps(high, e25, _MM_SHUFFLE(2, 0, 3, 0)));
+    storeAt<Real32>(to + 32, last);
+}
+
+// Elements (i, j), (i, j + 1), (i + 1, j), (i + 1, j + 1)
+VONKK3_INLINE __m128 loadSquare(const RowsView<const Real32> &from, std::size_t i, std::size_t j) {
+    return _mm_loadh_pi(load2(from.at(i, j)), pair(from.at(i + 1, j)));
+}
+// Column j of two such squares, one below the other, and column j + 1.
+VONKK3_INLINE __m128 evenColumn(__m128 upper, __m128 lower) {
+    return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(2, 0, 2, 0));
+}
+VONKK3_INLINE __m128 oddColumn(__m128 upper, __m128 lower) {
+    return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(3, 1, 3, 1));
+}
+
+// Columns j and j + 1 become rows; where those are a run, three stores do.
+template <Rows rows> VONKK3_INLINE void turnSix(const RowsView<const Real32> &from, const RowsView<Real32> &to) {
+    __m128 squares[3][3];
+    forEachBelow<3>([&](std::size_t across) VONKK3_INLINED {
+        forEachBelow<3>([&](std::size_t down)
+                            VONKK3_INLINED { squares[across][down] = loadSquare(from, 2 * down, 2 * across); });
+    });
+    forEachBelow<3>([&](std::size_t across) VONKK3_INLINED {
+        const auto &[upper, middle, lower] = squares[across];
+        const std::size_t i = 2 * across;
+        const __m128 ends = _mm_shuffle_ps(lower, upper, _MM_SHUFFLE(3, 1, 2, 0));
+        store4(to.at(i, 0), evenColumn(upper, middle));
+        if constexpr (rows == Rows::adjacent) store4(to.at(i, 4), ends);
+        else store2(to.at(i, 4), ends), _mm_storeh_pi(pair(to.at(i + 1, 0)), ends);
+        store4(to.at(i + 1, 2), oddColumn(middle, lower));
+    });
+}
 
 template <Rows rows, std::size_t order>
 VONKK3_INLINE void turn(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<order>) {
-    const TurnedRows<order> turned{TransposedView{from}};
-    forEachBelow<order>([&](std::size_t i) VONKK3_INLINED { turned.row(i).store(to.at(i, 0)); });
-}
-
-// e0 ... e8 as e0 e3 e6 e1, e4 e7 e2 e5, e8
-template <>
-VONKK3_INLINE void turn<Rows::adjacent>(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<3>) {
-    const __m128 low = load4(from.base), high = load4(from.base + 16);
-    const Real32 last = loadAt<Real32>(from.base + 32);
-    const __m128 e61 = _mm_shuffle_ps(high, low, _MM_SHUFFLE(1, 1, 2, 2));
-    const __m128 e25 = _mm_shuffle_ps(low, high, _MM_SHUFFLE(1, 1, 2, 2));
-    store4(to.base, _mm_shuffle_ps(low, e61, _MM_SHUFFLE(2, 0, 3, 0)));
-    store4(to.base + 16, _mm_shuffle_ps(high, e25, _MM_SHUFFLE(2, 0, 3, 0)));
-    storeAt<Real32>(to.base + 32, last);
-}
-
-// Two columns at a time, which become two rows.
-template <Rows rows> VONKK3_INLINE void turnSix(const RowsView<const Real32> &from, const RowsView<Real32> &to) {
-    __m128 pairs[3][3]; // of columns j and j + 1: rows 0 and 1, 2 and 3, 4 and 5
-    forEachBelow<3>([&](std::size_t column) VONKK3_INLINED {
-        forEachBelow<3>([&](std::size_t row) VONKK3_INLINED {
-            const std::byte *const upper = from.at(2 * row, 2 * column), *const lower =
-                                                                             from.at(2 * row + 1, 2 * column);
-            pairs[column][row] = _mm_loadh_pi(load2(upper), pair(lower));
+    if constexpr (order == 3 && rows == Rows::adjacent) turnRunOfThree(from.base, to.base);
+    else if constexpr (order == 6) turnSix<rows>(from, to);
+    else {
+        const TurnedRows<order> turned{TransposedView{from}};
+        __m128 heads[order], tails[order];
+        forEachBelow<order>([&](std::size_t i) VONKK3_INLINED {
+            const Lanes<order> row = turned.row(i);
+            heads[i] = row.head;
+            tails[i] = row.tail;
         });
-    });
-    forEachBelow<3>([&](std::size_t column) VONKK3_INLINED {
-        const auto &[first, second, third] = pairs[column];
-        const std::size_t i = 2 * column;
-        const __m128 ends = _mm_shuffle_ps(third, first, _MM_SHUFFLE(3, 1, 2, 0));
-        store4(to.at(i, 0), _mm_shuffle_ps(first, second, _MM_SHUFFLE(2, 0, 2, 0)));
-        if constexpr (rows == Rows::adjacent) store4(to.at(i, 4), ends);
-        else store2(to.at(i, 4), ends), _mm_storeh_pi(pair(to.at(i + 1, 0)), ends);
-        store4(to.at(i + 1, 2), _mm_shuffle_ps(second, third, _MM_SHUFFLE(3, 1, 3, 1)));
-    });
-}
-template <>
-VONKK3_INLINE void turn<Rows::anywhere>(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<6>) {
-    turnSix<Rows::anywhere>(from, to);
-}
-template <>
-VONKK3_INLINE void turn<Rows::adjacent>(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<6>) {
-    turnSix<Rows::adjacent>(from, to);
+        forEachBelow<order>([&](std::size_t i) VONKK3_INLINED { Lanes<order>{heads[i], tails[i]}.store(to.at(i, 0)); });
+    }
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-// Objects that lie apart from their results are turned round in registers; others element by element.
-template <Rows rows, class A, class D, std::size_t order, class Count>
-VONKK3_INLINE VonkStatus transposeInLanes(const A &a, const D &d, Fixed<order> size, Count count) {
-    const Reach source = reachOf<order>(a), destination = reachOf<order>(d);
+// 3x3: objects that touch their results go element by element.
+template <Rows rows, class A, class D, class Count>
+VONKK3_INLINE VonkStatus transposeThrees(const A &a, const D &d, Count count) {
+    const Reach source = reachOf<3>(a), destination = reachOf<3>(d);
     if constexpr (A::isArray && A::layout == Layout::Standard) {
         const Touching touching(source.repeated(count, a.objectSpacing()),
                                 destination.repeated(count, d.objectSpacing()));
         if (!touching(a.view(0).base, d.view(0).base)) {
-            for (std::size_t n = 0; n < count; ++n) turn<rows>(a.view(n), d.view(n), size);
+            for (std::size_t n = 0; n < count; ++n) turn<rows>(a.view(n), d.view(n), fixed<3>);
             return vonkOk;
         }
     }
@@ -99,11 +118,19 @@ VONKK3_INLINE VonkStatus transposeInLanes(const A &a, const D &d, Fixed<order> s
         [&](std::size_t n) VONKK3_INLINED {
             const auto from = a.view(n);
             const auto to = d.view(n);
-            if (touching(from.base, to.base)) transposeElements<false>(from, to, order, order);
-            else turn<rows>(from, to, size);
+            if (touching(from.base, to.base)) transposeInMemory<3>(from, to);
+            else turn<rows>(from, to, fixed<3>);
             return vonkOk;
         },
         a, d);
+}
+
+template <Rows rows, class A, class D, std::size_t order, class Count>
+VONKK3_INLINE VonkStatus transposeInLanes(const A &a, const D &d, Fixed<order> size, Count count) {
+    if constexpr (storesBeforeItHasRead<Fixed<order>>) return transposeThrees<rows>(a, d, count);
+    else
+        return forEachObject(
+            count, [&](std::size_t n) VONKK3_INLINED { return turn<rows>(a.view(n), d.view(n), size), vonkOk; }, a, d);
 }
 
 // d(n, j, i) = a(n, i, j), for `rows` by `columns` of the source.
@@ -117,11 +144,9 @@ VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, RowCount rows, c
     constexpr bool isAdjacent = D::layout == Layout::Standard || D::layout == Layout::L;
     if constexpr (std::is_same_v<typename D::Element, Real32> && isAdjacent && Columns::isFixed) {
         if (count == 0) return vonkOk;
-        constexpr bool maySaveStores = Columns::value == 3 || Columns::value == 6;
-        if constexpr (maySaveStores)
-            if (areRuns<Columns::value>(a, d))
-                return transposeInLanes<Rows::adjacent>(withRuns<Columns::value>(a), withRuns<Columns::value>(d),
-                                                        columns, count);
+        if (areRuns<Columns::value>(a, d))
+            return transposeInLanes<Rows::adjacent>(withRuns<Columns::value>(a), withRuns<Columns::value>(d), columns,
+                                                    count);
         return transposeInLanes<Rows::anywhere>(a, d, columns, count);
     } else {
         const TableRowLengths lengths(columns, rows);
