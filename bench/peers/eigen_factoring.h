@@ -1,16 +1,14 @@
-// Eigen's Cholesky and QR decomposition, and its solutions.
+// The definitions behind eigen_cholqr.h, to be instantiated in several files: compiling them takes minutes.
+#pragma once
+
 #include "peers/eigen_cholqr.h"
 
 namespace bench::eigen {
-namespace {
-
 using Eigen::Map;
 
 template <class T, std::size_t order> using RowMajor = Eigen::Matrix<T, int(order), int(order), Eigen::RowMajor>;
 template <class T, std::size_t order> using Column = Eigen::Matrix<T, int(order), 1>;
 template <class T, std::size_t order> using Columns = Eigen::Matrix<T, int(order), Eigen::Dynamic>;
-
-} // namespace
 
 template <class T, class W, std::size_t order, template <class, std::size_t> class Decomposition>
 void Factoring<T, W, order, Decomposition>::decompose(const T *source, Factors *factors, std::size_t count) {
@@ -39,25 +37,5 @@ void Factoring<T, W, order, Decomposition>::solveForOneAtOnce(const Factors &fac
         factors.solve(Map<const Columns<T, order>>(b, int(order), Eigen::Index(count)).template cast<W>())
             .template cast<T>();
 }
-
-template struct Factoring<float, float, 3, Cholesky>;
-template struct Factoring<float, float, 4, Cholesky>;
-template struct Factoring<float, float, 6, Cholesky>;
-template struct Factoring<double, double, 3, Cholesky>;
-template struct Factoring<double, double, 4, Cholesky>;
-template struct Factoring<double, double, 6, Cholesky>;
-template struct Factoring<double, long double, 3, Cholesky>;
-template struct Factoring<double, long double, 4, Cholesky>;
-template struct Factoring<double, long double, 6, Cholesky>;
-
-template struct Factoring<float, float, 3, Qr>;
-template struct Factoring<float, float, 4, Qr>;
-template struct Factoring<float, float, 6, Qr>;
-template struct Factoring<double, double, 3, Qr>;
-template struct Factoring<double, double, 4, Qr>;
-template struct Factoring<double, double, 6, Qr>;
-template struct Factoring<double, long double, 3, Qr>;
-template struct Factoring<double, long double, 4, Qr>;
-template struct Factoring<double, long double, 6, Qr>;
 
 } // namespace bench::eigen
