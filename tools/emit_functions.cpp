@@ -1,8 +1,9 @@
 // docs/functions.md: every family with its groups, sizes and layouts, and where its section of the header begins.
+#include "catalogue.h"
 #include "emit.h"
 
 #include <algorithm>
-#include <array>
+#include <vector>
 
 namespace emit {
 namespace {
