@@ -173,6 +173,9 @@ template <class F, class Operand> VONKK3_INLINE auto runsOf(const Operand &opera
     else return SingleRun<F::order>(operand.view(0).base);
 }
 
+// 3x3 and 4x4 are loaded whole before they are stored, beside what is held.
+template <class F> inline constexpr bool fitsRegisters = F::order <= 4;
+
 template <class Runs> VONKK3_INLINE auto objectOf(const Runs &runs, std::size_t n) { return runs.object(n); }
 template <std::size_t order> VONKK3_INLINE const HeldRun<order> &objectOf(const HeldRun<order> &held, std::size_t) {
     return held;
@@ -186,13 +189,13 @@ VONKK3_INLINE VonkStatus combineRuns(const A &a, const B &b, const D &d, Count c
         count,
         [&](std::size_t n) VONKK3_INLINED {
             const auto view = d.view(n);
-            if constexpr (isWorkedWhole<F::order>) {
-                workRun<F::order>(objectOf(first, n), objectOf(second, n), view.base, operation);
-            } else if (first.mustGoByRows(n, view.base) || second.mustGoByRows(n, view.base)) {
+            if constexpr (fitsRegisters<F>) {
+                workRun<F::order, Storing::atTheEnd>(objectOf(first, n), objectOf(second, n), view.base, operation);
+            } else if (first.mustGoByRows(n, view.base) || second.mustGoByRows(n, view.base)) [[unlikely]] {
                 workRunByRows<F::order>(first.stored(n), second.stored(n), view.base, operation);
                 first.refresh();
                 second.refresh();
-            } else workRun<F::order>(first.object(n), second.object(n), view.base, operation);
+            } else workRun<F::order, Storing::asTheyCome>(first.object(n), second.object(n), view.base, operation);
             return vonkOk;
         },
         a, b, d);
@@ -237,7 +240,7 @@ template <class F, class A, class B, class D, class Operation>
 VONKK3_INLINE VonkStatus combinePipelined(const A &a, const B &b, const D &d, std::size_t count, Operation operation) {
     if (areRuns<3>(a, d)) {
         const auto work = [second = HeldRun<3>(b.view(0)), operation](const HeldRun<3> &first, const auto &view)
-                              VONKK3_INLINED { workRun<3>(first, second, view.base, operation); };
+                              VONKK3_INLINED { workRun<3, Storing::atTheEnd>(first, second, view.base, operation); };
         return pipelined(
             a, d, count, [](const auto &view) VONKK3_INLINED { return HeldRun<3>(StoredRun<3>(view.base)); }, work);
     }

@@ -75,13 +75,13 @@ struct ConstantRun {
     VONKK3_INLINE __m128 last() const { return value; }
 };
 
-// 3x3 and 4x4 fit registers beside what is held, and are worked before any of the result is stored.
-template <std::size_t order> inline constexpr bool isWorkedWhole = order <= 4;
+// When a run's results are stored: each as it comes, or all of them when the whole run has been worked.
+enum class Storing { asTheyCome, atTheEnd };
 
-template <std::size_t order, class Operation, class A, class B>
+template <std::size_t order, Storing storing, class Operation, class A, class B>
 VONKK3_INLINE void workRun(const A &a, const B &b, std::byte *d, Operation operation) {
     constexpr std::size_t fours = runFours<order>, lastAt = fours * laneBytes;
-    if constexpr (isWorkedWhole<order>) {
+    if constexpr (storing == Storing::atTheEnd) {
         __m128 results[fours];
         forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { results[k] = operation(a.four(k), b.four(k)); });
         if constexpr (order % 2 == 0)

@@ -31,11 +31,6 @@ template <class A, class Columns> inline constexpr bool scaleLooksAtAlignment = 
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-template <std::size_t order> VONKK3_APART void scaleRunByRows(StoredRun<order> source, Real32 value, std::byte *d) {
-    workRows<order, Placement::anywhere>(source, ConstantRows<order>(value), RowsView<Real32>(d, rowBytes<order>),
-                                         Product());
-}
-
 template <std::size_t order, class A, class D, class Count>
 VONKK3_INLINE VonkStatus scaleRuns(const A &a, Real32 value, const D &d, Count count) {
     if constexpr (A::isArray && A::layout == Layout::Standard) {
@@ -48,11 +43,8 @@ VONKK3_INLINE VonkStatus scaleRuns(const A &a, Real32 value, const D &d, Count c
     return forEachObject(
         count,
         [&](std::size_t n) VONKK3_INLINED {
-            const StoredRun<order> source(a.view(n).base);
-            std::byte *const to = d.view(n).base;
-            if (!isWorkedWhole<order> && runsAhead(to, source.base, objectBytes<order>))
-                scaleRunByRows(source, value, to);
-            else workRun<order>(source, ConstantRun(value), to, Product());
+            workRun<order, Storing::atTheEnd>(StoredRun<order>(a.view(n).base), ConstantRun(value), d.view(n).base,
+                                              Product());
             return vonkOk;
         },
         a, d);
