@@ -3172,6 +3172,4771 @@ VonkStatus vonkCrossProduct_vava_64f_3x1_LS2(const double *const *src1, int32_t 
     const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 
+/* ---- Matrix and matrix ----------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkAdd_mm_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mm_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mm_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mmT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mmT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mmT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mTm_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mTm_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTm_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mTmT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mTmT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkAdd_mTmT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkAdd_mTmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkAdd_mTmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkAdd_mTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkAdd_mam_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mam_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mam_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mamT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mamT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTm_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTm_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTm_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTmT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTmT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mama_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mama_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mama_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mama_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mamaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_mamaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_mamaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTma_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTma_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTma_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTmaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkAdd_maTmaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkAdd_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mm_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mm_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mm_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mmT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mmT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mmT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mTm_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mTm_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTm_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mTmT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
+    float *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mTmT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkSub_mTmT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkSub_mTmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
+    double *dst, int32_t dstRowStride);
+VonkStatus vonkSub_mTmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
+    int32_t dstElemStride);
+VonkStatus vonkSub_mTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkSub_mma_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mma_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mma_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mmaT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mmaT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mTma_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mTma_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTma_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mTmaT_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mTmaT_64f(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2, int32_t src2Shift,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mTmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mam_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mam_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2, int32_t src2Shift,
+    double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mam_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mamT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mamT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTm_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTm_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTm_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTmT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTmT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *src2, int32_t src2RowStride, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mama_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mama_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mama_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mama_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mamaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_mamaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_mamaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTma_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
+    float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTma_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTma_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTma_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTmaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkSub_maTmaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
+    uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2RowStride, double *const *dst, int32_t dstShift,
+    int32_t dstRowStride, uint32_t count);
+VonkStatus vonkSub_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+
+/* ---- Matrix times constant ------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkMul_mc_32f(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_32f_3x3(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_32f_4x4(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_32f_5x5(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_32f_6x6(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkMul_mc_64f(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mc_64f_3x3(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_64f_3x3_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_64f_4x4(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_64f_4x4_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_64f_5x5(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_64f_5x5_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mc_64f_6x6(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mc_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mc_64f_6x6_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkMul_mTc_32f(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_32f_3x3(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_32f_4x4(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_32f_5x5(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_32f_6x6(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkMul_mTc_64f(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkMul_mTc_64f_3x3(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_64f_3x3_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_64f_4x4(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_64f_4x4_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_64f_5x5(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_64f_5x5_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkMul_mTc_64f_6x6(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
+VonkStatus vonkMul_mTc_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkMul_mTc_64f_6x6_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkMul_mac_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkMul_mac_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_mac_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkMul_maTc_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
+    uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkMul_maTc_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double val, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double val,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkMul_maTc_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double val, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+
+/* ---- Transpose ------------------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkTranspose_m_32f(const float *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkTranspose_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
+    uint32_t rows, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
+    float *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkTranspose_m_64f(const double *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkTranspose_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
+    uint32_t rows, double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
+    double *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+VonkStatus vonkTranspose_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkTranspose_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkTranspose_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkTranspose_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t cols, uint32_t rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
+    float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
+    uint32_t rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t cols, uint32_t rows, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+
+VonkStatus vonkTranspose_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t cols, uint32_t rows, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
+    double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
+    uint32_t rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t cols, uint32_t rows, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkTranspose_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+
+/* ---- Trace ----------------------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkTrace_m_32f(const float *src, int32_t srcRowStride, uint32_t order, float *dst);
+VonkStatus vonkTrace_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
+    float *dst);
+VonkStatus vonkTrace_m_32f_P(const float *const *src, int32_t srcShift, uint32_t order, float *dst);
+VonkStatus vonkTrace_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkTrace_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkTrace_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkTrace_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkTrace_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkTrace_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkTrace_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkTrace_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkTrace_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkTrace_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkTrace_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkTrace_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst);
+
+VonkStatus vonkTrace_m_64f(const double *src, int32_t srcRowStride, uint32_t order, double *dst);
+VonkStatus vonkTrace_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
+    double *dst);
+VonkStatus vonkTrace_m_64f_P(const double *const *src, int32_t srcShift, uint32_t order, double *dst);
+VonkStatus vonkTrace_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkTrace_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkTrace_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkTrace_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkTrace_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkTrace_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkTrace_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkTrace_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkTrace_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkTrace_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkTrace_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkTrace_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst);
+
+VonkStatus vonkTrace_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t order, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+
+VonkStatus vonkTrace_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t order, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t order, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkTrace_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+
+/* ---- Frobenius norm -------------------------------------------------------------------------------------------------
+ *
+ *
+ *
+ * Overlap:
+ *
+ *
+ * Read beyond the operands:
+ *
+ */
+
+VonkStatus vonkFrobNorm_m_32f(const float *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, float *dst);
+VonkStatus vonkFrobNorm_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
+    uint32_t rows, float *dst);
+VonkStatus vonkFrobNorm_m_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, float *dst);
+VonkStatus vonkFrobNorm_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkFrobNorm_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkFrobNorm_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst);
+VonkStatus vonkFrobNorm_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
+VonkStatus vonkFrobNorm_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst);
+
+VonkStatus vonkFrobNorm_m_64f(const double *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, double *dst);
+VonkStatus vonkFrobNorm_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
+    uint32_t rows, double *dst);
+VonkStatus vonkFrobNorm_m_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, double *dst);
+VonkStatus vonkFrobNorm_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkFrobNorm_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkFrobNorm_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst);
+VonkStatus vonkFrobNorm_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
+VonkStatus vonkFrobNorm_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst);
+
+VonkStatus vonkFrobNorm_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t cols, uint32_t rows, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
+    uint32_t rows, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t cols, uint32_t rows, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, uint32_t count);
+
+VonkStatus vonkFrobNorm_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    uint32_t cols, uint32_t rows, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
+    uint32_t rows, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
+    uint32_t rows, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, uint32_t cols, uint32_t rows, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
+    uint32_t count);
+VonkStatus vonkFrobNorm_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, uint32_t count);
+
 /* ---- Matrix by matrix -----------------------------------------------------------------------------------------------
  *
  * dst(n, i, j) = sum over k of A(i, k) B(k, j)
@@ -8210,6 +12975,1275 @@ VonkStatus vonkInvert_ma_64f_6x6_L(const double *const *src, int32_t srcShift, i
 VonkStatus vonkInvert_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
+
+/* ---- Cholesky decomposition -----------------------------------------------------------------------------------------
+ *
+ * vonkCholeskyDecomp factors each symmetric positive definite matrix A of `src`, `order` by `order`, into L L', L
+ * lower triangular with a positive diagonal. `dst` gets L below the diagonal and on it the RECIPROCALS 1 / L(i, i), so
+ * that vonkCholeskyBackSubst need not divide. Only lower triangles are read and written, with their diagonals:
+ * elements above them, and the pointers of such positions, may be anything, and in `dst` they stay.
+ *
+ * Row by row: F(i, j) = (A(i, j) - the sum of F(i, k) F(j, k) over k < j) F(j, j) for j < i, then s = A(i, i) - the
+ * sum of F(i, k)^2 over k < i and F(i, i) = 1 / root of s; products are taken off one by one, k ascending. Unless s >
+ * 0 the call ends with vonkErrNotPosDef. There is no tolerance. Method: Golub and Van Loan, Matrix Computations,
+ * "Cholesky factorization", row by row.
+ *
+ * Rounding: `32f` rounds every operation, but takes root and reciprocal in the 80-bit type and rounds them once; in
+ * `P` and `PS2` both are `32f` operations. `64f` in the 80-bit type, at the calling thread's precision: orders 3 to 6,
+ * also as `order`, keep all of F unrounded and round what they store, but for `P` and `PS2`; these and all other
+ * orders read F back from `dst`, and round a difference behind its pairs of products, not behind an odd last one.
+ *
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `order` is 0, or `count` is; vonkErrNotPosDef if a
+ * matrix is not positive definite, with a NaN in its pivot or not: rows before the failing one and, of that, the
+ * elements below the diagonal are stored by then, objects before it are complete, and those after it untouched.
+ * Entries of tables and lists are not tested; but in `L` and `LS2` an entry that is null WITH its shift gives
+ * vonkErrNullPtr when its turn comes.
+ *
+ * Members that behave unlike their siblings:
+ * - Arrays: `count` 0 is vonkErrSize. With its top bit set nothing is done and vonkOk returned, but in `P` and `PS2`,
+ *   where it is a very large number.
+ * - Orders 3 to 6, also as `order`, in `S2` and `LS2`: element strides count in whole elements; bits below are
+ *   dropped.
+ * - `64f`, order 3 and 4, but for `P` and `PS2`: a NaN passes as the very first pivot. F(0, 0) and F(1, 0) are stored,
+ *   and the call fails at the second.
+ *
+ * Overlap:
+ * `dst` may be `src` itself, with the same strides or tables. No other overlap is supported.
+ *
+ * Read beyond the operands:
+ * Nothing.
+ */
+
+VonkStatus vonkCholeskyDecomp_m_32f(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride,
+    uint32_t order);
+VonkStatus vonkCholeskyDecomp_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t order);
+VonkStatus vonkCholeskyDecomp_m_32f_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t order);
+VonkStatus vonkCholeskyDecomp_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkCholeskyDecomp_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkCholeskyDecomp_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkCholeskyDecomp_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkCholeskyDecomp_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkCholeskyDecomp_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkCholeskyDecomp_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkCholeskyDecomp_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkCholeskyDecomp_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkCholeskyDecomp_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+VonkStatus vonkCholeskyDecomp_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkCholeskyDecomp_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkCholeskyDecomp_m_64f(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride,
+    uint32_t order);
+VonkStatus vonkCholeskyDecomp_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t order);
+VonkStatus vonkCholeskyDecomp_m_64f_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t order);
+VonkStatus vonkCholeskyDecomp_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkCholeskyDecomp_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkCholeskyDecomp_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkCholeskyDecomp_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkCholeskyDecomp_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkCholeskyDecomp_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkCholeskyDecomp_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkCholeskyDecomp_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkCholeskyDecomp_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkCholeskyDecomp_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+VonkStatus vonkCholeskyDecomp_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
+    int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkCholeskyDecomp_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkCholeskyDecomp_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t order, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
+    uint32_t order, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t order, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t order, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+
+VonkStatus vonkCholeskyDecomp_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t order, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
+    uint32_t order, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t order, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t order, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+VonkStatus vonkCholeskyDecomp_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
+    int32_t count);
+
+/* ---- Cholesky back substitution -------------------------------------------------------------------------------------
+ *
+ * vonkCholeskyBackSubst solves A x = b with what vonkCholeskyDecomp left: `src1` the factor F with the reciprocals on
+ * its diagonal, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system;
+ * `mva` one factor for `count` right-hand sides; `mava` a factor per object. Nothing above the diagonal of `src1` is
+ * read.
+ *
+ * Forward: x(i) = (b(i) - the sum of F(i, k) x(k) over k < i) F(i, i). Backward, from the last row up: x(i) = (x(i) -
+ * the sum of F(k, i) x(k) over k > i) F(i, i). Products are taken off one by one, forward with k ascending, backward
+ * with k DESCENDING; x is its own scratch space. `32f` rounds every operation; `64f` is worked in the 80-bit type and
+ * rounded where it is stored. Nothing divides. Method: Golub and Van Loan, Matrix Computations, "Triangular systems".
+ *
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `order` is 0, or `count` is; else vonkOk.
+ * Neither the numbers nor entries of tables and lists are tested; but in `L` and `LS2` an object one of whose entries
+ * is null WITH its shift is passed over, without a word, and the next is worked.
+ *
+ * Members that behave unlike their siblings:
+ * - Arrays: `count` 0 is vonkErrSize; with its top bit set nothing is done and vonkOk returned. In `S2` and `LS2` the
+ *   same goes for the top bit of `order`.
+ * - `mva` has no word behind `src1` that its matrix does not need, as the other two families of solvers have.
+ *
+ * Overlap:
+ * `dst` may be `src2` itself. Nothing tests overlap; both ways read what memory holds by then.
+ *
+ * Read beyond the operands:
+ * Nothing.
+ */
+
+VonkStatus vonkCholeskyBackSubst_mv_32f(const float *src1, int32_t src1RowStride, const float *src2, float *dst,
+    uint32_t order);
+VonkStatus vonkCholeskyBackSubst_mv_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride, int32_t order);
+VonkStatus vonkCholeskyBackSubst_mv_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order);
+VonkStatus vonkCholeskyBackSubst_mv_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkCholeskyBackSubst_mv_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkCholeskyBackSubst_mv_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkCholeskyBackSubst_mv_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkCholeskyBackSubst_mv_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkCholeskyBackSubst_mv_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkCholeskyBackSubst_mv_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkCholeskyBackSubst_mv_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkCholeskyBackSubst_mv_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkCholeskyBackSubst_mv_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+VonkStatus vonkCholeskyBackSubst_mv_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkCholeskyBackSubst_mv_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkCholeskyBackSubst_mv_64f(const double *src1, int32_t src1RowStride, const double *src2, double *dst,
+    uint32_t order);
+VonkStatus vonkCholeskyBackSubst_mv_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride, int32_t order);
+VonkStatus vonkCholeskyBackSubst_mv_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order);
+VonkStatus vonkCholeskyBackSubst_mv_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkCholeskyBackSubst_mv_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkCholeskyBackSubst_mv_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkCholeskyBackSubst_mv_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkCholeskyBackSubst_mv_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkCholeskyBackSubst_mv_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkCholeskyBackSubst_mv_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkCholeskyBackSubst_mv_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkCholeskyBackSubst_mv_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkCholeskyBackSubst_mv_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+VonkStatus vonkCholeskyBackSubst_mv_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkCholeskyBackSubst_mv_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkCholeskyBackSubst_mva_32f(const float *src1, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, int32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t order,
+    int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, int32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
+    int32_t dstElemStride, int32_t count);
+
+VonkStatus vonkCholeskyBackSubst_mva_64f(const double *src1, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, int32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
+    uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, int32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_3x3_PS2(const double *const *src1, int32_t src1Shift,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_4x4_PS2(const double *const *src1, int32_t src1Shift,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_5x5_PS2(const double *const *src1, int32_t src1Shift,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
+    int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
+    int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_6x6_PS2(const double *const *src1, int32_t src1Shift,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mva_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
+    int32_t dstElemStride, int32_t count);
+
+VonkStatus vonkCholeskyBackSubst_mava_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, int32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, int32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
+    int32_t dstShift, int32_t dstElemStride, int32_t count);
+
+VonkStatus vonkCholeskyBackSubst_mava_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, int32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, int32_t order, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
+    int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
+    int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
+    int32_t dstShift, int32_t dstElemStride, int32_t count);
+
+/* ---- QR decomposition -----------------------------------------------------------------------------------------------
+ *
+ * vonkQRDecomp factors each matrix of `src`, `rows` by `cols` with `rows` >= `cols`, into an orthogonal Q and an upper
+ * triangular R by Householder reflections, column by column. `dst` gets R on and above the diagonal and below it, in
+ * column k, reflector k: elements k + 1 and on of the vector v whose element k is 1. The reflection is I + beta v v'
+ * with beta = -2 / (v'v), which vonkQRBackSubst reckons anew. There is a reflection for each column, but none for the
+ * last column of a square matrix. `work` is a block of `rows` elements in every layout, used for every object anew;
+ * what it holds before does not matter, and on return it holds the last reflector.
+ *
+ * For column k: s = the sum of d(i, k)^2 over i >= k. If s is below 2^-23 = 1.1920928955078125e-7 or a NaN, the call
+ * ends with vonkErrSingular: an absolute bound on the SQUARED norm, the same for both types, so columns with elements
+ * of about 1e-4 fail; scale such data. Then alpha = d(k, k) + t, where t is the root of s with the sign of d(k, k),
+ * minus for 0; v(i) = d(i, k) (1 / alpha); and for each column c >= k: p = (d(k, c) + the sum of d(i, c) v(i)) beta,
+ * d(i, c) = v(i) p + d(i, c). All sums ascend. The diagonal of R has the sign opposite to t. Method: Golub and Van
+ * Loan, Matrix Computations, "Householder QR".
+ *
+ * Rounding: `32f` rounds every operation; the root is taken in the 80-bit type and rounded. `64f` in the 80-bit type:
+ * s and v'v are rounded behind their pairs of terms and again behind an odd last one; v, beta and the elements of
+ * `dst` are rounded, but v'v is the sum over unrounded v; nothing else is rounded.
+ *
+ * Status: vonkErrNullPtr if `src`, `work` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a
+ * table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`);
+ * `count` 0 gives vonkOk. vonkErrSingular leaves the objects before the failing one complete, that one with the
+ * reflections before the failing column, and those after it untouched. A matrix with more columns than rows always
+ * fails so: after its last row there is nothing left.
+ *
+ * Overlap:
+ * `dst` may be `src` itself, with the same strides or tables. `work` must overlap neither.
+ *
+ * Read beyond the operands:
+ * Nothing.
+ */
+
+VonkStatus vonkQRDecomp_m_32f(const float *src, int32_t srcRowStride, float *work, float *dst, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkQRDecomp_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *work, float *dst,
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkQRDecomp_m_32f_P(const float *const *src, int32_t srcShift, float *work, float *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkQRDecomp_m_32f_3x3(const float *src, int32_t srcRowStride, float *work, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkQRDecomp_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *work,
+    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkQRDecomp_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *work, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkQRDecomp_m_32f_4x4(const float *src, int32_t srcRowStride, float *work, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkQRDecomp_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *work,
+    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkQRDecomp_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *work, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkQRDecomp_m_32f_5x5(const float *src, int32_t srcRowStride, float *work, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkQRDecomp_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *work,
+    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkQRDecomp_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *work, float *const *dst,
+    int32_t dstShift);
+VonkStatus vonkQRDecomp_m_32f_6x6(const float *src, int32_t srcRowStride, float *work, float *dst,
+    int32_t dstRowStride);
+VonkStatus vonkQRDecomp_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *work,
+    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkQRDecomp_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *work, float *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkQRDecomp_m_64f(const double *src, int32_t srcRowStride, double *work, double *dst, int32_t dstRowStride,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkQRDecomp_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *work,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkQRDecomp_m_64f_P(const double *const *src, int32_t srcShift, double *work, double *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkQRDecomp_m_64f_3x3(const double *src, int32_t srcRowStride, double *work, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkQRDecomp_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *work,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkQRDecomp_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *work, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkQRDecomp_m_64f_4x4(const double *src, int32_t srcRowStride, double *work, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkQRDecomp_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *work,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkQRDecomp_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *work, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkQRDecomp_m_64f_5x5(const double *src, int32_t srcRowStride, double *work, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkQRDecomp_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *work,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkQRDecomp_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *work, double *const *dst,
+    int32_t dstShift);
+VonkStatus vonkQRDecomp_m_64f_6x6(const double *src, int32_t srcRowStride, double *work, double *dst,
+    int32_t dstRowStride);
+VonkStatus vonkQRDecomp_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *work,
+    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+VonkStatus vonkQRDecomp_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *work, double *const *dst,
+    int32_t dstShift);
+
+VonkStatus vonkQRDecomp_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *work, float *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    float *work, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_P(const float *const *src, int32_t srcShift, float *work, float *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *work,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *work,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *work, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *work,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *work, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *work, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *work,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *work,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *work, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *work,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *work, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *work, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *work,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *work,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *work, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *work,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *work, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *work, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *work,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *work,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *work, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *work,
+    float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, float *work, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *work, float *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *work,
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *work,
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, float *work, float *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkQRDecomp_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *work, double *dst,
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
+    double *work, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
+    uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_P(const double *const *src, int32_t srcShift, double *work, double *const *dst,
+    int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *work,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *work,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *work, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *work,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *work, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *work, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *work,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *work,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *work, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *work,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *work, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *work, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *work,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *work,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *work, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *work,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *work, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *work, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *work,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *work,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *work, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *work,
+    double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
+    int32_t srcElemStride, double *work, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
+    uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *work, double *const *dst,
+    int32_t dstShift, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *work,
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *work,
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+VonkStatus vonkQRDecomp_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
+    int32_t srcElemStride, double *work, double *const *dst, int32_t dstShift, int32_t dstRowStride,
+    int32_t dstElemStride, uint32_t count);
+
+/* ---- QR back substitution -------------------------------------------------------------------------------------------
+ *
+ * vonkQRBackSubst solves A x = b with what vonkQRDecomp left in `src1`, `rows` by `cols`: exactly if A is square, else
+ * x minimises the residual. `src2` is b, of `rows` elements, `dst` is x, of `cols`. `work` is a block of `rows`
+ * elements in every layout, used for every object anew; on return it holds Q'b of the last object, whose elements from
+ * `cols` on are the residual's. Groups: `mv` one system; `mva` one decomposition for `count` right-hand sides; `mava`
+ * one per object.
+ *
+ * b is copied to `work`. For each reflector v in turn: p = (work(k) + the sum of work(i) v(i)) beta, beta = -2 /
+ * (v'v), work(i) = v(i) p + work(i). Then from the last row up: x(i) = (work(i) - s) / R(i, i), s the sum of R(i, j)
+ * x(j) over j > i, grown from 0 with j ascending. `32f` rounds every operation; `64f` is worked in the 80-bit type and
+ * rounded where `work` and `dst` are stored. Method: Golub and Van Loan, Matrix Computations, "Householder QR" and
+ * "Full rank least squares".
+ *
+ * Status: vonkErrNullPtr if `src1`, `work`, `src2` or `dst` is null; vonkErrSize if `cols` or `rows` is 0;
+ * vonkErrNullPtr if a table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn
+ * comes (`L`, `LS2`); `count` 0 gives vonkOk. Of the table of `src2` the first `cols` entries are tested, though
+ * `rows` are used. The numbers are not tested: a zero on the diagonal divides through to an infinity or a NaN with
+ * vonkOk.
+ *
+ * Members that behave unlike their siblings:
+ * - `mva` in the standard layout, `S2`, `L` and `LS2` has a word behind `src1` (`src1ObjStride` or `src1Shift`) that
+ *   is accepted and never read, so that `mva` and `mava` have one parameter list. In `L` and `LS2` `src1` is a plain
+ *   pointer.
+ * - `mva` of `64f` in `L`, of every size, steps through the columns of `src1` by 4 bytes: element (i, j) is the double
+ *   at i * `src1RowStride` + j * 4.
+ * - `mava` of `64f` in `L`, of every size, reads the reflectors where they are, but R(i, j) at 8 * j + i + 1 -
+ *   `src1RowStride` bytes behind the object. Neither form solves the system, unless `cols` is 1 (`mva`) or the data
+ *   lie so. `LS2` and all other forms follow their strides.
+ * - vonkQRBackSubst_mv_32f copies b in blocks of eight from 11 rows on, where `work` does not overlap it.
+ *
+ * Overlap:
+ * `dst` may be `src2`, which is read before. `work` must not overlap `src1` or `dst`; the copy from `src2` runs
+ * forward, element by element.
+ *
+ * Read beyond the operands:
+ * `mava` of `64f` in `L`: what lies at the places told above, up to a row ahead of the object.
+ */
+
+VonkStatus vonkQRBackSubst_mv_32f(const float *src1, int32_t src1RowStride, float *work, const float *src2, float *dst,
+    uint32_t cols, uint32_t rows);
+VonkStatus vonkQRBackSubst_mv_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, float *work,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkQRBackSubst_mv_32f_P(const float *const *src1, int32_t src1Shift, float *work, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkQRBackSubst_mv_32f_3x3(const float *src1, int32_t src1RowStride, float *work, const float *src2,
+    float *dst);
+VonkStatus vonkQRBackSubst_mv_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, float *work,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkQRBackSubst_mv_32f_3x3_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkQRBackSubst_mv_32f_4x4(const float *src1, int32_t src1RowStride, float *work, const float *src2,
+    float *dst);
+VonkStatus vonkQRBackSubst_mv_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, float *work,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkQRBackSubst_mv_32f_4x4_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkQRBackSubst_mv_32f_5x5(const float *src1, int32_t src1RowStride, float *work, const float *src2,
+    float *dst);
+VonkStatus vonkQRBackSubst_mv_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, float *work,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkQRBackSubst_mv_32f_5x5_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift);
+VonkStatus vonkQRBackSubst_mv_32f_6x6(const float *src1, int32_t src1RowStride, float *work, const float *src2,
+    float *dst);
+VonkStatus vonkQRBackSubst_mv_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, float *work,
+    const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+VonkStatus vonkQRBackSubst_mv_32f_6x6_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift);
+
+VonkStatus vonkQRBackSubst_mv_64f(const double *src1, int32_t src1RowStride, double *work, const double *src2,
+    double *dst, uint32_t cols, uint32_t rows);
+VonkStatus vonkQRBackSubst_mv_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, double *work,
+    const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride, uint32_t cols, uint32_t rows);
+VonkStatus vonkQRBackSubst_mv_64f_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
+VonkStatus vonkQRBackSubst_mv_64f_3x3(const double *src1, int32_t src1RowStride, double *work, const double *src2,
+    double *dst);
+VonkStatus vonkQRBackSubst_mv_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    double *work, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkQRBackSubst_mv_64f_3x3_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkQRBackSubst_mv_64f_4x4(const double *src1, int32_t src1RowStride, double *work, const double *src2,
+    double *dst);
+VonkStatus vonkQRBackSubst_mv_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    double *work, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkQRBackSubst_mv_64f_4x4_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkQRBackSubst_mv_64f_5x5(const double *src1, int32_t src1RowStride, double *work, const double *src2,
+    double *dst);
+VonkStatus vonkQRBackSubst_mv_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    double *work, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkQRBackSubst_mv_64f_5x5_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift);
+VonkStatus vonkQRBackSubst_mv_64f_6x6(const double *src1, int32_t src1RowStride, double *work, const double *src2,
+    double *dst);
+VonkStatus vonkQRBackSubst_mv_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
+    double *work, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+VonkStatus vonkQRBackSubst_mv_64f_6x6_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift);
+
+VonkStatus vonkQRBackSubst_mva_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_P(const float *const *src1, int32_t src1Shift, float *work, const float *const *src2,
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_PS2(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_L(const float *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_3x3_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_3x3_L(const float *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_3x3_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_4x4_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_4x4_L(const float *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_4x4_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_5x5_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_5x5_L(const float *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_5x5_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_6x6_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_6x6_L(const float *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_32f_6x6_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkQRBackSubst_mva_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_PS2(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_L(const double *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_3x3_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_3x3_L(const double *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_3x3_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_4x4_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_4x4_L(const double *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_4x4_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_5x5_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_5x5_L(const double *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_5x5_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_6x6_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_6x6_L(const double *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mva_64f_6x6_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkQRBackSubst_mava_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, float *work,
+    const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
+    int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_3x3_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    float *work, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    float *work, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_4x4_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    float *work, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    float *work, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_5x5_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    float *work, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    float *work, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
+    const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_6x6_P(const float *const *src1, int32_t src1Shift, float *work,
+    const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    float *work, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    float *work, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+
+VonkStatus vonkQRBackSubst_mava_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    double *work, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
+    uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_3x3_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    double *work, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    double *work, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_4x4_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    double *work, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    double *work, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_5x5_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    double *work, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    double *work, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
+    const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_6x6_P(const double *const *src1, int32_t src1Shift, double *work,
+    const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
+    double *work, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
+    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    double *work, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+VonkStatus vonkQRBackSubst_mava_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
+    int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
+    double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 
 #ifdef __cplusplus
 }

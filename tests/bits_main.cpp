@@ -29,6 +29,9 @@ const std::vector<std::string_view> standOnEstimate{
     "vonkL2Norm_v_32f_3x1",    "vonkL2Norm_v_32f_4x1",    "vonkL2Norm_v_32f_5x1",    "vonkL2Norm_v_32f_6x1",
     "vonkL2Norm_va_32f_3x1",   "vonkL2Norm_va_32f_4x1",   "vonkL2Norm_va_32f_5x1",   "vonkL2Norm_va_32f_6x1",
     "vonkL2Norm_va_32f_3x1_L", "vonkL2Norm_va_32f_4x1_L", "vonkL2Norm_va_32f_5x1_L", "vonkL2Norm_va_32f_6x1_L",
+    "vonkInvert_m_32f_3x3",    "vonkInvert_m_32f_4x4",    "vonkInvert_m_32f_5x5",    "vonkInvert_m_32f_6x6",
+    "vonkInvert_ma_32f_3x3",   "vonkInvert_ma_32f_4x4",   "vonkInvert_ma_32f_5x5",   "vonkInvert_ma_32f_6x6",
+    "vonkInvert_ma_32f_3x3_L", "vonkInvert_ma_32f_4x4_L", "vonkInvert_ma_32f_5x5_L", "vonkInvert_ma_32f_6x6_L",
 };
 
 constexpr std::string_view estimateHeading =

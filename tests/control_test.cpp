@@ -82,6 +82,13 @@ struct Occasion {
     std::function<void(Call &)> prepare;
 };
 
+constexpr const char *nullPointer = "a null pointer";
+
+// The inverse of a single element may read anywhere.
+std::vector<std::uint32_t> smallSizes(const Function &function) {
+    return {function.family->operation == "Invert" ? 2U : 1U, 4};
+}
+
 const std::array occasions = std::to_array<Occasion>({
     {"whole numbers", fill},
     {"thirds", [](Call &call) { fillWith(call, 1.0 / 3); }},
@@ -91,7 +98,7 @@ const std::array occasions = std::to_array<Occasion>({
     {"numbers that overflow",
      [](Call &call) { fillWith(call, call.function().type == Type::real32 ? 3e38 : 1.7e308); }},
     {"denormals", [](Call &call) { fillWith(call, call.function().type == Type::real32 ? 0x1p-140 : 0x1p-1060); }},
-    {"a null pointer", [](Call &call) { fill(call), call.pass("dst", 0); }},
+    {nullPointer, [](Call &call) { fill(call), call.pass("dst", 0); }},
     {"no size",
      [](Call &call) {
          fill(call);
@@ -116,7 +123,8 @@ TEST(Control, IsLeftAsFoundOnEveryOccasion) {
     for (const Function &function : literal::allMembers())
         for (const Occasion &occasion : occasions)
             for (const Precision precision : {Precision::bits53, Precision::bits64})
-                for (const std::uint32_t size : literal::sizesOf(function, {1, 4})) {
+                for (const std::uint32_t size : literal::sizesOf(function, smallSizes(function))) {
+                    if (literal::trustsPointers(function) && occasion.what == nullPointer) continue;
                     Call call(function.name, size, 2, literal::roomy);
                     occasion.prepare(call);
                     EXPECT_EQ(changesOf({precision, Rounding::up}, flushToZero, [&] { call.run(); }), "")

@@ -45,15 +45,16 @@ constexpr std::array familyTable = std::to_array<Family>({
      "vector::crossProduct"},
     // Matrices element by element
     {"matrix-matrix", "Add", sumGroups, bothTypes, matrixSizes, sixLayouts, "@", 'm', "src1 src2 dst cols? rows? count",
-     ""},
+     "matrix::combine<matrix::Sum>"},
     {"matrix-matrix", "Sub", differenceGroups, bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src1 src2 dst cols? rows? count", ""},
+     "src1 src2 dst cols? rows? count", "matrix::combine<matrix::Difference>"},
     {"matrix-constant", "Mul", "mc mTc mac maTc", bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src val dst cols? rows? count", ""},
-    {"transpose", "Transpose", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src cols? rows? dst count", ""},
-    {"trace", "Trace", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src order? dst* count", ""},
+     "src val dst cols? rows? count", "matrix::scale"},
+    {"transpose", "Transpose", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src cols? rows? dst count",
+     "matrix::transpose"},
+    {"trace", "Trace", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src order? dst* count", "matrix::trace"},
     {"frobenius-norm", "FrobNorm", "m ma", bothTypes, matrixSizes, sixLayouts, "@", '-', "src cols? rows? dst* count",
-     ""},
+     "matrix::frobeniusNorm"},
     // Products of matrices
     {"matrix-product", "Mul", differenceGroups, bothTypes, matrixSizes, sixLayouts, "@", 'm',
      "src1 src1Cols? src1Rows? src2 src2Cols? src2Rows? dst count", "product::multiply"},
@@ -90,13 +91,13 @@ constexpr std::array familyTable = std::to_array<Family>({
      "lu::invert"},
     // Cholesky and QR
     {"cholesky-decomposition", "CholeskyDecomp", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src dst order? count", ""},
+     "src dst order? count", "cholqr::choleskyDecompose"},
     {"cholesky-back-substitution", "CholeskyBackSubst", "mv mva mava", bothTypes, matrixSizes, sixLayouts, "@", 'v',
-     "src1 src2 dst order? count", ""},
+     "src1 src2 dst order? count", "cholqr::choleskyBackSubstitute"},
     {"qr-decomposition", "QRDecomp", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src work* dst cols? rows? count", ""},
+     "src work* dst cols? rows? count", "cholqr::qrDecompose"},
     {"qr-back-substitution", "QRBackSubst", "mv mva mava", bothTypes, matrixSizes, sixLayouts, "@", 'v',
-     "src1 work* src2 dst cols? rows? count", ""},
+     "src1 work* src2 dst cols? rows? count", "cholqr::qrBackSubstitute"},
 });
 
 std::vector<std::string_view> words(std::string_view text) {

@@ -169,11 +169,11 @@ Members that behave unlike their siblings:
      R"(Where both vectors are loaded first (all but the forms told above) `dst` may be either source.
 vonkCrossProduct_vava_32f_3x1 loads four objects before it stores four.)",
      R"(Nothing.)", true},
-    {"matrix-matrix", "Matrix and matrix", "element-wise sum and difference of matrices", "", "", "", false},
-    {"matrix-constant", "Matrix times constant", "each element times a constant", "", "", "", false},
-    {"transpose", "Transpose", "rows and columns exchanged", "", "", "", false},
-    {"trace", "Trace", "sum of the diagonal", "", "", "", false},
-    {"frobenius-norm", "Frobenius norm", "root of the sum of the squares of all elements", "", "", "", false},
+    {"matrix-matrix", "Matrix and matrix", "element-wise sum and difference of matrices", "", "", "", true},
+    {"matrix-constant", "Matrix times constant", "each element times a constant", "", "", "", true},
+    {"transpose", "Transpose", "rows and columns exchanged", "", "", "", true},
+    {"trace", "Trace", "sum of the diagonal", "", "", "", true},
+    {"frobenius-norm", "Frobenius norm", "root of the sum of the squares of all elements", "", "", "", true},
     {"matrix-product", "Matrix by matrix", "product of two matrices",
      R"(dst(n, i, j) = sum over k of A(i, k) B(k, j)
 
@@ -461,12 +461,116 @@ Members that behave unlike their siblings:
 except that 5x5 and 6x6 of `32f` in the standard layout and `L` leave the matrix changed where they fail in place.
 In arrays, no object may lie under the result of an earlier one. `scratch` must overlap nothing.)",
      R"(Nothing.)", true},
-    {"cholesky-decomposition", "Cholesky decomposition", "lower factor of a positive definite matrix", "", "", "",
-     false},
-    {"cholesky-back-substitution", "Cholesky back substitution", "solving with a Cholesky factor", "", "", "", false},
-    {"qr-decomposition", "QR decomposition", "Householder reflectors and upper factor", "", "", "", false},
-    {"qr-back-substitution", "QR back substitution", "least squares with the factors of a QR decomposition", "", "", "",
-     false},
+    {"cholesky-decomposition", "Cholesky decomposition", "lower factor of a positive definite matrix",
+     R"(vonkCholeskyDecomp factors each symmetric positive definite matrix A of `src`, `order` by `order`, into L L', L
+lower triangular with a positive diagonal. `dst` gets L below the diagonal and on it the RECIPROCALS 1 / L(i, i), so
+that vonkCholeskyBackSubst need not divide. Only lower triangles are read and written, with their diagonals:
+elements above them, and the pointers of such positions, may be anything, and in `dst` they stay.
+
+Row by row: F(i, j) = (A(i, j) - the sum of F(i, k) F(j, k) over k < j) F(j, j) for j < i, then s = A(i, i) - the
+sum of F(i, k)^2 over k < i and F(i, i) = 1 / root of s; products are taken off one by one, k ascending. Unless s >
+0 the call ends with vonkErrNotPosDef. There is no tolerance. Method: Golub and Van Loan, Matrix Computations,
+"Cholesky factorization", row by row.
+
+Rounding: `32f` rounds every operation, but takes root and reciprocal in the 80-bit type and rounds them once; in
+`P` and `PS2` both are `32f` operations. `64f` in the 80-bit type, at the calling thread's precision: orders 3 to 6,
+also as `order`, keep all of F unrounded and round what they store, but for `P` and `PS2`; these and all other
+orders read F back from `dst`, and round a difference behind its pairs of products, not behind an odd last one.
+
+Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `order` is 0, or `count` is; vonkErrNotPosDef if a
+matrix is not positive definite, with a NaN in its pivot or not: rows before the failing one and, of that, the
+elements below the diagonal are stored by then, objects before it are complete, and those after it untouched.
+Entries of tables and lists are not tested; but in `L` and `LS2` an entry that is null WITH its shift gives
+vonkErrNullPtr when its turn comes.
+
+Members that behave unlike their siblings:
+- Arrays: `count` 0 is vonkErrSize. With its top bit set nothing is done and vonkOk returned, but in `P` and `PS2`,
+  where it is a very large number.
+- Orders 3 to 6, also as `order`, in `S2` and `LS2`: element strides count in whole elements; bits below are
+  dropped.
+- `64f`, order 3 and 4, but for `P` and `PS2`: a NaN passes as the very first pivot. F(0, 0) and F(1, 0) are stored,
+  and the call fails at the second.)",
+     R"(`dst` may be `src` itself, with the same strides or tables. No other overlap is supported.)", R"(Nothing.)",
+     true},
+    {"cholesky-back-substitution", "Cholesky back substitution", "solving with a Cholesky factor",
+     R"(vonkCholeskyBackSubst solves A x = b with what vonkCholeskyDecomp left: `src1` the factor F with the reciprocals on
+its diagonal, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system;
+`mva` one factor for `count` right-hand sides; `mava` a factor per object. Nothing above the diagonal of `src1` is
+read.
+
+Forward: x(i) = (b(i) - the sum of F(i, k) x(k) over k < i) F(i, i). Backward, from the last row up: x(i) = (x(i) -
+the sum of F(k, i) x(k) over k > i) F(i, i). Products are taken off one by one, forward with k ascending, backward
+with k DESCENDING; x is its own scratch space. `32f` rounds every operation; `64f` is worked in the 80-bit type and
+rounded where it is stored. Nothing divides. Method: Golub and Van Loan, Matrix Computations, "Triangular systems".
+
+Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `order` is 0, or `count` is; else vonkOk.
+Neither the numbers nor entries of tables and lists are tested; but in `L` and `LS2` an object one of whose entries
+is null WITH its shift is passed over, without a word, and the next is worked.
+
+Members that behave unlike their siblings:
+- Arrays: `count` 0 is vonkErrSize; with its top bit set nothing is done and vonkOk returned. In `S2` and `LS2` the
+  same goes for the top bit of `order`.
+- `mva` has no word behind `src1` that its matrix does not need, as the other two families of solvers have.)",
+     R"(`dst` may be `src2` itself. Nothing tests overlap; both ways read what memory holds by then.)", R"(Nothing.)",
+     true},
+    {"qr-decomposition", "QR decomposition", "Householder reflectors and upper factor",
+     R"(vonkQRDecomp factors each matrix of `src`, `rows` by `cols` with `rows` >= `cols`, into an orthogonal Q and an upper
+triangular R by Householder reflections, column by column. `dst` gets R on and above the diagonal and below it, in
+column k, reflector k: elements k + 1 and on of the vector v whose element k is 1. The reflection is I + beta v v'
+with beta = -2 / (v'v), which vonkQRBackSubst reckons anew. There is a reflection for each column, but none for the
+last column of a square matrix. `work` is a block of `rows` elements in every layout, used for every object anew;
+what it holds before does not matter, and on return it holds the last reflector.
+
+For column k: s = the sum of d(i, k)^2 over i >= k. If s is below 2^-23 = 1.1920928955078125e-7 or a NaN, the call
+ends with vonkErrSingular: an absolute bound on the SQUARED norm, the same for both types, so columns with elements
+of about 1e-4 fail; scale such data. Then alpha = d(k, k) + t, where t is the root of s with the sign of d(k, k),
+minus for 0; v(i) = d(i, k) (1 / alpha); and for each column c >= k: p = (d(k, c) + the sum of d(i, c) v(i)) beta,
+d(i, c) = v(i) p + d(i, c). All sums ascend. The diagonal of R has the sign opposite to t. Method: Golub and Van
+Loan, Matrix Computations, "Householder QR".
+
+Rounding: `32f` rounds every operation; the root is taken in the 80-bit type and rounded. `64f` in the 80-bit type:
+s and v'v are rounded behind their pairs of terms and again behind an odd last one; v, beta and the elements of
+`dst` are rounded, but v'v is the sum over unrounded v; nothing else is rounded.
+
+Status: vonkErrNullPtr if `src`, `work` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a
+table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`);
+`count` 0 gives vonkOk. vonkErrSingular leaves the objects before the failing one complete, that one with the
+reflections before the failing column, and those after it untouched. A matrix with more columns than rows always
+fails so: after its last row there is nothing left.)",
+     R"(`dst` may be `src` itself, with the same strides or tables. `work` must overlap neither.)", R"(Nothing.)",
+     true},
+    {"qr-back-substitution", "QR back substitution", "least squares with the factors of a QR decomposition",
+     R"(vonkQRBackSubst solves A x = b with what vonkQRDecomp left in `src1`, `rows` by `cols`: exactly if A is square, else
+x minimises the residual. `src2` is b, of `rows` elements, `dst` is x, of `cols`. `work` is a block of `rows`
+elements in every layout, used for every object anew; on return it holds Q'b of the last object, whose elements from
+`cols` on are the residual's. Groups: `mv` one system; `mva` one decomposition for `count` right-hand sides; `mava`
+one per object.
+
+b is copied to `work`. For each reflector v in turn: p = (work(k) + the sum of work(i) v(i)) beta, beta = -2 /
+(v'v), work(i) = v(i) p + work(i). Then from the last row up: x(i) = (work(i) - s) / R(i, i), s the sum of R(i, j)
+x(j) over j > i, grown from 0 with j ascending. `32f` rounds every operation; `64f` is worked in the 80-bit type and
+rounded where `work` and `dst` are stored. Method: Golub and Van Loan, Matrix Computations, "Householder QR" and
+"Full rank least squares".
+
+Status: vonkErrNullPtr if `src1`, `work`, `src2` or `dst` is null; vonkErrSize if `cols` or `rows` is 0;
+vonkErrNullPtr if a table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn
+comes (`L`, `LS2`); `count` 0 gives vonkOk. Of the table of `src2` the first `cols` entries are tested, though
+`rows` are used. The numbers are not tested: a zero on the diagonal divides through to an infinity or a NaN with
+vonkOk.
+
+Members that behave unlike their siblings:
+- `mva` in the standard layout, `S2`, `L` and `LS2` has a word behind `src1` (`src1ObjStride` or `src1Shift`) that
+  is accepted and never read, so that `mva` and `mava` have one parameter list. In `L` and `LS2` `src1` is a plain
+  pointer.
+- `mva` of `64f` in `L`, of every size, steps through the columns of `src1` by 4 bytes: element (i, j) is the double
+  at i * `src1RowStride` + j * 4.
+- `mava` of `64f` in `L`, of every size, reads the reflectors where they are, but R(i, j) at 8 * j + i + 1 -
+  `src1RowStride` bytes behind the object. Neither form solves the system, unless `cols` is 1 (`mva`) or the data
+  lie so. `LS2` and all other forms follow their strides.
+- vonkQRBackSubst_mv_32f copies b in blocks of eight from 11 rows on, where `work` does not overlap it.)",
+     R"(`dst` may be `src2`, which is read before. `work` must not overlap `src1` or `dst`; the copy from `src2` runs
+forward, element by element.)",
+     R"(`mava` of `64f` in `L`: what lies at the places told above, up to a row ahead of the object.)", true},
 });
 } // namespace
 

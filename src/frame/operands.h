@@ -66,6 +66,17 @@ public:
     }
     std::ptrdiff_t objectSpacing() const { return objectStride; }
 
+    // Whether the rows of a matrix, of so many elements, lie one behind the other.
+    bool hasPackedRows(std::size_t columns) const { return rowStride == std::ptrdiff_t(columns * sizeof(T)); }
+
+    // The operand with the row stride of another one.
+    template <class Other> Operand walkedAs(const Other &other) const {
+        Operand copy = *this;
+        copy.rowStride = other.rowSpacing();
+        return copy;
+    }
+    std::ptrdiff_t rowSpacing() const { return rowStride; }
+
 private:
     static constexpr bool hasShift = isTable || isList;
     static constexpr bool hasObjectStride = isArray && !isList && layout != Layout::P;
@@ -82,7 +93,10 @@ private:
         else return reinterpret_cast<ByteOf<T> *>(pointer) + strides(n, objectStride);
     }
 
-    const std::byte *listSlot(std::size_t n) const { return reinterpret_cast<const std::byte *>(pointer + n); }
+    // A number below 0 leads ahead of the list: see the pipelined sums of matrices.
+    const std::byte *listSlot(std::size_t n) const {
+        return reinterpret_cast<const std::byte *>(pointer + std::ptrdiff_t(n));
+    }
 };
 
 // A matrix operand that is read with rows and columns exchanged: the views it hands out are exchanged already.

@@ -13,7 +13,7 @@ VONKK3_INLINE VonkStatus gaxpyInLanes(const A &src1, const V &src2, const W &src
     return forEachObject(
         count,
         [&](std::size_t n) VONKK3_INLINED {
-            const typename HeldMatrix<order, false>::Factors v(src2.view(n).base);
+            const typename HeldMatrix<A, order>::Factors v(src2.view(n).base);
             const ProductVector w = loadVector<order>(src3.view(n).base);
             const ProductVector product = matrices(n).times(v);
             storeVector<order>(dst.view(n).base, {add(product.head, w.head), add(product.tail, w.tail)});

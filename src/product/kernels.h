@@ -49,10 +49,8 @@ template <std::size_t order, class View> VONKK3_INLINE __m128 loadRowHead(const 
 template <std::size_t order, class View> VONKK3_INLINE void storeRowHead(const View &view, std::size_t i, __m128 row) {
     const auto lane = [&](std::size_t k) VONKK3_INLINED { return _mm_cvtss_f32(broadcastLane(row, k)); };
     if constexpr (hasAdjacentRows<View> && order == 3) store3(view.at(i, 0), row);
-    else if constexpr (hasAdjacentRows<View>) {
-        store2(view.at(i, 0), row); // no store of a row is wider than 8 bytes
-        _mm_storeh_pi(pair(view.at(i, 2)), row);
-    } else {
+    else if constexpr (hasAdjacentRows<View>) store4(view.at(i, 0), row); // as two halves would come out, but quicker
+    else {
         constexpr std::size_t columns = order == 3 ? 3 : 4;
         forIndices(0, columns, fixed<columns>,
                    [&](std::size_t j) VONKK3_INLINED { view.store(i, j, lane(order == 3 && j > 0 ? j + 1 : j)); });

@@ -3,6 +3,7 @@
 
 #include "frame/walk.h"
 #include "product/kernels.h"
+#include "product/packed_triples.h"
 #include "product/schemes.h"
 #include "product/shape.h"
 
@@ -77,9 +78,10 @@ VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &
         multiplyHeld<P>(src1.view(n, order), src2.view(n, order), held, dst.view(n, order));
         return vonkOk;
     };
+    std::size_t done = 0;
     const auto walk = [&](auto work) VONKK3_INLINED {
-        if constexpr (testsEntries<Real32, P, order>) return forEachObject(count, work, src1, src2, dst);
-        else return forEachObject(count, work);
+        if constexpr (testsEntries<Real32, P, order>) return forEachObjectFrom(done, count, work, src1, src2, dst);
+        else return forEachObjectFrom(done, count, work);
     };
     if constexpr (P::secondArray)
         return walk([&](std::size_t n) VONKK3_INLINED {
@@ -89,6 +91,14 @@ VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &
     else {
         if (count == 0) return vonkOk; // nothing is read, the single operand neither
         HeldRows<order> held = hold<P, order>(src2.view(0, order));
+        if constexpr (order == 3 && P::layout == Layout::Standard && !P::firstTransposed) {
+            // The rows of packed matrices are vectors, multiplied by the single matrix transposed.
+            if (equallySpaced(src1, dst) && dst.objectSpacing() == 9 * sizeof(Real32) && src1.hasPackedRows(3) &&
+                dst.hasPackedRows(3))
+                done = multiplyPackedTriples([b = src2.view(0)](auto i, auto k) { return b.load(k, i); },
+                                             src1.view(0).base, dst.view(0).base, 3 * inBlocks(count)) /
+                       3;
+        }
         return walk([&](std::size_t n) VONKK3_INLINED { return multiplyObject(n, held); });
     }
 }

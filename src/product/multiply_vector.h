@@ -1,6 +1,8 @@
 // Matrix by vector: a single one or an array on either side, the matrix read as stored or transposed.
 #pragma once
 
+#include "product/packed_triples.h"
+#include "frame/untested_position.h"
 #include "product/schemes.h"
 #include "product/vector_kernels.h"
 
@@ -18,13 +20,6 @@ template <class A, class Count, class Cols>
 inline constexpr bool leavesPosition8Untested =
     A::isTransposed && !Count::isArray && Cols::value == 4 && A::layout == Layout::P;
 
-template <class View> struct Position8Untested : View {
-    bool hasNullEntry(std::size_t row, std::size_t column) const {
-        return column * 4 + row != 8 && View::hasNullEntry(row, column);
-    }
-};
-template <class View> Position8Untested(View) -> Position8Untested<View>;
-
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 // What hands out an operand of object n in registers; a single one is loaded once, here.
@@ -34,12 +29,12 @@ template <class Held, bool isArray, class Load> VONKK3_INLINE auto heldOrLoaded(
 }
 
 template <std::size_t order, class A> VONKK3_INLINE auto matricesInLanes(const A &src) {
-    using Held = HeldMatrix<order, A::isTransposed>;
+    using Held = HeldMatrix<A, order>;
     return heldOrLoaded<Held, A::isArray>([&src](std::size_t n) VONKK3_INLINED { return Held(src.view(n)); });
 }
 
 template <std::size_t order, class A, class V> VONKK3_INLINE auto factorsInLanes(const V &src) {
-    using Factors = typename HeldMatrix<order, A::isTransposed>::Factors;
+    using Factors = typename HeldMatrix<A, order>::Factors;
     return heldOrLoaded<Factors, V::isArray>([&src](std::size_t n)
                                                  VONKK3_INLINED { return Factors(src.view(n).base); });
 }
@@ -49,8 +44,13 @@ VONKK3_INLINE VonkStatus multiplyVectorInLanes(const A &src1, const V &src2, con
     if (count == 0) return vonkOk; // nothing is read, a single operand neither
     const auto matrices = matricesInLanes<order>(src1);
     const auto vectors = factorsInLanes<order, A>(src2);
-    return forEachObject(
-        count,
+    std::size_t done = 0;
+    if constexpr (order == 3 && !A::isArray && V::isArray && D::layout == Layout::Standard)
+        if (equallySpaced(src2, dst) && dst.objectSpacing() == 3 * sizeof(Real32))
+            done = multiplyPackedTriples([a = src1.view(0)](auto i, auto k) { return a.load(i, k); }, src2.view(0).base,
+                                         dst.view(0).base, count);
+    return forEachObjectFrom(
+        done, count,
         [&](std::size_t n) VONKK3_INLINED {
             storeVector<order>(dst.view(n).base, matrices(n).times(vectors(n)));
             return vonkOk;

@@ -106,6 +106,31 @@ template <> struct PlainMatrix<4> {
     }
 };
 
+// The same for a matrix that serves one vector alone, which is not worth turning round: rows as they lie.
+struct PassingMatrixOfFour {
+    struct Factors {
+        __m128 elements;
+        VONKK3_INLINE explicit Factors(const std::byte *v) : elements(load4(v)) {}
+    };
+    __m128 rows[4];
+
+    template <class View> VONKK3_INLINE explicit PassingMatrixOfFour(const View &a) {
+        forIndices(0, 4, fixed<4>, [&](std::size_t i) VONKK3_INLINED { rows[i] = load4(a.at(i, 0)); });
+    }
+
+    // (p0 + p2, p1 + p3) of rows i and i + 1.
+    VONKK3_INLINE __m128 halves(std::size_t i, const Factors &v) const {
+        const __m128 upper = multiply(rows[i], v.elements), lower = multiply(rows[i + 1], v.elements);
+        return add(_mm_movelh_ps(upper, lower), _mm_movehl_ps(lower, upper));
+    }
+    VONKK3_INLINE ProductVector times(const Factors &v) const {
+        const __m128 upper = halves(0, v), lower = halves(2, v);
+        const __m128 even = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(2, 0, 2, 0));
+        const __m128 odd = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(3, 1, 3, 1));
+        return {add(even, odd), _mm_setzero_ps()};
+    }
+};
+
 // ((p0 + p2) + p4) + ((p1 + p3) + p5)
 template <> struct PlainMatrix<6> {
     using Factors = PairFactors<6>;
@@ -202,7 +227,13 @@ template <std::size_t order> struct TransposedMatrix {
     }
 };
 
-template <std::size_t order, bool isTransposed>
-using HeldMatrix = std::conditional_t<isTransposed, TransposedMatrix<order>, PlainMatrix<order>>;
+// How a matrix is brought into registers: for all objects, or for one of them and its vector.
+template <std::size_t order, bool isTransposed, bool isArray> struct MatrixInLanes {
+    using Type = std::conditional_t<isTransposed, TransposedMatrix<order>, PlainMatrix<order>>;
+};
+template <> struct MatrixInLanes<4, false, true> { using Type = PassingMatrixOfFour; };
+
+template <class A, std::size_t order>
+using HeldMatrix = typename MatrixInLanes<order, A::isTransposed, A::isArray>::Type;
 
 } // namespace vonkk3::product

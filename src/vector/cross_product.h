@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/walk.h"
-#include "vector/four_objects.h"
+#include "frame/four_objects.h"
 
 namespace vonkk3::vector {
 

@@ -4,7 +4,7 @@
 #include "frame/extent.h"
 #include "frame/walk.h"
 #include "vector/block_walk.h"
-#include "vector/four_objects.h"
+#include "frame/four_objects.h"
 
 namespace vonkk3::vector {
 

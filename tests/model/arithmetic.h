@@ -21,6 +21,7 @@ public:
     template <class Real> Real subtract(Real a, Real b) { return seen(a, b, a - b); }
     template <class Real> Real multiply(Real a, Real b) { return seen(a, b, a * b); }
     template <class Real> Real divide(Real a, Real b) { return seen(a, b, a / b); }
+    template <class Real> Real squareRoot(Real a) { return seen(a, a, std::sqrt(a)); }
 
 private:
     template <class Real> Real seen(Real a, Real b, Real result) {

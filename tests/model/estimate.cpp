@@ -166,6 +166,9 @@ Estimate Estimator::reciprocal(const Estimate &divisor) const {
 // divisor meets an x of 0.
 Estimate Estimator::newtonReciprocal(const Estimate &divisor, NewtonStep step) const {
     if (divisor.certainty == Certainty::notFinite) return uncertain(Certainty::nan);
+    if (step == NewtonStep::bySquare && toNearest_ && divisor.certainty == Certainty::number &&
+        divisor.most() < power(-66))
+        return uncertain(Certainty::notFinite); // the square overflows
     const int range = step == NewtonStep::byTurns ? 125 : 60;
     if (divisor.certainty == Certainty::number && (divisor.least() < power(-range) || divisor.most() > power(range)))
         return uncertain(Certainty::unknown);

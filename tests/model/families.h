@@ -18,6 +18,7 @@ constexpr Status statusOk = 0;
 constexpr Status statusSize = -6;
 constexpr Status statusNullPointer = -8;
 constexpr Status statusSingular = -10;
+constexpr Status statusNotPositiveDefinite = -179;
 
 // One call on its way: what its name says, its words, and the memory on which it works.
 struct Execution {
@@ -43,7 +44,9 @@ Status computeDeterminant(const Execution &execution);
 Status computeInverse(const Execution &execution);
 Status copy(const Execution &execution);
 Status crossVectors(const Execution &execution);
+Status decomposeCholesky(const Execution &execution);
 Status decomposeLu(const Execution &execution);
+Status decomposeQr(const Execution &execution);
 Status extract(const Execution &execution);
 Status loadIdentity(const Execution &execution);
 Status multiplyAndAdd(const Execution &execution);
@@ -56,5 +59,8 @@ Status sumDiagonal(const Execution &execution);
 Status takeFrobeniusNorm(const Execution &execution);
 Status takeNorm(const Execution &execution);
 Status transposeMatrices(const Execution &execution);
+Status substituteBackCholesky(const Execution &execution);
+Status substituteBackLu(const Execution &execution);
+Status substituteBackQr(const Execution &execution);
 
 } // namespace model

@@ -60,6 +60,10 @@ const Family families[] = {
     {[](const Form &form) { return form.operation == "Invert"; }, computeInverse},
     {[](const Form &form) { return form.operation == "LUDecomp"; }, decomposeLu},
     {[](const Form &form) { return form.operation == "LUBackSubst"; }, substituteBackLu},
+    {[](const Form &form) { return form.operation == "CholeskyDecomp"; }, decomposeCholesky},
+    {[](const Form &form) { return form.operation == "CholeskyBackSubst"; }, substituteBackCholesky},
+    {[](const Form &form) { return form.operation == "QRDecomp"; }, decomposeQr},
+    {[](const Form &form) { return form.operation == "QRBackSubst"; }, substituteBackQr},
 };
 
 const Family *findFamily(const Form &form) {

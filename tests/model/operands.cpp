@@ -1,6 +1,7 @@
 // Address arithmetic of the six layouts, written out once per kind of layout.
 #include "model/operands.h"
 
+#include <algorithm>
 #include <cstring>
 #include <stdexcept>
 #include <utility>
@@ -37,6 +38,14 @@ double Arguments::real64(const std::string &name) const {
     double value;
     std::memcpy(&value, &bits, sizeof value);
     return value;
+}
+
+std::uint32_t Arguments::times(const std::string &name) const {
+    const std::uint32_t value = size(name);
+    const bool isSigned = std::any_of(parameters_.begin(), parameters_.end(), [&](const Parameter &parameter) {
+        return parameter.name == name && parameter.isSigned;
+    });
+    return isSigned && (value & 0x80000000) != 0 ? 0 : value;
 }
 
 bool Arguments::hasNullPointer() const {

@@ -22,6 +22,8 @@ public:
     std::int32_t signedSize(const std::string &name) const { return static_cast<std::int32_t>(size(name)); }
     float real32(const std::string &name) const;
     double real64(const std::string &name) const;
+    // How often a loop up to this size runs: not once where the size is compared as a signed number and is negative.
+    std::uint32_t times(const std::string &name) const;
     // Of any of the pointers, plain ones included.
     bool hasNullPointer() const;
 

@@ -81,12 +81,14 @@ private:
     void chooseShift(Placement &placement);
     std::uint64_t wordOf(const Parameter &parameter, const ValueSource &values);
     std::uint64_t withRubbish(std::int64_t value);
+    std::int64_t uselessBytes();
     void writeWords(const ValueSource &values);
     void setSize(Kind kind, std::uint32_t value);
     void makeNullPointer();
     void makeNullEntry();
     void makeZeroDimension();
     void makeZeroCount();
+    void makeNegativeSize();
     void injectFaults();
     void noteTraits();
 
@@ -161,6 +163,8 @@ void Builder::relate(int follower, int leader, Overlap overlap) {
         const bool sameStrides = alike && random.percent(65);
         if (sameStrides) becomeCopy(follower, leader);
         relation.delta = chooseDelta(follower, leader, sameStrides);
+        if (allAligned && families::looksAtAlignment(function) && random.percent(50))
+            relation.delta = relation.delta / 16 * 16;
     }
 }
 
@@ -207,8 +211,9 @@ void Builder::chooseRelations() {
                                 : share < mixture.inPlace + mixture.partial ? Overlap::partial
                                                                             : Overlap::none;
         const int source = chooseLeader(written);
-        const bool rather = !families::leavesOverlapOpen(function) || random.percent(12);
-        if (source >= 0 && overlap != Overlap::none && rather) layDestinationOn(source, overlap);
+        const unsigned drawn = mixture.fixedOutcomesOnly ? 100 : families::overlapShare(function);
+        if (source >= 0 && overlap != Overlap::none && (drawn == 100 || random.percent(drawn)))
+            layDestinationOn(source, overlap);
     }
     // Two sources may be one.
     for (int k = 1; k < operandCount(); ++k)
@@ -225,7 +230,7 @@ void Builder::borrowStrides() {
         operand(k).reach.include(families::borrowedReach(function, described(k), call.operands));
 }
 
-// Where nothing keeps a plain result out of its source.
+// Where nothing keeps a plain result out of its source. It may run beyond that, but not into a table.
 void Builder::layResultOnSource() {
     if (mixture.fixedOutcomesOnly || !families::mayLieInSource(function) || !random.percent(15)) return;
     Block &result = *std::ranges::find(call.blocks, "dst", &Block::parameter);
@@ -233,8 +238,14 @@ void Builder::layResultOnSource() {
     const std::vector<std::uintptr_t> places = operand(source).elements();
     std::uintptr_t address = random.pick(std::span<const std::uintptr_t>(places));
     if (random.percent(15)) address += static_cast<std::uintptr_t>(random.between(1, elementSize - 1));
-    const std::uintptr_t end = operand(source).origin + static_cast<std::uintptr_t>(operand(source).reach.high);
-    if (address + result.bytes <= end) result.address = address; // what lies behind may be a table
+    for (const Placement &placement : call.operands)
+        if (placement.tabled && address < placement.table + 8 * placement.slots.size() &&
+            placement.table - 8 < address + result.bytes)
+            return;
+    for (const Block &block : call.blocks)
+        if (&block != &result && address < block.address + block.bytes && block.address < address + result.bytes)
+            return;
+    result.address = address;
 }
 
 std::uint32_t Builder::chooseResidue() {
@@ -350,7 +361,9 @@ void Builder::writeTable(const Placement &placement) {
     for (std::size_t k = 0; k <= placement.slots.size(); ++k) {
         // The word in front of the table leads to its first place.
         const std::int64_t offset = placement.slots[k == 0 ? 0 : k - 1] - shift + astray;
-        const std::uintptr_t entry = placement.origin + static_cast<std::uintptr_t>(offset);
+        std::uintptr_t entry = placement.origin + static_cast<std::uintptr_t>(offset);
+        if (k > 0 && !families::followsEntry(function, placement, static_cast<std::uint32_t>(k - 1)))
+            entry = random.percent(30) ? 0 : random.percent(50) ? random.next() : entry;
         std::memcpy(reinterpret_cast<void *>(placement.table + 8 * k - 8), &entry, sizeof entry);
     }
 }
@@ -362,6 +375,7 @@ void Builder::writeValues() {
         for (const std::uintptr_t place : operand(k).elements())
             storeElement(place, function.type, values.next(random));
     }
+    families::shapeValues(function, call.operands, random);
     if (families::hasTrouble(function) && (scheduled == Fault::trouble || random.percent(5))) {
         families::makeTrouble(function, call.operands, random);
         call.traits.trouble = true;
@@ -390,7 +404,7 @@ std::uint64_t Builder::wordOf(const Parameter &parameter, const ValueSource &val
     case Kind::shift: return withRubbish(operandOf().shift);
     case Kind::objectStride: return withRubbish(operandOf().objectStride);
     case Kind::rowStride: return withRubbish(operandOf().rowStride);
-    case Kind::elementStride: return withRubbish(operandOf().elementStride);
+    case Kind::elementStride: return withRubbish(operandOf().elementStride + uselessBytes());
     case Kind::ignored: return random.next();
     case Kind::size: return withRubbish(sizes[parameter.name]);
     case Kind::count: return withRubbish(sizes.count);
@@ -399,6 +413,12 @@ std::uint64_t Builder::wordOf(const Parameter &parameter, const ValueSource &val
     std::uint64_t bits = 0;
     storeElement(reinterpret_cast<std::uintptr_t>(&bits), function.type, values.next(random));
     return bits;
+}
+
+// Added to an element stride of which only whole elements count.
+std::int64_t Builder::uselessBytes() {
+    if (!families::dropsPartOfElementStride(function, sizes) || random.percent(50)) return 0;
+    return random.between(0, elementSize - 1);
 }
 
 void Builder::writeWords(const ValueSource &values) {
@@ -444,8 +464,10 @@ void Builder::makeNullEntry() {
     const bool positions = isTable(described(k).layout);
     const std::uint32_t entries = positions ? placement.shape.rows * placement.shape.cols : placement.objects;
     const auto entry = static_cast<std::uint32_t>(random.below(entries));
-    if (!families::testsEntry(function, described(k), sizes, entry)) return;
-    const std::uintptr_t null = 0;
+    for (int other = 0; other < operandCount(); ++other) // two operands may have one table
+        if (operand(other).table == placement.table && !families::testsEntry(function, described(other), sizes, entry))
+            return;
+    const std::uintptr_t null = families::nullEntry(function, placement.shift);
     std::memcpy(reinterpret_cast<void *>(placement.table + 8 * std::uintptr_t{entry}), &null, sizeof null);
     call.traits.nullEntry = true;
     if (random.percent(15) && function.array() && families::stopsAtNullEntry(function, described(k))) {
@@ -467,11 +489,23 @@ void Builder::makeZeroCount() {
     call.traits.zeroCount = function.array();
 }
 
+// Of a size that is compared as a signed number.
+void Builder::makeNegativeSize() {
+    std::vector<std::size_t> possible;
+    for (std::size_t k = 0; k < function.parameters.size(); ++k)
+        if (families::isSignedSize(function, function.parameters[k].name)) possible.push_back(k);
+    if (possible.empty() || !random.percent(3)) return;
+    const std::size_t word = random.pick(std::span<const std::size_t>(possible));
+    call.words[word] = withRubbish(static_cast<std::uint32_t>(random.next()) | 0x80000000);
+    call.traits.hugeSize = true;
+}
+
 // A size that a null entry made harmless is made zero at most, never the other way round.
 void Builder::injectFaults() {
     if (meets(Fault::nullEntry)) makeNullEntry();
     if (meets(Fault::zeroDimension)) makeZeroDimension();
     if (meets(Fault::zeroCount)) makeZeroCount();
+    makeNegativeSize();
     if (meets(Fault::nullPointer)) makeNullPointer();
 }
 

@@ -113,17 +113,26 @@ std::unordered_map<std::uintptr_t, model::Approximation> boundsOf(const model::O
     return bounds;
 }
 
+long double unitInTheLastPlace(long double value, catalogue::Type type) {
+    const bool narrow = type == catalogue::Type::real32;
+    const int exponent = value == 0 ? -20000 : std::ilogb(value);
+    return std::ldexp(1.0L, std::max(exponent, narrow ? -126 : -1022) - (narrow ? 23 : 52));
+}
+
+std::string outOfBound(double result, const model::Approximation &bound) {
+    std::ostringstream text;
+    text << std::setprecision(20) << "  element at arena + 0x" << std::hex << bound.address - Arena::address
+         << ": library " << result << ", model " << bound.exact << " with a bound of " << bound.error << "\n";
+    return text.str();
+}
+
+} // namespace
+
 bool isWithinBound(double result, const model::Approximation &bound) {
     if (std::isinf(bound.error)) return true;
     if (std::isnan(bound.exact)) return std::isnan(result);
     if (std::isinf(bound.exact)) return !std::isfinite(result);
     return std::abs(result - bound.exact) <= bound.error;
-}
-
-long double unitInTheLastPlace(long double value, catalogue::Type type) {
-    const bool narrow = type == catalogue::Type::real32;
-    const int exponent = value == 0 ? -20000 : std::ilogb(value);
-    return std::ldexp(1.0L, std::max(exponent, narrow ? -126 : -1022) - (narrow ? 23 : 52));
 }
 
 Accuracy measure(double result, const model::Approximation &bound, catalogue::Type type) {
@@ -137,15 +146,6 @@ Accuracy measure(double result, const model::Approximation &bound, catalogue::Ty
     if (bound.error > 0) accuracy.shareOfBound = static_cast<double>(error / bound.error);
     return accuracy;
 }
-
-std::string outOfBound(double result, const model::Approximation &bound) {
-    std::ostringstream text;
-    text << std::setprecision(20) << "  element at arena + 0x" << std::hex << bound.address - Arena::address
-         << ": library " << result << ", model " << bound.exact << " with a bound of " << bound.error << "\n";
-    return text.str();
-}
-
-} // namespace
 
 void Accuracy::include(const Accuracy &other) {
     elements += other.elements;

@@ -36,6 +36,11 @@ struct Accuracy {
     void include(const Accuracy &other);
 };
 
+bool isWithinBound(double result, const model::Approximation &bound);
+
+// Of a result within its bound.
+Accuracy measure(double result, const model::Approximation &bound, catalogue::Type type);
+
 struct Verdict {
     bool passed = true;
     Extent extent = Extent::full;

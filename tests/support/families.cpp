@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <numeric>
 
 namespace support::families {
@@ -76,6 +77,8 @@ Shape shapeOf(const Function &function, const Operand &operand, const Sizes &siz
     const std::uint32_t side = orderOf(function, sizes);
     const bool square = function.order != 0 || sizes["order"] != 0 ||
                         in(function, {"matrix-product", "matrix-vector", "transpose", "extract"});
+    if (!operand.matrix && in(function, {"qr-back-substitution"}) && function.order == 0)
+        return {1, sizes[operand.written ? "cols" : "rows"]};
     if (!operand.matrix) {
         const std::uint32_t length = std::max(sizes["len"], square ? side : std::max(sizes["rows"], sizes["cols"]));
         return {1, length};
@@ -98,6 +101,20 @@ std::pair<std::string_view, std::string_view> comparedWords(const Function &func
 
 namespace {
 
+// Mostly higher than wide: a wider matrix is always singular, and nothing solves with one. A single right-hand side may
+// be long enough to be copied in blocks.
+void relateHeightToWidth(const Function &function, Sizes &sizes, Random &random) {
+    const auto dimension = [&](std::string_view name) -> std::uint32_t & {
+        return std::ranges::find(sizes.dimensions, name, &Sizes::Named::name)->value;
+    };
+    std::uint32_t &cols = dimension("cols");
+    std::uint32_t &rows = dimension("rows");
+    if (in(function, {"qr-decomposition"}) && random.percent(10)) return;
+    if (cols > rows) std::swap(cols, rows);
+    if (random.percent(25)) rows = cols;
+    else if (!function.array() && random.percent(40)) rows = static_cast<std::uint32_t>(random.between(9, 40));
+}
+
 // No columns still leave the ones; -1 of them keeps these within the table, whatever the rows and objects.
 void makeSizesNegative(Sizes &sizes, Random &random) {
     const auto kind = random.below(100);
@@ -114,6 +131,8 @@ void avoidOrderOne(Sizes &sizes) {
 } // namespace
 
 void relateDimensions(const Function &function, Sizes &sizes, Random &random) {
+    if (in(function, {"qr-decomposition", "qr-back-substitution"}) && !sizes.dimensions.empty())
+        return relateHeightToWidth(function, sizes, random);
     if (in(function, {"identity"})) return makeSizesNegative(sizes, random);
     if (in(function, {"inverse"})) return avoidOrderOne(sizes);
     if (!in(function, {"matrix-product", "matrix-vector"}) || sizes.dimensions.empty() || random.percent(10)) return;
@@ -151,6 +170,19 @@ std::uint32_t extraEntries(const Function &function, const Operand &operand, con
 }
 
 namespace {
+
+// Row i of the triangle is looked for i + 1 bytes behind where a row ahead of the matrix would be.
+bool displacesTriangle(const Function &function, const Operand &operand) {
+    return in(function, {"qr-back-substitution"}) && function.group == "mava" && operand.name == "src1" &&
+           function.type == catalogue::Type::real64 && operand.layout == Layout::list;
+}
+
+Reach withDisplacedTriangle(const Placement &placement) {
+    Reach reach = placement.reach;
+    reach.low += std::min<std::int64_t>(1 - placement.rowStride, 0);
+    reach.high += std::max<std::int64_t>(std::int64_t{placement.shape.cols} - placement.rowStride, 0);
+    return reach;
+}
 
 // The last pivot of object n is looked for n packed rows further on.
 Reach withDisplacedPivots(const Placement &placement) {
@@ -197,6 +229,7 @@ Reach extraReach(const Function &function, const Operand &operand, const Sizes &
     if (in(function, {"identity"})) return ofIdentities(function, operand, sizes, placement);
     if (in(function, {"lu-decomposition"}) && operand.written && operand.array && !isTable(operand.layout))
         return withDisplacedPivots(placement);
+    if (displacesTriangle(function, operand)) return withDisplacedTriangle(placement);
     return placement.reach;
 }
 
@@ -210,10 +243,15 @@ bool addsShift(const Function &function) {
 
 namespace {
 
+bool hasLanes(const Function &function) {
+    return function.order != 0 && function.type == catalogue::Type::real32 &&
+           (function.layout.empty() || function.layout == "L");
+}
+
 // The forms of an array and a single matrix that load an object ahead of the one they store.
 bool runsAhead(const Function &function) {
-    return in(function, {"matrix-matrix"}) && function.type == catalogue::Type::real32 && function.order == 3 &&
-           (function.group == "mam" || function.group == "mamT") && (function.layout.empty() || function.layout == "L");
+    return in(function, {"matrix-matrix"}) && hasLanes(function) && function.order == 3 &&
+           (function.group == "mam" || function.group == "mamT");
 }
 
 } // namespace
@@ -228,8 +266,7 @@ Reach borrowedReach(const Function &function, const Operand &operand, std::span<
 bool looksAtAlignment(const Function &function) {
     return in(function, {"vector-constant", "saxpy", "linear-combination", "dot-product", "norm", "matrix-matrix",
                          "matrix-constant", "frobenius-norm"}) &&
-           function.order != 0 && function.type == catalogue::Type::real32 &&
-           (function.layout.empty() || function.layout == "L");
+           hasLanes(function);
 }
 
 bool mayLieInSource(const Function &function) {
@@ -292,8 +329,7 @@ bool traceMayMeetNull(const Operand &operand, std::uint32_t order, std::uint32_t
 
 bool testsListEntry(const Function &function, const Operand &operand, const Sizes &sizes, std::uint32_t entry) {
     if (runsAhead(function)) return !operand.written || entry != 0 || sizes.count == 1;
-    const bool takesBlocks = in(function, {"frobenius-norm"}) && function.type == catalogue::Type::real32 &&
-                             function.layout == "L" && (function.order == 3 || function.order == 4);
+    const bool takesBlocks = in(function, {"frobenius-norm"}) && hasLanes(function) && function.order <= 4;
     return !takesBlocks || entry < sizes.count - sizes.count % 4;
 }
 
@@ -312,8 +348,10 @@ bool trustsEntries(const Function &function) {
 
 // Single forms that leave out tests are added here, by name.
 bool testsEntry(const Function &function, const Operand &operand, const Sizes &sizes, std::uint32_t entry) {
-    if (in(function, {"copy", "extract", "identity", "cholesky-decomposition", "cholesky-back-substitution"}))
-        return false;
+    if (in(function, {"copy", "extract", "identity"})) return false;
+    if (in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return isList(operand.layout);
+    if (in(function, {"qr-back-substitution"}) && operand.name == "src2" && isTable(operand.layout))
+        return entry < (function.order != 0 ? orderOf(function, sizes) : sizes["cols"]);
     if (trustsEntries(function)) return false;
     if (isFixedInverse(function) && function.type == catalogue::Type::real32 && function.layout == "L") return false;
     if (isList(operand.layout)) return testsListEntry(function, operand, sizes, entry);
@@ -328,18 +366,56 @@ bool testsEntry(const Function &function, const Operand &operand, const Sizes &s
     return true;
 }
 
-// Some forms of these run ahead of the object whose entries they test.
+// What these test is the sum of entry and shift.
+std::uintptr_t nullEntry(const Function &function, std::int32_t shift) {
+    if (!in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return 0;
+    return static_cast<std::uintptr_t>(-std::int64_t{shift});
+}
+
+// The factor is a lower triangle.
+bool followsEntry(const Function &function, const Placement &placement, std::uint32_t entry) {
+    if (!in(function, {"cholesky-decomposition", "cholesky-back-substitution"}) || !isTable(placement.layout))
+        return true;
+    const Shape shape = placement.shape;
+    return shape.rows != shape.cols || entry % shape.cols <= entry / shape.cols;
+}
+
+// Decompositions of these orders are straight lines of code that count strides in elements.
+bool dropsPartOfElementStride(const Function &function, const Sizes &sizes) {
+    const std::uint32_t order = orderOf(function, sizes);
+    return in(function, {"cholesky-decomposition"}) && order >= 3 && order <= 6 &&
+           (function.layout == "S2" || function.layout == "LS2");
+}
+
+bool isSignedSize(const Function &function, std::string_view parameter) {
+    const bool inTable = function.layout == "P" || function.layout == "PS2";
+    if (in(function, {"cholesky-decomposition"})) return parameter == "count" && !inTable;
+    if (!in(function, {"cholesky-back-substitution"})) return false;
+    return parameter == "count" || (parameter == "order" && (function.layout == "S2" || function.layout == "LS2"));
+}
+
+// Some forms of these run ahead of the object whose entries they test, or pass over it.
 bool stopsAtNullEntry(const Function &function, const Operand &operand) {
+    if (in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return false;
     if (isFixedInverse(function) && isList(operand.layout)) return false;
     return isTable(operand.layout) ? !in(function, {"trace"}) : !in(function, {"matrix-matrix", "matrix-product"});
 }
 
 bool isFixedInPlace(const Function &function, const Operand &source) {
     if (source.transposed) return false;
-    if (in(function, {"cholesky-back-substitution"})) return source.name == "src2";
     if (in(function, {"cross-product"})) return function.group == "vv" && function.layout.empty();
+    if (in(function, {"cholesky-back-substitution", "qr-back-substitution"})) return source.name == "src2";
     return in(function, {"vector-constant", "vector-vector", "saxpy", "linear-combination", "matrix-matrix",
                          "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition", "copy"});
+}
+
+// Rows and columns change places in registers, in an order that is free; an inverse promises next to nothing.
+unsigned overlapShare(const Function &function) {
+    if (isFixedInverse(function)) return 12;
+    const bool turnsInRegisters =
+        in(function, {"transpose"}) || (in(function, {"matrix-matrix", "matrix-constant"}) &&
+                                        std::ranges::any_of(function.operands, &Operand::transposed));
+    return hasLanes(function) && turnsInRegisters ? 50 : 100;
 }
 
 // Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.
@@ -348,6 +424,8 @@ ValueMixture usualValues(const Function &function) {
         return {.smallIntegers = 20, .wideExponents = 3, .ties = 5, .nearTies = 8, .specials = 10};
     if (in(function, {"lu-decomposition", "determinant", "inverse", "qr-decomposition"}))
         return {.smallIntegers = 15, .wideExponents = 4, .ties = 5, .nearTies = 8, .specials = 15};
+    if (in(function, {"cholesky-decomposition"}))
+        return {.smallIntegers = 15, .wideExponents = 8, .ties = 8, .nearTies = 8, .specials = 12};
     return {};
 }
 
@@ -371,10 +449,9 @@ void fillBlock(const Function &function, std::string_view parameter, std::span<s
 }
 
 bool hasTrouble(const Function &function) {
-    return in(function, {"norm", "frobenius-norm", "lu-decomposition", "determinant", "inverse"});
+    return in(function, {"norm", "frobenius-norm", "lu-decomposition", "determinant", "inverse",
+                         "cholesky-decomposition", "qr-decomposition"});
 }
-
-bool leavesOverlapOpen(const Function &function) { return isFixedInverse(function); }
 
 namespace {
 
@@ -385,6 +462,8 @@ struct MatrixObject {
     std::uint32_t n;
 
     std::uint32_t order() const { return placement.shape.rows; }
+    std::uint32_t rows() const { return placement.shape.rows; }
+    std::uint32_t cols() const { return placement.shape.cols; }
     double get(std::uint32_t i, std::uint32_t j) const { return loadElement(placement.address(n, i, j), type); }
     void set(std::uint32_t i, std::uint32_t j, double value) const {
         storeElement(placement.address(n, i, j), type, value);
@@ -398,8 +477,8 @@ void repeatRow(const MatrixObject &matrix, Random &random) {
 }
 
 void clearColumn(const MatrixObject &matrix, Random &random) {
-    const auto column = static_cast<std::uint32_t>(random.below(matrix.order()));
-    for (std::uint32_t i = 0; i < matrix.order(); ++i) matrix.set(i, column, 0.0);
+    const auto column = static_cast<std::uint32_t>(random.below(matrix.cols()));
+    for (std::uint32_t i = 0; i < matrix.rows(); ++i) matrix.set(i, column, 0.0);
 }
 
 double besideTolerance(const Function &function, Random &random) {
@@ -446,13 +525,123 @@ void moveSquaresToTheEdge(const MatrixObject &matrix, Random &random) {
         }
 }
 
+double nextTo(double value, double side, catalogue::Type type) {
+    return type == catalogue::Type::real32
+               ? static_cast<double>(std::nextafterf(static_cast<float>(value), static_cast<float>(side)))
+               : std::nextafter(value, side);
+}
+
+// --- positive definite matrices and others
+
+// As large as the rest of its row together and more. Where the row is no number the diagonal stays.
+void makeDominant(const MatrixObject &matrix) {
+    for (std::uint32_t i = 0; i < matrix.order(); ++i) {
+        double sum = std::fabs(matrix.get(i, i));
+        for (std::uint32_t j = 0; j < matrix.order(); ++j)
+            if (j != i) sum += std::fabs(j < i ? matrix.get(i, j) : matrix.get(j, i));
+        if (std::isfinite(sum)) matrix.set(i, i, sum);
+    }
+}
+
+// Whether the lower triangle can be multiplied by its transpose without much loss.
+bool isTame(const MatrixObject &matrix) {
+    for (std::uint32_t i = 0; i < matrix.order(); ++i)
+        for (std::uint32_t j = 0; j <= i; ++j)
+            if (!(std::fabs(matrix.get(i, j)) <= 4.0)) return false;
+    return true;
+}
+
+// The lower triangle times its transpose, row by row from below, so that what is still needed stands.
+void squareTriangle(const MatrixObject &matrix) {
+    for (std::uint32_t i = 0; i < matrix.order(); ++i) matrix.set(i, i, std::max(std::fabs(matrix.get(i, i)), 0.25));
+    for (std::uint32_t i = matrix.order(); i-- > 0;)
+        for (std::uint32_t j = i + 1; j-- > 0;) {
+            double sum = 0;
+            for (std::uint32_t k = 0; k <= j; ++k) sum += matrix.get(i, k) * matrix.get(j, k);
+            matrix.set(i, j, sum);
+        }
+}
+
+double smallest(catalogue::Type type) { return type == catalogue::Type::real32 ? 0x1p-149 : 0x1p-1074; }
+
+// Built from a factor of small integers with powers of two on its diagonal, in which nothing is rounded, so that one
+// pivot comes out just as chosen.
+void placePivotBesideZero(const MatrixObject &matrix, Random &random) {
+    const auto critical = static_cast<std::uint32_t>(random.below(matrix.order()));
+    const bool alone = random.percent(50); // nothing is subtracted from the pivot
+    for (std::uint32_t i = 0; i < matrix.order(); ++i) {
+        for (std::uint32_t j = 0; j < i; ++j)
+            matrix.set(i, j, alone && i == critical ? 0.0 : static_cast<double>(random.between(-2, 2)));
+        matrix.set(i, i, random.percent(50) ? 1.0 : 2.0);
+    }
+    const double own = matrix.get(critical, critical);
+    squareTriangle(matrix);
+    const double subtracted = matrix.get(critical, critical) - own * own;
+    const double least =
+        subtracted == 0 ? smallest(matrix.type) : nextTo(subtracted, HUGE_VAL, matrix.type) - subtracted;
+    const std::array<double, 8> pivots{
+        0.0, -0.0, least, -least, -1.0, std::numeric_limits<double>::quiet_NaN(), HUGE_VAL, -HUGE_VAL};
+    const double pivot = random.pick(std::span<const double>(pivots));
+    matrix.set(critical, critical, subtracted == 0 ? pivot : subtracted + pivot);
+}
+
+void makeCholeskyTrouble(const MatrixObject &matrix, Random &random) {
+    if (random.percent(70)) return placePivotBesideZero(matrix, random);
+    const auto i = static_cast<std::uint32_t>(random.below(matrix.order()));
+    matrix.set(i, i, random.percent(50) ? -matrix.get(i, i) : std::numeric_limits<double>::quiet_NaN());
+}
+
+// --- columns that depend on one another, or whose norm is at the tolerance
+
+void repeatColumn(const MatrixObject &matrix, Random &random) {
+    const auto from = static_cast<std::uint32_t>(random.below(matrix.cols()));
+    const auto to = static_cast<std::uint32_t>(random.below(matrix.cols()));
+    for (std::uint32_t i = 0; i < matrix.rows(); ++i) matrix.set(i, to, from == to ? 0.0 : matrix.get(i, from));
+}
+
+// Ahead of the critical column the matrix is an upper triangle, which reflections leave as it is but for signs. The
+// squares of the column's elements add up to the tolerance, or to a little more or less.
+void placeNormAtTolerance(const MatrixObject &matrix, Random &random) {
+    const auto critical = static_cast<std::uint32_t>(random.below(std::min(matrix.rows(), matrix.cols())));
+    for (std::uint32_t i = 0; i < matrix.rows(); ++i)
+        for (std::uint32_t j = 0; j < matrix.cols(); ++j)
+            matrix.set(i, j, j < critical && i > j ? 0.0 : static_cast<double>(random.between(1, 3)));
+    for (std::uint32_t i = critical; i < matrix.rows(); ++i) matrix.set(i, critical, 0.0);
+    const bool twoElements = critical + 1 < matrix.rows() && random.percent(70);
+    double value = twoElements ? 0x1p-12 : std::sqrt(0x1p-23);
+    for (std::int64_t steps = random.between(0, 3); steps > 0; --steps)
+        value = nextTo(value, random.percent(50) ? 0.0 : 1.0, matrix.type);
+    const auto sign = [&] { return random.percent(50) ? -1.0 : 1.0; };
+    matrix.set(critical, critical, sign() * value);
+    if (twoElements) matrix.set(matrix.rows() - 1, critical, sign() * 0x1p-12);
+}
+
+void makeQrTrouble(const MatrixObject &matrix, Random &random) {
+    switch (random.below(4)) {
+    case 0: return repeatColumn(matrix, random);
+    case 1: return clearColumn(matrix, random);
+    default: return placeNormAtTolerance(matrix, random);
+    }
+}
+
 } // namespace
+
+void shapeValues(const Function &function, std::span<const Placement> operands, Random &random) {
+    if (!in(function, {"cholesky-decomposition"}) || random.percent(10)) return;
+    const bool bySquares = random.percent(60);
+    for (std::uint32_t n = 0; n < operands.front().objects; ++n) {
+        const MatrixObject matrix{operands.front(), function.type, n};
+        bySquares &&isTame(matrix) ? squareTriangle(matrix) : makeDominant(matrix);
+    }
+}
 
 void makeTrouble(const Function &function, std::span<const Placement> operands, Random &random) {
     const Placement &source = operands.front();
     const auto n = static_cast<std::uint32_t>(random.percent(50) ? 0 : random.below(source.objects));
     const MatrixObject matrix{source, function.type, n};
     if (in(function, {"norm", "frobenius-norm"})) return moveSquaresToTheEdge(matrix, random);
+    if (in(function, {"cholesky-decomposition"})) return makeCholeskyTrouble(matrix, random);
+    if (in(function, {"qr-decomposition"})) return makeQrTrouble(matrix, random);
     switch (random.below(in(function, {"inverse"}) ? 5 : 4)) {
     case 0: return repeatRow(matrix, random);
     case 1: return clearColumn(matrix, random);

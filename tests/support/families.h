@@ -65,17 +65,33 @@ bool testsPointers(const catalogue::Function &function);
 bool testsEntry(const catalogue::Function &function, const catalogue::Operand &operand, const Sizes &sizes,
                 std::uint32_t entry);
 
+// What stands in the table in place of a null entry: what the function tests against null.
+std::uintptr_t nullEntry(const catalogue::Function &function, std::int32_t shift);
+
+// Whether an entry of a table of positions is ever followed.
+bool followsEntry(const catalogue::Function &function, const Placement &placement, std::uint32_t entry);
+
+// Whether element strides are cut to whole elements.
+bool dropsPartOfElementStride(const catalogue::Function &function, const Sizes &sizes);
+
+// Whether a size with its top bit set counts as none.
+bool isSignedSize(const catalogue::Function &function, std::string_view parameter);
+
 // Whether a call that finds a null entry is sure to stop there however large `count` is.
 bool stopsAtNullEntry(const catalogue::Function &function, const catalogue::Operand &operand);
 
 // Whether the result is fixed when the destination is this source, element on element.
 bool isFixedInPlace(const catalogue::Function &function, const catalogue::Operand &source);
 
-// Whether hardly anything is promised where the destination shares memory with a source: such calls are to be few.
-bool leavesOverlapOpen(const catalogue::Function &function);
+// Of the overlaps of destination and source that would be drawn, how many percent are: few where nearly all outcomes are
+// open, so that such calls tell little.
+unsigned overlapShare(const catalogue::Function &function);
 
 // How elements are chosen.
 ValueMixture usualValues(const catalogue::Function &function);
+
+// Changes the elements to numbers that let most calls succeed, where random ones seldom would.
+void shapeValues(const catalogue::Function &function, std::span<const Placement> operands, Random &random);
 
 // Fills a block that is read.
 void fillBlock(const catalogue::Function &function, std::string_view parameter, std::span<std::byte> block,

@@ -65,6 +65,7 @@ void chooseStrides(std::vector<Axis> &axes, std::int64_t elementSize, Style styl
     std::int64_t inner = elementSize;
     for (Axis &axis : axes) {
         axis.stride = axis.fixed ? elementSize : chooseMagnitude(inner, elementSize, style, random);
+        if (style.inElements && axis.role == Role::element) axis.stride = roundUp(axis.stride, elementSize);
         inner += (axis.extent - 1) * axis.stride;
         if (axis.fixed) continue;
         if (!style.packed && random.percent(20)) axis.stride = -axis.stride;
@@ -118,6 +119,7 @@ Placement attempt(const catalogue::Function &function, const catalogue::Operand 
     if (placement.tabled)
         placement.slots.resize(listed ? placement.objects : placement.shape.rows * placement.shape.cols);
 
+    style.inElements = families::dropsPartOfElementStride(function, sizes);
     std::vector<Axis> axes = axesOf(operand, placement);
     if (!style.packed) chooseNest(axes, random);
     chooseStrides(axes, placement.elementSize, style, random);

@@ -63,6 +63,7 @@ struct Style {
     bool onGrid = false;     // strides are multiples of the element's size
     bool mayOverlap = false; // elements may share bytes
     bool packed = false;     // strides are as small as they can be
+    bool inElements = false; // element strides are multiples of the element's size
 };
 
 // Largest operand, in bytes.

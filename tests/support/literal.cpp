@@ -21,6 +21,7 @@ using catalogue::Type;
 constexpr std::byte background{0x3f};
 constexpr std::uint32_t untouchedPivot = 0xc0ffee01;
 constexpr std::size_t pivotMargin = 8;
+constexpr std::size_t workMargin = 64;
 
 // Stands above every 32-bit word of a call, where nobody may look.
 constexpr std::uint64_t rubbish = 0xa5c3'96e1'0000'0000;
@@ -99,13 +100,19 @@ std::vector<const Function *> members(std::string_view section) {
     return found;
 }
 
+std::int32_t callWith(std::string_view name, const std::vector<std::uint64_t> &words) {
+    const Function &called = function(name);
+    if (words.size() != called.parameters.size()) throw std::length_error("words of " + called.name);
+    return support::invoke(exportOf(called), called, words);
+}
+
 bool isPointer(Kind kind) {
     return kind == Kind::base || kind == Kind::table || kind == Kind::list || kind == Kind::dense;
 }
 
 bool hasColumnsFourBytesApart(const Function &function) {
-    return function.family->operation == "LUBackSubst" && function.group == "mva" && function.type == Type::real64 &&
-           function.layout == "L";
+    return (function.family->operation == "LUBackSubst" || function.family->operation == "QRBackSubst") &&
+           function.group == "mva" && function.type == Type::real64 && function.layout == "L";
 }
 
 std::vector<std::uint32_t> sizesOf(const Function &function, std::vector<std::uint32_t> runTimeSizes) {
@@ -126,14 +133,16 @@ std::byte *Place::address(std::uint32_t n, std::uint32_t i, std::uint32_t j) con
 
 void Place::moveTo(std::byte *newOrigin) {
     for (std::byte *&entry : entries) entry += newOrigin - origin;
+    if (before != nullptr) before += newOrigin - origin;
     origin = newOrigin;
 }
 
-Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geometry geometry)
+Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geometry geometry, std::uint32_t rows)
     : function_(literal::function(name)),
       size_(function_.order == 0 ? size : static_cast<std::uint32_t>(function_.order)),
-      count_(function_.array() ? count : 1), pivots_(2 * pivotMargin + std::size_t{size_} * count_, untouchedPivot),
-      pivotsWord_(pivots_.data() + pivotMargin) {
+      rows_(function_.order == 0 && rows != 0 ? rows : size_), count_(function_.array() ? count : 1),
+      pivots_(2 * pivotMargin + std::size_t{size_} * count_, untouchedPivot), pivotsWord_(pivots_.data() + pivotMargin),
+      work_(2 * workMargin + std::size_t{8} * rows_, background), workWord_(work_.data() + workMargin) {
     for (const catalogue::Operand &operand : function_.operands) {
         Place place;
         place.operand = &operand;
@@ -141,13 +150,24 @@ Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geome
         chooseStrides(place, geometry, count_);
         places_.push_back(place);
     }
+    for (const catalogue::Parameter &parameter : function_.parameters)
+        if (parameter.kind == Kind::dense && parameter.name != "pivots" && parameter.name != "work")
+            blocks_.push_back({parameter.name, bytesOf(parameter.name), nullptr});
     layOut(geometry);
+}
+
+std::size_t Call::bytesOf(const std::string &block) const {
+    const std::size_t element = function_.type == Type::real32 ? 4 : 8;
+    const std::size_t order = size_;
+    if (block == "scratch") return order * (order * element + 4);
+    const bool extracts = function_.family->operation == "Extract";
+    return count_ * element * (!extracts ? 1 : function_.operands.front().matrix ? order * order : order);
 }
 
 void Call::shape(Place &place) const {
     place.elementSize = function_.type == Type::real32 ? 4 : 8;
-    place.rows = place.operand->matrix ? size_ : 1;
-    place.cols = size_;
+    place.rows = place.operand->matrix ? rows_ : 1;
+    place.cols = place.operand->matrix || place.operand->written ? size_ : rows_;
 }
 
 // Operands lie behind one another at multiples of 16, far enough apart for reads of displaced pivots.
@@ -162,8 +182,15 @@ void Call::layOut(Geometry geometry) {
         origins.push_back((start + 15) / 16 * 16);
         end = origins.back() + static_cast<std::size_t>(reach.high) + margin;
     }
-    memory_.assign(end + 64 * (std::size_t{count_} + 2), background);
+    std::size_t blockEnd = end + 64 * (std::size_t{count_} + 2);
+    std::vector<std::size_t> starts;
+    for (Block &block : blocks_) {
+        starts.push_back((blockEnd + 127) / 16 * 16);
+        blockEnd = starts.back() + block.bytes + 128;
+    }
+    memory_.assign(blockEnd, background);
     spare_ = memory_.data() + end;
+    for (std::size_t k = 0; k < blocks_.size(); ++k) blocks_[k].address = memory_.data() + starts[k];
     for (std::size_t k = 0; k < places_.size(); ++k) {
         Place &place = places_[k];
         place.origin = memory_.data() + origins[k];
@@ -174,6 +201,10 @@ void Call::layOut(Geometry geometry) {
             const std::ptrdiff_t step = isList(place) ? place.objectStride : place.positionStride;
             place.entries.push_back(place.origin + step * std::ptrdiff_t{entry} - place.shift);
         }
+        place.before = place.entries.front();
+        // The ones of an identity run on along the table, here to one cell.
+        if (!isList(place) && function_.family->operation == "LoadIdentity")
+            place.entries.insert(place.entries.end(), std::size_t{size_} * count_, spareCell(1) - place.shift);
         // The displaced look at the last pivot goes beyond the positions, to a cell of its own for each object.
         if (!isList(place) && writesPivots() && place.operand->written)
             for (std::uint32_t n = 1; n < count_; ++n)
@@ -237,6 +268,26 @@ std::vector<double> Call::get(std::string_view operand, std::uint32_t n) {
     return values;
 }
 
+Block &Call::block(std::string_view parameter) {
+    for (Block &block : blocks_)
+        if (block.parameter == parameter) return block;
+    throw std::out_of_range(std::string(parameter));
+}
+
+std::vector<double> Call::results() {
+    const Block &found = block("dst");
+    const std::size_t element = function_.type == Type::real32 ? 4 : 8;
+    std::vector<double> values;
+    for (std::size_t at = 0; at < found.bytes; at += element) values.push_back(getAt(found.address + at));
+    return values;
+}
+
+void Call::setConstant(std::string_view parameter, double value) {
+    std::byte bits[sizeof(std::uint64_t)] = {};
+    setAt(bits, value);
+    std::memcpy(&constants_[std::string(parameter)], bits, sizeof bits);
+}
+
 std::vector<std::uint32_t> Call::pivots(std::uint32_t n) const {
     const std::uint32_t *const first = pivots_.data() + pivotMargin + std::size_t{n} * size_;
     return {first, first + size_};
@@ -246,18 +297,39 @@ void Call::setPivots(std::uint32_t n, const std::vector<std::uint32_t> &rows) {
     std::ranges::copy(rows, pivots_.begin() + static_cast<std::ptrdiff_t>(pivotMargin + std::size_t{n} * size_));
 }
 
+std::vector<double> Call::work() const {
+    std::vector<double> elements;
+    const std::size_t step = function_.type == Type::real32 ? 4 : 8;
+    for (std::size_t i = 0; i < rows_; ++i) elements.push_back(getAt(work_.data() + workMargin + i * step));
+    return elements;
+}
+
+bool Call::changedWork() const { return before_.work != after_.work; }
+
 std::uint64_t Call::wordOf(const catalogue::Parameter &parameter) {
     const auto bytes = [](std::int32_t value) { return rubbish | static_cast<std::uint32_t>(value); };
     const auto pointer = [](const void *address) { return reinterpret_cast<std::uintptr_t>(address); };
-    if (parameter.kind == Kind::dense) return pointer(pivotsWord_);
-    if (parameter.kind == Kind::size) return rubbish | size_;
+    if (parameter.name == "pivots") return pointer(pivotsWord_);
+    if (parameter.name == "work") return pointer(workWord_);
+    if (parameter.kind == Kind::dense) return pointer(block(parameter.name).address);
+    if (parameter.kind == Kind::size) return rubbish | (parameter.name == "rows" ? rows_ : size_);
     if (parameter.kind == Kind::count) return rubbish | count_;
     if (parameter.kind == Kind::ignored) return rubbish;
+    if (parameter.kind == Kind::constant) {
+        if (!constants_.contains(parameter.name)) setConstant(parameter.name, 3);
+        return constants_[parameter.name];
+    }
     const Place &place = places_.at(static_cast<std::size_t>(parameter.operand));
     switch (parameter.kind) {
     case Kind::base: return pointer(place.origin);
     case Kind::table:
-    case Kind::list: return pointer(place.table == nullptr ? place.entries.data() : place.table);
+    case Kind::list: {
+        if (place.table != nullptr) return pointer(place.table);
+        std::vector<std::byte *> &fronted = fronted_[place.operand->name];
+        fronted.assign(2, place.before); // one more, so that the table is aligned like the rest
+        fronted.insert(fronted.end(), place.entries.begin(), place.entries.end());
+        return pointer(fronted.data() + 2);
+    }
     case Kind::shift: return bytes(place.shift);
     case Kind::objectStride: return bytes(place.objectStride);
     case Kind::rowStride: return bytes(place.rowStride);
@@ -277,8 +349,9 @@ std::vector<std::uint64_t> Call::words() {
 }
 
 Call::Picture Call::picture() const {
-    Picture taken{memory_, pivots_, {}};
+    Picture taken{memory_, pivots_, work_, {}};
     for (const Place &place : places_) taken.tables.push_back(place.entries);
+    for (const auto &[operand, entries] : fronted_) taken.tables.push_back(entries);
     return taken;
 }
 
@@ -292,15 +365,22 @@ std::int32_t Call::run() {
 
 bool Call::changedNothing() const { return before_ == after_; }
 
+bool Call::changed(const std::byte *address, std::size_t bytes) const {
+    const std::ptrdiff_t at = address - memory_.data();
+    const auto end = at + static_cast<std::ptrdiff_t>(bytes);
+    return !std::equal(before_.memory.begin() + at, before_.memory.begin() + end, after_.memory.begin() + at);
+}
+
 bool Call::changedObject(std::uint32_t n) {
+    if (!function_.operands.back().written) {
+        const Block &results = block("dst");
+        const std::size_t bytes = results.bytes / count_;
+        return changed(results.address + n * bytes, bytes);
+    }
     const Place &place = (*this)["dst"];
     for (std::uint32_t i = 0; i < place.rows; ++i)
-        for (std::uint32_t j = 0; j < place.cols; ++j) {
-            const std::ptrdiff_t at = place.address(n, i, j) - memory_.data();
-            if (!std::equal(before_.memory.begin() + at, before_.memory.begin() + at + place.elementSize,
-                            after_.memory.begin() + at))
-                return true;
-        }
+        for (std::uint32_t j = 0; j < place.cols; ++j)
+            if (changed(place.address(n, i, j), static_cast<std::size_t>(place.elementSize))) return true;
     if (!writesPivots()) return false;
     const auto first = static_cast<std::ptrdiff_t>(pivotMargin + std::size_t{n} * size_);
     return !std::equal(before_.pivots.begin() + first, before_.pivots.begin() + first + size_,
@@ -309,15 +389,21 @@ bool Call::changedObject(std::uint32_t n) {
 
 Stray Call::strayWrites() {
     Picture expected = before_;
-    const Place &place = (*this)["dst"];
-    for (std::uint32_t n = 0; n < count_; ++n)
-        for (std::uint32_t k = 0; k < place.rows * place.cols; ++k) {
-            const std::ptrdiff_t at = place.address(n, k / place.cols, k % place.cols) - memory_.data();
-            std::copy_n(after_.memory.begin() + at, place.elementSize, expected.memory.begin() + at);
-        }
+    const auto allow = [&](const std::byte *address, std::size_t bytes) {
+        const std::ptrdiff_t at = address - memory_.data();
+        std::copy_n(after_.memory.begin() + at, bytes, expected.memory.begin() + at);
+    };
+    for (const Place &place : places_)
+        for (std::uint32_t n = 0; place.operand->written && n < count_; ++n)
+            for (std::uint32_t k = 0; k < place.rows * place.cols; ++k)
+                allow(place.address(n, k / place.cols, k % place.cols), static_cast<std::size_t>(place.elementSize));
+    for (const Block &block : blocks_) allow(block.address, block.bytes);
     if (writesPivots())
         std::copy_n(after_.pivots.begin() + pivotMargin, std::size_t{size_} * count_,
                     expected.pivots.begin() + pivotMargin);
+    const std::size_t elementSize = function_.type == Type::real32 ? 4 : 8;
+    std::copy_n(after_.work.begin() + workMargin, rows_ * elementSize, expected.work.begin() + workMargin);
+    if (expected.work != after_.work) return {"a byte beside the work block was written"};
     if (expected.tables != after_.tables) return {"an entry of a table was written"};
     if (expected.pivots != after_.pivots) return {"a word of or beside the pivots was written"};
     if (expected.memory != after_.memory) return {"a byte outside the elements of dst was written"};

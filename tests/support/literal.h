@@ -20,7 +20,12 @@ const std::vector<catalogue::Function> &allMembers();
 
 bool isPointer(catalogue::Kind kind);
 
-// vonkLUBackSubst_mva_64f in `L`, of every order: takes the columns of its matrix 4 bytes apart, whatever the doubles.
+// Calls the export with these words, as a caller of the header would.
+std::int32_t callWith(std::string_view name, const std::vector<std::uint64_t> &words);
+template <class Element> std::uint64_t wordOf(Element *pointer) { return reinterpret_cast<std::uintptr_t>(pointer); }
+
+// vonkLUBackSubst_mva_64f and vonkQRBackSubst_mva_64f in `L`, of every order: take the columns of the matrix 4 bytes
+// apart, whatever the doubles.
 bool hasColumnsFourBytesApart(const catalogue::Function &function);
 
 // Sizes at which a function is worth calling: its own if that is fixed.
@@ -52,12 +57,20 @@ struct Place {
     std::int32_t positionStride = 0; // from one position of a table to the next
     std::int32_t shift = 0;
     std::vector<std::byte *> entries;  // of its table or list, with the shift taken off
+    std::byte *before = nullptr;       // the entry in front of the first, with the shift taken off
     std::byte *const *table = nullptr; // what the call gets: the entries, unless they were put elsewhere
     std::ptrdiff_t alias = 0;          // from an address of the call to the same memory as the test reaches it
 
     bool tabled() const; // reached by way of a table of positions or a list of objects
     std::byte *address(std::uint32_t n, std::uint32_t i, std::uint32_t j) const;
     void moveTo(std::byte *newOrigin); // keeps the strides
+};
+
+// A dense block outside the layouts, other than pivots and work: results without a layout, and scratch memory.
+struct Block {
+    std::string parameter;
+    std::size_t bytes = 0;
+    std::byte *address = nullptr;
 };
 
 struct Stray {
@@ -67,13 +80,16 @@ struct Stray {
 
 class Call {
 public:
-    // `size` is the length or the order; a form of fixed size has its own.
-    Call(std::string_view name, std::uint32_t size, std::uint32_t count = 1, Geometry geometry = packed);
+    // `size` is the length or the order; a form of fixed size has its own. Matrices for QR may have more rows than
+    // that.
+    Call(std::string_view name, std::uint32_t size, std::uint32_t count = 1, Geometry geometry = packed,
+         std::uint32_t rows = 0);
     Call(const Call &) = delete;
     Call &operator=(const Call &) = delete;
 
     const catalogue::Function &function() const { return function_; }
     std::uint32_t size() const { return size_; }
+    std::uint32_t rows() const { return rows_; }
     std::uint32_t count() const { return count_; } // 1 where there is no array
     std::uint32_t objectsOf(std::string_view operand);
 
@@ -87,9 +103,17 @@ public:
     void setAt(std::byte *address, double value) const; // an element of the call's type anywhere
     double getAt(const std::byte *address) const;
 
+    Block &block(std::string_view parameter);
+    std::vector<double> results();                              // of a `dst` without a layout, all of them
+    void setConstant(std::string_view parameter, double value); // 3 unless it is set
+
     std::vector<std::uint32_t> pivots(std::uint32_t n) const;
     void setPivots(std::uint32_t n, const std::vector<std::uint32_t> &rows);
     void putPivotsAt(std::uint32_t *address) { pivotsWord_ = address; }
+
+    std::vector<double> work() const; // one element a row
+    void putWorkAt(std::byte *address) { workWord_ = address; }
+    bool changedWork() const;
 
     // Passes this instead of what the parameter would get; 32-bit parameters take the low half.
     void pass(std::string_view parameter, std::uint64_t word) { passed_[std::string(parameter)] = word; }
@@ -100,13 +124,15 @@ public:
 
     bool changedNothing() const;         // in the last run, in any memory of the call
     bool changedObject(std::uint32_t n); // a byte of object n of `dst`, or of its pivots where these are written
-    Stray strayWrites();                 // bytes changed outside the elements of `dst` and such pivots
+    // Bytes changed outside the elements of `dst`, the pivots and the work block, and the other blocks.
+    Stray strayWrites();
     std::byte *spareCell(std::uint32_t n) { return spare_ + std::size_t{64} * n; } // away from the operands
 
 private:
     struct Picture {
         std::vector<std::byte> memory;
         std::vector<std::uint32_t> pivots;
+        std::vector<std::byte> work;
         std::vector<std::vector<std::byte *>> tables;
         bool operator==(const Picture &) const = default;
     };
@@ -115,16 +141,24 @@ private:
     void layOut(Geometry geometry);
     std::uint64_t wordOf(const catalogue::Parameter &parameter);
     Picture picture() const;
+    std::size_t bytesOf(const std::string &block) const;
+    bool changed(const std::byte *address, std::size_t bytes) const;
     bool writesPivots() const { return function_.family->operation == "LUDecomp"; }
 
     const catalogue::Function &function_;
     std::uint32_t size_;
+    std::uint32_t rows_;
     std::uint32_t count_;
     std::vector<Place> places_;
+    std::vector<Block> blocks_;
     std::vector<std::byte> memory_;
     std::byte *spare_ = nullptr;
     std::vector<std::uint32_t> pivots_;
     std::uint32_t *pivotsWord_;
+    std::map<std::string, std::uint64_t> constants_;          // by their bits
+    std::map<std::string, std::vector<std::byte *>> fronted_; // tables with the entry in front
+    std::vector<std::byte> work_;                             // with margins
+    std::byte *workWord_;
     std::map<std::string, std::uint64_t> passed_;
     std::vector<std::uint64_t> words_; // of the run
     Picture before_;

@@ -98,9 +98,24 @@ inline void expectNullPointersAreCaught(const catalogue::Function &function, con
     }
 }
 
+// Five gathers from a table take their pointers as they are.
+inline bool trustsPointers(const catalogue::Function &function) {
+    return function.family->operation == "Extract" && function.layout == "P" && function.name != "vonkExtract_v_32f_P";
+}
+
+// Without objects most functions have nothing to do.
+inline std::int32_t statusOfNoObjects(const catalogue::Function &function) {
+    const std::string_view operation = function.family->operation;
+    const bool counts = operation == "Extract" || operation == "LoadIdentity" || operation.starts_with("Cholesky");
+    return counts ? vonkErrSize : vonkOk;
+}
+
+inline void blankEntries(Call &call, std::string_view operand) {
+    for (std::byte *&entry : call[operand].entries) entry = nullptr;
+}
+
 inline void blankEntries(Call &call) {
-    for (const catalogue::Operand &operand : call.function().operands)
-        for (std::byte *&entry : call[operand.name].entries) entry = nullptr;
+    for (const catalogue::Operand &operand : call.function().operands) blankEntries(call, operand.name);
 }
 
 // Next come the sizes, ahead of entries and count.
@@ -149,6 +164,22 @@ inline void expectNullPositionsAreCaughtUpFront(const catalogue::Function &funct
                 EXPECT_TRUE(call.changedNothing());
                 call[operand.name].entries[entry] = kept;
             }
+    }
+}
+
+// The entries of a single matrix are looked at as it is copied, so that scratch memory may be written.
+inline void expectNullPositionsAreCaughtInTheCopy(const catalogue::Function &function, const Example &example) {
+    for (const catalogue::Operand &operand : function.operands) {
+        Call call(function.name, 4);
+        example.fill(call);
+        for (std::byte *&entry : call[operand.name].entries) {
+            SCOPED_TRACE(function.name + ", a null in the table of " + operand.name);
+            std::byte *const kept = entry;
+            entry = nullptr;
+            EXPECT_EQ(call.run(), vonkErrNullPtr);
+            entry = kept;
+            EXPECT_FALSE(call.changedObject(0));
+        }
     }
 }
 

@@ -5,7 +5,7 @@
 #include "frame/lanes.h"
 #include "frame/walk.h"
 
-namespace vonkk3::vector {
+namespace vonkk3 {
 
 inline constexpr std::size_t blockObjects = 4;
 inline constexpr std::size_t inBlocks(std::size_t count) { return count / blockObjects * blockObjects; }
@@ -135,4 +135,4 @@ VONKK3_INLINE __m128 addRows(__m128 a, __m128 b, __m128 c, __m128 d) {
     return addNeighbours(addNeighbours(a, b), addNeighbours(c, d));
 }
 
-} // namespace vonkk3::vector
+} // namespace vonkk3

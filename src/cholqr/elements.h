@@ -1,0 +1,61 @@
+// The elements of one object as the factorisations see them: as numbers of the type that they are worked in, and a
+// store rounds to the element's own type.
+#pragma once
+
+#include "frame/unroll.h"
+#include "frame/views.h"
+
+namespace vonkk3::cholqr {
+
+// In the caller's memory. Every step is there at once, so whatever operands overlap sees it.
+template <class View> struct InMemory {
+    using Element = typename View::Element;
+    using Number = Working<Element>;
+
+    View view;
+
+    Number load(std::size_t column) const { return view.load(column); }
+    Number load(std::size_t row, std::size_t column) const { return view.load(row, column); }
+    void store(std::size_t column, Number value) const {
+        view.store(column, round<Element>(value));
+        readBackWhatIsStored<Element>();
+    }
+    void store(std::size_t row, std::size_t column, Number value) const {
+        view.store(row, column, round<Element>(value));
+        readBackWhatIsStored<Element>();
+    }
+    static Number rounded(Number value) { return round<Element>(value); }
+};
+template <class View> InMemory(View) -> InMemory<View>;
+
+// In numbers apart from memory, which the caller of an algorithm sees to.
+template <class Value, std::size_t columns> struct Apart {
+    using Number = Value;
+
+    Value (*rows)[columns];
+
+    Value load(std::size_t column) const { return rows[0][column]; }
+    Value load(std::size_t row, std::size_t column) const { return rows[row][column]; }
+    void store(std::size_t column, Value value) const { rows[0][column] = value; }
+    void store(std::size_t row, std::size_t column, Value value) const { rows[row][column] = value; }
+    static Value rounded(Value value) { return value; }
+};
+template <class Value, std::size_t columns> Apart(Value (*)[columns]) -> Apart<Value, columns>;
+
+// The caller's contiguous work space.
+template <class T> inline RowsView<T> workSpace(T *work) { return {reinterpret_cast<std::byte *>(work), 0}; }
+
+// start + Σ term(i) for i from `from` to `to` - 1. Real64 sums are rounded behind the pairs of terms, and again behind
+// an odd last one.
+template <class Elements, class Extent, class Number, class Term>
+VONKK3_INLINE Number sumInPairs(const Elements &elements, Number start, std::size_t from, std::size_t to, Extent extent,
+                                const Term &term) {
+    const std::size_t endOfPairs = from + (to - from) / 2 * 2;
+    Number sum = start;
+    forIndices(from, endOfPairs, extent, [&](std::size_t i) VONKK3_INLINED { sum = sum + term(i); });
+    sum = elements.rounded(sum);
+    if (endOfPairs < to) sum = elements.rounded(sum + term(endOfPairs));
+    return sum;
+}
+
+} // namespace vonkk3::cholqr

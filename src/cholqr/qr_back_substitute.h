@@ -1,0 +1,182 @@
+// Solving A x = b with a QR decomposition, in the sense of least squares if there are more rows than columns: the
+// reflectors are replayed on a copy of b, their beta = -2 / (v'v) being reckoned anew, then R is solved. Nothing about
+// the numbers is tested: a zero on the diagonal divides through.
+#pragma once
+
+#include "cholqr/clearance.h"
+#include "cholqr/copy_in_blocks.h"
+#include "cholqr/elements.h"
+#include "cholqr/reflectors.h"
+#include "frame/walk.h"
+
+namespace vonkk3::cholqr {
+
+// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+
+// One Real64 matrix for all right-hand sides, in the list layout, of every size: its columns are stepped through by 4
+// bytes instead of 8.
+template <class Factors, class Solution>
+inline constexpr bool stepsHalfColumns =
+    std::is_same_v<typename Factors::Element, Real64> &&Factors::layout == Layout::L && !Factors::isArray &&
+    Solution::isArray;
+
+// A Real64 matrix for each right-hand side, in the list layout, of every size: the reflectors are found where they are,
+// but row i of R is taken to begin i + 1 bytes behind the matrix, less one row stride.
+template <class Factors>
+inline constexpr bool strayInTriangle =
+    std::is_same_v<typename Factors::Element, Real64> &&Factors::layout == Layout::L &&Factors::isArray;
+
+// Neither solves the system, but for one column or data that are laid out to match. All others follow their strides.
+
+// Only vonkQRBackSubst_mv_32f copies the right-hand side in blocks, which changes no result.
+template <class RightSide, class Columns>
+inline constexpr bool copiesInBlocks =
+    std::is_same_v<typename RightSide::Element, Real32> &&RightSide::layout == Layout::Standard &&
+    !RightSide::isArray && !Columns::isFixed;
+
+// Where the reflectors of an object are read, and where R is.
+template <class Solution, class Factors>
+VONKK3_INLINE auto reflectorsOfObject(const Factors &factors, std::size_t n, std::size_t columns) {
+    const auto view = factors.view(n, columns);
+    if constexpr (stepsHalfColumns<Factors, Solution>)
+        return StridedView<const Real64>(view.base, view.rowStride, sizeof(Real64) / 2);
+    else return view;
+}
+
+template <class Solution, class Factors>
+VONKK3_INLINE auto triangleOfObject(const Factors &factors, std::size_t n, std::size_t columns) {
+    const auto view = reflectorsOfObject<Solution>(factors, n, columns);
+    if constexpr (strayInTriangle<Factors>) return RowsView<const Real64>(view.base + 1 - view.rowStride, 1);
+    else return view;
+}
+
+// ---- One object -----------------------------------------------------------------------------------------------------
+
+// Adds beta v (v'b) to b, for each reflector v in turn. Real64 sums are not rounded.
+template <class Reflectors, class Work, class Columns, class Rows>
+VONKK3_INLINE void replay(const Reflectors &reflectors, const Work &work, Columns columns, Rows rows) {
+    using Number = typename Work::Number;
+    forIndices(0, reflections(columns, rows), columns, [&](std::size_t k) VONKK3_INLINED {
+        Number squares = 1;
+        Number product = work.load(k);
+        forIndices(k + 1, rows, rows, [&](std::size_t i) VONKK3_INLINED {
+            const Number element = reflectors.load(i, k);
+            squares = squares + element * element;
+            product = product + work.load(i) * element;
+        });
+        const Number p = product * (-2 / squares);
+        work.store(k, work.load(k) + p);
+        forIndices(k + 1, rows, rows,
+                   [&](std::size_t i) VONKK3_INLINED { work.store(i, reflectors.load(i, k) * p + work.load(i)); });
+    });
+}
+
+// x from the last row up; each sum grows from 0 and is subtracted at the end.
+template <class Triangle, class Work, class Solution, class Columns>
+VONKK3_INLINE void solveTriangle(const Triangle &r, const Work &work, const Solution &x, Columns columns) {
+    using Number = typename Work::Number;
+    const std::size_t last = columns - 1;
+    x.store(last, work.load(last) / r.load(last, last));
+    forIndices(1, columns, columns, [&](std::size_t above) VONKK3_INLINED {
+        const std::size_t i = last - above;
+        Number s = 0;
+        forIndices(i + 1, columns, columns, [&](std::size_t j) VONKK3_INLINED { s = s + r.load(i, j) * x.load(j); });
+        x.store(i, (work.load(i) - s) / r.load(i, i));
+    });
+}
+
+template <bool inBlocks, class Reflectors, class Triangle, class RightSide, class Solution, class T>
+[[gnu::noinline]] void replayAndSolveByLoops(Reflectors reflectors, Triangle triangle, T *work, RightSide b, Solution x,
+                                             RunTime columns, RunTime rows) {
+    const RowsView<T> copy = workSpace(work);
+    if constexpr (inBlocks) copyInBlocks(b.at(0), copy.at(0), rows);
+    else
+        for (std::size_t i = 0; i < rows; ++i) copy.store(i, b.load(i));
+    replay(InMemory{reflectors}, InMemory{copy}, columns, rows);
+    solveTriangle(InMemory{triangle}, InMemory{copy}, InMemory{x}, columns);
+}
+
+template <bool inBlocks, class Reflectors, class Triangle, class RightSide, class Solution, class T, class Columns,
+          class Rows>
+VONKK3_INLINE void solveObject(const Reflectors &reflectors, const Triangle &triangle, T *work, const RightSide &b,
+                               const Solution &x, Columns columns, Rows rows) {
+    if constexpr (Columns::isFixed && std::is_same_v<Solution, RowsView<Real32>>) {
+        const RowsView<T> copy = workSpace(work);
+        forIndices(0, rows, rows, [&](std::size_t i) VONKK3_INLINED { copy.store(i, b.load(i)); });
+        replay(InMemory{reflectors}, InMemory{copy}, columns, rows);
+        solveTriangle(InMemory{triangle}, InMemory{copy}, InMemory{x}, columns);
+    } else
+        replayAndSolveByLoops<inBlocks>(reflectors, triangle, work, b, x, RunTime{std::uint32_t(columns)},
+                                        RunTime{std::uint32_t(rows)});
+}
+
+// ---- Four objects ---------------------------------------------------------------------------------------------------
+
+// Four systems side by side, where they lie so that nobody can tell. `work` is left as the last of them leaves it.
+template <class Factors, class RightSide, class Solution, std::size_t order> class FourLeastSquares {
+public:
+    FourLeastSquares(const Factors &src1, Real32 *work, const RightSide &src2, const Solution &dst, std::size_t count)
+        : src1(src1), work(work), src2(src2), dst(dst), amongFactors(dst, 1, src1, order, order, count),
+          amongRightSides(dst, 1, src2, 1, order, count), amongThemselves(dst, 1, dst, 1, order, count),
+          ofWork(dst, 1, this->work, 1, order, count), ofWorkAmongFactors(src1, order, this->work, 1, order, count),
+          ofWorkAmongRightSides(src2, 1, this->work, 1, order, count) {}
+
+    VONKK3_INLINE bool operator()(std::size_t n) const {
+        if (!amongFactors.ofFourFrom(n) || !amongRightSides.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) ||
+            !ofWork.ofFourFrom(n) || !ofWorkAmongFactors.ofFourFrom(n) || !ofWorkAmongRightSides.ofFourFrom(n))
+            return false;
+        for (std::size_t k = 0; k < four; ++k)
+            if (src1.listHasNull(n + k) || src2.listHasNull(n + k) || dst.listHasNull(n + k)) return false;
+
+        FourReals d[order][order], b[1][order], x[1][order];
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { gatherRows(src1, n, i, order, d[i]); });
+        gatherRows(src2, n, 0, order, b[0]);
+        replay(Apart{d}, Apart{b}, fixed<order>, fixed<order>);
+        solveTriangle(Apart{d}, Apart{b}, Apart{x}, fixed<order>);
+        scatterRows(dst, n, 0, order, x[0]);
+        forIndices(0, order, fixed<order>,
+                   [&](std::size_t i) VONKK3_INLINED { work.view(0).store(i, b[0][i].last()); });
+        return true;
+    }
+
+private:
+    using Work = Vector<Real32, Layout::Standard>;
+    const Factors &src1;
+    Work work;
+    const RightSide &src2;
+    const Solution &dst;
+    Clearance<Solution, Factors> amongFactors;
+    Clearance<Solution, RightSide> amongRightSides;
+    Clearance<Solution, Solution> amongThemselves;
+    Clearance<Solution, Work> ofWork;
+    Clearance<Factors, Work> ofWorkAmongFactors;
+    Clearance<RightSide, Work> ofWorkAmongRightSides;
+};
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+// One matrix serves all right-hand sides (mva), or each has its own (mava). Entries of the table of `src2` from
+// `columns` on are used but not tested.
+template <class Factors, class T, class RightSide, class Solution, class Columns, class Rows, class Count>
+VONKK3_INLINE VonkStatus qrBackSubstitute(const Factors &src1, T *work, const RightSide &src2, const Solution &dst,
+                                          Columns columns, Rows rows, Count count) {
+    if (anyNull(src1, work, src2, dst)) return vonkErrNullPtr;
+    if (columns.isZero() || rows.isZero()) return vonkErrSize;
+    if (anyTableEntryNull(columns * rows, src1)) return vonkErrNullPtr;
+    if (anyTableEntryNull(columns, src2, dst)) return vonkErrNullPtr;
+    const auto one = [&](std::size_t n) VONKK3_INLINED {
+        if (src1.listHasNull(n) || src2.listHasNull(n) || dst.listHasNull(n)) return VonkStatus(vonkErrNullPtr);
+        solveObject<copiesInBlocks<RightSide, Columns>>(reflectorsOfObject<Solution>(src1, n, columns),
+                                                        triangleOfObject<Solution>(src1, n, columns), work,
+                                                        src2.view(n), dst.view(n), columns, rows);
+        return VonkStatus(vonkOk);
+    };
+    if constexpr (worksFourAtOnce<Solution, Columns>)
+        if (count >= four)
+            return forEachFourOrOne(
+                count, FourLeastSquares<Factors, RightSide, Solution, Columns::value>(src1, work, src2, dst, count),
+                one);
+    return forEachObject(count, one);
+}
+
+} // namespace vonkk3::cholqr

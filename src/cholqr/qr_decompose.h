@@ -1,0 +1,175 @@
+// QR decomposition by Householder reflections, column by column. R stays on and above the diagonal; each reflector lies
+// below the diagonal of its column, scaled so that its leading element is 1, which is not stored. Its factor
+// beta = -2 / (v'v) is not stored either.
+#pragma once
+
+#include "cholqr/clearance.h"
+#include "cholqr/elements.h"
+#include "cholqr/reflectors.h"
+#include "cholqr/roots.h"
+#include "frame/walk.h"
+
+namespace vonkk3::cholqr {
+
+// A column whose SQUARED norm from the diagonal down is below this is taken for zero: an absolute number, and the same
+// for both element types.
+inline constexpr Real32 squaredNormTolerance = 0x1p-23F;
+
+// A NaN does not pass.
+template <class Number> inline bool passesAsSquaredNorm(Number s) { return s >= Number(squaredNormTolerance); }
+inline bool passesAsSquaredNorm(FourReals s) {
+    return _mm_movemask_ps(_mm_cmpge_ps(s.lanes, _mm_set1_ps(squaredNormTolerance))) == 0xf;
+}
+
+// With the sign of the diagonal element, so that their sum cancels nothing; of zero and NaN the minus sign.
+template <class Number> inline Number withSignOf(Number diagonal, Number norm) { return diagonal > 0 ? norm : -norm; }
+inline FourReals withSignOf(FourReals diagonal, FourReals norm) {
+    const __m128 isPositive = _mm_cmpgt_ps(diagonal.lanes, _mm_setzero_ps());
+    return _mm_xor_ps(norm.lanes, _mm_andnot_ps(isPositive, _mm_set1_ps(-0.0F)));
+}
+
+// ---- One object -----------------------------------------------------------------------------------------------------
+
+// Builds reflector k in `work` from what column k of d holds from the diagonal down; its beta.
+template <class Matrix, class Work, class Number, class Rows>
+VONKK3_INLINE Number buildReflector(const Matrix &d, const Work &work, std::size_t k, Rows rows, Number norm) {
+    const Number diagonal = d.load(k, k);
+    const Number inverse = 1 / (diagonal + withSignOf(diagonal, norm));
+    work.store(k, 1);
+    const Number squares = sumInPairs(d, Number(1), k + 1, rows, rows, [&](std::size_t i) VONKK3_INLINED {
+        const Number element = d.load(i, k) * inverse;
+        work.store(i, element);
+        return element * element;
+    });
+    return d.rounded(-2 / squares);
+}
+
+// Adds beta v (v'd) to column c of d.
+template <class Matrix, class Work, class Number, class Rows>
+VONKK3_INLINE void reflectColumn(const Matrix &d, const Work &work, std::size_t k, std::size_t c, Rows rows,
+                                 Number beta) {
+    Number p = d.load(k, c);
+    forIndices(k + 1, rows, rows, [&](std::size_t i) VONKK3_INLINED { p = p + d.load(i, c) * work.load(i); });
+    p = p * beta;
+    forIndices(k, rows, rows, [&](std::size_t i) VONKK3_INLINED { d.store(i, c, work.load(i) * p + d.load(i, c)); });
+}
+
+// All reflections; false if a column is too small, and what came before it stands. A matrix wider than high always
+// ends so: it runs out of rows.
+template <class Matrix, class Work, class Columns, class Rows>
+VONKK3_INLINE bool reflectAll(const Matrix &d, const Work &work, Columns columns, Rows rows) {
+    using Number = typename Matrix::Number;
+    return everyIndex(0, reflections(columns, rows), columns, [&](std::size_t k) VONKK3_INLINED {
+        const Number squaredNorm = sumInPairs(d, Number(0), k, rows, rows, [&](std::size_t i) VONKK3_INLINED {
+            const Number element = d.load(i, k);
+            return element * element;
+        });
+        if (!passesAsSquaredNorm(squaredNorm)) return false;
+        const Number beta = buildReflector(d, work, k, rows, root(squaredNorm));
+        forIndices(k, columns, columns,
+                   [&](std::size_t c) VONKK3_INLINED { reflectColumn(d, work, k, c, rows, beta); });
+        forIndices(k + 1, rows, rows, [&](std::size_t i) VONKK3_INLINED { d.store(i, k, work.load(i)); });
+        return true;
+    });
+}
+
+template <class Source, class Factors, class T>
+[[gnu::noinline]] VonkStatus reflectByLoops(Source source, Factors factors, T *work, RunTime columns, RunTime rows) {
+    for (std::size_t i = 0; i < rows; ++i)
+        for (std::size_t j = 0; j < columns; ++j) factors.store(i, j, source.load(i, j));
+    return reflectAll(InMemory{factors}, InMemory{workSpace(work)}, columns, rows) ? vonkOk : vonkErrSingular;
+}
+
+// Real32 of fixed order in rows of adjacent elements is worked apart from memory, where nobody can tell, and stored if
+// all goes well.
+template <std::size_t order>
+VONKK3_INLINE bool reflectApart(const RowsView<const Real32> &source, const RowsView<Real32> &factors, Real32 *work,
+                                Fixed<order>) {
+    if (!areRowsApart(factors, order)) return false;
+    const Extent target(factors, order, order);
+    if (!areApart(target, Extent(work, order * sizeof(Real32)))) return false;
+    if (!areApart(target, Extent(source, order, order)) &&
+        !(source.base == factors.base && source.rowStride == factors.rowStride))
+        return false;
+
+    Real32 d[order][order], v[1][order];
+    const auto forElements = [](const auto &body) VONKK3_INLINED {
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+            forIndices(0, order, fixed<order>, [&](std::size_t j) VONKK3_INLINED { body(i, j); });
+        });
+    };
+    forElements([&](std::size_t i, std::size_t j) VONKK3_INLINED { d[i][j] = source.load(i, j); });
+    if (!reflectAll(Apart{d}, Apart{v}, fixed<order>, fixed<order>)) return false;
+    forElements([&](std::size_t i, std::size_t j) VONKK3_INLINED { factors.store(i, j, d[i][j]); });
+    forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { workSpace(work).store(i, v[0][i]); });
+    return true;
+}
+
+template <class Source, class Factors, class T, class Columns, class Rows>
+VONKK3_INLINE VonkStatus reflectObject(const Source &source, const Factors &factors, T *work, Columns columns,
+                                       Rows rows) {
+    if constexpr (Columns::isFixed && std::is_same_v<Factors, RowsView<Real32>>)
+        if (reflectApart(source, factors, work, columns)) return vonkOk;
+    return reflectByLoops(source, factors, work, RunTime{std::uint32_t(columns)}, RunTime{std::uint32_t(rows)});
+}
+
+// ---- Four objects ---------------------------------------------------------------------------------------------------
+
+// Four matrices side by side, where they lie so that nobody can tell. They are stored when all is done, so if one of
+// them is null or fails, nothing has happened. `work` is left as the last of them leaves it.
+template <class Source, class Factors, std::size_t order> class FourReflected {
+public:
+    FourReflected(const Source &src, Real32 *work, const Factors &dst, std::size_t count)
+        : src(src), work(work), dst(dst), amongSources(dst, order, src, order, order, count),
+          amongThemselves(dst, order, dst, order, order, count), ofWork(dst, order, this->work, 1, order, count),
+          ofWorkAmongSources(src, order, this->work, 1, order, count),
+          isOpen(areRowsApart(dst.view(0), order) && RoundingControl().bothRoundToNearest()) {}
+
+    VONKK3_INLINE bool operator()(std::size_t n) const {
+        if (!isOpen || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) || !ofWork.ofFourFrom(n) ||
+            !ofWorkAmongSources.ofFourFrom(n))
+            return false;
+        for (std::size_t k = 0; k < four; ++k)
+            if (src.listHasNull(n + k) || dst.listHasNull(n + k)) return false;
+
+        FourReals d[order][order], v[1][order];
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { gatherRows(src, n, i, order, d[i]); });
+        if (!reflectAll(Apart{d}, Apart{v}, fixed<order>, fixed<order>)) return false;
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { scatterRows(dst, n, i, order, d[i]); });
+        forIndices(0, order, fixed<order>,
+                   [&](std::size_t i) VONKK3_INLINED { work.view(0).store(i, v[0][i].last()); });
+        return true;
+    }
+
+private:
+    using Work = Vector<Real32, Layout::Standard>;
+    const Source &src;
+    Work work;
+    const Factors &dst;
+    Clearance<Factors, Source> amongSources;
+    Clearance<Factors, Factors> amongThemselves;
+    Clearance<Factors, Work> ofWork;
+    Clearance<Source, Work> ofWorkAmongSources;
+    bool isOpen;
+};
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+// Objects one after the other, each through all its steps; the first singular one ends the call.
+template <class Source, class T, class Factors, class Columns, class Rows, class Count>
+VONKK3_INLINE VonkStatus qrDecompose(const Source &src, T *work, const Factors &dst, Columns columns, Rows rows,
+                                     Count count) {
+    if (anyNull(src, work, dst)) return vonkErrNullPtr;
+    if (columns.isZero() || rows.isZero()) return vonkErrSize;
+    if (anyTableEntryNull(columns * rows, src, dst)) return vonkErrNullPtr;
+    const auto one = [&](std::size_t n) VONKK3_INLINED {
+        if (src.listHasNull(n) || dst.listHasNull(n)) return VonkStatus(vonkErrNullPtr);
+        return reflectObject(src.view(n, columns), dst.view(n, columns), work, columns, rows);
+    };
+    if constexpr (worksFourAtOnce<Factors, Columns>)
+        if (count >= four)
+            return forEachFourOrOne(count, FourReflected<Source, Factors, Columns::value>(src, work, dst, count), one);
+    return forEachObject(count, one);
+}
+
+} // namespace vonkk3::cholqr

@@ -1,0 +1,283 @@
+// Sum and difference of matrices, element by element: single matrices and arrays, either side read transposed. One
+// rounded operation per element; objects, rows and columns in ascending order.
+#pragma once
+
+#include "frame/extent.h"
+#include "frame/untested_position.h"
+#include "frame/walk.h"
+#include "matrix/crossed_rows.h"
+#include "matrix/elements.h"
+#include "matrix/rows.h"
+#include "matrix/runs.h"
+
+namespace vonkk3::matrix {
+
+struct Sum {
+    static constexpr bool isSum = true;
+    template <class Real> Real operator()(Real a, Real b) const { return a + b; }
+    __m128 operator()(__m128 a, __m128 b) const { return _mm_add_ps(a, b); }
+};
+
+struct Difference {
+    static constexpr bool isSum = false;
+    template <class Real> Real operator()(Real a, Real b) const { return a - b; }
+    __m128 operator()(__m128 a, __m128 b) const { return _mm_sub_ps(a, b); }
+};
+
+// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+
+// One form of what `combine` is called with: the facts below are told about it.
+template <class Operation, class A, class B, class D, class Columns> struct Form {
+    static constexpr bool isSum = Operation::isSum;
+    static constexpr bool isReal32 = std::is_same_v<typename D::Element, Real32>;
+    static constexpr Layout layout = D::layout;
+    static constexpr bool firstArray = A::isArray, firstTransposed = A::isTransposed;
+    static constexpr bool secondArray = B::isArray, secondTransposed = B::isTransposed;
+    static constexpr bool isArray = D::isArray;
+    static constexpr std::size_t order = Columns::value;
+};
+
+// Real32 of fixed size works rows in lanes where elements are adjacent.
+template <class F>
+inline constexpr bool worksInLanes = F::isReal32 &&F::order != 0 &&
+                                     (F::layout == Layout::Standard || F::layout == Layout::L);
+
+// There 3x3 and 4x4 with a single operand load it ahead of all objects: a destination that overlaps it changes nothing
+// for later objects. All other forms read it anew for each object.
+template <class F>
+inline constexpr bool holdsSingleOperand =
+    worksInLanes<F> &&F::isArray &&F::firstArray != F::secondArray &&F::order <= 4;
+
+// vonkAdd and vonkSub of mam and mamT, 32f 3x3, standard layout and L: each object is loaded before the one ahead of it
+// is stored, and the loop is entered with one object in hand, so `count` 0 works one object as `count` 1 does.
+template <class F>
+inline constexpr bool isPipelined =
+    worksInLanes<F> &&F::order == 3 && F::firstArray && !F::secondArray && !F::firstTransposed;
+
+// Of these mamT walks the rows of its second operand with the first one's row stride.
+template <class F> inline constexpr bool borrowsRowStride = isPipelined<F> &&F::secondTransposed;
+
+// Members that look whether all rows are aligned, and then move them so: a ragged list. No result depends on it.
+template <class F> constexpr bool looksAtAlignment() {
+    constexpr bool isL = F::layout == Layout::L;
+    constexpr bool plain = !F::firstTransposed && !F::secondTransposed;
+    constexpr bool mm = plain && !F::firstArray && !F::secondArray;
+    constexpr bool mam = plain && F::firstArray && !F::secondArray;
+    constexpr bool mma = plain && !F::firstArray && F::secondArray;
+    constexpr bool mama = plain && F::firstArray && F::secondArray;
+    constexpr bool maTm = F::firstArray && F::firstTransposed && !F::secondArray && !F::secondTransposed;
+    if (!worksInLanes<F>) return false;
+    if (F::order == 3) return maTm;
+    if (F::isSum) {
+        if (F::order == 4) return mam || mama;
+        if (F::order == 5) return mama;
+        return mam || (mama && !isL);
+    }
+    if (F::order == 4) return mam || mma || (isL ? mama : mm);
+    if (F::order == 5) return mama || mma || (mam && !isL);
+    return mam;
+}
+
+// vonkSub_mTmT_32f_6x6 and vonkSub_maTmaT_32f_6x6 (with its L form) subtract the wrong elements: see CrossedRows.
+template <class F>
+inline constexpr bool isCrossed = worksInLanes<F> &&F::order == 6 && !F::isSum && F::firstTransposed &&
+                                  F::secondTransposed && F::firstArray == F::secondArray;
+
+// mmT, mTm and mTmT of 4x4 in P, both types, never test position 8 of a transposed operand's table.
+template <class F, class Operand>
+inline constexpr bool leavesPosition8Untested =
+    Operand::isTransposed && !F::isArray && F::order == 4 && F::layout == Layout::P;
+
+// Holding a matrix for repetition takes as long as some objects.
+inline constexpr std::size_t worthRepeating = 8;
+
+// ---- Rows in lanes --------------------------------------------------------------------------------------------------
+
+// What gives the rows of an operand's object n; a single one that is held is read once, here.
+template <std::size_t order, bool isHeld, class Operand> struct RowsByObject {
+    const Operand &operand;
+    VONKK3_INLINE explicit RowsByObject(const Operand &operand) : operand(operand) {}
+    template <Placement placement> VONKK3_INLINE auto at(std::size_t n) const {
+        return rowsOf<order, placement>(operand.view(n));
+    }
+};
+
+template <std::size_t order, class Operand>
+requires(!Operand::isArray) struct RowsByObject<order, true, Operand> {
+    HeldRows<order> held;
+    VONKK3_INLINE explicit RowsByObject(const Operand &operand) : held(rowsOf<order>(operand.view(0))) {}
+    template <Placement> VONKK3_INLINE const HeldRows<order> &at(std::size_t) const { return held; }
+};
+
+template <class F, class A, class B, class D, class Count, class Operation>
+VONKK3_INLINE VonkStatus combineRows(const A &a, const B &b, const D &d, Count count, Operation operation) {
+    if (count == 0) return vonkOk; // nothing is read, a single operand neither
+    const RowsByObject<F::order, holdsSingleOperand<F>, A> first(a);
+    const RowsByObject<F::order, holdsSingleOperand<F>, B> second(b);
+    const auto combineObject = [&]<Placement placement>(std::size_t n) VONKK3_INLINED {
+        workRows<F::order, placement>(first.template at<placement>(n), second.template at<placement>(n), d.view(n),
+                                      operation);
+        return vonkOk;
+    };
+    return forEachObject(
+        count,
+        [&](std::size_t n) VONKK3_INLINED {
+            if constexpr (looksAtAlignment<F>())
+                if (haveAlignedRows(asStored(a.view(n)), asStored(b.view(n)), d.view(n)))
+                    return combineObject.template operator()<Placement::aligned>(n);
+            return combineObject.template operator()<Placement::anywhere>(n);
+        },
+        a, b, d);
+}
+
+// `hold` takes an object out of memory, `work` stores it. The entries of an object are tested together with its loads;
+// that of the destination's last object is tested first of all. At `count` 0 this is the entry ahead of the list, and
+// the one object is stored through it.
+template <class A, class D, class Hold, class Work>
+VONKK3_INLINE VonkStatus pipelined(const A &a, const D &d, std::size_t count, Hold hold, Work work) {
+    const std::size_t lastEntry = count - 1;
+    if (a.listHasNull(0) || d.listHasNull(lastEntry)) return vonkErrNullPtr;
+    auto inHand = hold(a.view(0));
+    for (std::size_t n = 1; n < count; ++n) {
+        if (a.listHasNull(n) || d.listHasNull(n)) return vonkErrNullPtr;
+        const auto next = hold(a.view(n));
+        work(inHand, d.view(n - 1));
+        inHand = next;
+    }
+    work(inHand, d.view(D::isList || count != 0 ? lastEntry : 0));
+    return vonkOk;
+}
+
+// ---- Runs -----------------------------------------------------------------------------------------------------------
+
+// Whether an operand is read as runs: it lies as it is needed, or is held and has been brought into order.
+template <class F, class Operand> inline constexpr bool isHeld = holdsSingleOperand<F> && !Operand::isArray;
+template <class F, class A, class B>
+inline constexpr bool mayWorkRuns = (isHeld<F, A> || !A::isTransposed) && (isHeld<F, B> || !B::isTransposed);
+
+template <class F, class Operand> VONKK3_INLINE bool isRun(const Operand &operand) {
+    return isHeld<F, Operand> || areRuns<F::order>(operand);
+}
+
+// What gives an operand's object n as a run; a single one that is held is read once, here.
+template <class F, class Operand> VONKK3_INLINE auto runByObject(const Operand &operand) {
+    if constexpr (isHeld<F, Operand>)
+        return [held = HeldRun<F::order>(operand.view(0))](std::size_t) VONKK3_INLINED { return held; };
+    else return [&operand](std::size_t n) VONKK3_INLINED { return StoredRun<F::order>(operand.view(n).base); };
+}
+
+template <class F, class A, class B, class D, class Count, class Operation>
+VONKK3_INLINE VonkStatus combineRuns(const A &a, const B &b, const D &d, Count count, Operation operation) {
+    const auto first = runByObject<F>(a);
+    const auto second = runByObject<F>(b);
+    return forEachObject(
+        count,
+        [&](std::size_t n) VONKK3_INLINED {
+            const auto x = first(n);
+            const auto y = second(n);
+            const auto view = d.view(n);
+            if (x.isOvertakenBy(view.base) || y.isOvertakenBy(view.base))
+                workRows<F::order, Placement::anywhere>(x, y, view, operation);
+            else workRun<F::order>(x, y, view.base, operation);
+            return vonkOk;
+        },
+        a, b, d);
+}
+
+// All matrices in one go, if they follow one another and nothing is written that is yet to be read; else false.
+template <class F, class A, class B, class D, class Operation>
+VONKK3_INLINE bool combineAsOneRun(const A &a, const B &b, const D &d, std::size_t count, Operation operation) {
+    const std::size_t bytes = count * objectBytes<F::order>;
+    std::byte *const to = d.view(0).base;
+    const auto isSafe = [&](const std::byte *from) VONKK3_INLINED { return !runsAhead(to, from, bytes); };
+    if constexpr (F::firstArray && F::secondArray && mayWorkRuns<F, A, B>) {
+        const std::byte *const first = a.view(0).base, *const second = b.view(0).base;
+        if (!areOneRun<F::order>(a, b, d) || !isSafe(first) || !isSafe(second)) return false;
+        return workStream(StoredStream{first}, StoredStream{second}, to, bytes, operation), true;
+    } else if constexpr (F::firstArray && !F::secondArray && !F::firstTransposed && F::order != 5) {
+        if (!areOneRun<F::order>(a, d) || count < worthRepeating || !isSafe(a.view(0).base)) return false;
+        if (!isHeld<F, B> && !areApart(Extent(asStored(b.view(0)), F::order, F::order), Extent(to, bytes)))
+            return false;
+        RepeatedRun<F::order>(b.view(0)).work(a.view(0).base, to, count, operation);
+        return true;
+    } else if constexpr (!F::firstArray && F::secondArray && !F::secondTransposed && F::order != 5) {
+        const auto reversed = [&](__m128 x, __m128 y) VONKK3_INLINED { return operation(y, x); };
+        if (!areOneRun<F::order>(b, d) || count < worthRepeating || !isSafe(b.view(0).base)) return false;
+        if (!isHeld<F, A> && !areApart(Extent(asStored(a.view(0)), F::order, F::order), Extent(to, bytes)))
+            return false;
+        RepeatedRun<F::order>(a.view(0)).work(b.view(0).base, to, count, reversed);
+        return true;
+    } else return false;
+}
+
+template <class F, class A, class B, class D, class Operation>
+VONKK3_INLINE VonkStatus combinePipelined(const A &a, const B &b, const D &d, std::size_t count, Operation operation) {
+    if (areRuns<3>(a, d)) {
+        const auto work = [second = HeldRun<3>(b.view(0)), operation](const HeldRun<3> &first, const auto &view)
+                              VONKK3_INLINED { workRun<3>(first, second, view.base, operation); };
+        return pipelined(
+            a, d, count, [](const auto &view) VONKK3_INLINED { return HeldRun<3>(StoredRun<3>(view.base)); }, work);
+    }
+    const auto work =
+        [second = HeldRows<3>(rowsOf<3>(b.view(0))), operation](const HeldRows<3> &first, const auto &view)
+            VONKK3_INLINED { workRows<3, Placement::anywhere>(first, second, view, operation); };
+    return pipelined(
+        a, d, count, [](const auto &view) VONKK3_INLINED { return HeldRows<3>(rowsOf<3>(view)); }, work);
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+template <class F, class A, class B, class D, class Count, class Operation>
+VONKK3_INLINE VonkStatus combineInLanes(const A &a, const B &b, const D &d, Count count, Operation operation) {
+    if (count == 0 && !isPipelined<F>) return vonkOk; // nothing is read, a single operand neither
+    if constexpr (F::isArray && F::layout == Layout::Standard)
+        if (combineAsOneRun<F>(a, b, d, count, operation)) return vonkOk;
+    if constexpr (isPipelined<F>) return combinePipelined<F>(a, b, d, count, operation);
+    else {
+        if constexpr (mayWorkRuns<F, A, B>)
+            if (isRun<F>(a) && isRun<F>(b) && isRun<F>(d)) return combineRuns<F>(a, b, d, count, operation);
+        return combineRows<F>(a, b, d, count, operation);
+    }
+}
+
+// The view of an operand's object n in the shape of the result.
+template <class F, class Operand>
+VONKK3_INLINE auto viewAs(const Operand &operand, std::size_t n, std::size_t rows, std::size_t columns) {
+    const auto view = operand.view(n, Operand::isTransposed ? rows : columns);
+    if constexpr (leavesPosition8Untested<F, Operand>) return Position8Untested{view};
+    else return view;
+}
+
+// d(n, i, j) = operation(a(n, i, j), b(n, i, j)); a single operand serves all objects.
+template <class Operation, class A, class B, class D, class Columns, class Rows, class Count>
+VONKK3_INLINE VonkStatus combine(const A &a, const B &b, const D &d, Columns columns, Rows rows, Count count) {
+    using F = Form<Operation, A, B, D, Columns>;
+    constexpr Operation operation;
+    if (anyNull(a, b, d)) return vonkErrNullPtr;
+    if (columns.isZero() || rows.isZero()) return vonkErrSize;
+    if constexpr (Count::isArray)
+        if (anyTableEntryNull(std::size_t(columns) * rows, a, b, d)) return vonkErrNullPtr;
+
+    if constexpr (isCrossed<F>) {
+        constexpr auto &from = F::isArray ? scattered : repeatedRow;
+        return forEachObject(
+            count,
+            [&](std::size_t n) VONKK3_INLINED {
+                return workElements<false>(d.view(n), rows, columns, operation, CrossedView{a.view(n).stored, from},
+                                           CrossedView{b.view(n).stored, from});
+            },
+            a, b, d);
+    } else if constexpr (borrowsRowStride<F>)
+        return combineInLanes<F>(a, Transposed{b.walkedAs(a)}, d, count, operation);
+    else if constexpr (worksInLanes<F>) return combineInLanes<F>(a, b, d, count, operation);
+    else
+        return forEachObject(
+            count,
+            [&](std::size_t n) VONKK3_INLINED {
+                return workElements<!Count::isArray>(d.view(n, columns), rows, columns, operation,
+                                                     viewAs<F>(a, n, rows, columns), viewAs<F>(b, n, rows, columns));
+            },
+            a, b, d);
+}
+
+} // namespace vonkk3::matrix

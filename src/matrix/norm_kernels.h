@@ -1,0 +1,105 @@
+// Kernels of the Frobenius norm: Real32 matrices of fixed order whose rows are adjacent elements. Each has its own
+// order of additions, told beside it with pij for the square of element (i, j) and cj for the sum of column j.
+#pragma once
+
+#include "frame/estimate.h"
+#include "frame/lanes.h"
+#include "frame/unroll.h"
+#include "frame/views.h"
+
+namespace vonkk3::matrix {
+
+VONKK3_INLINE __m128 add(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
+VONKK3_INLINE __m128 square(__m128 a) { return _mm_mul_ps(a, a); }
+
+// Lanes 0 and 2, 1 and 3 of two registers, each pair side by side with its counterpart: what a sum of halves adds.
+VONKK3_INLINE __m128 addHalves(__m128 a, __m128 b) { return add(_mm_movelh_ps(a, b), _mm_movehl_ps(b, a)); }
+// Neighbours: (a0 + a1, a2 + a3, b0 + b1, b2 + b3).
+VONKK3_INLINE __m128 addNeighbours(__m128 a, __m128 b) {
+    return add(_mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)));
+}
+VONKK3_INLINE __m128 lane(__m128 lanes, int which) {
+    switch (which) {
+    case 1: return _mm_shuffle_ps(lanes, lanes, _MM_SHUFFLE(1, 1, 1, 1));
+    case 2: return _mm_movehl_ps(lanes, lanes);
+    default: return lanes;
+    }
+}
+
+// ---- One object: the sum of squares in lane 0 -----------------------------------------------------------------------
+
+template <std::size_t order> VONKK3_INLINE __m128 loadSquares(const RowsView<const Real32> &a, std::size_t i) {
+    if constexpr (order == 3) return square(_mm_movelh_ps(load2(a.at(i, 0)), load1(a.at(i, 2))));
+    else return square(load4(a.at(i, 0)));
+}
+
+// cj = (p0j + p1j) + p2j; (c0 + c1) + c2
+VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<3>) {
+    const __m128 c = add(add(loadSquares<3>(a, 0), loadSquares<3>(a, 1)), loadSquares<3>(a, 2));
+    return _mm_add_ss(_mm_add_ss(c, lane(c, 1)), lane(c, 2));
+}
+
+// Columns 0 to 3: cj = (p0j + p1j) + (p2j + p3j)
+template <std::size_t order> VONKK3_INLINE __m128 firstFourRows(const RowsView<const Real32> &a) {
+    return add(add(loadSquares<order>(a, 0), loadSquares<order>(a, 1)),
+               add(loadSquares<order>(a, 2), loadSquares<order>(a, 3)));
+}
+VONKK3_INLINE __m128 sumOfFour(__m128 c) { // (c0 + c2) + (c1 + c3)
+    const __m128 halves = add(c, _mm_movehl_ps(c, c));
+    return _mm_add_ss(halves, lane(halves, 1));
+}
+
+VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<4>) { return sumOfFour(firstFourRows<4>(a)); }
+
+// cj = ((p0j + p1j) + (p2j + p3j)) + p4j; ((c0 + c2) + (c1 + c3)) + c4
+VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<5>) {
+    const __m128 c = add(firstFourRows<5>(a), loadSquares<5>(a, 4));
+    const auto p4 = [&](std::size_t i) VONKK3_INLINED {
+        const __m128 element = load1(a.at(i, 4));
+        return _mm_mul_ss(element, element);
+    };
+    const __m128 c4 = _mm_add_ss(_mm_add_ss(_mm_add_ss(p4(0), p4(1)), _mm_add_ss(p4(2), p4(3))), p4(4));
+    return _mm_add_ss(sumOfFour(c), c4);
+}
+
+// Columns 0 to 3: cj = ((p0j + p1j) + (p2j + p3j)) + (p4j + p5j); columns 4 and 5: ((p0j + p2j) + p4j) + ((p1j + p3j) +
+// p5j); ((c0 + c2) + (c1 + c3)) + (c4 + c5)
+VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<6>) {
+    const __m128 c = add(firstFourRows<6>(a), add(loadSquares<6>(a, 4), loadSquares<6>(a, 5)));
+    const auto ends = [&](std::size_t i) VONKK3_INLINED { // of rows i and i + 1
+        return square(_mm_loadh_pi(load2(a.at(i, 4)), pair(a.at(i + 1, 4))));
+    };
+    const __m128 evenAndOdd = add(add(ends(0), ends(2)), ends(4));
+    const __m128 c45 = add(evenAndOdd, _mm_movehl_ps(evenAndOdd, evenAndOdd));
+    return _mm_add_ss(sumOfFour(c), _mm_add_ss(c45, lane(c45, 1)));
+}
+
+// ---- Four objects, one per lane -------------------------------------------------------------------------------------
+
+// ((p00 + p01) + p22) + (p02 + p10)) + ((p11 + p12) + (p20 + p21))
+template <class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<3>) {
+    __m128 first[4], second[4], corner[4]; // p00 p01 p02 p10, p11 p12 p20 p21, p22
+    forIndices(0, 4, fixed<4>, [&](std::size_t k) VONKK3_INLINED {
+        const RowsView<const Real32> a = view(k);
+        const __m128 middle = _mm_unpacklo_ps(load1(a.at(0, 2)), load1(a.at(1, 0)));
+        first[k] = square(_mm_movelh_ps(load2(a.at(0, 0)), middle));
+        second[k] = square(_mm_loadh_pi(load2(a.at(1, 1)), pair(a.at(2, 0))));
+        corner[k] = load1(a.at(2, 2));
+    });
+    const __m128 lowFirst = addNeighbours(first[0], first[1]), highFirst = addNeighbours(first[2], first[3]);
+    const __m128 lowSecond = addNeighbours(second[0], second[1]), highSecond = addNeighbours(second[2], second[3]);
+    const __m128 p22 =
+        square(_mm_movelh_ps(_mm_unpacklo_ps(corner[0], corner[1]), _mm_unpacklo_ps(corner[2], corner[3])));
+    const __m128 p0001 = _mm_shuffle_ps(lowFirst, highFirst, _MM_SHUFFLE(2, 0, 2, 0));
+    const __m128 p0210 = _mm_shuffle_ps(lowFirst, highFirst, _MM_SHUFFLE(3, 1, 3, 1));
+    return add(add(add(p0001, p22), p0210), addNeighbours(lowSecond, highSecond));
+}
+
+// (c0 + c1) + (c2 + c3)
+template <class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<4>) {
+    const __m128 low = addNeighbours(firstFourRows<4>(view(0)), firstFourRows<4>(view(1)));
+    const __m128 high = addNeighbours(firstFourRows<4>(view(2)), firstFourRows<4>(view(3)));
+    return addNeighbours(low, high);
+}
+
+} // namespace vonkk3::matrix

@@ -1,0 +1,74 @@
+// The sum of a diagonal, of single matrices and arrays. Results are packed in every layout.
+#pragma once
+
+#include "frame/walk.h"
+
+namespace vonkk3::matrix {
+
+// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+
+// Real32 of fixed size adds in a register and stores once where elements are adjacent, from the first element on: a sum
+// of negative zeros stays one. All other forms run from +0 and store that and every step.
+template <class T, class A, class Order>
+inline constexpr bool sumsInRegister = std::is_same_v<T, Real32> &&Order::isFixed &&
+                                       (A::layout == Layout::Standard || A::layout == Layout::L);
+
+// vonkTrace_m_64f and its S2 form take the diagonal two by two: the last element of an odd order is added to the sum as
+// it was stored, so rounded to 64 bits.
+template <class T, class A, class Order>
+inline constexpr bool goesInPairs = std::is_same_v<T, Real64> && !A::isArray && !Order::isFixed &&
+                                    (A::layout == Layout::Standard || A::layout == Layout::S2);
+
+// The scan of an array's table covers as many entries as the order, which is not where the diagonal lies.
+inline std::size_t scannedEntries(std::size_t order) { return order; }
+
+// ---- One object -----------------------------------------------------------------------------------------------------
+
+// A single matrix in a pointer layout has its entries tested as the sum reaches them; the sum so far is stored then.
+template <bool goesInPairs, bool testsEntries, class T, class View>
+VONKK3_INLINE VonkStatus sumDiagonal(const View &a, std::size_t order, T *result) {
+    using W = Working<T>;
+    const auto cell = reinterpret_cast<std::byte *>(result);
+    storeAt<T>(cell, 0);
+    W sum = 0;
+    for (std::size_t i = 0; i < order; ++i) {
+        if (testsEntries && a.hasNullEntry(i, i)) return vonkErrNullPtr;
+        if (goesInPairs && i + 1 == order && order % 2 != 0) sum = loadAt<T>(cell);
+        sum = sum + W(a.load(i, i));
+        storeAt<T>(cell, round<T>(sum));
+    }
+    return vonkOk;
+}
+
+template <class View, std::size_t order> VONKK3_INLINE Real32 diagonalSum(const View &a, Fixed<order>) {
+    Real32 sum = a.load(0, 0);
+    forIndices(1, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { sum = sum + a.load(i, i); });
+    return sum;
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+template <class A, class Order, class T, class Count>
+VONKK3_INLINE VonkStatus trace(const A &a, Order order, T *results, Count count) {
+    if (anyNull(a, results)) return vonkErrNullPtr;
+    if (order.isZero()) return vonkErrSize;
+    if constexpr (Count::isArray)
+        if (anyTableEntryNull(scannedEntries(order), a)) return vonkErrNullPtr;
+
+    if constexpr (sumsInRegister<T, A, Order>)
+        return forEachLightObject(
+            count,
+            [&](std::size_t n) VONKK3_INLINED {
+                storeAt<T>(reinterpret_cast<std::byte *>(results + n), diagonalSum(a.view(n), order));
+            },
+            a);
+    else
+        return forEachObject(
+            count,
+            [&](std::size_t n) VONKK3_INLINED {
+                return sumDiagonal<goesInPairs<T, A, Order>, !Count::isArray>(a.view(n, order), order, results + n);
+            },
+            a);
+}
+
+} // namespace vonkk3::matrix

@@ -1,0 +1,353 @@
+// Determinants: values by hand in every form, pivots about the tolerance, what a failed pivot leaves, a search in
+// single precision, the associations of order 3, and the accuracy of the orders above.
+#include "support/accuracy.h"
+#include "support/control.h"
+#include "support/literal.h"
+#include "support/literal_checks.h"
+
+#include "vonkk3.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <iostream>
+#include <limits>
+
+namespace {
+
+using catalogue::Function;
+using catalogue::Type;
+using literal::Call;
+using literal::Factors;
+using support::Precision;
+using support::Rounding;
+using support::SettingScope;
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+using Matrix = std::vector<double>;
+
+std::vector<const Function *> all() { return literal::members("determinant"); }
+
+std::vector<const Function *> ofOrder(int order) {
+    std::vector<const Function *> found = all();
+    std::erase_if(found, [order](const Function *function) { return function->order != order; });
+    return found;
+}
+
+// Fixed sizes of adjacent elements compute in extended precision, floats too.
+bool isKernel(const Function &function) {
+    return function.order != 0 && (function.layout.empty() || function.layout == "L");
+}
+
+double tolerance(const Function &function) { return function.type == Type::real32 ? 0x1p-23 : 0x1p-52; }
+
+double below(const Function &function, double value) {
+    return function.type == Type::real32 ? std::nextafter(static_cast<float>(value), 0.0F) : std::nextafter(value, 0.0);
+}
+
+double above(const Function &function, double value) {
+    return function.type == Type::real32 ? std::nextafter(static_cast<float>(value), 1.0F) : std::nextafter(value, 1.0);
+}
+
+Matrix diagonal(const std::vector<double> &elements) {
+    Matrix matrix(elements.size() * elements.size());
+    for (std::size_t i = 0; i < elements.size(); ++i) matrix[i * (elements.size() + 1)] = elements[i];
+    return matrix;
+}
+
+// The matrix in the upper left corner of an identity.
+Matrix bordered(const Matrix &corner, std::uint32_t cornerOrder, std::uint32_t order) {
+    Matrix matrix = diagonal(std::vector<double>(order, 1));
+    for (std::uint32_t k = 0; k < corner.size(); ++k) matrix[k / cornerOrder * order + k % cornerOrder] = corner[k];
+    return matrix;
+}
+
+double determinantOf(const Function &function, std::uint32_t order, const Matrix &matrix) {
+    Call call(function.name, order);
+    call.set("src", 0, matrix);
+    EXPECT_EQ(call.run(), vonkOk);
+    EXPECT_FALSE(call.strayWrites());
+    return call.results().front();
+}
+
+// ---- Values
+
+double signOf(std::vector<std::uint32_t> permutation) {
+    double sign = 1;
+    for (std::uint32_t i = 0; i < permutation.size(); ++i)
+        while (permutation[i] != i) {
+            std::swap(permutation[i], permutation[permutation[i]]);
+            sign = -sign;
+        }
+    return sign;
+}
+
+// Whole numbers, so that no closed form rounds: small factors that are triangular but for the order of the rows.
+Matrix wholeNumbers(std::uint32_t order, std::uint32_t variant) {
+    const Factors factors(order, variant);
+    Matrix matrix(std::size_t{order} * order);
+    for (std::uint32_t i = 0; i < order; ++i)
+        for (std::uint32_t j = 0; j < order; ++j)
+            for (std::uint32_t k = 0; k <= std::min(i, j); ++k) {
+                const double left = i == k ? 1 : (i + k + variant) % 2;
+                const double right = j == k ? (k == 0 ? variant + 2 : 1) : -static_cast<double>((j + variant) % 2);
+                matrix[factors.permutation[i] * order + j] += left * right;
+            }
+    return matrix;
+}
+
+Matrix exampleOf(const Function &function, std::uint32_t order, std::uint32_t n) {
+    return function.order == 0 ? Factors(order, n).matrix() : wholeNumbers(order, n);
+}
+
+double determinantOfExample(const Function &function, std::uint32_t order, std::uint32_t n) {
+    const double sign = signOf(Factors(order, n).permutation);
+    return sign * (function.order == 0 ? std::pow(8, order) : n + 2);
+}
+
+void fill(Call &call) {
+    for (std::uint32_t n = 0; n < call.objectsOf("src"); ++n)
+        call.set("src", n, exampleOf(call.function(), call.size(), n));
+}
+
+void expectDone(Call &call, std::uint32_t n) {
+    EXPECT_EQ(call.results()[n], determinantOfExample(call.function(), call.size(), n));
+}
+
+const literal::Example example{fill, expectDone};
+const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
+
+TEST(Determinant, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
+
+TEST(Determinant, IsWorkedOutInEveryFormAndGeometry) {
+    for (const Function *function : all()) literal::expectResults(*function, example, orders);
+}
+
+TEST(Determinant, TestsPointersSizesEntriesAndCountInThisOrder) {
+    for (const Function *function : all()) {
+        literal::expectNullPointersAreCaught(*function, example);
+        literal::expectZeroSizeIsRefused(*function, example);
+        literal::expectCountZeroDoesNothing(*function, example);
+        const bool copies = function->order == 0 && function->layout == "P" && !function->array();
+        if (copies) literal::expectNullPositionsAreCaughtInTheCopy(*function, example);
+        else literal::expectNullPositionsAreCaughtUpFront(*function, example);
+        literal::expectNullObjectsStopTheWalk(*function, example);
+    }
+}
+
+// Its results are packed, and may lie in the source: that is read before an object's cell is written.
+TEST(Determinant, MayBeWrittenIntoItsSource) {
+    for (const Function *function : all())
+        for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
+            SCOPED_TRACE(function->name);
+            Call call(function->name, order);
+            fill(call);
+            std::byte *const cell = call["src"].address(0, 0, order - 1);
+            call.pass("dst", reinterpret_cast<std::uintptr_t>(cell));
+            EXPECT_EQ(call.run(), vonkOk);
+            EXPECT_EQ(call.getAt(cell), determinantOfExample(*function, order, 0));
+        }
+}
+
+TEST(Determinant, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTheRestAlone) {
+    for (const Function *function : ofOrder(0)) {
+        SCOPED_TRACE(function->name);
+        Call call(function->name, 5, 3);
+        fill(call);
+        literal::Block &scratch = call.block("scratch");
+        scratch.address += function->type == Type::real32 ? 4 : 8;
+        EXPECT_EQ(call.run(), vonkOk);
+        literal::expectAllDone(call, example);
+    }
+}
+
+// ---- Pivots of run-time size
+
+TEST(DeterminantPivots, PassAtTheToleranceButTheLastOneAboveIt) {
+    for (const Function *function : ofOrder(0)) {
+        const double limit = tolerance(*function);
+        for (const std::uint32_t order : {1U, 2U, 4U})
+            for (std::uint32_t k = 0; k < order; ++k)
+                for (const double pivot : {limit, -limit, below(*function, limit), above(*function, limit), 0.0, nan}) {
+                    SCOPED_TRACE(function->name + ", pivot " + std::to_string(k) + " is " + std::to_string(pivot));
+                    if (std::isnan(pivot) && function->type == Type::real64 && k + 1 < order) continue; // any search
+                    Matrix matrix = diagonal(std::vector<double>(order, 1));
+                    matrix[std::size_t{k} * (order + 1)] = pivot;
+                    const bool isLast = k + 1 == order;
+                    const bool counts = isLast ? std::fabs(pivot) > limit : std::fabs(pivot) >= limit;
+                    literal::expectSame(counts ? pivot : 0.0, determinantOf(*function, order, matrix), "determinant");
+                }
+    }
+}
+
+TEST(DeterminantPivots, ChangeTheSignWithEachExchange) {
+    for (const Function *function : all()) {
+        const auto order = function->order == 0 ? 3U : static_cast<std::uint32_t>(function->order);
+        SCOPED_TRACE(function->name);
+        EXPECT_EQ(determinantOf(*function, order, bordered({0, 1, 0, 0, 0, 1, 1, 0, 0}, 3, order)), 1); // two
+        EXPECT_EQ(determinantOf(*function, order, bordered({0, 1, 1, 0}, 2, order)), -1);               // one
+        EXPECT_EQ(determinantOf(*function, order, bordered({1, 0, 1, 1}, 2, order)), 1);                // a tie: none
+    }
+}
+
+TEST(DeterminantPivots, TooSmallForRunTimeSizeAreNoMatterToClosedForms) {
+    for (const Function *function : all()) {
+        if (function->type != Type::real64) continue;
+        const auto order = function->order == 0 ? 3U : static_cast<std::uint32_t>(function->order);
+        SCOPED_TRACE(function->name);
+        const double result = determinantOf(*function, order, bordered({1e-20, 0, 0, 4}, 2, order));
+        EXPECT_EQ(result, function->order == 0 ? 0 : 4 * 1e-20);
+    }
+}
+
+// The first column fails. What counts is the element in the last row of the last column, as it stood.
+TEST(DeterminantPivots, ThatFailLeaveZerosOfEitherSignOrNaNsInArrays) {
+    for (const Function *function : ofOrder(0))
+        for (const double last : {5.0, -5.0, infinity, -infinity, tolerance(*function), nan}) {
+            SCOPED_TRACE(function->name + ", last element " + std::to_string(last));
+            const double failed = !(std::fabs(last) > tolerance(*function)) ? 0.0 : 0 * last;
+            const double result = determinantOf(*function, 3, {0, 1, 2, 0, 3, 4, 0, 5, last});
+            literal::expectSame(function->array() ? failed : 0.0, result, "determinant");
+        }
+}
+
+TEST(DeterminantPivots, ThatFailLeaveTheOtherObjectsAlone) {
+    for (const Function *function : ofOrder(0)) {
+        if (!function->array()) continue;
+        SCOPED_TRACE(function->name);
+        Call call(function->name, 4, 3);
+        fill(call);
+        call.set("src", 1, Matrix(16, 0));
+        EXPECT_EQ(call.run(), vonkOk);
+        expectDone(call, 0);
+        EXPECT_EQ(call.results()[1], 0);
+        expectDone(call, 2);
+    }
+}
+
+// 1 + 2^-30 becomes 1 as the best candidate, which 1 + 2^-40 beats. That leaves -2^-52 (1 + 2^-30) of the second
+// column, and the determinant is as large; with the first row for a pivot 2^-52 would be left, which does not count. In
+// floats all of this is 1, and the second column as it stands.
+TEST(DeterminantSearch, OfDoublesRemembersTheBestCandidateAsAFloat) {
+    for (const Function *function : ofOrder(0)) {
+        if (function->type != Type::real64) continue;
+        SCOPED_TRACE(function->name);
+        const double result = determinantOf(*function, 2, {1 + 0x1p-30, 0, 1 + 0x1p-40, 0x1p-52});
+        EXPECT_NEAR(result * 0x1p52, 1 + 0x1p-30, 0x1p-51);
+        // Of two that are both 1 as floats, the second loses if it is no larger than that.
+        EXPECT_EQ(determinantOf(*function, 2, {1 - 0x1p-40, 0, 1, 0x1p-52}), 0.0);
+    }
+}
+
+// A candidate beyond the floats is an infinite best, which nothing beats.
+TEST(DeterminantSearch, OfDoublesTakesLargeOnesForInfinite) {
+    for (const Function *function : ofOrder(0)) {
+        if (function->type != Type::real64) continue;
+        SCOPED_TRACE(function->name);
+        EXPECT_EQ(determinantOf(*function, 2, {0x1p200, 0, 0x1p300, 0x1p-52}), 0.0) << "the first row stays";
+        EXPECT_EQ(determinantOf(*function, 2, {0x1p300, 0, 0x1p200, 1}), 0x1p300);
+    }
+}
+
+// ---- Closed forms
+
+// Along row 0 the terms of the first matrix are 1, 2^70 and -2^70; added to the large ones the 1 is lost. Floats in
+// kernels begin with the other two, doubles there go along column 0. Its terms are -2^70, 2^70 and 1 for the second
+// matrix, which leaves the 1, as only this order does.
+TEST(DeterminantOfThree, AddsItsTermsInTheOrderOfTheForm) {
+    constexpr double large = 0x1p70;
+    const Matrix alongRow{1, -large, large, 1, 1, 0, 1, 0, 1};
+    const Matrix alongColumn{large, -1, large, 1, 1, 0, 1, 0, 1};
+    for (const Function *function : ofOrder(3)) {
+        SCOPED_TRACE(function->name);
+        const bool narrow = function->type == Type::real32;
+        EXPECT_EQ(determinantOf(*function, 3, alongRow), isKernel(*function) && narrow ? 1 : 0);
+        EXPECT_EQ(determinantOf(*function, 3, alongColumn), isKernel(*function) && !narrow ? 1 : 0);
+    }
+}
+
+// (1 + 2^-12)^2 = 1 + 2^-11 + 2^-24 is no float, and the minor with it comes to 2^-24 or to 0.
+TEST(DeterminantOfThree, OfFloatsKeepsItsProductsInKernelsOnly) {
+    const Matrix matrix{1, 0, 0, 0, 1 + 0x1p-12, 1 + 0x1p-11, 0, 1, 1 + 0x1p-12};
+    for (const Function *function : ofOrder(3)) {
+        SCOPED_TRACE(function->name);
+        const bool exact = isKernel(*function) || function->type == Type::real64;
+        EXPECT_EQ(determinantOf(*function, 3, matrix), exact ? 0x1p-24 : 0);
+    }
+}
+
+// The minor of the last two rows is 2^140: too large for a float, and nothing to the extended range.
+TEST(DeterminantAboveThree, HasTheExtendedRangeInKernels) {
+    for (const Function *function : all()) {
+        if (function->order < 4) continue;
+        SCOPED_TRACE(function->name);
+        std::vector<double> elements(static_cast<std::size_t>(function->order), 1);
+        elements[0] = elements[1] = 0x1p-70;
+        elements.end()[-1] = elements.end()[-2] = 0x1p70;
+        const double result = determinantOf(*function, 0, diagonal(elements));
+        if (isKernel(*function) || function->type == Type::real64) EXPECT_EQ(result, 1);
+        else EXPECT_FALSE(std::isfinite(result));
+    }
+}
+
+TEST(DeterminantAboveThree, OfDoublesLeavesTheirRange) {
+    for (const Function *function : all()) {
+        if (function->order < 4 || function->type != Type::real64) continue;
+        SCOPED_TRACE(function->name);
+        std::vector<double> elements(static_cast<std::size_t>(function->order), 1);
+        elements[0] = elements[1] = 0x1p-600;
+        elements.end()[-1] = elements.end()[-2] = 0x1p600;
+        EXPECT_EQ(determinantOf(*function, 0, diagonal(elements)), 1);
+    }
+}
+
+TEST(DeterminantOfClosedForms, LetsNaNsAndInfinitiesThrough) {
+    for (const Function *function : all()) {
+        if (function->order == 0) continue;
+        const auto order = static_cast<std::uint32_t>(function->order);
+        for (std::uint32_t k = 0; k < order * order; ++k) {
+            SCOPED_TRACE(function->name + ", element " + std::to_string(k));
+            Matrix matrix = wholeNumbers(order, 0);
+            matrix[k] = nan;
+            EXPECT_TRUE(std::isnan(determinantOf(*function, order, matrix)));
+            matrix[k] = infinity;
+            EXPECT_FALSE(std::isfinite(determinantOf(*function, order, matrix)));
+        }
+    }
+}
+
+// A tenth times a tenth, rounded up and down.
+TEST(DeterminantOfClosedForms, FollowsTheCallersRounding) {
+    for (const Function *function : all()) {
+        if (function->order == 0) continue;
+        SCOPED_TRACE(function->name);
+        std::vector<double> elements(static_cast<std::size_t>(function->order), 1);
+        elements[0] = elements[1] = function->type == Type::real32 ? static_cast<double>(0.1F) : 0.1;
+        const Matrix matrix = diagonal(elements);
+        const auto at = [&](Rounding rounding) {
+            const SettingScope scope({Precision::bits64, rounding});
+            return determinantOf(*function, 0, matrix);
+        };
+        EXPECT_EQ(above(*function, at(Rounding::down)), at(Rounding::up));
+    }
+}
+
+// ---- Accuracy
+
+TEST(DeterminantAccuracy, KeepsTheBoundOfAnyOrderOfTheSums) {
+    for (const auto &[what, matrixOf] :
+         {std::pair<const char *, literal::MatrixOf>{"well", literal::wellConditioned},
+          std::pair<const char *, literal::MatrixOf>{"badly", literal::badlyConditioned}})
+        for (const Type type : {Type::real32, Type::real64})
+            for (const int order : {4, 5, 6}) {
+                const literal::Measured measured = literal::measure("determinant", type, order, matrixOf, 50);
+                std::cout << what << " conditioned, " << literal::describe(type, order, measured) << "\n";
+                EXPECT_EQ(measured.accuracy.elements, 50U * 9U);
+                for (const std::string &complaint : measured.complaints) ADD_FAILURE() << complaint;
+            }
+}
+
+} // namespace

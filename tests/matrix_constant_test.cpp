@@ -1,0 +1,232 @@
+// Matrices times a constant: numbers by hand in every form, shapes, the roads for aligned and unaligned operands, and
+// what is tested in which order.
+#include "support/control.h"
+#include "support/literal.h"
+#include "support/literal_checks.h"
+#include "support/matrix_checks.h"
+
+#include "vonkk3.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace {
+
+using catalogue::Function;
+using catalogue::Operand;
+using catalogue::Type;
+using literal::Call;
+using support::Precision;
+using support::Rounding;
+using support::SettingScope;
+
+std::vector<const Function *> all() { return literal::members("matrix-constant"); }
+
+const std::vector<std::uint32_t> orders{1, 2, 3, 4, 7};
+
+// ---- Results
+
+constexpr double value = -2.5;
+
+double element(std::uint32_t n, std::uint32_t i, std::uint32_t j) { return 1000 * (n + 1) + 16.0 * i - j; }
+
+void fill(Call &call) {
+    literal::setElements(call, "src", call.size(), call.size(), element);
+    call.setConstant("val", value);
+}
+
+void expectDone(Call &call, std::uint32_t n) {
+    for (std::uint32_t i = 0; i < call["dst"].rows; ++i)
+        for (std::uint32_t j = 0; j < call["dst"].cols; ++j)
+            EXPECT_EQ(call.get("dst", n, i, j), value * element(n, i, j)) << "element " << i << ", " << j;
+}
+
+std::vector<double> results(Call &call) {
+    std::vector<double> list;
+    for (std::uint32_t i = 0; i < call["dst"].rows; ++i)
+        for (std::uint32_t j = 0; j < call["dst"].cols; ++j) list.push_back(value * element(0, i, j));
+    return list;
+}
+
+const literal::Example example{fill, expectDone};
+
+TEST(MatrixConstant, HasOneHundredAndEightyForms) { EXPECT_EQ(all().size(), 180U); }
+
+TEST(MatrixConstant, MultipliesInEveryFormAndGeometry) {
+    for (const Function *function : all()) literal::expectResults(*function, example, orders);
+}
+
+TEST(MatrixConstant, MultipliesInPlaceWhatIsNotTransposed) {
+    for (const Function *function : all())
+        if (!function->operands[0].transposed) literal::expectInPlaceResults(*function, example, "src", orders);
+}
+
+// 1 2 / 3 4 by 10: (0, 1) takes the 3 and leaves 30 where (1, 0) looks for the 2.
+TEST(MatrixConstant, GoesWrongInPlaceOverATransposedSource) {
+    std::size_t wrong = 0;
+    for (const Function *function : all()) {
+        if (function->order != 0 || !function->operands[0].transposed) continue;
+        SCOPED_TRACE(function->name);
+        Call call(function->name, 2);
+        call.layOver("src");
+        call.set("src", 0, {1, 2, 3, 4});
+        call.setConstant("val", 10);
+        ASSERT_EQ(call.run(), vonkOk);
+        EXPECT_EQ(call.get("dst", 0), (std::vector<double>{10, 30, 300, 40}));
+        ++wrong;
+    }
+    EXPECT_EQ(wrong, 2U * (3U + 6U));
+}
+
+TEST(MatrixConstant, TakesRowsAndColumnsOfTheResult) {
+    for (const Function *function : all()) {
+        if (function->order != 0) continue;
+        for (const auto &[rows, cols] : {std::pair{2U, 3U}, {3U, 2U}, {1U, 4U}, {4U, 1U}, {5U, 2U}}) {
+            SCOPED_TRACE(function->name + ", " + std::to_string(rows) + " by " + std::to_string(cols));
+            Call call(function->name, 5, 2, literal::spread);
+            literal::makeRectangular(call, rows, cols);
+            literal::setElements(call, "src", rows, cols, element);
+            call.setConstant("val", value);
+            ASSERT_EQ(call.run(), vonkOk);
+            literal::expectAllDone(call, example);
+        }
+    }
+}
+
+TEST(MatrixConstantAlignment, ChangesNoResult) {
+    std::size_t called = 0;
+    for (const Function *function : all()) {
+        if (!literal::hasLanes(*function)) continue;
+        for (const char *moved : {"", "src", "dst"})
+            for (const std::int32_t bytes : {4, 8, 2}) {
+                SCOPED_TRACE(function->name + ", " + moved + " moved by " + std::to_string(bytes));
+                Call call(function->name, 0, 3);
+                literal::alignAllBut(call, moved, bytes);
+                fill(call);
+                ASSERT_EQ(call.run(), vonkOk);
+                literal::expectAllDone(call, example);
+                ++called;
+            }
+    }
+    EXPECT_GT(called, 0U);
+}
+
+// ---- Rounding, infinities, NaNs, zeros
+
+double product(const Function &function, double a, double constant, support::Setting setting = {}) {
+    Call call(function.name, 3, 2);
+    literal::setAll(call, "src", a);
+    call.setConstant("val", constant);
+    {
+        const SettingScope scope(setting);
+        EXPECT_EQ(call.run(), vonkOk);
+    }
+    for (std::uint32_t n = 0; n < call.count(); ++n)
+        literal::expectSame(std::vector<double>(call.get("dst", n).size(), call.get("dst", 0, 0, 0)),
+                            call.get("dst", n), "dst");
+    return call.get("dst", 0, 0, 0);
+}
+
+TEST(MatrixConstant, MultipliesByZeroLikeByAnyNumber) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const Function *function : all()) {
+        literal::expectSame(nan, product(*function, nan, 0), function->name);
+        literal::expectSame(nan, product(*function, infinity, 0), function->name);
+        literal::expectSame(-0.0, product(*function, -3, 0), function->name);
+        literal::expectSame(-0.0, product(*function, 3, -0.0), function->name);
+        literal::expectSame(0.0, product(*function, -0.0, -0.0), function->name);
+        literal::expectSame(-infinity, product(*function, infinity, -2), function->name);
+        literal::expectSame(nan, product(*function, 1, nan), function->name);
+    }
+}
+
+// (1 + 2^-26) (1 + 2^-27 + 2^-51) is 2^-53 + 2^-77 more than an even double. At 53 bits that is above the tie and goes
+// up; at 64 bits the last term is lost in the register, and the store meets the tie.
+TEST(MatrixConstant, RoundsDoublesToTheCallersPrecisionAndThenToTheStore) {
+    constexpr double even = 1 + 0x1p-26 + 0x1p-27 + 0x1p-51;
+    for (const Function *function : all()) {
+        if (function->type != Type::real64) continue;
+        const auto at = [&](Precision precision, Rounding rounding) {
+            return product(*function, 1 + 0x1p-26, 1 + 0x1p-27 + 0x1p-51, {precision, rounding});
+        };
+        EXPECT_EQ(at(Precision::bits53, Rounding::nearest), even + 0x1p-52) << function->name;
+        EXPECT_EQ(at(Precision::bits64, Rounding::nearest), even) << function->name;
+        EXPECT_EQ(at(Precision::bits64, Rounding::up), even + 0x1p-52) << function->name;
+        EXPECT_EQ(at(Precision::bits53, Rounding::down), even) << function->name;
+    }
+}
+
+TEST(MatrixConstant, RoundsFloatsInTheCallersDirection) {
+    for (const Function *function : all()) {
+        if (function->type != Type::real32) continue;
+        const auto at = [&](Rounding rounding) {
+            return product(*function, 1 + 0x1p-12, 1 + 0x1p-12, {Precision::bits64, rounding});
+        };
+        EXPECT_EQ(at(Rounding::nearest), 1 + 0x1p-11) << function->name; // 1 + 2^-11 + 2^-24, a tie
+        EXPECT_EQ(at(Rounding::up), 1 + 0x1p-11 + 0x1p-23) << function->name;
+        EXPECT_EQ(at(Rounding::down), 1 + 0x1p-11) << function->name;
+    }
+}
+
+// ---- What is tested, and when
+
+TEST(MatrixConstantChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
+    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
+}
+
+TEST(MatrixConstantChecks, RefuseNoColumnsAndNoRowsAheadOfEntriesAndCount) {
+    for (const Function *function : all()) {
+        literal::expectZeroSizeIsRefused(*function, example);
+        if (function->order != 0) continue;
+        SCOPED_TRACE(function->name);
+        Call call(function->name, 3, 2);
+        fill(call);
+        literal::blankEntries(call);
+        call.pass("rows", 0);
+        if (function->array()) call.pass("count", 0);
+        EXPECT_EQ(call.run(), vonkErrSize);
+        EXPECT_TRUE(call.changedNothing());
+    }
+}
+
+TEST(MatrixConstantChecks, LeaveAllAloneForNoObjects) {
+    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
+}
+
+TEST(MatrixConstantChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
+    for (const Function *function : all())
+        if (function->array()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
+}
+
+TEST(MatrixConstantChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
+    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
+}
+
+TEST(MatrixConstantChecks, LookAtThePositionsOfASingleMatrixJustBeforeEachElementButForOne) {
+    std::size_t passed = 0;
+    for (const Function *function : all()) {
+        if (function->array() || function->layout != "P") continue;
+        for (const Operand &operand : function->operands)
+            for (const std::uint32_t order : literal::sizesOf(*function, {3}))
+                for (std::uint32_t entry = 0; entry < order * order; ++entry) {
+                    SCOPED_TRACE(function->name + ", " + operand.name + "[" + std::to_string(entry) + "]");
+                    const std::uint32_t stop = operand.transposed ? entry % order * order + entry / order : entry;
+                    Call call(function->name, order);
+                    fill(call);
+                    if (function->order == 4 && operand.transposed && entry == 8) {
+                        EXPECT_EQ(literal::runThroughNull(call, operand.name, entry), vonkOk);
+                        expectDone(call, 0);
+                        ++passed;
+                    } else {
+                        literal::expectNullEntryStops(call, operand.name, entry, stop, results(call));
+                    }
+                }
+    }
+    EXPECT_EQ(passed, 2U); // vonkMul_mTc_32f_4x4_P and its double twin
+}
+
+} // namespace

@@ -1,0 +1,91 @@
+// What the tests of matrices element by element share: elements as they enter the operation whatever way an operand is
+// stored, shapes that are not square, strides that open the aligned routes, and single tables that are looked at along
+// the way.
+#pragma once
+
+#include "literal_checks.h"
+#include "product_checks.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace literal {
+
+inline bool hasLanes(const catalogue::Function &function) {
+    return function.type == catalogue::Type::real32 && function.order != 0 &&
+           (function.layout.empty() || function.layout == "L");
+}
+
+inline bool isTabled(const catalogue::Function &function) {
+    return catalogue::isTable(function.operands.front().layout);
+}
+
+inline bool hasTransposed(const catalogue::Function &function) {
+    return std::ranges::any_of(function.operands, &catalogue::Operand::transposed);
+}
+
+// Element (i, j) of an operand as the operation sees it.
+inline void setElement(Call &call, std::string_view operand, std::uint32_t n, std::uint32_t i, std::uint32_t j,
+                       double value) {
+    const bool transposed = call[operand].operand->transposed;
+    call.set(operand, n, transposed ? j : i, transposed ? i : j, value);
+}
+
+using Elements = std::function<double(std::uint32_t n, std::uint32_t i, std::uint32_t j)>;
+
+inline void setElements(Call &call, std::string_view operand, std::uint32_t rows, std::uint32_t cols,
+                        const Elements &elements) {
+    for (std::uint32_t n = 0; n < call.objectsOf(operand); ++n)
+        for (std::uint32_t i = 0; i < rows; ++i)
+            for (std::uint32_t j = 0; j < cols; ++j) setElement(call, operand, n, i, j, elements(n, i, j));
+}
+
+inline void setAll(Call &call, std::string_view operand, double value) {
+    setElements(call, operand, call.size(), call.size(), [value](auto, auto, auto) { return value; });
+}
+
+// So many rows and columns of the result, in memory for a square of the call's size. Tables keep just the entries that
+// they should have, row by row.
+inline void makeRectangular(Call &call, std::uint32_t rows, std::uint32_t cols) {
+    for (const catalogue::Operand &operand : call.function().operands) {
+        call[operand.name].rows = operand.transposed ? cols : rows;
+        call[operand.name].cols = operand.transposed ? rows : cols;
+    }
+    call.pass("rows", rows);
+    call.pass("cols", cols);
+}
+
+// Lays all rows and objects of standard or list operands at multiples of 16, but for one operand that is moved by so
+// many bytes. Without one all pointers and strides fit.
+inline void alignAllBut(Call &call, std::string_view moved, std::int32_t bytes) {
+    for (const catalogue::Operand &operand : call.function().operands) {
+        Place &place = call[operand.name];
+        place.rowStride = static_cast<std::int32_t>((place.cols * 4 + 15) / 16 * 16);
+        place.objectStride = static_cast<std::int32_t>(place.rows) * place.rowStride;
+        if (place.tabled()) place.shift = 32;
+        for (std::size_t n = 0; n < place.entries.size(); ++n)
+            place.entries[n] = place.origin + place.objectStride * static_cast<std::ptrdiff_t>(n) - place.shift;
+        if (operand.name == moved) place.moveTo(place.origin + bytes);
+    }
+}
+
+// Single tables are looked at element by element: with this entry null the elements ahead of the one in place `stop`
+// are done, and none from it on. `results` are those of a whole call.
+inline void expectNullEntryStops(Call &call, std::string_view operand, std::size_t entry, std::size_t stop,
+                                 const std::vector<double> &results) {
+    SCOPED_TRACE(call.function().name + ", " + std::string(operand) + "[" + std::to_string(entry) + "] null");
+    const std::vector<double> before = call.get("dst", 0);
+    std::byte *&slot = call[operand].entries[entry];
+    std::byte *const kept = slot;
+    slot = nullptr;
+    EXPECT_EQ(call.run(), vonkErrNullPtr);
+    slot = kept;
+    const std::vector<double> after = call.get("dst", 0);
+    ASSERT_EQ(after.size(), results.size());
+    for (std::size_t k = 0; k < after.size(); ++k) EXPECT_EQ(after[k], k < stop ? results[k] : before[k]) << k;
+}
+
+} // namespace literal

@@ -1,0 +1,264 @@
+// Transposes: numbers by hand in every form, the tables whose row lengths stand exchanged, bits that no arithmetic may
+// touch, calls in place, and what is tested in which order.
+#include "support/literal.h"
+#include "support/literal_checks.h"
+#include "support/matrix_checks.h"
+
+#include "vonkk3.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace {
+
+using catalogue::Function;
+using catalogue::Operand;
+using catalogue::Type;
+using literal::Call;
+
+std::vector<const Function *> all() { return literal::members("transpose"); }
+
+const std::vector<std::uint32_t> orders{1, 2, 3, 4, 7};
+
+// ---- Results
+
+double element(std::uint32_t n, std::uint32_t i, std::uint32_t j) { return 1000 * (n + 1) + 16.0 * i - j; }
+
+void fill(Call &call) { literal::setElements(call, "src", call.size(), call.size(), element); }
+
+void expectDone(Call &call, std::uint32_t n) {
+    for (std::uint32_t i = 0; i < call["dst"].rows; ++i)
+        for (std::uint32_t j = 0; j < call["dst"].cols; ++j)
+            EXPECT_EQ(call.get("dst", n, i, j), element(n, j, i)) << "element " << i << ", " << j;
+}
+
+const literal::Example example{fill, expectDone};
+
+TEST(Transpose, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
+
+TEST(Transpose, ExchangesRowsAndColumnsInEveryFormAndGeometry) {
+    for (const Function *function : all()) literal::expectResults(*function, example, orders);
+}
+
+// The sizes are those of the source.
+TEST(Transpose, TakesRowsAndColumnsOfTheSource) {
+    for (const Function *function : all()) {
+        if (function->order != 0 || literal::isTabled(*function)) continue;
+        for (const auto &[rows, cols] : {std::pair{2U, 3U}, {3U, 2U}, {1U, 5U}, {5U, 1U}, {5U, 2U}}) {
+            SCOPED_TRACE(function->name + ", " + std::to_string(rows) + " by " + std::to_string(cols));
+            Call call(function->name, 5, 2, literal::spread);
+            literal::makeRectangular(call, rows, cols);
+            call["dst"].rows = cols;
+            call["dst"].cols = rows;
+            literal::setElements(call, "src", rows, cols, element);
+            ASSERT_EQ(call.run(), vonkOk);
+            literal::expectAllDone(call, example);
+        }
+    }
+}
+
+// Three rows of two: entries 0 1, 3 4, 6 7 go to 0 2, 1 3, 2 4. The third row overwrites what (0, 1) has left at 2.
+TEST(TransposeTables, HaveTheirRowLengthsExchanged) {
+    std::size_t called = 0;
+    for (const Function *function : all()) {
+        if (function->order != 0 || !literal::isTabled(*function)) continue;
+        SCOPED_TRACE(function->name);
+        Call call(function->name, 3, 2);
+        call.pass("cols", 2);
+        call.pass("rows", 3);
+        for (std::uint32_t n = 0; n < call.count(); ++n) {
+            std::vector<double> numbers;
+            for (std::uint32_t k = 0; k < 9; ++k) numbers.push_back(100 * n + k + 1);
+            call.set("src", n, numbers);
+            call.set("dst", n, std::vector<double>(9, -1));
+        }
+        ASSERT_EQ(call.run(), vonkOk);
+        for (std::uint32_t n = 0; n < call.count(); ++n) {
+            std::vector<double> expected{1, 4, 7, 5, 8, -1, -1, -1, -1}; // of entries 0, 3, 6, 4, 7
+            for (std::uint32_t k = 0; k < 5; ++k) expected[k] += 100 * n;
+            EXPECT_EQ(call.get("dst", n), expected);
+        }
+        ++called;
+    }
+    EXPECT_EQ(called, 2U * 3U); // P of single matrices, P and PS2 of arrays, both types
+}
+
+// The other way round: two rows of three, entries 0 1 2, 2 3 4 go to 0 3 6, 1 4 7.
+TEST(TransposeTables, ReadAnEntryTwiceWhereRowsAreShort) {
+    for (const char *name : {"vonkTranspose_m_32f_P", "vonkTranspose_ma_64f_P", "vonkTranspose_ma_32f_PS2"}) {
+        SCOPED_TRACE(name);
+        Call call(name, 3, 1);
+        call.pass("cols", 3);
+        call.pass("rows", 2);
+        call.set("src", 0, {1, 2, 3, 4, 5, 6, 7, 8, 9});
+        call.set("dst", 0, std::vector<double>(9, -1));
+        ASSERT_EQ(call.run(), vonkOk);
+        EXPECT_EQ(call.get("dst", 0), (std::vector<double>{1, 3, -1, 2, 4, -1, 3, 5, -1}));
+    }
+}
+
+// Of a single matrix the entries that are used are looked at, beyond those that the sizes count.
+TEST(TransposeTables, OfASingleMatrixAreLookedAtWhereTheyAreUsed) {
+    for (const char *name : {"vonkTranspose_m_32f_P", "vonkTranspose_m_64f_P"})
+        for (const std::size_t entry : {7U, 5U}) {
+            SCOPED_TRACE(std::string(name) + ", " + std::to_string(entry));
+            Call call(name, 3);
+            call.pass("cols", 2);
+            call.pass("rows", 3);
+            call.set("src", 0, {1, 2, 3, 4, 5, 6, 7, 8, 9});
+            call.set("dst", 0, std::vector<double>(9, -1));
+            call["src"].entries[entry] = nullptr;
+            EXPECT_EQ(call.run(), entry == 7 ? vonkErrNullPtr : vonkOk);
+            EXPECT_EQ(call.get("dst", 0), (std::vector<double>{1, 4, 7, 5, entry == 7 ? -1.0 : 8.0, -1, -1, -1, -1}));
+        }
+}
+
+// Of an array as many as there are elements are looked at up front, used or not.
+TEST(TransposeTables, OfAnArrayAreLookedAtAsFarAsTheSizesCount) {
+    for (const char *name : {"vonkTranspose_ma_32f_P", "vonkTranspose_ma_64f_PS2"})
+        for (const char *operand : {"src", "dst"})
+            for (std::size_t entry = 0; entry < 9; ++entry) {
+                SCOPED_TRACE(std::string(name) + ", " + operand + "[" + std::to_string(entry) + "]");
+                Call call(name, 3, 2);
+                call.pass("cols", 2);
+                call.pass("rows", 3);
+                for (std::uint32_t n = 0; n < 2; ++n) call.set("src", n, {1, 2, 3, 4, 5, 6, 7, 8, 9});
+                const std::int32_t status = literal::runThroughNull(call, operand, entry);
+                EXPECT_EQ(status, entry < 6 ? vonkErrNullPtr : vonkOk);
+                if (entry < 6) continue;
+                EXPECT_EQ(call.get("dst", 1, 1, 1), 8); // entry 4, of entry 7
+            }
+}
+
+// ---- Bits
+
+template <class Bits> void expectBitsMoved(const Function &function, const std::vector<Bits> &patterns) {
+    SCOPED_TRACE(function.name);
+    Call call(function.name, 3);
+    const std::uint32_t order = call.size();
+    const auto patternOf = [&](std::uint32_t i, std::uint32_t j) {
+        return patterns[(i * order + j) % patterns.size()];
+    };
+    for (std::uint32_t i = 0; i < order; ++i)
+        for (std::uint32_t j = 0; j < order; ++j) {
+            const Bits bits = patternOf(i, j);
+            std::memcpy(call["src"].address(0, i, j), &bits, sizeof bits);
+        }
+    ASSERT_EQ(call.run(), vonkOk);
+    for (std::uint32_t i = 0; i < order; ++i)
+        for (std::uint32_t j = 0; j < order; ++j) {
+            Bits moved;
+            std::memcpy(&moved, call["dst"].address(0, j, i), sizeof moved);
+            EXPECT_EQ(moved, patternOf(i, j)) << i << ", " << j;
+        }
+}
+
+// NaNs of either kind with payloads and signs, zeros with signs, denormals.
+TEST(Transpose, LeavesEveryBitAsItIs) {
+    for (const Function *function : all()) {
+        if (function->type == Type::real32)
+            expectBitsMoved<std::uint32_t>(
+                *function, {0x7fa12345, 0xff812345, 0x7fc54321, 0x80000000, 0x00000001, 0xffffffff, 0x7f800001});
+        else
+            expectBitsMoved<std::uint64_t>(*function, {0x7ff4123456789abc, 0xfff0000000000001, 0x7ff8765432100000,
+                                                       0x8000000000000000, 0x0000000000000001, 0xffffffffffffffff,
+                                                       0x7ff0000080000000});
+    }
+}
+
+// ---- In place
+
+// 1 2 / 3 4: the 2 goes over the 3 before that is read.
+TEST(TransposeInPlace, GoesElementByElement) {
+    std::size_t called = 0;
+    for (const Function *function : all()) {
+        if (function->order != 0) continue;
+        SCOPED_TRACE(function->name);
+        Call call(function->name, 2);
+        call.layOver("src");
+        call.set("src", 0, {1, 2, 3, 4});
+        ASSERT_EQ(call.run(), vonkOk);
+        EXPECT_EQ(call.get("dst", 0), (std::vector<double>{1, 2, 2, 4}));
+        ++called;
+    }
+    EXPECT_EQ(called, 2U * (3U + 6U));
+}
+
+// Three rows in lanes: the lower left corner is stored before it is read.
+TEST(TransposeInPlace, LosesTheLowerLeftCornerOfThree) {
+    for (const char *name : {"vonkTranspose_m_32f_3x3", "vonkTranspose_ma_32f_3x3", "vonkTranspose_ma_32f_3x3_L"}) {
+        SCOPED_TRACE(name);
+        Call call(name, 3, 2);
+        call.layOver("src");
+        for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, {1, 2, 3, 4, 5, 6, 7, 8, 9});
+        ASSERT_EQ(call.run(), vonkOk);
+        for (std::uint32_t n = 0; n < call.count(); ++n) {
+            EXPECT_EQ(call.get("dst", n, 2, 0), 3);
+            EXPECT_EQ(call.get("dst", n, 0, 2), 3);
+            EXPECT_EQ(call.get("dst", n, 1, 1), 5);
+        }
+    }
+}
+
+// ---- What is tested, and when
+
+TEST(TransposeChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
+    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
+}
+
+TEST(TransposeChecks, RefuseNoColumnsAndNoRowsAheadOfEntriesAndCount) {
+    for (const Function *function : all()) {
+        literal::expectZeroSizeIsRefused(*function, example);
+        if (function->order != 0) continue;
+        SCOPED_TRACE(function->name);
+        Call call(function->name, 3, 2);
+        fill(call);
+        literal::blankEntries(call);
+        call.pass("rows", 0);
+        if (function->array()) call.pass("count", 0);
+        EXPECT_EQ(call.run(), vonkErrSize);
+        EXPECT_TRUE(call.changedNothing());
+    }
+}
+
+TEST(TransposeChecks, LeaveAllAloneForNoObjects) {
+    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
+}
+
+TEST(TransposeChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
+    for (const Function *function : all())
+        if (function->array()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
+}
+
+TEST(TransposeChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
+    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
+}
+
+// The walk follows the rows of the source, so a null there stops it in the middle of the columns of the destination.
+TEST(TransposeChecks, LookAtThePositionsOfASingleMatrixJustBeforeEachElement) {
+    for (const Function *function : all()) {
+        if (function->array() || function->layout != "P") continue;
+        for (const Operand &operand : function->operands)
+            for (const std::uint32_t order : literal::sizesOf(*function, {3}))
+                for (std::uint32_t entry = 0; entry < order * order; ++entry) {
+                    SCOPED_TRACE(function->name + ", " + operand.name + "[" + std::to_string(entry) + "] null");
+                    const std::uint32_t stop = operand.written ? entry % order * order + entry / order : entry;
+                    Call call(function->name, order);
+                    fill(call);
+                    call.set("dst", 0, std::vector<double>(std::size_t{order} * order, -1));
+                    std::byte *&slot = call[operand.name].entries[entry];
+                    std::byte *const kept = slot;
+                    slot = nullptr;
+                    EXPECT_EQ(call.run(), vonkErrNullPtr);
+                    slot = kept;
+                    for (std::uint32_t k = 0; k < order * order; ++k)
+                        EXPECT_EQ(call.get("dst", 0, k % order, k / order),
+                                  k < stop ? element(0, k / order, k % order) : -1);
+                }
+    }
+}
+
+} // namespace
