@@ -131,7 +131,9 @@ TEST(Determinant, TestsPointersSizesEntriesAndCountInThisOrder) {
         literal::expectNullPointersAreCaught(*function, example);
         literal::expectZeroSizeIsRefused(*function, example);
         literal::expectCountZeroDoesNothing(*function, example);
-        literal::expectNullPositionsAreCaughtUpFront(*function, example);
+        const bool copies = function->order == 0 && function->layout == "P" && !function->array();
+        if (copies) literal::expectNullPositionsAreCaughtInTheCopy(*function, example);
+        else literal::expectNullPositionsAreCaughtUpFront(*function, example);
         literal::expectNullObjectsStopTheWalk(*function, example);
     }
 }

@@ -248,6 +248,9 @@ void Builder::layResultOnSource() {
         if (placement.tabled && address < placement.table + 8 * placement.slots.size() &&
             placement.table - 8 < address + result.bytes)
             return;
+    for (const Block &block : call.blocks)
+        if (&block != &result && address < block.address + block.bytes && block.address < address + result.bytes)
+            return;
     result.address = address;
 }
 

@@ -168,6 +168,22 @@ inline void expectNullPositionsAreCaughtUpFront(const catalogue::Function &funct
     }
 }
 
+// The entries of a single matrix are looked at as it is copied, so that scratch memory may be written.
+inline void expectNullPositionsAreCaughtInTheCopy(const catalogue::Function &function, const Example &example) {
+    for (const catalogue::Operand &operand : function.operands) {
+        Call call(function.name, 4);
+        example.fill(call);
+        for (std::byte *&entry : call[operand.name].entries) {
+            SCOPED_TRACE(function.name + ", a null in the table of " + operand.name);
+            std::byte *const kept = entry;
+            entry = nullptr;
+            EXPECT_EQ(call.run(), vonkErrNullPtr);
+            entry = kept;
+            EXPECT_FALSE(call.changedObject(0));
+        }
+    }
+}
+
 // The entries of an object are looked at when its turn comes.
 inline void expectNullObjectsStopTheWalk(const catalogue::Function &function, const Example &example) {
     if (!catalogue::isList(function.operands.back().layout)) return;
