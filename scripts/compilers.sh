@@ -8,7 +8,8 @@ file=$2
 root=$(cd "$(dirname "$0")/.." && pwd)
 scratch=${3:-$(mktemp -d)}
 [ -n "${3:-}" ] || trap 'rm -rf "$scratch"' EXIT
-[ $# -lt 3 ] || shift 3
+shift 2
+[ $# -eq 0 ] || shift
 [ $# -gt 0 ] || set -- g++-O1 g++-O2 g++-O3 clang++-O1 clang++-O2 clang++-O3
 failures=0
 for made in "$@"; do
