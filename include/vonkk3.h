@@ -3174,13 +3174,54 @@ VonkStatus vonkCrossProduct_vava_64f_3x1_LS2(const double *const *src1, int32_t 
 
 /* ---- Matrix and matrix ----------------------------------------------------------------------------------------------
  *
+ * vonkAdd: dst(n, i, j) = A(n, i, j) + B(n, i, j)
+ * vonkSub: dst(n, i, j) = A(n, i, j) - B(n, i, j)
  *
+ * with A(n, i, j) = src1(n, i, j), or src1(n, j, i) if the first operand carries `T`, and B alike from `src2`. A single
+ * operand serves all objects. One rounded operation and one store per element; `64f` adds in the 80-bit type and
+ * rounds to 64 bits. Objects, rows and columns ascend.
+ *
+ * Sizes: `cols` and `rows` are those of `dst`. A transposed operand is stored as `cols` rows of `rows` columns, in
+ * pointer layouts too: its entry for A(i, j) is j * `rows` + i.
+ *
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a
+ * table or list entry is null: in single forms in `P` element by element, earlier elements being final; in `P` and
+ * `PS2` of arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the
+ * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - `mam` and `mamT` of `32f`, 3x3, in the standard layout and `L` load an object before they store the one ahead of
+ *   it, and work one object at `count` 0 as they do at 1. In `L` they test the first entry of `src1` and entry
+ *   `count` - 1 of `dst` first, at `count` 0 that is the entry ahead of the list, through which they store; then the
+ *   entries of object n + 1 ahead of the store of object n: a null entry k leaves the objects below k - 1 complete.
+ *   Entry 0 of `dst` is tested at no `count` but 1, and followed if null.
+ * - `mamT` of these four walks the rows of `src2` with `src1RowStride`; `src2RowStride` is not read.
+ * - vonkSub_mTmT_32f_6x6: row 3 of `dst` repeats row 2.
+ * - vonkSub_maTmaT_32f_6x6 and its `L` form: element (i, j) is src1(r, c) - src2(r, c) with r and c from row i, column
+ *   j of
+ *       00 04 20 24 40 44
+ *       01 05 21 25 41 45
+ *       02 14 22 34 42 54
+ *       02 14 22 34 42 54
+ *       10 12 30 32 50 52
+ *       11 13 31 33 51 53
+ * - `mmT`, `mTm` and `mTmT` of 4x4 in `P`, both types, never test the entry at position 8 of a transposed operand's
+ *   table: a null there is followed.
+ * - `32f` of 3x3 and 4x4 in the standard layout and `L` loads a single operand once, ahead of all objects. All other
+ *   forms read it anew for each object.
+ * - Some members of `32f` look whether all rows lie at multiples of 16 bytes: 3x3 `maTm`; 4x4 `mam`, vonkAdd `mama`,
+ *   vonkSub `mma`, `mm` (standard) and `mama` (`L`); 5x5 `mama`, vonkSub `mma` and `mam` (standard); 6x6 `mam`, and
+ *   vonkAdd `mama` (standard). No result depends on it.
  *
  * Overlap:
- *
+ * Nothing tests overlap. `dst` may be any source itself unless that is read transposed: each element is read before
+ * it is written. Otherwise elements are read and written in ascending order, so a `dst` that runs ahead of a source
+ * sees new elements; `32f` of fixed size in the standard layout and `L` loads a row or more before it stores it, and
+ * how much is not promised.
  *
  * Read beyond the operands:
- *
+ * `32f` of 3x3 in the standard layout and `L`: the element behind each row of `src1` in `maTm`, and of `src2` in
+ * `mamT`, may be read; its value does not matter. Nothing else.
  */
 
 VonkStatus vonkAdd_mm_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
@@ -7037,13 +7078,31 @@ VonkStatus vonkSub_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shi
 
 /* ---- Matrix times constant ------------------------------------------------------------------------------------------
  *
+ * dst(n, i, j) = A(n, i, j) * `val`
  *
+ * with A(n, i, j) = src(n, i, j), or src(n, j, i) in `mTc` and `maTc`. One rounded product and one store per element;
+ * `64f` multiplies in the 80-bit type and rounds to 64 bits. A `val` of 0 multiplies too: NaN and infinity give NaN,
+ * and zeros keep the sign of the product.
+ *
+ * Sizes: `cols` and `rows` are those of `dst`. A transposed source is stored as `cols` rows of `rows` columns.
+ *
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a table or
+ * list entry is null: in single forms in `P` element by element, earlier elements being final; in `P` and `PS2` of
+ * arrays all entries of both tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the object's
+ * turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - `mTc` of 4x4 in `P`, both types, never tests the entry at position 8 of its source's table: a null there is
+ *   followed.
+ * - `mc` in the standard layout and `mac` in the standard layout and `L`, `32f` of 4x4 to 6x6, look whether all rows
+ *   lie at multiples of 16 bytes. No result depends on it.
  *
  * Overlap:
- *
+ * Nothing tests overlap. In `mc` and `mac` `dst` may be `src` itself: each element is read before it is written. In
+ * `mTc` and `maTc` it may not. A partial overlap behaves as told of vonkAdd on matrices.
  *
  * Read beyond the operands:
- *
+ * Nothing.
  */
 
 VonkStatus vonkMul_mc_32f(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride,
@@ -7424,13 +7483,29 @@ VonkStatus vonkMul_maTc_64f_6x6_LS2(const double *const *src, int32_t srcShift, 
 
 /* ---- Transpose ------------------------------------------------------------------------------------------------------
  *
+ * dst(n, j, i) = src(n, i, j)
  *
+ * for i below `rows` and j below `cols`, which are the sizes of the SOURCE. Elements are moved, not worked: every bit
+ * stays, signalling NaNs and signs of zeros included.
+ *
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a table or
+ * list entry is null: in single forms in `P` element by element, earlier elements being final; in `P` and `PS2` of
+ * arrays all `cols` * `rows` entries of both tables ahead of everything else, even at `count` 0; in `L` and `LS2` when
+ * the object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - In `P` and `PS2` of run-time size the lengths of the tables' rows are taken crosswise: element (i, j) goes from
+ *   entry i * `rows` + j of `src` to entry j * `cols` + i of `dst`, i outermost. A square matrix is transposed; of
+ *   others some entries are read or written twice, and the later write stays.
  *
  * Overlap:
- *
+ * Nothing tests overlap, and a call in place is not protected: elements go one by one along the rows of the source, so
+ * the upper triangle has overwritten the lower one by the time that is read. `32f` of 4x4 to 6x6 in the standard
+ * layout and `L` reads more of an object first; how much is not promised.
  *
  * Read beyond the operands:
- *
+ * In `P` and `PS2` of run-time size, of matrices that are not square: table entries behind the `cols` * `rows`th, which
+ * are not scanned.
  */
 
 VonkStatus vonkTranspose_m_32f(const float *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, float *dst,
@@ -7623,13 +7698,32 @@ VonkStatus vonkTranspose_ma_64f_6x6_LS2(const double *const *src, int32_t srcShi
 
 /* ---- Trace ----------------------------------------------------------------------------------------------------------
  *
+ * dst(n) = sum over i of src(n, i, i)
  *
+ * for i below `order`, ascending. `dst` is a packed block of one result per object in every layout.
+ *
+ * How sums are made:
+ * - `32f` of fixed size in the standard layout and `L`: from the first element on, one store.
+ * - `32f` otherwise: `dst` is set to +0, and follows every step.
+ * - `64f`: `dst` is set to +0, the sum runs in the 80-bit type, and `dst` follows every step, rounded.
+ *
+ * A diagonal of negative zeros thus gives -0 in the first and +0 in all others.
+ *
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a table or list
+ * entry is null: in `m` in `P` as the sum reaches it, the sum so far being in `dst`; in `L` and `LS2` when the object's
+ * turn comes, earlier results being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - `ma` in `P` and `PS2` scans entries 0 to `order` - 1 of the table ahead of everything else, even at `count` 0,
+ *   which is not where the diagonal lies: a null entry of the diagonal further on is followed.
+ * - vonkTrace_m_64f and vonkTrace_m_64f_S2, of an odd `order`: the last element is added to the sum as it was stored,
+ *   rounded to 64 bits. All others add it to the unrounded sum.
  *
  * Overlap:
- *
+ * Nothing tests overlap. Where `dst` is set to +0 first, an element under it is lost.
  *
  * Read beyond the operands:
- *
+ * Nothing.
  */
 
 VonkStatus vonkTrace_m_32f(const float *src, int32_t srcRowStride, uint32_t order, float *dst);
@@ -7780,13 +7874,44 @@ VonkStatus vonkTrace_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, 
 
 /* ---- Frobenius norm -------------------------------------------------------------------------------------------------
  *
+ * dst(n) = root of the sum of src(n, i, j)^2
  *
+ * for i below `rows` and j below `cols`. `dst` is a packed block of one result per object in every layout. Products
+ * and sums are rounded one by one, in `64f` to the 80-bit type, and nothing is scaled: squares overflow and underflow.
+ *
+ * Order of sums, and root:
+ * - `m`: along the rows, from +0. `ma`: down the columns, from +0. True root, correctly rounded in `32f`.
+ * - `ma` of `32f`, fixed size, in `P`, `PS2` and `LS2`: backwards, the last column first and each from the bottom.
+ * - `32f` of fixed size, `m` in the standard layout and `ma` in the standard layout and `L`: in lanes, see below. The
+ *   root is s * r (0.5 (3 - s (r r))) with r the processor's estimate of 1 / root(s) to about 12 bits: not correctly
+ *   rounded, dependent on the processor, and NaN for a matrix of zeros.
+ *
+ * In lanes, with pij the square of element (i, j) and cj the sum of column j:
+ * - 3x3: cj = (p0j + p1j) + p2j; s = (c0 + c1) + c2
+ * - 4x4: cj = (p0j + p1j) + (p2j + p3j); s = (c0 + c2) + (c1 + c3)
+ * - 5x5: cj = ((p0j + p1j) + (p2j + p3j)) + p4j; s = ((c0 + c2) + (c1 + c3)) + c4
+ * - 6x6: cj = ((p0j + p1j) + (p2j + p3j)) + (p4j + p5j), of columns 4 and 5 ((p0j + p2j) + p4j) + ((p1j + p3j) + p5j);
+ *   s = ((c0 + c2) + (c1 + c3)) + (c4 + c5)
+ *
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a table or
+ * list entry is null: in `P` and `PS2` all of the table ahead of everything else, even at `count` 0; in `L` and `LS2`
+ * when the object's turn comes, earlier results being complete. `count` 0 then gives vonkOk with nothing written.
+ *
+ * Members that behave unlike their siblings:
+ * - `ma` of `32f`, 3x3 and 4x4, in the standard layout and `L` takes blocks of four objects, which are summed in
+ *   another order: 3x3 (((p00 + p01) + p22) + (p02 + p10)) + ((p11 + p12) + (p20 + p21)), 4x4 (c0 + c1) + (c2 + c3).
+ *   Objects that fill no block are summed as above: the last bit of a result may depend on `count`. All of a block is
+ *   read before its results are written.
+ * - In `L` these two test the four entries of a block at its start, and those of the objects behind the last block
+ *   never: a null there is followed.
+ * - `64f` of run-time size, but for `P` and `PS2`, rounds the sum to 64 bits ahead of the root. It overflows to
+ *   infinity and underflows where the others do not.
  *
  * Overlap:
- *
+ * Nothing tests overlap. A result is written when its matrix has been read, so `dst` may be an element of it.
  *
  * Read beyond the operands:
- *
+ * Nothing.
  */
 
 VonkStatus vonkFrobNorm_m_32f(const float *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, float *dst);

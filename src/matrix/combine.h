@@ -238,7 +238,7 @@ VONKK3_INLINE bool combineAsOneRun(const A &a, const B &b, const D &d, std::size
 
 template <class F, class A, class B, class D, class Operation>
 VONKK3_INLINE VonkStatus combinePipelined(const A &a, const B &b, const D &d, std::size_t count, Operation operation) {
-    if (areRuns<3>(a, d)) {
+    if (areRuns<3>(a, d)) [[likely]] {
         const auto work = [second = HeldRun<3>(b.view(0)), operation](const HeldRun<3> &first, const auto &view)
                               VONKK3_INLINED { workRun<3, Storing::atTheEnd>(first, second, view.base, operation); };
         return pipelined(
@@ -258,7 +258,8 @@ VONKK3_INLINE VonkStatus combineByObject(const A &a, const B &b, const D &d, Cou
     if constexpr (isPipelined<F>) return combinePipelined<F>(a, b, d, count, operation);
     else {
         if constexpr (mayWorkRuns<F, A, B>)
-            if (isRun<F>(a) && isRun<F>(b) && isRun<F>(d)) return combineRuns<F>(a, b, d, count, operation);
+            if (isRun<F>(a) && isRun<F>(b) && isRun<F>(d)) [[likely]]
+                return combineRuns<F>(a, b, d, count, operation);
         return combineRows<F>(a, b, d, count, operation);
     }
 }

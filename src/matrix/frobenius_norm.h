@@ -141,11 +141,13 @@ VONKK3_INLINE VonkStatus frobeniusNorm(const A &a, Columns columns, RowCount row
     const auto cells = reinterpret_cast<std::byte *>(results);
     if constexpr (way == NormOrder::inLanes) {
         if constexpr (A::isArray && Columns::value == 6)
-            if (areRuns<6>(a)) return normsOfSix(withRuns<6>(a), cells, count);
+            if (areRuns<6>(a)) [[likely]]
+                return normsOfSix(withRuns<6>(a), cells, count);
         return normsInLanes(a, columns, cells, count);
     } else if constexpr (way == NormOrder::inLanesByFour) {
         if constexpr (Columns::value == 3)
-            if (areRuns<3>(a)) return normsByFour<Rows::adjacent>(withRuns<3>(a), columns, cells, count);
+            if (areRuns<3>(a)) [[likely]]
+                return normsByFour<Rows::adjacent>(withRuns<3>(a), columns, cells, count);
         return normsByFour<Rows::anywhere>(a, columns, cells, count);
     } else
         return forEachObject(

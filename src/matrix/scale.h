@@ -54,7 +54,8 @@ template <class A, class D, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus scaleInLanes(const A &a, Real32 value, const D &d, Fixed<order>, Count count) {
     if (count == 0) return vonkOk;
     if constexpr (!A::isTransposed)
-        if (areRuns<order>(a, d)) return scaleRuns<order>(a, value, d, count);
+        if (areRuns<order>(a, d)) [[likely]]
+            return scaleRuns<order>(a, value, d, count);
     const auto scaleObject = [&]<Placement placement>(std::size_t n) VONKK3_INLINED {
         workRows<order, placement>(rowsOf<order, placement>(a.view(n)), ConstantRows<order>(value), d.view(n),
                                    Product());

@@ -144,7 +144,7 @@ VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, RowCount rows, c
     constexpr bool isAdjacent = D::layout == Layout::Standard || D::layout == Layout::L;
     if constexpr (std::is_same_v<typename D::Element, Real32> && isAdjacent && Columns::isFixed) {
         if (count == 0) return vonkOk;
-        if (areRuns<Columns::value>(a, d))
+        if (areRuns<Columns::value>(a, d)) [[likely]]
             return transposeInLanes<Rows::adjacent>(withRuns<Columns::value>(a), withRuns<Columns::value>(d), columns,
                                                     count);
         return transposeInLanes<Rows::anywhere>(a, d, columns, count);
