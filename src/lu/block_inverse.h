@@ -155,21 +155,21 @@ template <class T, std::size_t order>
     return true;
 }
 
-// Real32 with adjacent elements: the reciprocals are estimated, all columns are candidates, and the inverse of the
-// leading block waits in the destination, where a failure of the second block leaves it.
-template <std::size_t order>
-[[gnu::noinline]] bool invertByBlocksThroughDestination(RowsView<const Real32> source, RowsView<Real32> destination) {
-    const SmallMatrix<Real32, order> matrix(source);
+// Real32 5x5 with adjacent elements: the reciprocals are estimated, and the inverse of the leading block waits in the
+// destination, where a failure of the second block leaves it.
+[[gnu::noinline]] inline bool invertFiveThroughDestination(RowsView<const Real32> source,
+                                                           RowsView<Real32> destination) {
+    const SmallMatrix<Real32, 5> matrix(source);
     const auto a = [&](std::size_t i, std::size_t j) VONKK3_INLINED { return matrix.elements[i][j]; };
-    const auto estimated = [](Real32 divisor) { return reciprocalByEstimate(divisor); };
-    const auto c = chooseColumns<order - 3, Real32, order>(a, order);
-    Blocks<Real32, order> blocks(a, c);
+    const auto estimated = [](Real32 divisor) VONKK3_INLINED { return reciprocalByEstimate(divisor); };
+    const auto c = chooseColumns<2, Real32, 5>(a, candidateColumns);
+    Blocks<Real32, 5> blocks(a, c);
     if (!blocks.invertLeading(estimated)) return false;
-    for (std::size_t i = 0; i < order - 3; ++i)
-        for (std::size_t j = 0; j < order - 3; ++j) destination.store(c[i], j, blocks.leadingInverse(i, j));
+    for (std::size_t i = 0; i < 2; ++i)
+        for (std::size_t j = 0; j < 2; ++j) destination.store(c[i], j, blocks.leadingInverse(i, j));
     if (!blocks.invertRest(estimated)) return false;
-    for (std::size_t i = 0; i < order; ++i)
-        for (std::size_t j = 0; j < order; ++j) destination.store(c[i], j, blocks.inverse(i, j));
+    for (std::size_t i = 0; i < 5; ++i)
+        for (std::size_t j = 0; j < 5; ++j) destination.store(c[i], j, blocks.inverse(i, j));
     return true;
 }
 

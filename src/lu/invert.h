@@ -7,6 +7,7 @@
 #include "lu/block_inverse.h"
 #include "lu/closed_inverse.h"
 #include "lu/invert_by_minors.h"
+#include "lu/lane_blocks.h"
 #include "lu/lane_inverse.h"
 
 namespace vonkk3::lu {
@@ -15,8 +16,8 @@ namespace vonkk3::lu {
 
 // Real32 of fixed order in the standard and list layouts is built for speed: reciprocals are estimated; 3x3 and 4x4 are
 // singular only if their determinant is exactly zero; 5x5 and 6x6 pass through the destination, so that a failure at
-// the second block leaves it partly written, and take all columns for candidates. All other forms divide, test an
-// interval around zero, choose among five columns, and leave the destination of a singular matrix as it was.
+// the second block leaves it partly written; and 6x6 may choose any column. All other forms divide, test an interval
+// around zero, choose among five columns, and leave the destination of a singular matrix as it was.
 template <class Source>
 inline constexpr bool isBuiltForSpeed = std::is_same_v<typename Source::Element, Real32> &&
                                         (Source::layout == Layout::Standard || Source::layout == Layout::L);
@@ -31,7 +32,8 @@ template <class Source, class SourceView, class View, std::size_t order>
 VONKK3_INLINE bool invertObject(const SourceView &source, const View &inverse, Fixed<order>) {
     if constexpr (isBuiltForSpeed<Source> && order == 3) return invertThreeInLanes(source, inverse);
     else if constexpr (isBuiltForSpeed<Source> && order == 4) return invertFourInLanes(source, inverse);
-    else if constexpr (isBuiltForSpeed<Source>) return invertByBlocksThroughDestination<order>(source, inverse);
+    else if constexpr (isBuiltForSpeed<Source> && order == 6) return invertSixInLanes(source, inverse);
+    else if constexpr (isBuiltForSpeed<Source>) return invertFiveThroughDestination(source, inverse);
     else {
         // One body of each method serves all layouts. It works on a copy, and stores through rows of adjacent elements:
         // straight to where they are such, or they would be read back before they have settled.
