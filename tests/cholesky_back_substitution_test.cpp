@@ -13,6 +13,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -271,6 +272,25 @@ TEST(CholeskyBackSubstitutionSums, OfDoublesAreRoundedWhenStoredOnly) {
                     literal::expectSame(precision == Precision::bits64 ? expectation.wide : expectation.narrow,
                                         call.get("dst", 0, 0, order - 1), "the remainder");
                 }
+}
+
+// 1 - 2^-54 is a number of 54 bits, and a double would be 1: of it, 1 is taken away.
+TEST(CholeskyBackSubstitutionSums, OfDoublesAreNotRoundedBetweenTermsInEitherSweep) {
+    for (const Function *function : allOf(Type::real64))
+        for (const Precision precision : {Precision::bits53, Precision::bits64})
+            for (const std::uint32_t order : literal::sizesOf(*function, {4, 5, 7})) {
+                if (order < 4) continue;
+                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
+                const SettingScope scope({precision, Rounding::nearest});
+                const double expected = precision == Precision::bits64 ? -0x1p-54 : 0.0;
+                std::vector<double> coefficients(order - 1, 0.0); // 0 between the others
+                coefficients.front() = -1;
+                coefficients[1] = 0x1p-54;
+                coefficients.back() = 1;
+                EXPECT_EQ(remainderOf(*function, order, Sweep::forward, 0, coefficients), expected);
+                std::swap(coefficients.front(), coefficients.back());
+                EXPECT_EQ(remainderOf(*function, order, Sweep::backward, 0, coefficients), expected);
+            }
 }
 
 // 1 + 2^-53 times 1 + 2^-52 is 1 + 2^-52 + 2^-53 and a little that 64 bits do not hold: a tie, which goes to the even

@@ -63,6 +63,9 @@ void fill(Call &call) {
             const Factors factors(call.size(), n);
             if (!operand.matrix) call.set(operand.name, n, factors.solution());
             else call.set(operand.name, n, operand.name == "src" ? factors.matrix() : factors.factored());
+            if (call.function().family->operation != "CholeskyDecomp") continue;
+            for (std::uint32_t i = 0; i < call.size(); ++i) // positive definite
+                for (std::uint32_t j = 0; j < call.size(); ++j) call.set(operand.name, n, i, j, i == j ? 20 : 1);
         }
     for (std::uint32_t n = 0; n < call.count(); ++n) call.setPivots(n, Factors(call.size(), n).permutation);
 }
@@ -289,6 +292,61 @@ TEST(Control, DecidesHowQuotientsOfTheLuFamilyAreRounded) {
                               function->type == Type::real32 ? third.narrow : third.wide);
                 }
             }
+}
+
+// A diagonal of nines, whose roots are threes, and of which the reciprocals are left.
+TEST(Control, DecidesHowReciprocalsOfCholeskyDecompositionAreRounded) {
+    for (const Quotient &third : thirds())
+        for (const Function *function : literal::members("cholesky-decomposition"))
+            for (const std::uint32_t order : literal::sizesOf(*function, {1, 3, 7})) {
+                SCOPED_TRACE(function->name + ", " + support::describe(third.setting));
+                Call call(function->name, order);
+                for (std::uint32_t i = 0; i < order; ++i)
+                    for (std::uint32_t j = 0; j <= i; ++j) call.set("src", 0, i, j, i == j ? 9 : 0);
+                EXPECT_EQ(changesOf(third.setting, 0, [&] { EXPECT_EQ(call.run(), vonkOk); }), "");
+                for (std::uint32_t i = 0; i < order; ++i)
+                    EXPECT_EQ(call.get("dst", 0, i, i), function->type == Type::real32 ? third.narrow : third.wide);
+            }
+}
+
+// Reflectors of zeros turn the signs of all elements but the last: -1 over -3.
+TEST(Control, DecidesHowQuotientsOfQrBackSubstitutionAreRounded) {
+    for (const Quotient &third : thirds())
+        for (const Function *function : literal::members("qr-back-substitution")) {
+            if (function->type == Type::real64 && function->layout == "L") continue; // looks for its matrix elsewhere
+            for (const std::uint32_t order : literal::sizesOf(*function, {1, 3, 7})) {
+                SCOPED_TRACE(function->name + ", " + support::describe(third.setting));
+                Call call(function->name, order);
+                for (std::uint32_t i = 0; i < order; ++i)
+                    for (std::uint32_t j = 0; j < order; ++j)
+                        call.set("src1", 0, i, j, i != j ? 0 : i + 1 == order ? 3 : -3);
+                call.set("src2", 0, std::vector<double>(order, 1));
+                EXPECT_EQ(changesOf(third.setting, 0, [&] { EXPECT_EQ(call.run(), vonkOk); }), "");
+                const double expected = function->type == Type::real32 ? third.narrow : third.wide;
+                EXPECT_EQ(call.get("dst", 0), std::vector<double>(order, expected));
+            }
+        }
+}
+
+// What is flushed to zero is no pivot.
+TEST(Control, DecidesWhetherADenormalPivotOfFloatsPasses) {
+    for (const Function *function : literal::members("cholesky-decomposition")) {
+        if (function->type != Type::real32) continue;
+        for (const std::uint32_t denormals : {0U, flushToZero}) {
+            for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7})) {
+                SCOPED_TRACE(function->name + ", denormals " + std::to_string(denormals));
+                Call call(function->name, order);
+                for (std::uint32_t i = 0; i < order; ++i)
+                    for (std::uint32_t j = 0; j <= i; ++j) call.set("src", 0, i, j, i == j ? 1 : 0);
+                // 3/2 of the least normal number less that number.
+                call.set("src", 0, 1, 0, 0x1p-63);
+                call.set("src", 0, 1, 1, 1.5 * 0x1p-126);
+                std::int32_t status = 1;
+                EXPECT_EQ(changesOf({}, denormals, [&] { status = call.run(); }), "");
+                EXPECT_EQ(status, denormals == 0 ? vonkOk : vonkErrNotPosDef);
+            }
+        }
+    }
 }
 
 } // namespace
