@@ -14,18 +14,19 @@ template <class W, std::size_t order> using Square = Eigen::Matrix<W, int(order)
 template <class W, std::size_t order> using Cholesky = Eigen::LLT<Square<W, order>>;
 template <class W, std::size_t order> using Qr = Eigen::HouseholderQR<Square<W, order>>;
 
-// Decomposition is Cholesky or Qr.
-template <class T, class W, std::size_t order, template <class, std::size_t> class Decomposition> struct Factoring {
-    using Factors = Decomposition<W, order>;
+// With Factors one of these.
+template <class Factors> struct Factoring {
+    using W = typename Factors::Scalar;
+    static constexpr std::size_t order = std::size_t(Factors::RowsAtCompileTime);
 
-    static void decompose(const T *source, Factors *factors, std::size_t count);
+    template <class T> static void decompose(const T *source, Factors *factors, std::size_t count);
 
-    // Each matrix its own right-hand side.
-    static void solve(const Factors *factors, const T *b, T *x, std::size_t count);
-
-    // One matrix for all right-hand sides: one after the other, and as the columns of one matrix.
-    static void solveForOne(const Factors &factors, const T *b, T *x, std::size_t count);
-    static void solveForOneAtOnce(const Factors &factors, const T *b, T *x, std::size_t count);
+    // Each matrix its own right-hand side, or one matrix for all of them.
+    template <class T> static void solve(const Factors *factors, const T *b, T *x, std::size_t count);
+    template <class T> static void solveForOne(const Factors &factors, const T *b, T *x, std::size_t count);
 };
+
+// One matrix for all right-hand sides as the columns of one matrix.
+template <class Factors, class T> void solveForOneAtOnce(const Factors &factors, const T *b, T *x, std::size_t count);
 
 } // namespace bench::eigen

@@ -62,20 +62,20 @@ VONKK3_INLINE void solveObject(const Factor &factor, const RightSide &b, const S
 template <class Factor, class RightSide, class Solution, std::size_t order> class FourSolutions {
 public:
     FourSolutions(const Factor &src1, const RightSide &src2, const Solution &dst, std::size_t count)
-        : src1(src1), src2(src2), dst(dst), amongFactors(dst, 1, src1, order, order, count),
+        : src1(src1), src2(src2), dst(dst), factors(src1, true), amongFactors(dst, 1, src1, order, order, count),
           amongRightSides(dst, 1, src2, 1, order, count), amongThemselves(dst, 1, dst, 1, order, count) {}
 
-    VONKK3_INLINE bool operator()(std::size_t n) const {
+    VONKK3_INLINE bool operator()(std::size_t n) {
         if (!amongFactors.ofFourFrom(n) || !amongRightSides.ofFourFrom(n) || !amongThemselves.ofFourFrom(n))
             return false;
         for (std::size_t k = 0; k < four; ++k)
             if (beginsAtNull(src1.view(n + k)) || beginsAtNull(src2.view(n + k)) || beginsAtNull(dst.view(n + k)))
                 return false;
 
-        FourReals f[order][order], b[1][order], x[1][order];
-        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { gatherRows(src1, n, i, i + 1, f[i]); });
+        FourReals b[1][order], x[1][order];
+        factors.gatherFrom(n);
         gatherRows(src2, n, 0, order, b[0]);
-        solve(Apart{f}, Apart{b}, Apart{x}, fixed<order>);
+        solve(factors.elements(), Apart{b}, Apart{x}, fixed<order>);
         scatterRows(dst, n, 0, order, x[0]);
         return true;
     }
@@ -84,6 +84,7 @@ private:
     const Factor &src1;
     const RightSide &src2;
     const Solution &dst;
+    FourMatrices<Factor, Solution, order> factors;
     Clearance<Solution, Factor> amongFactors;
     Clearance<Solution, RightSide> amongRightSides;
     Clearance<Solution, Solution> amongThemselves;

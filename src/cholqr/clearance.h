@@ -2,6 +2,7 @@
 // can tell: what is written for one object must not be read for a later one.
 #pragma once
 
+#include "cholqr/elements.h"
 #include "cholqr/four_reals.h"
 #include "frame/extent.h"
 #include "frame/operands.h"
@@ -117,10 +118,36 @@ VONKK3_INLINE void scatterRows(const Operand &operand, std::size_t n, std::size_
                length, row);
 }
 
+// The matrices of four objects, the first so many elements of each row of them, gathered for each four anew; but one
+// matrix that serves an array of adjacent objects is gathered once, as nothing that is written then overlaps it.
+template <class Operand, class Written, std::size_t order> class FourMatrices {
+public:
+    static constexpr bool isGatheredOnce = !Operand::isArray && !Written::isList;
+
+    FourMatrices(const Operand &operand, bool isTriangle) : operand(operand), isTriangle(isTriangle) {
+        if (isGatheredOnce) gatherAll(0);
+    }
+    VONKK3_INLINE void gatherFrom(std::size_t n) {
+        if (!isGatheredOnce) gatherAll(n);
+    }
+    Apart<FourReals, order> elements() { return {rows}; }
+
+private:
+    const Operand &operand;
+    bool isTriangle;
+    FourReals rows[order][order];
+
+    VONKK3_INLINE void gatherAll(std::size_t n) {
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+            gatherRows(operand, n, i, isTriangle ? i + 1 : order, rows[i]);
+        });
+    }
+};
+
 // `one` for each object in turn, but for four objects at once where `fourFrom` says that it has done them. Nulls and
 // failures are left to `one`.
 template <class Count, class FourFrom, class One>
-VONKK3_INLINE VonkStatus forEachFourOrOne(Count count, const FourFrom &fourFrom, const One &one) {
+VONKK3_INLINE VonkStatus forEachFourOrOne(Count count, FourFrom fourFrom, const One &one) {
     const std::size_t objects = count;
     for (std::size_t n = 0; n < objects;) {
         if (objects - n >= four && fourFrom(n)) {

@@ -52,23 +52,36 @@ VONKK3_INLINE auto triangleOfObject(const Factors &factors, std::size_t n, std::
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
-// Adds beta v (v'b) to b, for each reflector v in turn. Real64 sums are not rounded.
-template <class Reflectors, class Work, class Columns, class Rows>
-VONKK3_INLINE void replay(const Reflectors &reflectors, const Work &work, Columns columns, Rows rows) {
+// -2 / (v'v) of reflector k. Real64 sums are not rounded.
+template <class Reflectors, class Rows>
+VONKK3_INLINE auto betaOf(const Reflectors &reflectors, std::size_t k, Rows rows) {
+    typename Reflectors::Number squares = 1;
+    forIndices(k + 1, rows, rows, [&](std::size_t i) VONKK3_INLINED {
+        const auto element = reflectors.load(i, k);
+        squares = squares + element * element;
+    });
+    return -2 / squares;
+}
+
+// Adds beta v (v'b) to b, for each reflector v in turn; beta(k) is that of reflector k.
+template <class Reflectors, class Work, class Columns, class Rows, class Beta>
+VONKK3_INLINE void replay(const Reflectors &reflectors, const Work &work, Columns columns, Rows rows,
+                          const Beta &beta) {
     using Number = typename Work::Number;
     forIndices(0, reflections(columns, rows), columns, [&](std::size_t k) VONKK3_INLINED {
-        Number squares = 1;
         Number product = work.load(k);
-        forIndices(k + 1, rows, rows, [&](std::size_t i) VONKK3_INLINED {
-            const Number element = reflectors.load(i, k);
-            squares = squares + element * element;
-            product = product + work.load(i) * element;
-        });
-        const Number p = product * (-2 / squares);
+        forIndices(k + 1, rows, rows,
+                   [&](std::size_t i) VONKK3_INLINED { product = product + work.load(i) * reflectors.load(i, k); });
+        const Number p = product * beta(k);
         work.store(k, work.load(k) + p);
         forIndices(k + 1, rows, rows,
                    [&](std::size_t i) VONKK3_INLINED { work.store(i, reflectors.load(i, k) * p + work.load(i)); });
     });
+}
+
+template <class Reflectors, class Work, class Columns, class Rows>
+VONKK3_INLINE void replay(const Reflectors &reflectors, const Work &work, Columns columns, Rows rows) {
+    replay(reflectors, work, columns, rows, [&](std::size_t k) VONKK3_INLINED { return betaOf(reflectors, k, rows); });
 }
 
 // x from the last row up; each sum grows from 0 and is subtracted at the end.
@@ -116,23 +129,28 @@ VONKK3_INLINE void solveObject(const Reflectors &reflectors, const Triangle &tri
 template <class Factors, class RightSide, class Solution, std::size_t order> class FourLeastSquares {
 public:
     FourLeastSquares(const Factors &src1, Real32 *work, const RightSide &src2, const Solution &dst, std::size_t count)
-        : src1(src1), work(work), src2(src2), dst(dst), amongFactors(dst, 1, src1, order, order, count),
-          amongRightSides(dst, 1, src2, 1, order, count), amongThemselves(dst, 1, dst, 1, order, count),
-          ofWork(dst, 1, this->work, 1, order, count), ofWorkAmongFactors(src1, order, this->work, 1, order, count),
-          ofWorkAmongRightSides(src2, 1, this->work, 1, order, count) {}
+        : src1(src1), work(work), src2(src2), dst(dst), factors(src1, false),
+          amongFactors(dst, 1, src1, order, order, count), amongRightSides(dst, 1, src2, 1, order, count),
+          amongThemselves(dst, 1, dst, 1, order, count), ofWork(dst, 1, this->work, 1, order, count),
+          ofWorkAmongFactors(src1, order, this->work, 1, order, count),
+          ofWorkAmongRightSides(src2, 1, this->work, 1, order, count) {
+        if (factors.isGatheredOnce) findBetas();
+    }
 
-    VONKK3_INLINE bool operator()(std::size_t n) const {
+    VONKK3_INLINE bool operator()(std::size_t n) {
         if (!amongFactors.ofFourFrom(n) || !amongRightSides.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) ||
             !ofWork.ofFourFrom(n) || !ofWorkAmongFactors.ofFourFrom(n) || !ofWorkAmongRightSides.ofFourFrom(n))
             return false;
         for (std::size_t k = 0; k < four; ++k)
             if (src1.listHasNull(n + k) || src2.listHasNull(n + k) || dst.listHasNull(n + k)) return false;
 
-        FourReals d[order][order], b[1][order], x[1][order];
-        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { gatherRows(src1, n, i, order, d[i]); });
+        FourReals b[1][order], x[1][order];
+        factors.gatherFrom(n);
         gatherRows(src2, n, 0, order, b[0]);
-        replay(Apart{d}, Apart{b}, fixed<order>, fixed<order>);
-        solveTriangle(Apart{d}, Apart{b}, Apart{x}, fixed<order>);
+        if (!factors.isGatheredOnce) findBetas();
+        replay(factors.elements(), Apart{b}, fixed<order>, fixed<order>,
+               [&](std::size_t k) VONKK3_INLINED { return betas[k]; });
+        solveTriangle(factors.elements(), Apart{b}, Apart{x}, fixed<order>);
         scatterRows(dst, n, 0, order, x[0]);
         forIndices(0, order, fixed<order>,
                    [&](std::size_t i) VONKK3_INLINED { work.view(0).store(i, b[0][i].last()); });
@@ -145,12 +163,19 @@ private:
     Work work;
     const RightSide &src2;
     const Solution &dst;
+    FourMatrices<Factors, Solution, order> factors;
     Clearance<Solution, Factors> amongFactors;
     Clearance<Solution, RightSide> amongRightSides;
     Clearance<Solution, Solution> amongThemselves;
     Clearance<Solution, Work> ofWork;
     Clearance<Factors, Work> ofWorkAmongFactors;
     Clearance<RightSide, Work> ofWorkAmongRightSides;
+    FourReals betas[order];
+
+    VONKK3_INLINE void findBetas() {
+        forIndices(0, order - 1, fixed<order>,
+                   [&](std::size_t k) VONKK3_INLINED { betas[k] = betaOf(factors.elements(), k, fixed<order>); });
+    }
 };
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
