@@ -24,7 +24,6 @@ using support::Rounding;
 using support::SettingScope;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 using Matrix = std::vector<double>;
 

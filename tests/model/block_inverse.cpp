@@ -76,7 +76,7 @@ Estimate Blocks::minor(std::size_t last, std::size_t place) const {
     if (last == 1) return estimator_.difference(element(0, 0), element(1, place), element(0, place), element(1, 0));
     Grid grid = block(0, last + 1, 0, last);
     for (std::size_t i = 0; i <= last; ++i) grid[i].push_back(Estimator::of(element(i, place)));
-    return estimator_.determinant(grid);
+    return estimator_.determinantInAnyNesting(grid);
 }
 
 // The column with the largest minor goes to this place, the first of equals. A sixth column is no candidate.
@@ -143,11 +143,11 @@ BlockInverse Blocks::run() {
     const Grid right = block(0, lead_, lead_, 3);   // A
     const Grid below = block(lead_, 3, 0, lead_);   // B
     const Grid corner = block(lead_, 3, lead_, 3);  // C
-    const Grid inverse = invert(leading, estimator_.determinant(leading));
+    const Grid inverse = invert(leading, estimator_.determinantInAnyNesting(leading));
     const Grid throughRight = estimator_.multiply(inverse, right); // P^-1 A
     const Grid belowThrough = estimator_.multiply(below, inverse); // B P^-1
     const Grid complement = settled(sum(estimator_, corner, negated(estimator_.multiply(below, throughRight))));
-    const Estimate determinantOfComplement = estimator_.determinant(complement);
+    const Estimate determinantOfComplement = estimator_.determinantInAnyNesting(complement);
     if (isSingular(determinantOfComplement)) {
         outcome_.result = BlockInverse::Result::singularComplement;
         return outcome_;

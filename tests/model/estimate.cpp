@@ -62,6 +62,13 @@ Grid without(const Grid &grid, std::size_t row, std::size_t column) {
     return rest;
 }
 
+Grid transposed(const Grid &grid) {
+    Grid result(grid.front().size());
+    for (const std::vector<Estimate> &row : grid)
+        for (std::size_t j = 0; j < row.size(); ++j) result[j].push_back(row[j]);
+    return result;
+}
+
 } // namespace
 
 Estimate negated(Estimate estimate) {
@@ -230,12 +237,35 @@ Estimate Estimator::determinant(const Grid &grid) const {
     return settled(minors.back());
 }
 
+Estimate Estimator::determinantInAnyNesting(const Grid &grid) const {
+    const std::size_t order = grid.size();
+    if (order < 3) return determinant(grid);
+    if (order > 3) {
+        std::vector<Estimate> terms;
+        for (std::size_t j = 0; j < order; ++j) {
+            const Estimate term = multiply(grid[0][j], determinantInAnyNesting(without(grid, 0, j)));
+            terms.push_back(j % 2 == 0 ? term : negated(term));
+        }
+        return settled(sum(terms));
+    }
+    Estimate worst = determinant(grid);
+    for (Grid turned : {grid, transposed(grid)})
+        for (int turn = 0; turn < 3; ++turn) {
+            std::rotate(turned.begin(), turned.begin() + 1, turned.end()); // which is even and leaves the sign
+            const Estimate other = determinant(turned);
+            worst.certainty = worse(worst.certainty, other.certainty);
+            worst.error = std::max(worst.error, other.error);
+            worst.grain = std::min(worst.grain, other.grain);
+        }
+    return settled(worst);
+}
+
 Grid Estimator::adjugate(const Grid &grid) const {
     const std::size_t order = grid.size();
     Grid result(order, std::vector<Estimate>(order));
     for (std::size_t i = 0; i < order; ++i)
         for (std::size_t j = 0; j < order; ++j) {
-            const Estimate minor = determinant(without(grid, i, j));
+            const Estimate minor = determinantInAnyNesting(without(grid, i, j));
             result[j][i] = (i + j) % 2 == 0 ? minor : negated(minor);
         }
     return result;

@@ -75,8 +75,11 @@ public:
     // then it is what every evaluation comes to, by its magnitude; otherwise an estimate.
     Estimate difference(double a, double b, double c, double d) const;
 
-    // By minors, whatever their nesting.
+    // By minors of the last rows.
     Estimate determinant(const Grid &grid) const;
+    // By cofactors of row 0, of which nothing is told but that they are made of minors in their turn: what leaves the
+    // range in one nesting need not do so in another.
+    Estimate determinantInAnyNesting(const Grid &grid) const;
     Grid adjugate(const Grid &grid) const;
 
     // What a store in the element type leaves of it.

@@ -188,7 +188,7 @@ Status Inverse::ofFour() {
         grid.emplace_back();
         for (const double number : row) grid.back().push_back(Estimator::of(number));
     }
-    const Estimate determinant = estimator.determinant(grid);
+    const Estimate determinant = estimator.determinantInAnyNesting(grid);
     const std::optional<bool> singular = isWithin(determinant, tolerance());
     if (!singular.has_value()) memory_.markOpen();
     if (singular.value_or(false)) return statusSingular;
