@@ -1638,9 +1638,9 @@ VonkStatus vonkSub_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift
  *
  * dst(n, j) = src1(n, j) * val + src2(n, j)
  *
- * for j below `len` and each object n. The product is rounded before the sum in `32f` and never fused with it; in `64f`
- * it stays in 80 bits and the sum rounds. Groups: `vv` two vectors, `vav` an array and a vector, `vva` a vector and an
- * array, `vava` two arrays. A single vector serves all objects.
+ * for j below `len` and each object n. The product is rounded before the sum in `32f` and never fused with it; in
+ * `64f` it stays in 80 bits and the sum rounds. Groups: `vv` two vectors, `vav` an array and a vector, `vva` a vector
+ * and an array, `vava` two arrays. A single vector serves all objects.
  *
  * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
  * list entry is null: in single forms in `P` entry by entry just before each element, earlier elements being final; in
@@ -1649,10 +1649,10 @@ VonkStatus vonkSub_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift
  *
  * Members that behave unlike their siblings:
  * - vonkSaxpy_vv_32f is built for length, as vonkAdd_vv_32f is, with the results of the plain loop.
- * - vonkSaxpy_vav_32f and vonkSaxpy_vava_32f of 4x1 and 6x1 work in lanes if `src1`, `src2`, `dst`, `src1ObjStride` and
- *   `dstObjStride` are all multiples of 16. `vav` then loads its single vector once, ahead of all objects; everywhere
- *   else it is read anew for each object. `vava` then takes `src2ObjStride` for a multiple of 16 without a look: it must
- *   be one.
+ * - vonkSaxpy_vav_32f and vonkSaxpy_vava_32f of 4x1 and 6x1 work in lanes if `src1`, `src2`, `dst`, `src1ObjStride`
+ *   and `dstObjStride` are all multiples of 16. `vav` then loads its single vector once, ahead of all objects;
+ *   everywhere else it is read anew for each object. `vava` then takes `src2ObjStride` for a multiple of 16 without a
+ *   look: it must be one.
  *
  * Overlap:
  * `dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
@@ -2170,9 +2170,9 @@ VonkStatus vonkSaxpy_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shi
  *
  * dst(n, j) = src1(n, j) * val1 + src2(n, j) * val2
  *
- * for j below `len` and each object n. In `32f` both products and the sum round; in `64f` they stay in 80 bits, and the
- * result rounds. There is no shortcut for a constant of 0: with an infinity it makes a NaN. Groups: `vv` two vectors,
- * `vav` an array and a vector, `vava` two arrays. A single vector serves all objects.
+ * for j below `len` and each object n. In `32f` both products and the sum round; in `64f` they stay in 80 bits, and
+ * the result rounds. There is no shortcut for a constant of 0: with an infinity it makes a NaN. Groups: `vv` two
+ * vectors, `vav` an array and a vector, `vava` two arrays. A single vector serves all objects.
  *
  * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
  * list entry is null: in single forms in `P` entry by entry just before each element, earlier elements being final; in
@@ -2183,8 +2183,8 @@ VonkStatus vonkSaxpy_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shi
  * - vonkLComb_vv_32f is built for length, as vonkAdd_vv_32f is, with the results of the plain loop.
  * - `vav` of `32f` of fixed size, standard layout and `L`: the single vector is loaded once, ahead of all objects.
  *   Everywhere else it is read anew for each object.
- * - `32f` of 4x1 to 6x1 in the standard layout, and vonkLComb_vav_32f_4x1_L, look whether pointers and object strides are
- *   multiples of 16 and then move in aligned registers. That changes no result.
+ * - `32f` of 4x1 to 6x1 in the standard layout, and vonkLComb_vav_32f_4x1_L, look whether pointers and object strides
+ *   are multiples of 16 and then move in aligned registers. That changes no result.
  *
  * Overlap:
  * `dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
@@ -2556,32 +2556,33 @@ VonkStatus vonkLComb_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shi
  *
  * dst[n] = sum over j of src1(n, j) * src2(n, j)
  *
- * for j below `len`. `dst` is a plain pointer in every layout: one element for `vv`, `count` packed elements for arrays.
- * Groups: `vv` two vectors, `vav` an array against one vector, `vava` two arrays.
+ * for j below `len`. `dst` is a plain pointer in every layout: one element for `vv`, `count` packed elements for
+ * arrays. Groups: `vv` two vectors, `vav` an array against one vector, `vava` two arrays.
  *
- * With p0, p1, ... for the products, the sum is ((p0 + p1) + p2) + ..., from +0 at run-time length and from p0 at fixed
- * length. In `32f` products and sums round one by one and are never fused; in `64f` they stay in 80 bits, and the result
- * rounds.
+ * With p0, p1, ... for the products, the sum is ((p0 + p1) + p2) + ..., from +0 at run-time length and from p0 at
+ * fixed length. In `32f` products and sums round one by one and are never fused; in `64f` they stay in 80 bits, and
+ * the result rounds.
  *
- * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or list
- * entry is null: in `P` and `PS2` all entries ahead of everything else, even at `count` 0; in `L` and `LS2` when the
- * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
+ * list entry is null: in `P` and `PS2` all entries ahead of everything else, even at `count` 0; in `L` and `LS2` when
+ * the object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Members that behave unlike their siblings:
- * - vonkDotProduct_vv_32f from 11 elements on, with `src2` at a multiple of 4, sums in lanes: one by one up to a 16-byte
- *   boundary of `src2`, then blocks of eight in two registers X (which begins with the sum so far in lane 0) and Y, then
- *   with L = X + Y as (L0 + L2) + (L1 + L3), then one by one. The last bits depend on `len` and the alignment of `src2`.
+ * - vonkDotProduct_vv_32f from 11 elements on, with `src2` at a multiple of 4, sums in lanes: one by one up to a
+ *   16-byte boundary of `src2`, then blocks of eight in two registers X (which begins with the sum so far in lane 0)
+ *   and Y, then with L = X + Y as (L0 + L2) + (L1 + L3), then one by one. The last bits depend on `len` and the
+ *   alignment of `src2`.
  * - vonkDotProduct_vav_32f_4x1 and vonkDotProduct_vav_32f_4x1_L: (p0 + p1) + (p2 + p3).
  * - vonkDotProduct_vava_32f_3x1, if `src1`, `src2`, their object strides and `dst` are all multiples of 16: the first
  *   `count` / 4 * 4 objects are summed as (p0 + p2) + p1, those that remain left to right.
  * - vonkDotProduct_vav_32f_3x1_L and vonkDotProduct_vav_32f_4x1_L never test an entry.
- * - `64f` of run-time length, `vv` in all layouts and arrays in `L`: of an odd number of terms the sum is rounded to 64
- *   bits before the last.
+ * - `64f` of run-time length, `vv` in all layouts and arrays in `L`: of an odd number of terms the sum is rounded to
+ *   64 bits before the last.
  *
  * Overlap:
  * Results are stored behind the sum that they are, object by object; where objects are taken four at a time (3x1 and
- * 4x1 of `vav`, 3x1 of `vava` of `32f`, standard layout and `L`) four results are stored behind four sums. A `dst` under
- * operands of later objects changes those.
+ * 4x1 of `vav`, 3x1 of `vava` of `32f`, standard layout and `L`) four results are stored behind four sums. A `dst`
+ * under operands of later objects changes those.
  *
  * Read beyond the operands:
  * vonkDotProduct_vava_32f_3x1 on its aligned way reads the element behind each of the objects that it takes four at a
@@ -2898,11 +2899,11 @@ VonkStatus vonkDotProduct_vava_64f_6x1_LS2(const double *const *src1, int32_t sr
  *
  * Members that behave unlike their siblings:
  * - `32f` of fixed size in the standard layout and `L` is approximate, and its norm of a zero vector is NaN, where all
- *   other forms give 0. With q0, q1, ... for the squares, s is (q0 + q1) + q2; (q0 + q1) + (q2 + q3); that + q4; that +
- *   (q4 + q5). With r the processor's estimate of 1 / root of s, of about 12 bits, the result is s * (r * (0.5 * (3.0 -
- *   s * (r * r)))), each operation rounded. Method: one Newton step for the reciprocal root.
- * - vonkL2Norm_v_32f from 11 elements on, with `src` at a multiple of 4, sums squares in lanes as vonkDotProduct_vv_32f
- *   sums products.
+ *   other forms give 0. With q0, q1, ... for the squares, s is (q0 + q1) + q2; (q0 + q1) + (q2 + q3); that + q4; that
+ *   + (q4 + q5). With r the processor's estimate of 1 / root of s, of about 12 bits, the result is s * (r * (0.5 *
+ *   (3.0 - s * (r * r)))), each operation rounded. Method: one Newton step for the reciprocal root.
+ * - vonkL2Norm_v_32f from 11 elements on, with `src` at a multiple of 4, sums squares in lanes as
+ *   vonkDotProduct_vv_32f sums products.
  * - vonkL2Norm_va_32f_4x1_L never tests an entry.
  *
  * Overlap:
@@ -3052,9 +3053,9 @@ VonkStatus vonkL2Norm_va_64f_6x1_LS2(const double *const *src, int32_t srcShift,
  * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Members that behave unlike their siblings:
- * - `vav` and `vva` of `32f` in `S2`, `P`, `PS2` and `LS2` form u v - w x as u v + (0 - w) x, and those of `64f`, in all
- *   layouts, as u v + (-w) x. That shows in the sign of zeros and in rounding modes other than to nearest. They store
- *   each component before they load what the next one needs.
+ * - `vav` and `vva` of `32f` in `S2`, `P`, `PS2` and `LS2` form u v - w x as u v + (0 - w) x, and those of `64f`, in
+ *   all layouts, as u v + (-w) x. That shows in the sign of zeros and in rounding modes other than to nearest. They
+ *   store each component before they load what the next one needs.
  * - vonkCrossProduct_vava_32f_3x1 takes objects four at a time, one in each lane, with the same results.
  *
  * Overlap:
@@ -3177,9 +3178,9 @@ VonkStatus vonkCrossProduct_vava_64f_3x1_LS2(const double *const *src1, int32_t 
  * vonkAdd: dst(n, i, j) = A(n, i, j) + B(n, i, j)
  * vonkSub: dst(n, i, j) = A(n, i, j) - B(n, i, j)
  *
- * with A(n, i, j) = src1(n, i, j), or src1(n, j, i) if the first operand carries `T`, and B alike from `src2`. A single
- * operand serves all objects. One rounded operation and one store per element; `64f` adds in the 80-bit type and
- * rounds to 64 bits. Objects, rows and columns ascend.
+ * with A(n, i, j) = src1(n, i, j), or src1(n, j, i) if the first operand carries `T`, and B alike from `src2`. A
+ * single operand serves all objects. One rounded operation and one store per element; `64f` adds in the 80-bit type
+ * and rounds to 64 bits. Objects, rows and columns ascend.
  *
  * Sizes: `cols` and `rows` are those of `dst`. A transposed operand is stored as `cols` rows of `rows` columns, in
  * pointer layouts too: its entry for A(i, j) is j * `rows` + i.
@@ -7504,8 +7505,8 @@ VonkStatus vonkMul_maTc_64f_6x6_LS2(const double *const *src, int32_t srcShift, 
  * layout and `L` reads more of an object first; how much is not promised.
  *
  * Read beyond the operands:
- * In `P` and `PS2` of run-time size, of matrices that are not square: table entries behind the `cols` * `rows`th, which
- * are not scanned.
+ * In `P` and `PS2` of run-time size, of matrices that are not square: table entries behind the `cols` * `rows`th,
+ * which are not scanned.
  */
 
 VonkStatus vonkTranspose_m_32f(const float *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, float *dst,
@@ -7710,8 +7711,8 @@ VonkStatus vonkTranspose_ma_64f_6x6_LS2(const double *const *src, int32_t srcShi
  * A diagonal of negative zeros thus gives -0 in the first and +0 in all others.
  *
  * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a table or list
- * entry is null: in `m` in `P` as the sum reaches it, the sum so far being in `dst`; in `L` and `LS2` when the object's
- * turn comes, earlier results being complete. `count` 0 then gives vonkOk with nothing written.
+ * entry is null: in `m` in `P` as the sum reaches it, the sum so far being in `dst`; in `L` and `LS2` when the
+ * object's turn comes, earlier results being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Members that behave unlike their siblings:
  * - `ma` in `P` and `PS2` scans entries 0 to `order` - 1 of the table ahead of everything else, even at `count` 0,
