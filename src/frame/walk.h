@@ -35,7 +35,8 @@ template <class... Operands> inline bool anyTableEntryNull(std::size_t positions
 template <class Count, class Work, class... Operands>
 VONKK3_INLINE VonkStatus forEachObjectFrom(std::size_t first, Count count, Work work, const Operands &...operands) {
     for (std::size_t n = first; n < count; ++n) {
-        if ((operands.listHasNull(n) || ...)) [[unlikely]] return vonkErrNullPtr;
+        if ((operands.listHasNull(n) || ...)) [[unlikely]]
+            return vonkErrNullPtr;
         if (const VonkStatus status = work(n); status != vonkOk) return status;
     }
     return vonkOk;
@@ -58,7 +59,8 @@ VONKK3_INLINE VonkStatus forEachLightObject(Objects count, Work work, const Oper
     const std::size_t objects = count;
     VONKK3_UNROLL_FOURFOLD
     for (std::size_t n = 0; n < objects; ++n) {
-        if ((operands.listHasNull(n) || ...)) [[unlikely]] return vonkErrNullPtr;
+        if ((operands.listHasNull(n) || ...)) [[unlikely]]
+            return vonkErrNullPtr;
         work(n);
     }
     return vonkOk;
