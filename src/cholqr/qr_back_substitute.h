@@ -138,22 +138,17 @@ public:
     }
 
     VONKK3_INLINE bool operator()(std::size_t n) {
-        if (!amongFactors.ofFourFrom(n) || !amongRightSides.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) ||
-            !ofWork.ofFourFrom(n) || !ofWorkAmongFactors.ofFourFrom(n) || !ofWorkAmongRightSides.ofFourFrom(n))
-            return false;
+        if (!isClear(n)) return false;
         for (std::size_t k = 0; k < four; ++k)
             if (src1.listHasNull(n + k) || src2.listHasNull(n + k) || dst.listHasNull(n + k)) return false;
+        solveFrom<FourReals>(n);
+        return true;
+    }
 
-        FourReals b[1][order], x[1][order];
-        factors.gatherFrom(n);
-        gatherRows(src2, n, 0, order, b[0]);
-        if (!factors.isGatheredOnce) findBetas();
-        replay(factors.elements(), Apart{b}, fixed<order>, fixed<order>,
-               [&](std::size_t k) VONKK3_INLINED { return betas[k]; });
-        solveTriangle(factors.elements(), Apart{b}, Apart{x}, fixed<order>);
-        scatterRows(dst, n, 0, order, x[0]);
-        forIndices(0, order, fixed<order>,
-                   [&](std::size_t i) VONKK3_INLINED { work.view(0).store(i, b[0][i].last()); });
+    static constexpr bool worksEight = FourMatrices<Factors, Solution, order>::isGatheredOnce;
+    VONKK3_INLINE bool eightFrom(std::size_t n) {
+        if (!isClear(n)) return false;
+        solveFrom<EightReals>(n);
         return true;
     }
 
@@ -171,6 +166,24 @@ private:
     Clearance<Factors, Work> ofWorkAmongFactors;
     Clearance<RightSide, Work> ofWorkAmongRightSides;
     FourReals betas[order];
+
+    VONKK3_INLINE bool isClear(std::size_t n) const {
+        return amongFactors.ofFourFrom(n) && amongRightSides.ofFourFrom(n) && amongThemselves.ofFourFrom(n) &&
+               ofWork.ofFourFrom(n) && ofWorkAmongFactors.ofFourFrom(n) && ofWorkAmongRightSides.ofFourFrom(n);
+    }
+
+    template <class Reals> VONKK3_INLINE void solveFrom(std::size_t n) {
+        Reals b[1][order], x[1][order];
+        factors.gatherFrom(n);
+        gatherRows(src2, n, 0, order, b[0]);
+        if (!factors.isGatheredOnce) findBetas();
+        replay(factors.elements(), Apart{b}, fixed<order>, fixed<order>,
+               [&](std::size_t k) VONKK3_INLINED { return betas[k]; });
+        solveTriangle(factors.elements(), Apart{b}, Apart{x}, fixed<order>);
+        scatterRows(dst, n, 0, order, x[0]);
+        forIndices(0, order, fixed<order>,
+                   [&](std::size_t i) VONKK3_INLINED { work.view(0).store(i, b[0][i].last()); });
+    }
 
     VONKK3_INLINE void findBetas() {
         forIndices(0, order - 1, fixed<order>,
