@@ -43,10 +43,12 @@ public:
         : written(written), read(read), ofWritten(footprint(written.view(0), rowsWritten, columns)),
           ofRead(footprint(read.view(0), rowsRead, columns)), overlap(ofWritten, ofRead),
           mayBeSame(rowsWritten == rowsRead && (rowsRead == 1 || haveSameRows(columns))) {
-        if constexpr (isKnownAhead)
-            clear = written.objectSpacing() == read.objectSpacing()
-                        ? distancesAreClear()
-                        : areApart(wholeOf(written, ofWritten, count), wholeOf(read, ofRead, count));
+        if constexpr (isKnownAhead && isItself) {
+            clear = !overlap(written.view(0).base, written.view(1).base);
+        } else if constexpr (isKnownAhead) {
+            clear = areApart(wholeOf(written, ofWritten, count), wholeOf(read, ofRead, count)) ||
+                    (written.objectSpacing() == read.objectSpacing() && distancesAreClear());
+        }
     }
 
     // For objects n to n + 3; where it is known ahead, to n + 7.
@@ -81,7 +83,7 @@ private:
     // Equally spaced objects lie to each other as far as they are apart in their arrays.
     bool distancesAreClear() const {
         const std::byte *target = written.view(0).base;
-        for (std::size_t distance = isItself ? 1 : 0; distance < 2 * four; ++distance) {
+        for (std::size_t distance = 0; distance < 2 * four; ++distance) {
             const std::byte *source = read.view(distance).base;
             const bool isOwn = Read::isArray && distance == 0 && mayBeSame && source == target;
             if (!isOwn && overlap(target, source)) return false;
