@@ -72,11 +72,15 @@ public:
             if (beginsAtNull(src1.view(n + k)) || beginsAtNull(src2.view(n + k)) || beginsAtNull(dst.view(n + k)))
                 return false;
 
-        FourReals b[1][order], x[1][order];
-        factors.gatherFrom(n);
-        gatherRows(src2, n, 0, order, b[0]);
-        solve(factors.elements(), Apart{b}, Apart{x}, fixed<order>);
-        scatterRows(dst, n, 0, order, x[0]);
+        work<FourReals>(n);
+        return true;
+    }
+
+    static constexpr bool worksEight = FourMatrices<Factor, Solution, order>::isGatheredOnce;
+    VONKK3_INLINE bool eightFrom(std::size_t n) {
+        if (!amongFactors.ofFourFrom(n) || !amongRightSides.ofFourFrom(n) || !amongThemselves.ofFourFrom(n))
+            return false;
+        work<EightReals>(n);
         return true;
     }
 
@@ -88,6 +92,14 @@ private:
     Clearance<Solution, Factor> amongFactors;
     Clearance<Solution, RightSide> amongRightSides;
     Clearance<Solution, Solution> amongThemselves;
+
+    template <class Reals> VONKK3_INLINE void work(std::size_t n) {
+        Reals b[1][order], x[1][order];
+        factors.gatherFrom(n);
+        gatherRows(src2, n, 0, order, b[0]);
+        solve(factors.elements(), Apart{b}, Apart{x}, fixed<order>);
+        scatterRows(dst, n, 0, order, x[0]);
+    }
 };
 
 // ---- All objects ----------------------------------------------------------------------------------------------------

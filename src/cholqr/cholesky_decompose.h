@@ -144,6 +144,7 @@ public:
           amongThemselves(dst, order, dst, order, order, count),
           isOpen(control.bothRoundToNearest() && control.wideHas53Bits()) {}
 
+    static constexpr bool worksEight = false;
     VONKK3_INLINE bool operator()(std::size_t n) const {
         if (!isOpen || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n)) return false;
         for (std::size_t k = 0; k < four; ++k)

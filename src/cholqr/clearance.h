@@ -43,13 +43,15 @@ public:
         : written(written), read(read), ofWritten(footprint(written.view(0), rowsWritten, columns)),
           ofRead(footprint(read.view(0), rowsRead, columns)), overlap(ofWritten, ofRead),
           mayBeSame(rowsWritten == rowsRead && (rowsRead == 1 || haveSameRows(columns))) {
-        if constexpr (isKnownAhead)
-            clear = written.objectSpacing() == read.objectSpacing()
-                        ? pairsAreClear(0)
-                        : areApart(wholeOf(written, ofWritten, count), wholeOf(read, ofRead, count));
+        if constexpr (isKnownAhead && isItself) {
+            clear = !overlap(written.view(0).base, written.view(1).base);
+        } else if constexpr (isKnownAhead) {
+            clear = areApart(wholeOf(written, ofWritten, count), wholeOf(read, ofRead, count)) ||
+                    (written.objectSpacing() == read.objectSpacing() && distancesAreClear());
+        }
     }
 
-    // For objects n to n + 3.
+    // For objects n to n + 3; where it is known ahead, to n + 7.
     VONKK3_INLINE bool ofFourFrom(std::size_t n) const {
         if constexpr (isKnownAhead) return clear;
         else return pairsAreClear(n);
@@ -76,6 +78,17 @@ private:
         extent.begin += first + (way < 0 ? std::uintptr_t(way) : 0);
         extent.end += first + (way < 0 ? 0 : std::uintptr_t(way));
         return extent;
+    }
+
+    // Equally spaced objects lie to each other as far as they are apart in their arrays.
+    bool distancesAreClear() const {
+        const std::byte *target = written.view(0).base;
+        for (std::size_t distance = 0; distance < 2 * four; ++distance) {
+            const std::byte *source = read.view(distance).base;
+            const bool isOwn = Read::isArray && distance == 0 && mayBeSame && source == target;
+            if (!isOwn && overlap(target, source)) return false;
+        }
+        return true;
     }
 
     VONKK3_INLINE bool pairsAreClear(std::size_t n) const {
@@ -110,12 +123,30 @@ VONKK3_INLINE void gatherRows(const Operand &operand, std::size_t n, std::size_t
         for (std::size_t j = 0; j < length; ++j) row[j] = operand.view(0).load(i, j);
 }
 
+template <class Operand>
+VONKK3_INLINE void gatherRows(const Operand &operand, std::size_t n, std::size_t i, std::size_t length,
+                              EightReals *row) {
+    FourReals first[6], second[6];
+    gatherRows(operand, n, i, length, first);
+    gatherRows(operand, n + four, i, length, second);
+    for (std::size_t j = 0; j < length; ++j) row[j] = {first[j], second[j]};
+}
+
 template <class Operand, class Number>
 VONKK3_INLINE void scatterRows(const Operand &operand, std::size_t n, std::size_t i, std::size_t length,
                                const Number *row) {
     scatterRow({operand.view(n).at(i, 0), operand.view(n + 1).at(i, 0), operand.view(n + 2).at(i, 0),
                 operand.view(n + 3).at(i, 0)},
                length, row);
+}
+
+template <class Operand>
+VONKK3_INLINE void scatterRows(const Operand &operand, std::size_t n, std::size_t i, std::size_t length,
+                               const EightReals *row) {
+    FourReals first[6], second[6];
+    for (std::size_t j = 0; j < length; ++j) first[j] = row[j].first, second[j] = row[j].second;
+    scatterRows(operand, n, i, length, first);
+    scatterRows(operand, n + four, i, length, second);
 }
 
 // The matrices of four objects, the first so many elements of each row of them, gathered for each four anew; but one
@@ -144,12 +175,17 @@ private:
     }
 };
 
-// `one` for each object in turn, but for four objects at once where `fourFrom` says that it has done them. Nulls and
-// failures are left to `one`.
+// `one` for each object in turn, but for four objects at once, or eight, where `fourFrom` says that it has done them.
+// Nulls and failures are left to `one`.
 template <class Count, class FourFrom, class One>
 VONKK3_INLINE VonkStatus forEachFourOrOne(Count count, FourFrom fourFrom, const One &one) {
     const std::size_t objects = count;
     for (std::size_t n = 0; n < objects;) {
+        if constexpr (FourFrom::worksEight)
+            if (objects - n >= 2 * four && fourFrom.eightFrom(n)) {
+                n += 2 * four;
+                continue;
+            }
         if (objects - n >= four && fourFrom(n)) {
             n += four;
             continue;

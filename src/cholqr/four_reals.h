@@ -25,6 +25,23 @@ struct FourReals {
     friend FourReals operator/(FourReals a, FourReals b) { return _mm_div_ps(a.lanes, b.lanes); }
 };
 
+// Of eight objects in two registers, for work that waits for itself more than for the processor.
+struct EightReals {
+    FourReals first, second;
+
+    EightReals() = default;
+    EightReals(FourReals first, FourReals second) : first(first), second(second) {}
+    EightReals(FourReals both) : first(both), second(both) {}
+    EightReals(Real32 value) : first(value), second(value) {}
+
+    Real32 last() const { return second.last(); }
+
+    friend EightReals operator+(EightReals a, EightReals b) { return {a.first + b.first, a.second + b.second}; }
+    friend EightReals operator-(EightReals a, EightReals b) { return {a.first - b.first, a.second - b.second}; }
+    friend EightReals operator*(EightReals a, EightReals b) { return {a.first * b.first, a.second * b.second}; }
+    friend EightReals operator/(EightReals a, EightReals b) { return {a.first / b.first, a.second / b.second}; }
+};
+
 // Addresses of four objects.
 using FourSources = const std::byte *[four];
 using FourTargets = std::byte *[four];

@@ -84,7 +84,22 @@ VONKK3_INLINE void replay(const Reflectors &reflectors, const Work &work, Column
     replay(reflectors, work, columns, rows, [&](std::size_t k) VONKK3_INLINED { return betaOf(reflectors, k, rows); });
 }
 
-// x from the last row up; each sum grows from 0 and is subtracted at the end.
+// Σ term(j) for j from `from` to `to` - 1, grown from 0. Adding to 0 turns a first term of -0 into +0, which shows only
+// if all others are -0 as well; so the 0 may be added to the second term instead. In a fixed order it is, where the
+// first waits for the latest element of x.
+template <class Number, class Extent, class Term>
+VONKK3_INLINE Number sumFromZero(std::size_t from, std::size_t to, Extent extent, const Term &term) {
+    if (!Extent::isFixed || to - from < 2) {
+        Number s = 0;
+        forIndices(from, to, extent, [&](std::size_t j) VONKK3_INLINED { s = s + term(j); });
+        return s;
+    }
+    Number s = term(from) + (term(from + 1) + Number(0));
+    forIndices(from + 2, to, extent, [&](std::size_t j) VONKK3_INLINED { s = s + term(j); });
+    return s;
+}
+
+// x from the last row up; each sum is subtracted at the end.
 template <class Triangle, class Work, class Solution, class Columns>
 VONKK3_INLINE void solveTriangle(const Triangle &r, const Work &work, const Solution &x, Columns columns) {
     using Number = typename Work::Number;
@@ -92,8 +107,8 @@ VONKK3_INLINE void solveTriangle(const Triangle &r, const Work &work, const Solu
     x.store(last, work.load(last) / r.load(last, last));
     forIndices(1, columns, columns, [&](std::size_t above) VONKK3_INLINED {
         const std::size_t i = last - above;
-        Number s = 0;
-        forIndices(i + 1, columns, columns, [&](std::size_t j) VONKK3_INLINED { s = s + r.load(i, j) * x.load(j); });
+        const Number s = sumFromZero<Number>(i + 1, columns, columns,
+                                             [&](std::size_t j) VONKK3_INLINED { return r.load(i, j) * x.load(j); });
         x.store(i, (work.load(i) - s) / r.load(i, i));
     });
 }
@@ -138,22 +153,17 @@ public:
     }
 
     VONKK3_INLINE bool operator()(std::size_t n) {
-        if (!amongFactors.ofFourFrom(n) || !amongRightSides.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) ||
-            !ofWork.ofFourFrom(n) || !ofWorkAmongFactors.ofFourFrom(n) || !ofWorkAmongRightSides.ofFourFrom(n))
-            return false;
+        if (!isClear(n)) return false;
         for (std::size_t k = 0; k < four; ++k)
             if (src1.listHasNull(n + k) || src2.listHasNull(n + k) || dst.listHasNull(n + k)) return false;
+        solveFrom<FourReals>(n);
+        return true;
+    }
 
-        FourReals b[1][order], x[1][order];
-        factors.gatherFrom(n);
-        gatherRows(src2, n, 0, order, b[0]);
-        if (!factors.isGatheredOnce) findBetas();
-        replay(factors.elements(), Apart{b}, fixed<order>, fixed<order>,
-               [&](std::size_t k) VONKK3_INLINED { return betas[k]; });
-        solveTriangle(factors.elements(), Apart{b}, Apart{x}, fixed<order>);
-        scatterRows(dst, n, 0, order, x[0]);
-        forIndices(0, order, fixed<order>,
-                   [&](std::size_t i) VONKK3_INLINED { work.view(0).store(i, b[0][i].last()); });
+    static constexpr bool worksEight = FourMatrices<Factors, Solution, order>::isGatheredOnce;
+    VONKK3_INLINE bool eightFrom(std::size_t n) {
+        if (!isClear(n)) return false;
+        solveFrom<EightReals>(n);
         return true;
     }
 
@@ -171,6 +181,24 @@ private:
     Clearance<Factors, Work> ofWorkAmongFactors;
     Clearance<RightSide, Work> ofWorkAmongRightSides;
     FourReals betas[order];
+
+    VONKK3_INLINE bool isClear(std::size_t n) const {
+        return amongFactors.ofFourFrom(n) && amongRightSides.ofFourFrom(n) && amongThemselves.ofFourFrom(n) &&
+               ofWork.ofFourFrom(n) && ofWorkAmongFactors.ofFourFrom(n) && ofWorkAmongRightSides.ofFourFrom(n);
+    }
+
+    template <class Reals> VONKK3_INLINE void solveFrom(std::size_t n) {
+        Reals b[1][order], x[1][order];
+        factors.gatherFrom(n);
+        gatherRows(src2, n, 0, order, b[0]);
+        if (!factors.isGatheredOnce) findBetas();
+        replay(factors.elements(), Apart{b}, fixed<order>, fixed<order>,
+               [&](std::size_t k) VONKK3_INLINED { return betas[k]; });
+        solveTriangle(factors.elements(), Apart{b}, Apart{x}, fixed<order>);
+        scatterRows(dst, n, 0, order, x[0]);
+        forIndices(0, order, fixed<order>,
+                   [&](std::size_t i) VONKK3_INLINED { work.view(0).store(i, b[0][i].last()); });
+    }
 
     VONKK3_INLINE void findBetas() {
         forIndices(0, order - 1, fixed<order>,

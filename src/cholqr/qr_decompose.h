@@ -125,6 +125,7 @@ public:
           ofWorkAmongSources(src, order, this->work, 1, order, count),
           isOpen(areRowsApart(dst.view(0), order) && RoundingControl().bothRoundToNearest()) {}
 
+    static constexpr bool worksEight = false;
     VONKK3_INLINE bool operator()(std::size_t n) const {
         if (!isOpen || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) || !ofWork.ofFourFrom(n) ||
             !ofWorkAmongSources.ofFourFrom(n))
