@@ -303,9 +303,11 @@ void placeAll(Call &call, Arrangement arrangement) {
         if (parameter.kind == Kind::dense) placeBlock(call, parameter.name, arrangement);
 }
 
+// Decomposes by its lower triangle, and by a table of it that is taken for that of a larger matrix gets past its end.
 std::vector<double> unitMatrix(std::uint32_t order) {
     std::vector<double> values(std::size_t{order} * order, 0.0);
-    for (std::uint32_t i = 0; i < order; ++i) values[i * order + i] = 1;
+    for (std::uint32_t i = 0; i < order; ++i)
+        for (std::uint32_t j = i; j < order; ++j) values[i * order + j] = i == j ? 1 : 9;
     return values;
 }
 

@@ -120,13 +120,11 @@ std::vector<double> diagonal(const std::vector<double> &elements) {
     return matrix;
 }
 
-// 4 7 / 2 6 has the determinant 10, and a tenth is rounded before it is used.
+// 4 7 / 2 6 has the determinant 10, and a tenth, 0x1.99999ap-4, is rounded before it is used: 6 times and -7 times
+// that are rounded again.
 TEST(InverseModel, ScalesTheAdjugateWithARoundedReciprocal) {
-    const double tenth = 0.1F;
     const Inverse inverse = invert("vonkInvert_m_32f", {4, 7, 2, 6});
-    const auto rounded = [](double value) { return static_cast<double>(static_cast<float>(value)); };
-    EXPECT_EQ(inverse.elements,
-              (std::vector<double>{rounded(6 * tenth), rounded(-7 * tenth), rounded(-2 * tenth), rounded(4 * tenth)}));
+    EXPECT_EQ(inverse.elements, (std::vector<double>{0x1.333334p-1, -0x1.666666p-1, -0x1.99999ap-3, 0x1.99999ap-2}));
     EXPECT_TRUE(inverse.outcome.approximations.empty());
 }
 
