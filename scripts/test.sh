@@ -5,7 +5,7 @@ set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 need g++ gcc clang libclang-rt-dev cmake make binutils pkg-config libgtest-dev libcli11-dev libbenchmark-dev libeigen3-dev \
-    libglm-dev libcglm-dev libxsmm-dev
+    libglm-dev libcglm-dev libxsmm-dev liblapacke-dev libopenblas-dev
 jobs=$(nproc)
 
 build() { # PRESET
