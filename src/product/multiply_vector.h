@@ -1,8 +1,8 @@
 // Matrix by vector: a single one or an array on either side, the matrix read as stored or transposed.
 #pragma once
 
-#include "product/packed_triples.h"
 #include "frame/untested_position.h"
+#include "product/packed_triples.h"
 #include "product/schemes.h"
 #include "product/vector_kernels.h"
 

@@ -1,8 +1,8 @@
 // Cross product of vectors of three elements, single ones or arrays.
 #pragma once
 
-#include "frame/walk.h"
 #include "frame/four_objects.h"
+#include "frame/walk.h"
 
 namespace vonkk3::vector {
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "frame/extent.h"
+#include "frame/four_objects.h"
 #include "frame/walk.h"
 #include "vector/block_walk.h"
-#include "frame/four_objects.h"
 
 namespace vonkk3::vector {
 

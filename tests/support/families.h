@@ -86,8 +86,8 @@ bool stopsAtNullEntry(const catalogue::Function &function, const catalogue::Oper
 // Whether the result is fixed when the destination is this source, element on element.
 bool isFixedInPlace(const catalogue::Function &function, const catalogue::Operand &source);
 
-// Of the overlaps of destination and source that would be drawn, how many percent are: few where nearly all outcomes are
-// open, so that such calls tell little.
+// Of the overlaps of destination and source that would be drawn, how many percent are: few where nearly all outcomes
+// are open, so that such calls tell little.
 unsigned overlapShare(const catalogue::Function &function);
 
 // How elements are chosen.

@@ -107,7 +107,7 @@ public:
     // Whether `dst` has no layout and one element an object, and is an operand here like others.
     bool hasPlainResult() const;
     Block &block(std::string_view parameter); // of the other blocks
-    std::vector<double> results(); // of a `dst` without a layout, all of them
+    std::vector<double> results();            // of a `dst` without a layout, all of them
 
     std::vector<std::uint32_t> pivots(std::uint32_t n) const;
     void setPivots(std::uint32_t n, const std::vector<std::uint32_t> &rows);
