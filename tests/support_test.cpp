@@ -424,6 +424,32 @@ TEST(Calls, CrossTheBlockLengthAtEveryAlignment) {
 
 // --- the counts
 
+// Whether all pointers to elements, and the strides between objects and rows, are multiples of 16.
+bool isAlignedThroughout(const Call &call) {
+    for (std::size_t k = 0; k < call.words.size(); ++k) {
+        const catalogue::Kind kind = call.function->parameters[k].kind;
+        const bool isWide = kind == catalogue::Kind::base || kind == catalogue::Kind::dense;
+        const bool isStride = kind == catalogue::Kind::objectStride || kind == catalogue::Kind::rowStride;
+        if ((isWide || isStride) && call.words[k] % 16 != 0) return false;
+    }
+    return true;
+}
+
+TEST(Calls, TakeBothWaysWhereAlignmentChooses) {
+    std::size_t choosing = 0;
+    for (const Function &function : builtFunctions()) {
+        if (!support::families::looksAtAlignment(function) || !function.layout.empty()) continue;
+        ++choosing;
+        constexpr std::size_t made = 200;
+        std::size_t aligned = 0;
+        for (std::uint64_t index = 0; index < made; ++index)
+            aligned += isAlignedThroughout(support::makeCall(function, arena(), 1, index));
+        EXPECT_GT(aligned, made / 4) << function.name;
+        EXPECT_LT(aligned, made * 3 / 4) << function.name;
+    }
+    EXPECT_GT(choosing, 50U);
+}
+
 TEST(Tally, MissesWhatWasNotReached) {
     support::Tally tally;
     const Call call = plainCall("vonkLUDecomp_m_32f");

@@ -29,6 +29,8 @@ private:
     bool objectIsNull(const Operand &operand) const;
     void checkOverlaps();
     bool isRefused(Wide pivot, std::uint64_t i) const;
+    float factor32(std::uint64_t i, std::uint64_t j);
+    void store32(std::uint64_t i, std::uint64_t j, float value);
     float reduced32(std::uint64_t i, std::uint64_t j);
     float reciprocalRoot32(float pivot);
     Status factorRow32(std::uint64_t i);
@@ -77,12 +79,19 @@ bool CholeskyDecomposition::isRefused(Wide pivot, std::uint64_t i) const {
     return isReversed ? 0 >= pivot : !(pivot > 0);
 }
 
+float CholeskyDecomposition::factor32(std::uint64_t i, std::uint64_t j) {
+    return isStraight() ? static_cast<float>(kept(i, j)) : memory_.load<float>(dst_.element(object_, i, j));
+}
+
+void CholeskyDecomposition::store32(std::uint64_t i, std::uint64_t j, float value) {
+    kept(i, j) = value;
+    memory_.store(dst_.element(object_, i, j), value);
+}
+
 float CholeskyDecomposition::reduced32(std::uint64_t i, std::uint64_t j) {
     float rest = memory_.load<float>(src_.element(object_, i, j));
     for (std::uint64_t k = 0; k < j; ++k) {
-        const float product = arithmetic_.multiply(memory_.load<float>(dst_.element(object_, i, k)),
-                                                   memory_.load<float>(dst_.element(object_, j, k)));
-        rest = arithmetic_.subtract(rest, product);
+        rest = arithmetic_.subtract(rest, arithmetic_.multiply(factor32(i, k), factor32(j, k)));
     }
     return rest;
 }
@@ -96,12 +105,11 @@ float CholeskyDecomposition::reciprocalRoot32(float pivot) {
 Status CholeskyDecomposition::factorRow32(std::uint64_t i) {
     for (std::uint64_t j = 0; j < i; ++j) {
         const float rest = reduced32(i, j);
-        const float reciprocal = memory_.load<float>(dst_.element(object_, j, j));
-        memory_.store(dst_.element(object_, i, j), arithmetic_.multiply(rest, reciprocal));
+        store32(i, j, arithmetic_.multiply(rest, factor32(j, j)));
     }
     const float pivot = reduced32(i, i);
     if (isRefused(pivot, i)) return statusNotPositiveDefinite;
-    memory_.store(dst_.element(object_, i, i), reciprocalRoot32(pivot));
+    store32(i, i, reciprocalRoot32(pivot));
     return statusOk;
 }
 
