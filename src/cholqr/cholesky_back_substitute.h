@@ -2,8 +2,8 @@
 // diagonal holds reciprocals, so nothing divides and nothing can fail. The solution is its own scratch space.
 #pragma once
 
-#include "cholqr/clearance.h"
 #include "cholqr/elements.h"
+#include "cholqr/four_objects.h"
 #include "cholqr/single_calls.h"
 #include "frame/walk.h"
 

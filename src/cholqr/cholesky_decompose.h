@@ -3,8 +3,8 @@
 // their diagonals, are read and written.
 #pragma once
 
-#include "cholqr/clearance.h"
 #include "cholqr/elements.h"
+#include "cholqr/four_objects.h"
 #include "cholqr/roots.h"
 #include "cholqr/single_calls.h"
 #include "frame/walk.h"

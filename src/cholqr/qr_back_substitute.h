@@ -3,9 +3,9 @@
 // the numbers is tested: a zero on the diagonal divides through.
 #pragma once
 
-#include "cholqr/clearance.h"
 #include "cholqr/copy_in_blocks.h"
 #include "cholqr/elements.h"
+#include "cholqr/four_objects.h"
 #include "cholqr/reflectors.h"
 #include "frame/walk.h"
 

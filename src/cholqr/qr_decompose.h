@@ -3,8 +3,8 @@
 // beta = -2 / (v'v) is not stored either.
 #pragma once
 
-#include "cholqr/clearance.h"
 #include "cholqr/elements.h"
+#include "cholqr/four_objects.h"
 #include "cholqr/reflectors.h"
 #include "cholqr/roots.h"
 #include "frame/walk.h"
