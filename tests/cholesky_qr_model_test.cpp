@@ -223,7 +223,7 @@ TEST(QrModel, HoldsTheToleranceAgainstTheSquaredNorm) {
 }
 
 TEST(QrModel, LeavesOpenHowFarTheCopyReadsAhead) {
-    std::vector<double> cells{0, 3, 4, 5, 0, 0};
+    std::vector<double> cells{0, 3, 4, 5, 0, 0, 0};
     std::vector<double> work(2);
     EXPECT_FALSE(run("vonkQRDecomp_m_64f", {to(cells), 16, to(work), to(cells), 16, 2, 2}).open);
     EXPECT_TRUE(run("vonkQRDecomp_m_64f", {to(cells), 16, to(work), to(&cells[2]), 16, 2, 2}).open);

@@ -234,8 +234,8 @@ TEST(ProductModel, KnowsEveryProduct) {
         ++counts[name.isGaxpy() ? "gaxpy" : name.isMatrixProduct() ? "matrix" : "vector"];
     }
     EXPECT_EQ(counts, (std::map<std::string, int>{{"gaxpy", 90}, {"matrix", 840}, {"vector", 420}}));
-    EXPECT_FALSE(model::knows("vonkMul_mc_32f"));
-    EXPECT_FALSE(model::knows("vonkMul_vac_32f"));
+    EXPECT_FALSE(model::knows("vonkMul_vv_32f"));
+    EXPECT_FALSE(model::knows("vonkMul_vm_32f"));
 }
 
 // The destination must be all that changes, every object must be done, and the stores must be as many as the form

@@ -514,7 +514,9 @@ TEST(Bitstream, HoldsNoCallWhoseOutcomeIsOpen) {
             const Call call =
                 support::makeCall(function, arena(), support::bitstreamSeed, index, support::bitstreamMixture());
             inPlace += call.traits.overlap == support::Overlap::inPlace;
-            ASSERT_NE(call.traits.overlap, support::Overlap::partial) << function.name << ":" << index;
+            const bool isPartial = call.traits.overlap == support::Overlap::partial;
+            const bool mayBePartial = support::families::readsThroughDestination(function); // among the cells of `dst`
+            ASSERT_TRUE(mayBePartial || !isPartial) << function.name << ":" << index;
             ASSERT_FALSE(model::run({function.name, call.words}).open) << function.name << ":" << index;
         }
     EXPECT_GT(inPlace, 1000);
