@@ -76,7 +76,7 @@ fault 'unrolled sums are rounded' src/lu/back_substitute.h 's/constexpr bool kee
 fault 'a division becomes a product with the reciprocal' src/lu/back_substitute.h \
     's/difference \/ W\(factors\.load\(rows\[i\], i\)\)/difference * (W(1) \/ W(factors.load(rows[i], i)))/'
 fault 'every multiplier is rounded' src/lu/decompose.h 's/= !isSmallFixed<Order>;/= true;/'
-fault 'a zero multiplier keeps its sign' src/lu/decompose.h 's/return 0\.0F - multiplier/return -multiplier/'
+fault 'a zero multiplier keeps its sign' src/lu/arithmetic.h 's/return 0\.0F - multiplier/return -multiplier/'
 
 # Irregular members
 fault 'a tie moves the pivot' src/lu/decompose.h 's/replacesValue = candidate > best/replacesValue = candidate >= best/'
@@ -96,7 +96,7 @@ fault 'aligned triples are summed left to right' src/vector/dot_product.h 's/\(p
 fault 'a sum of products stays wide to its end' src/vector/dot_product.h 's/if \(roundsBeforeLeftOver<F> /if (false /'
 fault 'a fixed sum of products begins with zero' src/vector/dot_product.h 's/F::isFixed \? product\(0\) : Working<T>\(0\)/F::isFixed ? Working<T>(0) + product(0) : Working<T>(0)/'
 fault 'the norm of nothing is zero' src/frame/estimate.h 's/^    return s \* \(r \*/    if (s == 0) return 0;\n    return s * (r */'
-fault 'lists of four trust no entry in norms' src/vector/norm.h 's/Source::isList \&\& Length::value == 4/false/'
+fault 'lists of four trust no entry in norms' src/vector/norm.h 's/Source::isList \&\&Length::value == 4/false/'
 fault 'zero less w is minus w' src/vector/cross_product.h 's/W\(0\) - w : -w/-w : -w/'
 
 # Products
@@ -116,6 +116,30 @@ fault 'the last element of 5x5 adds like the others' src/product/vector_kernels.
     's/_mm_add_ss\(_mm_add_ss\(halves, last\), odd\)/_mm_add_ss(_mm_add_ss(halves, odd), last)/'
 fault 'Gaxpy adds its vector first' src/product/gaxpy.h 's/round<T>\(sum \+ Working<T>\(w\.load\(i\)\)\)/round<T>(Working<T>(round<T>(sum)) + Working<T>(w.load(i)))/'
 fault 'the entry at position 8 is tested' src/product/multiply_vector.h 's/Cols::value == 4 \&\& A::layout/Cols::value == 7 \&\& A::layout/'
+
+# Matrices element by element
+fault 'the second matrix is walked with its own stride' src/matrix/combine.h 's/borrowsRowStride = isPipelined<F>/borrowsRowStride = false \&\& isPipelined<F>/'
+fault 'the crossed differences are put right' src/matrix/combine.h 's/isCrossed = worksInLanes<F>/isCrossed = false \&\& worksInLanes<F>/'
+fault 'count 0 works nothing in the pipelined sums' src/matrix/combine.h 's/isPipelined =$/isPipelined = false \&\&/'
+fault 'tables of transposes keep their row lengths' src/matrix/transpose.h 's/source\(rows\), destination\(columns\)/source(columns), destination(rows)/'
+fault 'a trace scans its diagonal' src/matrix/trace.h '/scannedEntries/s/return order;/return order * order;/'
+fault 'a trace in pairs stays wide at its end' src/matrix/trace.h 's/if \(goesInPairs \&\& i/if (false \&\& i/'
+
+# Data movement
+fault 'a copy between tables reads through its own' src/move/copy.h 's/source\.table = dst\.view\(n\)\.table/source.table = source.table/'
+fault 'a transposed table takes its shift' src/move/extract.h 's/view\.stored\.offset = 0/view.stored.offset += 0/'
+fault 'identities of doubles keep their stride in lists' src/move/load_identity.h 's/Destination::isList \? sizeof\(Real32\)/Destination::isList ? sizeof(typename Destination::Element)/'
+fault 'a double is moved as it stands' src/move/moved.h '/__asm__/d'
+
+# Determinants and inverses
+fault 'the best candidate stays in its own precision' src/lu/scratch_elimination.h 's/best = Real32\(candidate\)/best = candidate/'
+fault 'determinants are singular at another tolerance' src/lu/reciprocal.h 's/1e-7 : 1e-15/1e-6 : 1e-14/'
+
+# Cholesky and QR
+fault 'roots of tables round once' src/cholqr/cholesky_decompose.h 's/return 1\.0F \/ __builtin_sqrtf\(s\)/return Real32(1 \/ __builtin_sqrtl(Wide(s)))/'
+fault 'what pairs leave stays wide' src/cholqr/cholesky_decompose.h 's/^( +)s = f\.rounded\(s\);/\1(void)f;/'
+fault 'the tolerance is on the norm, not its square' src/cholqr/qr_decompose.h 's/squaredNormTolerance = 0x1p-23F/squaredNormTolerance = 0x1p-46F/'
+fault 'the scale of a reflector stays wide' src/cholqr/qr_decompose.h 's/return d\.rounded\(-2 \/ squares\)/return -2 \/ squares/'
 
 # Loads, stores, blocks
 fault 'three lanes store a fourth' src/frame/lanes.h '/void store3/,/^}/s/store1\(address, lanes\);/_mm_storeu_ps(floats(address), lanes);/'
