@@ -132,7 +132,7 @@ fault 'identities of doubles keep their stride in lists' src/move/load_identity.
 fault 'a double is moved as it stands' src/move/moved.h '/__asm__/d'
 
 # Determinants and inverses
-fault 'the best candidate stays in its own precision' src/lu/scratch_elimination.h 's/best = Real32\(candidate\)/best = candidate/'
+fault 'the best candidate stays in its own precision' src/lu/scratch_elimination.h 's/auto best = Real32\((.*)\);/auto best = \1;/;s/best = Real32\(candidate\)/best = candidate/'
 fault 'determinants are singular at another tolerance' src/lu/reciprocal.h 's/1e-7 : 1e-15/1e-6 : 1e-14/'
 
 # Cholesky and QR
