@@ -179,7 +179,7 @@ int main(int argc, char **argv) {
     CLI11_PARSE(app, argc, argv);
     try {
         if (toWrite.empty() == toCheck.empty()) throw std::runtime_error("give --write FILE or --check FILE");
-        const std::vector<Function> functions = catalogue::expandBuilt();
+        const std::vector<Function> functions = catalogue::expand();
         const Hashes hashes = takeHashes(functions, library);
         if (toCheck.empty()) return writeFile(toWrite, functions, hashes), 0;
         return check(toCheck, functions, hashes) ? 0 : 1;

@@ -152,16 +152,11 @@ TEST(Catalogue, DeclaresSizesUnsignedButForTheDeliberateExceptions) {
     EXPECT_EQ(typeOf("vonkCholeskyBackSubst_mva_64f_L", "order"), "uint32_t");
 }
 
-TEST(Catalogue, DescribesEveryBuiltFamily) {
-    std::size_t built = 0;
-    for (const catalogue::Section &section : catalogue::sections()) {
-        if (!section.built) continue;
-        ++built;
+TEST(Catalogue, DescribesEveryFamily) {
+    for (const catalogue::Section &section : catalogue::sections())
         for (const std::string_view text :
              {section.title, section.summary, section.text, section.overlap, section.reads})
             EXPECT_FALSE(text.empty()) << section.id;
-    }
-    EXPECT_GE(built, 3U);
 }
 
 } // namespace

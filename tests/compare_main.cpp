@@ -78,7 +78,7 @@ private:
 };
 
 std::vector<Function> selectFunctions(const Options &options) {
-    std::vector<Function> functions = catalogue::expandBuilt();
+    std::vector<Function> functions = catalogue::expand();
     const Pattern wanted(options.only);
     std::erase_if(functions, [&](const Function &function) { return !wanted.occursIn(function.name); });
     return functions;
@@ -184,7 +184,7 @@ bool Comparing::replay() {
     const std::size_t colon = options.replay.find(':');
     if (colon == std::string::npos) throw std::runtime_error("--replay takes NAME:INDEX");
     const std::string name = options.replay.substr(0, colon);
-    const std::vector<Function> functions = catalogue::expandBuilt();
+    const std::vector<Function> functions = catalogue::expand();
     const auto function = std::ranges::find(functions, name, &Function::name);
     if (function == functions.end()) throw std::runtime_error("no export is called " + name);
     if (!prepare(*function)) return false;

@@ -41,11 +41,6 @@ const std::vector<Function> &allFunctions() {
     return all;
 }
 
-const std::vector<Function> &builtFunctions() {
-    static const std::vector<Function> built = catalogue::expandBuilt();
-    return built;
-}
-
 const Function &named(const std::string &name) { return *std::ranges::find(allFunctions(), name, &Function::name); }
 
 std::int32_t faultless(const Call &call) { return model::run({call.function->name, call.words}).status; }
@@ -89,7 +84,7 @@ Call plainCall(const std::string &name) {
 // --- the comparison
 
 TEST(Comparison, PassesTheFaultless) {
-    for (const Function &function : builtFunctions())
+    for (const Function &function : allFunctions())
         for (std::uint64_t index = 0; index < 4; ++index) {
             const Call call = support::makeCall(function, arena(), 3, index);
             const Verdict verdict = compareWith(call, [] {});
@@ -336,7 +331,7 @@ TEST(Invoke, PassesSingleConstants) {
 
 TEST(Calls, AreAFunctionOfSeedNameAndIndex) {
     support::Image first, second;
-    for (const Function &function : builtFunctions()) {
+    for (const Function &function : allFunctions()) {
         const Call once = support::makeCall(function, arena(), 11, 5);
         arena().save(first);
         support::makeCall(function, arena(), 12, 6);
@@ -347,7 +342,7 @@ TEST(Calls, AreAFunctionOfSeedNameAndIndex) {
     }
 }
 
-// Of every function of the catalogue, built or not: the operands fit and lie inside.
+// Of every function of the catalogue: the operands fit and lie inside.
 TEST(Calls, KeepEveryOperandInTheArena) {
     for (const Function &function : allFunctions())
         for (std::uint64_t index = 0; index < 6; ++index) {
@@ -370,7 +365,7 @@ TEST(Calls, ReachEveryKindOfCase) {
     std::uint64_t calls = 0;
     int troubles = 0;
     int couldBeTroubled = 0;
-    for (const Function &function : builtFunctions())
+    for (const Function &function : allFunctions())
         for (std::uint64_t index = 0; index < support::faultRound; ++index, ++calls) {
             const Call call = support::makeCall(function, arena(), 9, index);
             const support::Traits &traits = call.traits;
@@ -397,7 +392,7 @@ TEST(Calls, ReachEveryKindOfCase) {
 }
 
 TEST(Calls, ReachEveryStatusOfEveryExport) {
-    for (const Function &function : builtFunctions()) {
+    for (const Function &function : allFunctions()) {
         std::set<std::int32_t> statuses;
         for (std::uint64_t index = 0; index < 4 * support::faultRound; ++index) {
             const Call call = support::makeCall(function, arena(), 13, index);
@@ -437,7 +432,7 @@ bool isAlignedThroughout(const Call &call) {
 
 TEST(Calls, TakeBothWaysWhereAlignmentChooses) {
     std::size_t choosing = 0;
-    for (const Function &function : builtFunctions()) {
+    for (const Function &function : allFunctions()) {
         if (!support::families::looksAtAlignment(function) || !function.layout.empty()) continue;
         ++choosing;
         constexpr std::size_t made = 200;
@@ -509,7 +504,7 @@ TEST(Bitstream, ShowsOneChangedBitAndNoSignOfANan) {
 
 TEST(Bitstream, HoldsNoCallWhoseOutcomeIsOpen) {
     int inPlace = 0;
-    for (const Function &function : builtFunctions())
+    for (const Function &function : allFunctions())
         for (std::uint64_t index = 0; index < support::bitstreamCalls; ++index) {
             const Call call =
                 support::makeCall(function, arena(), support::bitstreamSeed, index, support::bitstreamMixture());

@@ -21,18 +21,18 @@ constexpr std::string_view differenceGroups = "mm mmT mTm mTmT mma mmaT mTma mTm
 constexpr std::array familyTable = std::to_array<Family>({
     // Vectors and constants
     {"vector-constant", "Add", "vc vac", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count",
-     "vector::combineConstant<vector::Sum>"},
+     "vector::combineConstant<Sum>"},
     {"vector-constant", "Sub", "vc vac", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count",
-     "vector::combineConstant<vector::Difference>"},
+     "vector::combineConstant<Difference>"},
     {"vector-constant", "Sub", "cv cva", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count",
      "vector::combineConstant<vector::ReversedDifference>"},
     {"vector-constant", "Mul", "vc vac", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src val dst len? count",
      "vector::combineConstant<vector::Product>"},
     // Vectors and vectors
     {"vector-vector", "Add", "vv vav vava", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src1 src2 dst len? count",
-     "vector::combine<vector::Sum>"},
+     "vector::combine<Sum>"},
     {"vector-vector", "Sub", "vv vav vva vava", bothTypes, vectorSizes, sixLayouts, "@", 'v',
-     "src1 src2 dst len? count", "vector::combine<vector::Difference>"},
+     "src1 src2 dst len? count", "vector::combine<Difference>"},
     {"saxpy", "Saxpy", "vv vav vva vava", bothTypes, vectorSizes, sixLayouts, "@", 'v', "src1 val src2 dst len? count",
      "vector::saxpy"},
     {"linear-combination", "LComb", "vv vav vava", bothTypes, vectorSizes, sixLayouts, "@", 'v',
@@ -45,9 +45,9 @@ constexpr std::array familyTable = std::to_array<Family>({
      "vector::crossProduct"},
     // Matrices element by element
     {"matrix-matrix", "Add", sumGroups, bothTypes, matrixSizes, sixLayouts, "@", 'm', "src1 src2 dst cols? rows? count",
-     "matrix::combine<matrix::Sum>"},
+     "matrix::combine<Sum>"},
     {"matrix-matrix", "Sub", differenceGroups, bothTypes, matrixSizes, sixLayouts, "@", 'm',
-     "src1 src2 dst cols? rows? count", "matrix::combine<matrix::Difference>"},
+     "src1 src2 dst cols? rows? count", "matrix::combine<Difference>"},
     {"matrix-constant", "Mul", "mc mTc mac maTc", bothTypes, matrixSizes, sixLayouts, "@", 'm',
      "src val dst cols? rows? count", "matrix::scale"},
     {"transpose", "Transpose", "m ma", bothTypes, matrixSizes, sixLayouts, "@", 'm', "src cols? rows? dst count",
@@ -323,12 +323,6 @@ std::vector<Function> expand() {
                     for (const std::string_view layout : layoutsOf(family, group))
                         functions.push_back(
                             makeFunction(family, group, type == "32f" ? Type::real32 : Type::real64, size, layout));
-    return functions;
-}
-
-std::vector<Function> expandBuilt() {
-    std::vector<Function> functions = expand();
-    std::erase_if(functions, [](const Function &function) { return !function.section->built; });
     return functions;
 }
 

@@ -78,7 +78,6 @@ struct Section {
     std::string_view text;    // what is computed, shapes, units, status values, irregular members
     std::string_view overlap; // what may overlap
     std::string_view reads;   // what is read beyond an operand
-    bool built;               // its functions are exported
 };
 
 // A product of operand groups, types, sizes and layouts that share a parameter template.
@@ -117,8 +116,5 @@ std::span<const Family> families();
 
 // All functions of the name grammar in header order; vonkGetLibVersion, which stands outside it, is not among them.
 std::vector<Function> expand();
-
-// The same, of the families that are built.
-std::vector<Function> expandBuilt();
 
 } // namespace catalogue

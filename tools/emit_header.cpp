@@ -94,7 +94,7 @@ std::string header() {
     std::string result(opening);
     const catalogue::Section *section = nullptr;
     std::string block;
-    for (const catalogue::Function &function : catalogue::expandBuilt()) {
+    for (const catalogue::Function &function : catalogue::expand()) {
         if (function.section != section) {
             section = function.section;
             result += "\n" + sectionComment(*section);

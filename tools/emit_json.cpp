@@ -46,10 +46,10 @@ std::string familyJson(const catalogue::Section &section) {
 std::string functionsJson() {
     std::string families;
     for (const catalogue::Section &section : catalogue::sections())
-        if (section.built) families += (families.empty() ? "" : ",\n") + familyJson(section);
+        families += (families.empty() ? "" : ",\n") + familyJson(section);
     std::string functions =
         "    {" + field("name", "vonkGetLibVersion") + ", " + field("family", "version") + ", \"parameters\": []}";
-    for (const catalogue::Function &function : catalogue::expandBuilt()) functions += ",\n" + functionJson(function);
+    for (const catalogue::Function &function : catalogue::expand()) functions += ",\n" + functionJson(function);
     return "{\n  \"library\": \"vonkk3\",\n  \"families\": [\n" + families + "\n  ],\n  \"functions\": [\n" +
            functions + "\n  ]\n}\n";
 }

@@ -1,4 +1,4 @@
-// The reference pages: one a family in Markdown, and an index of all families, built or not.
+// The reference pages: one a family in Markdown, and an index of them.
 #include "emit.h"
 #include "text.h"
 
@@ -51,11 +51,9 @@ std::map<std::string, std::string> reference() {
                         "| family | functions | what it does |\n|---|---|---|\n";
     for (const catalogue::Section &section : catalogue::sections()) {
         const auto count = std::ranges::count(functions, &section, &Function::section);
-        const std::string title = section.built
-                                      ? "[" + std::string(section.title) + "](" + std::string(section.id) + ".md)"
-                                      : std::string(section.title) + " (to come)";
+        const std::string title = "[" + std::string(section.title) + "](" + std::string(section.id) + ".md)";
         index += "| " + title + " | " + std::to_string(count) + " | " + std::string(section.summary) + " |\n";
-        if (section.built) pages[std::string(section.id) + ".md"] = page(section, functions);
+        pages[std::string(section.id) + ".md"] = page(section, functions);
     }
     pages["README.md"] = index;
     return pages;

@@ -63,7 +63,7 @@ std::vector<std::string> arguments(const Function &function) {
 // "lu::decompose" is declared in "lu/decompose.h".
 std::string headerOf(std::string_view routine) {
     const std::size_t separator = routine.find("::");
-    if (separator == std::string_view::npos) throw std::logic_error("a built family has no routine");
+    if (separator == std::string_view::npos) throw std::logic_error("a family has no routine");
     const std::string folder(routine.substr(0, separator));
     std::string file;
     for (const char letter : routine.substr(separator + 2, routine.find('<') - separator - 2)) {
@@ -102,7 +102,7 @@ std::string stub(const Function &function) {
 
 std::map<std::string, std::string> stubs() {
     std::map<std::string, std::string> files;
-    for (const Function &function : catalogue::expandBuilt()) {
+    for (const Function &function : catalogue::expand()) {
         const std::string file = std::string(function.section->id) + "_" + std::string(function.family->operation) +
                                  "_" + std::string(suffix(function.type)) + ".cpp";
         std::string &content = files[file];
@@ -114,7 +114,7 @@ std::map<std::string, std::string> stubs() {
 
 std::string exports() {
     std::vector<std::string> names{"vonkGetLibVersion"};
-    for (const Function &function : catalogue::expandBuilt()) names.push_back(function.name);
+    for (const Function &function : catalogue::expand()) names.push_back(function.name);
     std::ranges::sort(names);
     std::string result;
     for (const std::string &name : names) result += name + "\n";

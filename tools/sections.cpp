@@ -26,7 +26,7 @@ Members that behave unlike their siblings:
      R"(`dst` may be `src` itself. Where it overlaps a source otherwise, elements are read and written in ascending
 order, so a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L`
 load an object whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"vector-vector", "Vector and vector", "element-wise sum and difference of vectors",
      R"(vonkAdd: dst(n, j) = src1(n, j) + src2(n, j)
 vonkSub: dst(n, j) = src1(n, j) - src2(n, j)
@@ -52,7 +52,7 @@ Members that behave unlike their siblings:
      R"(`dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
 order, so a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L`
 load an object whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"saxpy", "Saxpy", "a vector times a constant, plus a vector",
      R"(dst(n, j) = src1(n, j) * val + src2(n, j)
 
@@ -73,7 +73,7 @@ Members that behave unlike their siblings:
   look: it must be one.)",
      R"(`dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
 order, so a `dst` that runs ahead of a source sees new elements.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"linear-combination", "Linear combination", "linear combination of two vectors",
      R"(dst(n, j) = src1(n, j) * val1 + src2(n, j) * val2
 
@@ -95,7 +95,7 @@ Members that behave unlike their siblings:
      R"(`dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
 order, so a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L`
 load an object whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"dot-product", "Dot product", "sum of the products of corresponding elements",
      R"(dst[n] = sum over j of src1(n, j) * src2(n, j)
 
@@ -125,8 +125,7 @@ Members that behave unlike their siblings:
 4x1 of `vav`, 3x1 of `vava` of `32f`, standard layout and `L`) four results are stored behind four sums. A `dst`
 under operands of later objects changes those.)",
      R"(vonkDotProduct_vava_32f_3x1 on its aligned way reads the element behind each of the objects that it takes four at a
-time. No other.)",
-     true},
+time. No other.)"},
     {"norm", "L2 norm", "Euclidean length of a vector",
      R"(dst[n] = square root of the sum over j of src(n, j) * src(n, j)
 
@@ -148,7 +147,7 @@ Members that behave unlike their siblings:
 - vonkL2Norm_va_32f_4x1_L never tests an entry.)",
      R"(Results are stored behind the sum that they are, object by object, or four by four in `va` of `32f` of fixed size in
 the standard layout and `L`. A `dst` under later objects changes those.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"cross-product", "Cross product", "vector product in three dimensions",
      R"(dst(n)[0] = a[1] * b[2] - a[2] * b[1]
 dst(n)[1] = a[2] * b[0] - a[0] * b[2]
@@ -169,7 +168,7 @@ Members that behave unlike their siblings:
 - vonkCrossProduct_vava_32f_3x1 takes objects four at a time, one in each lane, with the same results.)",
      R"(Where both vectors are loaded first (all but the forms told above) `dst` may be either source.
 vonkCrossProduct_vava_32f_3x1 loads four objects before it stores four.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"matrix-matrix", "Matrix and matrix", "element-wise sum and difference of matrices",
      R"(vonkAdd: dst(n, i, j) = A(n, i, j) + B(n, i, j)
 vonkSub: dst(n, i, j) = A(n, i, j) - B(n, i, j)
@@ -214,8 +213,7 @@ it is written. Otherwise elements are read and written in ascending order, so a 
 sees new elements; `32f` of fixed size in the standard layout and `L` loads a row or more before it stores it, and
 how much is not promised.)",
      R"(`32f` of 3x3 in the standard layout and `L`: the element behind each row of `src1` in `maTm`, and of `src2` in
-`mamT`, may be read; its value does not matter. Nothing else.)",
-     true},
+`mamT`, may be read; its value does not matter. Nothing else.)"},
     {"matrix-constant", "Matrix times constant", "each element times a constant",
      R"(dst(n, i, j) = A(n, i, j) * `val`
 
@@ -237,7 +235,7 @@ Members that behave unlike their siblings:
   lie at multiples of 16 bytes. No result depends on it.)",
      R"(Nothing tests overlap. In `mc` and `mac` `dst` may be `src` itself: each element is read before it is written. In
 `mTc` and `maTc` it may not. A partial overlap behaves as told of vonkAdd on matrices.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"transpose", "Transpose", "rows and columns exchanged",
      R"(dst(n, j, i) = src(n, i, j)
 
@@ -257,8 +255,7 @@ Members that behave unlike their siblings:
 the upper triangle has overwritten the lower one by the time that is read. `32f` of 4x4 to 6x6 in the standard
 layout and `L` reads more of an object first; how much is not promised.)",
      R"(In `P` and `PS2` of run-time size, of matrices that are not square: table entries behind the `cols` * `rows`th,
-which are not scanned.)",
-     true},
+which are not scanned.)"},
     {"trace", "Trace", "sum of the diagonal",
      R"(dst(n) = sum over i of src(n, i, i)
 
@@ -280,7 +277,7 @@ Members that behave unlike their siblings:
   which is not where the diagonal lies: a null entry of the diagonal further on is followed.
 - vonkTrace_m_64f and vonkTrace_m_64f_S2, of an odd `order`: the last element is added to the sum as it was stored,
   rounded to 64 bits. All others add it to the unrounded sum.)",
-     R"(Nothing tests overlap. Where `dst` is set to +0 first, an element under it is lost.)", R"(Nothing.)", true},
+     R"(Nothing tests overlap. Where `dst` is set to +0 first, an element under it is lost.)", R"(Nothing.)"},
     {"frobenius-norm", "Frobenius norm", "root of the sum of the squares of all elements",
      R"(dst(n) = root of the sum of src(n, i, j)^2
 
@@ -315,7 +312,7 @@ Members that behave unlike their siblings:
 - `64f` of run-time size, but for `P` and `PS2`, rounds the sum to 64 bits ahead of the root. It overflows to
   infinity and underflows where the others do not.)",
      R"(Nothing tests overlap. A result is written when its matrix has been read, so `dst` may be an element of it.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"matrix-product", "Matrix by matrix", "product of two matrices",
      R"(dst(n, i, j) = sum over k of A(i, k) B(k, j)
 
@@ -355,7 +352,7 @@ Members that behave unlike their siblings:
 B and read A row by row, so some calls in place are right: with `dst` = `src1` where A is not transposed (3x3 to
 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in `mmT`, `mTmT` of 6x6). A
 single operand is never safe under an array.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"matrix-vector", "Matrix by vector", "product of a matrix and a vector",
      R"(dst(n, i) = sum over k of A(i, k) src2(n, k)
 
@@ -381,7 +378,7 @@ Members that behave unlike their siblings:
 - vonkMul_mTv of 4x4 in `P`, both types, never tests the entry at position 8 of the `src1` table.)",
      R"(Nothing tests overlap. In lanes the vector is held before the first store, so `dst` may be `src2`; elsewhere sums
 that are stored at every step destroy it.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"gaxpy", "Gaxpy", "a matrix times a vector, plus a vector",
      R"(dst(n, i) = (sum over k of src1(i, k) src2(n, k)) + src3(n, i)
 
@@ -396,7 +393,7 @@ all four tables ahead of everything else, even at `count` 0; in `L` and `LS2` wh
 0 then gives vonkOk.)",
      R"(Nothing tests overlap. `32f` of fixed size in the standard layout and `L` holds both vectors before it stores, so
 `dst` may be `src2` or `src3`; elsewhere the sum that is stored at every step destroys what lies under it.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"copy", "Copy", "from any of three layouts into any of three layouts",
      R"(dst(n, j) = src(n, j)          (`va`, of `len` elements)
 dst(n, i, j) = src(n, i, j)    (`ma`, of `rows` by `cols`)
@@ -416,7 +413,7 @@ Members that behave unlike their siblings:
 - `ma`: `cols` or `rows` 0 is no error; nothing is written and the status is vonkOk.)",
      R"(`dst` may be `src` itself with the same strides or tables, and all is as before. Any other overlap behaves as the
 forward walk, element by element: a `dst` that runs ahead of `src` sees new elements.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"extract", "Extract", "gathering into one dense block",
      R"(`dst` is a plain pointer and is filled in ascending order, without gaps and strides:
 
@@ -439,7 +436,7 @@ Members that behave unlike their siblings:
   (`m`: if `cols` * `rows` is 0 in 32 bits). vonkExtract_v_32f_P has the usual tests.
 - There is no standard layout, no `maT` of `S2`, and no `mT` of `S2` in `64f`.)",
      R"(Behaves as the forward walk, element by element: elements of `src` that lie under what is written already are new.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"identity", "LoadIdentity", "identity matrices",
      R"(For each object n and each row i, in ascending order: columns 0 to `cols` - 1 of the row become 0, then column n *
 `rows` + i becomes 1. That column runs on from object to object, so only `count` 1 makes an identity: in later
@@ -462,8 +459,7 @@ Members that behave unlike their siblings:
 - vonkLoadIdentity_ma_64f_L takes 4 for the least `dstElemStride`: with a smaller one its elements overlap.)",
      R"(There is no source. Objects and rows that overlap are written one after the other.)",
      R"(In `P`, entries behind the table's own, `rows` * `count` - `cols` of them if there are more rows in all than
-columns; and they are written through, so leave valid ones there.)",
-     true},
+columns; and they are written through, so leave valid ones there.)"},
     {"lu-decomposition", "LU decomposition", "Gaussian elimination with partial pivoting",
      R"(vonkLUDecomp factors each matrix of `src`, `order` by `order`, into a unit lower and an upper triangular factor by
 Gaussian elimination with partial pivoting. Rows are never moved: `pivots`, `order` row indices per object and
@@ -495,8 +491,7 @@ Members that behave unlike their siblings:
      R"(Arrays: with the last pivot of object n at row r of `dst`, one element is read n * `order` * element size bytes
 behind it (standard and `L`), n * `order` * `dstElemStride` bytes behind it (`S2`, `LS2`), or through slot (r + n) *
 `order` + `order` - 1 of the `dst` table (`P`, `PS2`). At the end of an array or table that lies beyond it: leave
-readable memory there, and mind that its value decides over vonkErrSingular.)",
-     true},
+readable memory there, and mind that its value decides over vonkErrSingular.)"},
     {"lu-back-substitution", "LU back substitution", "solving with the factors of an LU decomposition",
      R"(vonkLUBackSubst solves A x = b with what vonkLUDecomp left: `src1` the factors in their unpermuted rows, `pivots`
 the permutation, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system;
@@ -524,7 +519,7 @@ Members that behave unlike their siblings:
   range.)",
      R"(`dst` must not be `src2` unless the permutation is the identity: x(i) is written while b(p[i]) of later rows is
 still needed. Nothing tests overlap; sweeps read what memory holds by then.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"determinant", "Determinant", "determinant, by elimination or as a polynomial in the elements",
      R"(dst[n] = det src(n)
 
@@ -563,7 +558,7 @@ Members that behave unlike their siblings:
 - vonkDet_m of run-time size in `P` tests table entries one by one as it fills `scratch`.)",
      R"(Run-time size copies a matrix to `scratch` first, so `dst` may lie in it; fixed sizes read all of it before they
 store. In arrays, `dst` must not lie in matrices that are yet to come. `scratch` must overlap nothing.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"inverse", "Inverse", "inverse of a matrix",
      R"(dst(n) = inverse of src(n), by one of three methods, each with its own test for a singular matrix: what one of them
 finds singular, another may invert. vonkErrSingular ends the call at once: earlier objects are complete, the failing
@@ -602,7 +597,7 @@ Members that behave unlike their siblings:
      R"(Run-time size reads `src` to the end: `dst` must not overlap it. Fixed sizes read a matrix whole before they store,
 except that 5x5 and 6x6 of `32f` in the standard layout and `L` leave the matrix changed where they fail in place.
 In arrays, no object may lie under the result of an earlier one. `scratch` must overlap nothing.)",
-     R"(Nothing.)", true},
+     R"(Nothing.)"},
     {"cholesky-decomposition", "Cholesky decomposition", "lower factor of a positive definite matrix",
      R"(vonkCholeskyDecomp factors each symmetric positive definite matrix A of `src`, `order` by `order`, into L L', L
 lower triangular with a positive diagonal. `dst` gets L below the diagonal and on it the RECIPROCALS 1 / L(i, i), so
@@ -632,8 +627,7 @@ Members that behave unlike their siblings:
   dropped.
 - `64f`, order 3 and 4, but for `P` and `PS2`: a NaN passes as the very first pivot. F(0, 0) and F(1, 0) are stored,
   and the call fails at the second.)",
-     R"(`dst` may be `src` itself, with the same strides or tables. No other overlap is supported.)", R"(Nothing.)",
-     true},
+     R"(`dst` may be `src` itself, with the same strides or tables. No other overlap is supported.)", R"(Nothing.)"},
     {"cholesky-back-substitution", "Cholesky back substitution", "solving with a Cholesky factor",
      R"(vonkCholeskyBackSubst solves A x = b with what vonkCholeskyDecomp left: `src1` the factor F with the reciprocals on
 its diagonal, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system;
@@ -653,8 +647,7 @@ Members that behave unlike their siblings:
 - Arrays: `count` 0 is vonkErrSize; with its top bit set nothing is done and vonkOk returned. In `S2` and `LS2` the
   same goes for the top bit of `order`.
 - `mva` has no word behind `src1` that its matrix does not need, as the other two families of solvers have.)",
-     R"(`dst` may be `src2` itself. Nothing tests overlap; both ways read what memory holds by then.)", R"(Nothing.)",
-     true},
+     R"(`dst` may be `src2` itself. Nothing tests overlap; both ways read what memory holds by then.)", R"(Nothing.)"},
     {"qr-decomposition", "QR decomposition", "Householder reflectors and upper factor",
      R"(vonkQRDecomp factors each matrix of `src`, `rows` by `cols` with `rows` >= `cols`, into an orthogonal Q and an upper
 triangular R by Householder reflections, column by column. `dst` gets R on and above the diagonal and below it, in
@@ -679,8 +672,7 @@ table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the ob
 `count` 0 gives vonkOk. vonkErrSingular leaves the objects before the failing one complete, that one with the
 reflections before the failing column, and those after it untouched. A matrix with more columns than rows always
 fails so: after its last row there is nothing left.)",
-     R"(`dst` may be `src` itself, with the same strides or tables. `work` must overlap neither.)", R"(Nothing.)",
-     true},
+     R"(`dst` may be `src` itself, with the same strides or tables. `work` must overlap neither.)", R"(Nothing.)"},
     {"qr-back-substitution", "QR back substitution", "least squares with the factors of a QR decomposition",
      R"(vonkQRBackSubst solves A x = b with what vonkQRDecomp left in `src1`, `rows` by `cols`: exactly if A is square, else
 x minimises the residual. `src2` is b, of `rows` elements, `dst` is x, of `cols`. `work` is a block of `rows`
@@ -712,7 +704,7 @@ Members that behave unlike their siblings:
 - vonkQRBackSubst_mv_32f copies b in blocks of eight from 11 rows on, where `work` does not overlap it.)",
      R"(`dst` may be `src2`, which is read before. `work` must not overlap `src1` or `dst`; the copy from `src2` runs
 forward, element by element.)",
-     R"(`mava` of `64f` in `L`: what lies at the places told above, up to a row ahead of the object.)", true},
+     R"(`mava` of `64f` in `L`: what lies at the places told above, up to a row ahead of the object.)"},
 });
 } // namespace
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/extent.h"
+#include "frame/operations.h"
 #include "frame/untested_position.h"
 #include "frame/walk.h"
 #include "matrix/crossed_rows.h"
@@ -12,23 +13,11 @@
 
 namespace vonkk3::matrix {
 
-struct Sum {
-    static constexpr bool isSum = true;
-    template <class Real> Real operator()(Real a, Real b) const { return a + b; }
-    __m128 operator()(__m128 a, __m128 b) const { return _mm_add_ps(a, b); }
-};
-
-struct Difference {
-    static constexpr bool isSum = false;
-    template <class Real> Real operator()(Real a, Real b) const { return a - b; }
-    __m128 operator()(__m128 a, __m128 b) const { return _mm_sub_ps(a, b); }
-};
-
 // ---- Members that behave unlike their siblings ----------------------------------------------------------------------
 
 // One form of what `combine` is called with: the facts below are told about it.
 template <class Operation, class A, class B, class D, class Columns> struct Form {
-    static constexpr bool isSum = Operation::isSum;
+    static constexpr bool isSum = std::is_same_v<Operation, Sum>;
     static constexpr bool isReal32 = std::is_same_v<typename D::Element, Real32>;
     static constexpr Layout layout = D::layout;
     static constexpr bool firstArray = A::isArray, firstTransposed = A::isTransposed;

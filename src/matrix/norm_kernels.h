@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/estimate.h"
+#include "frame/four_objects.h"
 #include "frame/lanes.h"
 #include "matrix/runs.h"
 
@@ -13,10 +14,6 @@ VONKK3_INLINE __m128 square(__m128 a) { return _mm_mul_ps(a, a); }
 
 // Lanes 0 and 2, 1 and 3 of two registers, each pair side by side with its counterpart: what a sum of halves adds.
 VONKK3_INLINE __m128 addHalves(__m128 a, __m128 b) { return add(_mm_movelh_ps(a, b), _mm_movehl_ps(b, a)); }
-// Neighbours: (a0 + a1, a2 + a3, b0 + b1, b2 + b3).
-VONKK3_INLINE __m128 addNeighbours(__m128 a, __m128 b) {
-    return add(_mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)));
-}
 VONKK3_INLINE __m128 lane(__m128 lanes, int which) {
     switch (which) {
     case 1: return _mm_shuffle_ps(lanes, lanes, _MM_SHUFFLE(1, 1, 1, 1));

@@ -21,6 +21,7 @@ inline constexpr std::size_t prefetchThreshold = 4096;
 
 // Where the hints of a block stand: all ahead of its first half, or one ahead of each half.
 enum class Prefetch { atHead, inHalves };
+template <class Operation> inline constexpr Prefetch prefetchOf = Prefetch::atHead;
 
 inline std::size_t pastBoundary(const std::byte *address) {
     return reinterpret_cast<std::uintptr_t>(address) % laneBytes;
@@ -64,9 +65,9 @@ inline std::size_t walkWholeBlocks(const Operation &operation, std::byte *d, std
         const std::size_t half = at + laneBytes;
         const bool far = length >= prefetchThreshold;
         if (far) prefetchOnce(last + at + prefetchDistance);
-        if (far && Operation::prefetch == Prefetch::atHead) (prefetchOnce(others + at + prefetchDistance), ...);
+        if (far && prefetchOf<Operation> == Prefetch::atHead) (prefetchOnce(others + at + prefetchDistance), ...);
         store4Aligned(d + at, operation(load4(others + at)..., load4<ofLast>(last + at)));
-        if (far && Operation::prefetch == Prefetch::inHalves) (prefetchOnce(others + at + prefetchDistance), ...);
+        if (far && prefetchOf<Operation> == Prefetch::inHalves) (prefetchOnce(others + at + prefetchDistance), ...);
         store4Aligned(d + half, operation(load4(others + half)..., load4<ofLast>(last + half)));
     }
     return end;

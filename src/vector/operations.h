@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/lanes.h"
+#include "frame/operations.h"
 #include "vector/block_walk.h"
 
 namespace vonkk3::vector {
@@ -20,18 +21,6 @@ template <> struct Constant<Real32> {
     operator Real32() const { return value; }
 };
 
-struct Sum {
-    static constexpr Prefetch prefetch = Prefetch::atHead;
-    template <class Real> Real operator()(Real a, Real b) const { return a + b; }
-    __m128 operator()(__m128 a, __m128 b) const { return _mm_add_ps(a, b); }
-};
-
-struct Difference {
-    static constexpr Prefetch prefetch = Prefetch::atHead;
-    template <class Real> Real operator()(Real a, Real b) const { return a - b; }
-    __m128 operator()(__m128 a, __m128 b) const { return _mm_sub_ps(a, b); }
-};
-
 // Constant less element.
 struct ReversedDifference {
     template <class Real> Real operator()(Real a, Real b) const { return b - a; }
@@ -45,7 +34,6 @@ struct Product {
 
 // One of these with a constant as its second operand.
 template <class T, class Operation> struct WithConstant {
-    static constexpr Prefetch prefetch = Prefetch::atHead;
     Constant<T> constant;
     Working<T> operator()(Working<T> a) const { return Operation{}(a, Working<T>(constant)); }
     __m128 operator()(__m128 a) const { return Operation{}(a, constant.lanes); }
@@ -53,15 +41,15 @@ template <class T, class Operation> struct WithConstant {
 
 // First product, then sum, never fused.
 template <class T> struct ScaledSum {
-    static constexpr Prefetch prefetch = Prefetch::inHalves;
     Constant<T> factor;
     Working<T> operator()(Working<T> a, Working<T> b) const { return a * factor + b; }
     __m128 operator()(__m128 a, __m128 b) const { return _mm_add_ps(_mm_mul_ps(a, factor.lanes), b); }
 };
 
+template <class T> inline constexpr Prefetch prefetchOf<ScaledSum<T>> = Prefetch::inHalves;
+
 // Two products, then their sum. A factor of zero is no shortcut: it makes a NaN of an infinity.
 template <class T> struct LinearCombination {
-    static constexpr Prefetch prefetch = Prefetch::atHead;
     Constant<T> first, second;
     Working<T> operator()(Working<T> a, Working<T> b) const { return a * first + b * second; }
     __m128 operator()(__m128 a, __m128 b) const {

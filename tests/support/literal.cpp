@@ -82,7 +82,7 @@ void chooseStrides(Place &place, Geometry geometry, std::uint32_t count) {
 } // namespace
 
 const std::vector<Function> &allMembers() {
-    static const std::vector<Function> functions = catalogue::expandBuilt();
+    static const std::vector<Function> functions = catalogue::expand();
     return functions;
 }
 
