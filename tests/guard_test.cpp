@@ -4,6 +4,7 @@
 // the fourth element behind rows of three in some sums of matrices, and the displaced triangle of
 // vonkQRBackSubst_mava_64f in `L`.
 #include "support/control.h"
+#include "support/families.h"
 #include "support/literal.h"
 #include "support/literal_checks.h"
 
@@ -595,12 +596,90 @@ TEST(Guards, FindNoBlockOfVectorsOutsideItsOperands) {
     }
 }
 
-TEST(Guards, FindNoBlockOfFourMatricesOutsideItsOperands) {
+// Whatever works four objects or eight side by side beside these.
+bool worksObjectsSideBySide(const Function &function) {
+    static const std::set<std::string_view> sections{"frobenius-norm",
+                                                     "matrix-product",
+                                                     "matrix-vector",
+                                                     "cholesky-decomposition",
+                                                     "cholesky-back-substitution",
+                                                     "qr-decomposition",
+                                                     "qr-back-substitution"};
+    return sections.contains(function.section->id) && function.array() && function.order != 0 &&
+           function.type == catalogue::Type::real32;
+}
+
+TEST(Guards, FindNoBlockOfMatricesOutsideItsOperands) {
     for (const Function &function : literal::allMembers()) {
-        if (function.family->operation != "FrobNorm" || !function.array() || function.order == 0) continue;
-        for (std::uint32_t count = 1; count <= 9; ++count)
+        if (!worksObjectsSideBySide(function)) continue;
+        for (const std::uint32_t count : {4U, 9U, 14U})
             for (const Arrangement arrangement : arrangements) expectNoFault(function, 0, count, arrangement);
     }
+}
+
+// ---- Lists that end at a null entry
+
+// Sums that load an object ahead do one even where there are none.
+bool doesOneForNone(const Function &function) {
+    return (function.family->operation == "Add" || function.family->operation == "Sub") && function.order == 3 &&
+           function.type == catalogue::Type::real32 && (function.group == "mam" || function.group == "mamT") &&
+           (function.layout.empty() || function.layout == "L");
+}
+
+// Leaves the list so many entries, at the end of a page, the last of them null if it is to be.
+void cutList(Call &call, const catalogue::Operand &operand, std::size_t entries, bool endsInNull) {
+    Place &place = call[operand.name];
+    std::vector<std::byte *> kept(place.entries.begin(), place.entries.begin() + static_cast<std::ptrdiff_t>(entries));
+    if (endsInNull)
+        kept.back() = reinterpret_cast<std::byte *>(support::families::nullEntry(call.function(), place.shift));
+    GuardedMemory &readable = guards().readable;
+    const std::size_t bytes = entries * sizeof(std::byte *);
+    std::byte *const put = readable.take("the list of " + operand.name, 1, bytes, true);
+    std::memcpy(put + readable.alias(), kept.data(), bytes);
+    place.table = reinterpret_cast<std::byte *const *>(put);
+}
+
+void expectNothingReadBehindNull(const Function &function, const catalogue::Operand &nullOperand, std::uint32_t null) {
+    SCOPED_TRACE(function.name + ", entry " + std::to_string(null) + " of " + nullOperand.name);
+    guards().giveBack();
+    Call call(function.name, 3, 9);
+    placeAll(call, {false, true, 1});
+    fill(call);
+    for (const catalogue::Operand &operand : function.operands)
+        if (operand.array && catalogue::isList(operand.layout))
+            cutList(call, operand, null + 1, operand.name == nullOperand.name);
+    Slots slots;
+    if (function.family->operation == "LUDecomp")
+        for (std::uint32_t n = 1; n < null; ++n) allowDisplacedLook(call, n, slots);
+    for (std::uint32_t n = 0; displacesTriangle(function) && n < null; ++n) allowDisplacedTriangle(call, n);
+    allowFourthElements(call);
+    std::int32_t status = 1;
+    const auto fault = faultOf([&] { status = call.run(); });
+    if (fault) ADD_FAILURE() << "touched memory " << guards().holding(*fault).describe(*fault);
+    else EXPECT_EQ(status, vonkErrNullPtr);
+}
+
+// A null entry that is tested ends the call, so it may end the lists too; but a member that loads ahead looks at the
+// last entry of its destination first, norms of 3x3 and 4x4 look at the entries of four objects together, and Cholesky
+// back substitution passes over the object.
+bool looksBehindNull(const Function &function) {
+    return doesOneForNone(function) || function.section->id == "cholesky-back-substitution" ||
+           (function.section->id == "frobenius-norm" && function.layout == "L" && function.order <= 4);
+}
+
+TEST(Guards, FindNoListReadBehindANullEntry) {
+    std::set<std::string> tried;
+    for (const Function &function : literal::allMembers()) {
+        if (!function.array() || looksBehindNull(function)) continue;
+        for (const catalogue::Operand &operand : function.operands)
+            for (const std::uint32_t null : {0U, 1U, 2U, 3U, 5U, 7U, 8U}) {
+                if (!operand.array || !catalogue::isList(operand.layout)) continue;
+                if (!support::families::testsEntry(function, operand, {{}, 9}, null)) continue;
+                tried.insert(function.name);
+                expectNothingReadBehindNull(function, operand, null);
+            }
+    }
+    EXPECT_GT(tried.size(), 1000U);
 }
 
 // ---- Calls that have nothing to do
@@ -615,13 +694,6 @@ void pointOutOfBounds(Call &call) {
             call.pass(parameter.name, reinterpret_cast<std::uintptr_t>(guards().readable.outOfBounds()));
         }
     }
-}
-
-// Sums that load an object ahead do one even where there are none.
-bool doesOneForNone(const Function &function) {
-    return (function.family->operation == "Add" || function.family->operation == "Sub") && function.order == 3 &&
-           function.type == catalogue::Type::real32 && (function.group == "mam" || function.group == "mamT") &&
-           (function.layout.empty() || function.layout == "L");
 }
 
 TEST(Guards, FindOneObjectTouchedForNoneByWhoLoadsAhead) {

@@ -284,6 +284,23 @@ TEST(InverseSingularity, OfFastClosedFormsIsADeterminantOfZero) {
     }
 }
 
+// The determinant is that of row 0 and its cofactors. Equal rows 2 and 3 make all these zero; that rows 0 and 1 are
+// equal is lost in the roundings.
+TEST(InverseSingularity, OfTheFastFormOfFourStandsOnTheCofactorsOfRowZero) {
+    const Matrix equal{1.0 / 3, 1.0 / 7, 1.0 / 11, 1.0 / 13};
+    const Matrix others[]{{1.0 / 17, 1.0 / 19, 1.0 / 23, 1.0 / 29}, {1.0 / 31, 1.0 / 37, 1.0 / 41, 1.0 / 43}};
+    const auto matrixOf = [](const std::vector<Matrix> &rows) {
+        Matrix matrix;
+        for (const Matrix &row : rows) matrix.insert(matrix.end(), row.begin(), row.end());
+        return matrix;
+    };
+    for (const Function *function : where([](const Function &found) { return isFast(found) && found.order == 4; })) {
+        SCOPED_TRACE(function->name);
+        EXPECT_EQ(statusOf(*function, matrixOf({equal, equal, others[0], others[1]})), vonkOk);
+        EXPECT_EQ(statusOf(*function, matrixOf({others[0], others[1], equal, equal})), vonkErrSingular);
+    }
+}
+
 // A determinant of 1e-30: the elements are 1e-20 times 1e30.
 TEST(InverseSingularity, LeavesTheFastFormOfThreeItsHugeResults) {
     for (const Function *function : where([](const Function &found) { return found.order == 3; })) {

@@ -66,20 +66,14 @@ public:
           amongRightSides(dst, 1, src2, 1, order, count), amongThemselves(dst, 1, dst, 1, order, count) {}
 
     VONKK3_INLINE bool operator()(std::size_t n) {
-        if (!amongFactors.ofFourFrom(n) || !amongRightSides.ofFourFrom(n) || !amongThemselves.ofFourFrom(n))
-            return false;
-        for (std::size_t k = 0; k < four; ++k)
-            if (beginsAtNull(src1.view(n + k)) || beginsAtNull(src2.view(n + k)) || beginsAtNull(dst.view(n + k)))
-                return false;
-
+        if (anyBeginsAtNull(n, four, src1, src2, dst) || !isClear(n)) return false;
         work<FourReals>(n);
         return true;
     }
 
     static constexpr bool worksEight = FourMatrices<Factor, Solution, order>::isGatheredOnce;
     VONKK3_INLINE bool eightFrom(std::size_t n) {
-        if (!amongFactors.ofFourFrom(n) || !amongRightSides.ofFourFrom(n) || !amongThemselves.ofFourFrom(n))
-            return false;
+        if (anyBeginsAtNull(n, 2 * four, src1, src2, dst) || !isClear(n)) return false;
         work<EightReals>(n);
         return true;
     }
@@ -92,6 +86,10 @@ private:
     Clearance<Solution, Factor> amongFactors;
     Clearance<Solution, RightSide> amongRightSides;
     Clearance<Solution, Solution> amongThemselves;
+
+    VONKK3_INLINE bool isClear(std::size_t n) const {
+        return amongFactors.ofFourFrom(n) && amongRightSides.ofFourFrom(n) && amongThemselves.ofFourFrom(n);
+    }
 
     template <class Reals> VONKK3_INLINE void work(std::size_t n) {
         Reals b[1][order], x[1][order];

@@ -146,9 +146,8 @@ public:
 
     static constexpr bool worksEight = false;
     VONKK3_INLINE bool operator()(std::size_t n) const {
-        if (!isOpen || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n)) return false;
-        for (std::size_t k = 0; k < four; ++k)
-            if (beginsAtNull(src.view(n + k)) || beginsAtNull(dst.view(n + k))) return false;
+        if (!isOpen || anyBeginsAtNull(n, four, src, dst)) return false;
+        if (!amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n)) return false;
         FourReals f[order][order];
         FourReals row[order];
         const bool definite = factorStraight<FourReals>(

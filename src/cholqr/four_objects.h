@@ -76,6 +76,13 @@ private:
     }
 };
 
+// Of objects n to n + 3; nothing is looked at behind the first null entry.
+template <class... Operands> VONKK3_INLINE bool anyListEntryNull(std::size_t n, const Operands &...operands) {
+    for (std::size_t k = n; k < n + four; ++k)
+        if ((operands.listHasNull(k) || ...)) return true;
+    return false;
+}
+
 // `one` for each object in turn, but for four objects at once, or eight, where `fourFrom` says that it has done them.
 // Nulls and failures are left to `one`.
 template <class Count, class FourFrom, class One>

@@ -153,9 +153,7 @@ public:
     }
 
     VONKK3_INLINE bool operator()(std::size_t n) {
-        if (!isClear(n)) return false;
-        for (std::size_t k = 0; k < four; ++k)
-            if (src1.listHasNull(n + k) || src2.listHasNull(n + k) || dst.listHasNull(n + k)) return false;
+        if (anyListEntryNull(n, src1, src2, dst) || !isClear(n)) return false;
         solveFrom<FourReals>(n);
         return true;
     }

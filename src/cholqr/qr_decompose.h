@@ -127,11 +127,10 @@ public:
 
     static constexpr bool worksEight = false;
     VONKK3_INLINE bool operator()(std::size_t n) const {
-        if (!isOpen || !amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) || !ofWork.ofFourFrom(n) ||
+        if (!isOpen || anyListEntryNull(n, src, dst)) return false;
+        if (!amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) || !ofWork.ofFourFrom(n) ||
             !ofWorkAmongSources.ofFourFrom(n))
             return false;
-        for (std::size_t k = 0; k < four; ++k)
-            if (src.listHasNull(n + k) || dst.listHasNull(n + k)) return false;
 
         FourReals d[order][order], v[1][order];
         forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { gatherRows(src, n, i, order, d[i]); });

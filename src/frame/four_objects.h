@@ -125,7 +125,7 @@ struct Columns {
     VONKK3_INLINE __m128 operator[](std::size_t j) const { return column[j]; }
 };
 
-// Of four registers, sums of neighbouring lanes: for rows r and s, (r0 + r1, r2 + r3, s0 + s1, s2 + s3).
+// Sums of neighbouring lanes of two registers: (r0 + r1, r2 + r3, s0 + s1, s2 + s3).
 VONKK3_INLINE __m128 addNeighbours(__m128 r, __m128 s) {
     return _mm_add_ps(pick<0, 2, 0, 2>(r, s), pick<1, 3, 1, 3>(r, s));
 }

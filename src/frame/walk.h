@@ -4,7 +4,7 @@
 //     if (anyNull(src, pivots, dst)) return vonkErrNullPtr;
 //     if (order.isZero()) return vonkErrSize;
 //     if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
-//     return forEachObject(count, src, dst, ...);
+//     return forEachObject(count, work, src, dst);
 #pragma once
 
 #include "frame/operands.h"

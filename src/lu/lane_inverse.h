@@ -86,8 +86,8 @@ VONKK3_INLINE __m128 minorsOfThreeNegated(const TurnedRow &v, const PairMinors &
 }
 
 // The cofactors of a row, from the row that is paired with it and the minors of the two others, are a column of the
-// adjugate. The determinant comes from the minors of both pairs, with the alternating signs of the cofactors. False,
-// and nothing stored, if it is zero.
+// adjugate. The determinant is that of row 0 and its cofactors, (p0 + p2) - (p1 + p3). False, and nothing stored, if it
+// is zero.
 VONKK3_INLINE bool invertFourInLanes(const RowsView<const Real32> &matrix, const RowsView<Real32> &inverse) {
     const TurnedRow row2(load4(matrix.at(2, 0))), row3(load4(matrix.at(3, 0)));
     const PairMinors lower(row2, row3);
@@ -96,10 +96,9 @@ VONKK3_INLINE bool invertFourInLanes(const RowsView<const Real32> &matrix, const
     const PairMinors upper(row0, row1);
     __m128 column2 = minorsOfThree(row3, upper), column3 = minorsOfThree(row2, upper);
 
-    const __m128 near = _mm_mul_ps(upper.near, turnedByTwo(lower.near));
-    const __m128 far = _mm_mul_ps(upper.far, turnedByOne(lower.far));
-    const __m128 halves = _mm_add_ps(_mm_sub_ps(near, far), turnedByTwo(near));
-    const __m128 determinant = _mm_sub_ps(halves, turnedByOne(halves)); // D, -D, D, -D
+    const __m128 terms = _mm_mul_ps(row0.row, turnedByOne(column0)); // with alternating signs
+    const __m128 pairs = _mm_add_ps(terms, turnedByTwo(terms));
+    const __m128 determinant = _mm_sub_ps(pairs, turnedByOne(pairs)); // D, -D, D, -D
     if (_mm_cvtss_f32(determinant) == 0) return false;
     const __m128 r = reciprocalByEstimate(determinant), negatedR = turnedByOne(r);
 

@@ -75,7 +75,7 @@ VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<6>) {
 
 // ---- Four objects, one per lane -------------------------------------------------------------------------------------
 
-// ((p00 + p01) + p22) + (p02 + p10)) + ((p11 + p12) + (p20 + p21))
+// (((p00 + p01) + p22) + (p02 + p10)) + ((p11 + p12) + (p20 + p21))
 template <Rows rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<3>) {
     __m128 first[4], second[4], corner[4]; // p00 p01 p02 p10, p11 p12 p20 p21, p22
     forEachBelow<4>([&](std::size_t k) VONKK3_INLINED {

@@ -41,10 +41,10 @@ inline bool overlap(const std::byte *a, const std::byte *b, std::size_t bytes) {
 
 // ---- Element by element into a destination --------------------------------------------------------------------------
 
-// The plain loop, over elements [from, to). A destination that runs ahead of a source sees elements already written.
-// Only where there may be many of them is it worth the compiler's while to look for lanes in it.
+// Only where there may be many elements is it worth the compiler's while to look for lanes in the plain loop.
 enum class Many { yes, no };
 
+// The plain loop, over elements [from, to). A destination that runs ahead of a source sees elements already written.
 template <Many many, class Operation, class... Sources>
 inline void walkElements(const Operation &operation, std::byte *d, std::size_t from, std::size_t to,
                          Sources... sources) {
