@@ -111,10 +111,7 @@ VONKK3_INLINE VonkStatus choleskyBackSubstitute(const Factor &src1, const RightS
     if (order.isZero() || count == 0) return vonkErrSize;
     if (hasTopBit(count) || (ordersWithSign<Solution> && hasTopBit(order))) return vonkOk;
     const auto one = [&](std::size_t n) VONKK3_INLINED {
-        const auto factor = src1.view(n, order);
-        const auto b = src2.view(n);
-        const auto x = dst.view(n);
-        if (!beginsAtNull(factor) && !beginsAtNull(b) && !beginsAtNull(x)) solveObject(factor, b, x, order);
+        if (!anyBeginsAtNull(n, 1, src1, src2, dst)) solveObject(src1.view(n, order), src2.view(n), dst.view(n), order);
         return vonkOk;
     };
     if constexpr (worksFourAtOnce<Solution, Order>)

@@ -181,10 +181,8 @@ VONKK3_INLINE VonkStatus choleskyDecompose(const Source &src, const Factor &dst,
     if (order.isZero() || count == 0) return vonkErrSize;
     if (countsWithSign<Factor> && hasTopBit(count)) return vonkOk;
     const auto one = [&](std::size_t n) VONKK3_INLINED {
-        const auto source = src.view(n, order);
-        const auto target = dst.view(n, order);
-        if (beginsAtNull(source) || beginsAtNull(target)) return VonkStatus(vonkErrNullPtr);
-        return factor(source, target, order);
+        if (anyBeginsAtNull(n, 1, src, dst)) return VonkStatus(vonkErrNullPtr);
+        return factor(src.view(n, order), dst.view(n, order), order);
     };
     if constexpr (worksFourAtOnce<Factor, Order>)
         if (count >= four)
