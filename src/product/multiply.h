@@ -4,6 +4,7 @@
 #include "frame/walk.h"
 #include "product/kernels.h"
 #include "product/packed_triples.h"
+#include "product/position_runs.h"
 #include "product/schemes.h"
 #include "product/shape.h"
 
@@ -99,6 +100,7 @@ VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &
                                              src1.view(0).base, dst.view(0).base, 3 * inBlocks(count)) /
                        3;
         }
+        if constexpr (P::layout == Layout::P) done = multiplyPositionRuns<order, order, false>(src1, src2, dst, count);
         return walk([&](std::size_t n) VONKK3_INLINED { return multiplyObject(n, held); });
     }
 }
@@ -119,9 +121,12 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
             return vonkErrNullPtr;
 
     if constexpr (scheme == Scheme::rowBroadcast) return multiplyInLanes<P>(src1, src2, dst, cols1, count);
-    else
-        return forEachObject(
-            count,
+    else {
+        std::size_t done = 0;
+        if constexpr (P::isArray && P::layout == Layout::P && std::is_same_v<T, Real32> && Cols1::isFixed)
+            done = multiplyPositionRuns<Cols1::value, Cols1::value, true>(src1, src2, dst, count);
+        return forEachObjectFrom(
+            done, count,
             [&](std::size_t n) VONKK3_INLINED {
                 const auto a = src1.view(n, P::firstTransposed ? rows1 : cols1);
                 const auto b = src2.view(n, P::secondTransposed ? rows2 : cols2);
@@ -132,6 +137,7 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
                         a, b, d, size.template rows<P>(), size.template columns<P>(), size.template terms<P>());
             },
             src1, src2, dst);
+    }
 }
 
 } // namespace vonkk3::product

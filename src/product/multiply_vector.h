@@ -3,6 +3,7 @@
 
 #include "frame/untested_position.h"
 #include "product/packed_triples.h"
+#include "product/position_runs.h"
 #include "product/schemes.h"
 #include "product/vector_kernels.h"
 
@@ -72,9 +73,12 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
 
     if constexpr (multipliesVectorInLanes<T, D::layout, Cols>)
         return multiplyVectorInLanes(src1, src2, dst, cols, count);
-    else
-        return forEachObject(
-            count,
+    else {
+        std::size_t done = 0;
+        if constexpr (Count::isArray && A::layout == Layout::P && std::is_same_v<T, Real32> && Cols::isFixed)
+            done = multiplyPositionRuns<Cols::value, 1, true>(src1, src2, dst, count);
+        return forEachObjectFrom(
+            done, count,
             [&](std::size_t n) VONKK3_INLINED {
                 const auto a = src1.view(n, A::isTransposed ? std::size_t(rows) : std::size_t(cols));
                 const ColumnView v{src2.view(n)};
@@ -85,6 +89,7 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
                 else return sumIntoCells<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
             },
             src1, src2, dst);
+    }
 }
 
 } // namespace vonkk3::product

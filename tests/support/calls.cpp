@@ -122,6 +122,8 @@ void Builder::chooseSizes() {
     families::relateDimensions(function, sizes, random);
     if (function.array())
         sizes.count = static_cast<std::uint32_t>(random.percent(85) ? random.between(1, 6) : random.between(7, 9));
+    if (!mixture.fixedOutcomesOnly && families::turnsAtEightObjects(function) && random.percent(40))
+        sizes.count = static_cast<std::uint32_t>(random.between(7, 14));
 }
 
 // --- strides and relations

@@ -95,6 +95,11 @@ bool turnsAtEleven(const Function &function) {
            !function.array();
 }
 
+bool turnsAtEightObjects(const Function &function) {
+    return in(function, {"matrix-product", "matrix-vector", "gaxpy"}) && function.array() && function.layout == "P" &&
+           function.type == catalogue::Type::real32 && function.order != 0;
+}
+
 // The two words of a product that are compared; the others are free.
 std::pair<std::string_view, std::string_view> comparedWords(const Function &function) {
     const bool first = function.operands[0].transposed;

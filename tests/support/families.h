@@ -23,6 +23,9 @@ Shape shapeOf(const catalogue::Function &function, const catalogue::Operand &ope
 // Whether vectors of 11 elements and more take another road than shorter ones, so that calls are to crowd about there.
 bool turnsAtEleven(const catalogue::Function &function);
 
+// Whether calls for 8 objects and more take another road than those for fewer.
+bool turnsAtEightObjects(const catalogue::Function &function);
+
 // Makes the dimensions fit one another, where a function compares them.
 void relateDimensions(const catalogue::Function &function, Sizes &sizes, Random &random);
 

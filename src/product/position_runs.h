@@ -1,0 +1,169 @@
+// Real32 products of fixed order in the pointer layout with packed objects, where every position is a run of elements,
+// one for each object: four objects at a time, an element of each in a lane. Every lane is rounded as one object is,
+// and this way stands open only where the operands lie apart, so nobody can tell.
+#pragma once
+
+#include "frame/extent.h"
+#include "frame/lanes.h"
+#include "frame/operands.h"
+#include "frame/unroll.h"
+
+namespace vonkk3::product {
+
+// Fewer objects than this are not worth the looking.
+inline constexpr std::size_t worthRuns = 8;
+
+// ---- Where the runs lie ---------------------------------------------------------------------------------------------
+
+// What the positions of an operand lead to, in the order in which they enter the product; the table that says so; and
+// the bytes of a run, of all objects or of the one element of a single operand.
+template <class Byte, std::size_t count> struct PositionRuns {
+    static constexpr std::size_t positions = count;
+    Byte *run[count];
+    std::size_t bytes;
+    Extent table;
+
+    VONKK3_INLINE Byte *operator[](std::size_t position) const { return run[position]; }
+};
+
+template <std::size_t rows, std::size_t columns, class Operand>
+VONKK3_INLINE auto runsOf(const Operand &operand, std::size_t objects) {
+    constexpr std::size_t positions = rows * columns;
+    const auto table = operand.tableView(columns);
+    using Byte = std::remove_pointer_t<decltype(table.at(0))>;
+    PositionRuns<Byte, positions> runs{
+        {}, (Operand::isArray ? objects : 1) * sizeof(Real32), Extent(table.table, positions * sizeof(void *))};
+    for (std::size_t i = 0; i < rows; ++i)
+        for (std::size_t j = 0; j < columns; ++j)
+            runs.run[i * columns + j] = Operand::isTransposed ? table.at(j, i) : table.at(i, j);
+    return runs;
+}
+
+// The smallest block that holds all the runs. They mostly lie in one block an operand, and a look at that will do.
+template <class Runs> VONKK3_INLINE Extent hullOf(const Runs &runs) {
+    Extent hull(runs[0], runs.bytes);
+    for (std::size_t k = 1; k < Runs::positions; ++k) {
+        const Extent run(runs[k], runs.bytes);
+        if (run.begin < hull.begin) hull.begin = run.begin;
+        if (run.end > hull.end) hull.end = run.end;
+    }
+    return hull;
+}
+
+template <class Runs> VONKK3_INLINE bool areApart(const Runs &runs, const Extent &block) {
+    if (areApart(hullOf(runs), block)) return true;
+    for (std::size_t k = 0; k < Runs::positions; ++k)
+        if (!areApart(Extent(runs[k], runs.bytes), block)) return false;
+    return true;
+}
+
+// Whether the written runs are apart from the read ones and the table of these.
+template <class Written, class Read> inline bool areApart(const Written &written, const Read &read) {
+    if (!areApart(written, read.table)) return false;
+    if (areApart(hullOf(written), hullOf(read))) return true;
+    for (std::size_t k = 0; k < Read::positions; ++k)
+        if (!areApart(written, Extent(read[k], read.bytes))) return false;
+    return true;
+}
+
+// Whether runs are apart from each other and from their table, the first of which shows where each follows another.
+template <class Runs> inline bool areApart(const Runs &runs) {
+    if (!areApart(runs, runs.table)) return false;
+    bool follow = true;
+    for (std::size_t k = 1; k < Runs::positions; ++k)
+        follow &= reinterpret_cast<std::uintptr_t>(runs[k]) >= Extent(runs[k - 1], runs.bytes).end;
+    if (follow) return true;
+    for (std::size_t k = 1; k < Runs::positions; ++k)
+        for (std::size_t before = 0; before < k; ++before)
+            if (!areApart(Extent(runs[k], runs.bytes), Extent(runs[before], runs.bytes))) return false;
+    return true;
+}
+
+template <class Written, class Read> inline bool areTheSame(const Written &written, const Read &read) {
+    bool same = true;
+    for (std::size_t k = 0; k < Read::positions; ++k) same &= written[k] == read[k];
+    return same;
+}
+
+// ---- Products -------------------------------------------------------------------------------------------------------
+
+// 3x3 by a single matrix that is held in all lanes; sums begin at the first product. It goes row by row, so the results
+// may lie just on the first operand.
+template <class A, class B, class D>
+inline void multiplyRunsOfThree(const A &a, const B &b, const D &d, std::size_t objects) {
+    __m128 factor[9];
+    for (std::size_t k = 0; k < 9; ++k) factor[k] = _mm_set1_ps(loadAt<Real32>(b[k]));
+    for (std::size_t i = 0; i < 9; i += 3) {
+        const std::byte *const a0 = a[i], *const a1 = a[i + 1], *const a2 = a[i + 2];
+        std::byte *const d0 = d[i], *const d1 = d[i + 1], *const d2 = d[i + 2];
+        for (std::size_t at = 0; at < objects * sizeof(Real32); at += laneBytes) {
+            const __m128 x = load4(a0 + at), y = load4(a1 + at), z = load4(a2 + at);
+            store4(d0 + at, (x * factor[0] + y * factor[3]) + z * factor[6]);
+            store4(d1 + at, (x * factor[1] + y * factor[4]) + z * factor[7]);
+            store4(d2 + at, (x * factor[2] + y * factor[5]) + z * factor[8]);
+        }
+    }
+}
+
+// Running sums from +0, cell by cell, over as many objects at a time as stay close to the processor with all their
+// runs. An operand that is single has its factor in all lanes.
+template <std::size_t terms, bool isArray> struct Factors {
+    const std::byte *run[terms];
+    __m128 lanes[terms];
+    VONKK3_INLINE void take(std::size_t k, const std::byte *begin) {
+        if constexpr (isArray) run[k] = begin;
+        else lanes[k] = _mm_set1_ps(loadAt<Real32>(begin));
+    }
+    VONKK3_INLINE __m128 of(std::size_t k, std::size_t at) const {
+        if constexpr (isArray) return load4(run[k] + at);
+        else return lanes[k];
+    }
+};
+
+template <std::size_t order, std::size_t columns, bool firstArray, bool secondArray, class A, class B, class D>
+inline void sumRuns(const A &a, const B &b, const D &d, std::size_t objects) {
+    constexpr std::size_t close = 64 * laneBytes;
+    const std::size_t end = objects * sizeof(Real32);
+    for (std::size_t from = 0; from < end; from += close) {
+        const std::size_t to = end - from < close ? end : from + close;
+        for (std::size_t cell = 0; cell < order * columns; ++cell) {
+            Factors<order, firstArray> left;
+            Factors<order, secondArray> right;
+            for (std::size_t k = 0; k < order; ++k) {
+                left.take(k, a[cell / columns * order + k]);
+                right.take(k, b[k * columns + cell % columns]);
+            }
+            std::byte *const target = d[cell];
+            for (std::size_t at = from; at < to; at += laneBytes) {
+                __m128 sum = _mm_setzero_ps();
+                forIndices(0, order, fixed<order>,
+                           [&](std::size_t k) VONKK3_INLINED { sum = sum + left.of(k, at) * right.of(k, at); });
+                store4(target + at, sum);
+            }
+        }
+    }
+}
+
+// ---- The way in -----------------------------------------------------------------------------------------------------
+
+// How many objects were done: all that make fours, or none.
+template <std::size_t order, std::size_t columns, bool sumsFromZero, class A, class B, class D>
+inline std::size_t multiplyPositionRuns(const A &src1, const B &src2, const D &dst, std::size_t objects) {
+    if (objects < worthRuns) return 0;
+    const std::size_t done = objects / 4 * 4;
+    const auto a = runsOf<order, order>(src1, done);
+    const auto b = runsOf<order, columns>(src2, done);
+    const auto d = runsOf<order, columns>(dst, done);
+    if (!areApart(d) || !areApart(d, b)) return 0;
+    if constexpr (sumsFromZero) {
+        if (!areApart(d, a)) return 0;
+        sumRuns<order, columns, A::isArray, B::isArray>(a, b, d, done);
+    } else {
+        const bool liesOnFirst = areTheSame(d, a) && areApart(d, a.table);
+        if (!liesOnFirst && !areApart(d, a)) return 0;
+        multiplyRunsOfThree(a, b, d, done);
+    }
+    return done;
+}
+
+} // namespace vonkk3::product
