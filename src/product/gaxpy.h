@@ -48,14 +48,17 @@ inline VonkStatus gaxpy(const A &src1, const V &src2, const W &src3, const D &ds
             return vonkErrNullPtr;
 
     if constexpr (multipliesVectorInLanes<T, D::layout, Cols>) return gaxpyInLanes(src1, src2, src3, dst, cols, count);
-    else
-        return forEachObject(
-            count,
+    else {
+        std::size_t done = 0;
+        if constexpr (sumsInRuns<A, Cols, Count>) done = sumInRuns<Cols::value, 1>(src1, src2, dst, count, src3);
+        return forEachObjectFrom(
+            done, count,
             [&](std::size_t n) VONKK3_INLINED {
                 return gaxpyObject<T, accumulatesInCell<T, D::layout>, !Count::isArray>(
                     src1.view(n, cols), src2.view(n), src3.view(n), dst.view(n), rows, cols);
             },
             src2, src3, dst);
+    }
 }
 
 } // namespace vonkk3::product

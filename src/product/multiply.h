@@ -100,7 +100,7 @@ VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &
                                              src1.view(0).base, dst.view(0).base, 3 * inBlocks(count)) /
                        3;
         }
-        if constexpr (P::layout == Layout::P) done = multiplyPositionRuns<order, order, false>(src1, src2, dst, count);
+        if constexpr (P::layout == Layout::P) done = multiplyRunsOfThree(src1, src2, dst, count);
         return walk([&](std::size_t n) VONKK3_INLINED { return multiplyObject(n, held); });
     }
 }
@@ -123,8 +123,7 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
     if constexpr (scheme == Scheme::rowBroadcast) return multiplyInLanes<P>(src1, src2, dst, cols1, count);
     else {
         std::size_t done = 0;
-        if constexpr (P::isArray && P::layout == Layout::P && std::is_same_v<T, Real32> && Cols1::isFixed)
-            done = multiplyPositionRuns<Cols1::value, Cols1::value, true>(src1, src2, dst, count);
+        if constexpr (sumsInRuns<A, Cols1, Count>) done = sumInRuns<Cols1::value, Cols1::value>(src1, src2, dst, count);
         return forEachObjectFrom(
             done, count,
             [&](std::size_t n) VONKK3_INLINED {

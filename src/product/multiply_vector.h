@@ -75,8 +75,7 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
         return multiplyVectorInLanes(src1, src2, dst, cols, count);
     else {
         std::size_t done = 0;
-        if constexpr (Count::isArray && A::layout == Layout::P && std::is_same_v<T, Real32> && Cols::isFixed)
-            done = multiplyPositionRuns<Cols::value, 1, true>(src1, src2, dst, count);
+        if constexpr (sumsInRuns<A, Cols, Count>) done = sumInRuns<Cols::value, 1>(src1, src2, dst, count);
         return forEachObjectFrom(
             done, count,
             [&](std::size_t n) VONKK3_INLINED {

@@ -13,6 +13,10 @@ namespace vonkk3::product {
 // Fewer objects than this are not worth the looking.
 inline constexpr std::size_t worthRuns = 8;
 
+template <class Operand, class Order, class Count>
+inline constexpr bool sumsInRuns =
+    Count::isArray &&Operand::layout == Layout::P &&Order::isFixed &&std::is_same_v<typename Operand::Element, Real32>;
+
 // ---- Where the runs lie ---------------------------------------------------------------------------------------------
 
 // What the positions of an operand lead to, in the order in which they enter the product; the table that says so; and
@@ -86,28 +90,37 @@ template <class Written, class Read> inline bool areTheSame(const Written &writt
 }
 
 // ---- Products -------------------------------------------------------------------------------------------------------
+// Each returns how many objects were done: all that make fours, or none.
 
-// 3x3 by a single matrix that is held in all lanes; sums begin at the first product. It goes row by row, so the results
-// may lie just on the first operand.
+// 3x3 by a single matrix, which is held in all lanes; sums begin at the first product. It goes row by row, so the
+// results may lie just on the first operand.
 template <class A, class B, class D>
-inline void multiplyRunsOfThree(const A &a, const B &b, const D &d, std::size_t objects) {
+inline std::size_t multiplyRunsOfThree(const A &src1, const B &src2, const D &dst, std::size_t objects) {
+    if (objects < worthRuns) return 0;
+    const std::size_t done = objects / 4 * 4;
+    const auto a = runsOf<3, 3>(src1, done);
+    const auto b = runsOf<3, 3>(src2, done);
+    const auto d = runsOf<3, 3>(dst, done);
+    const bool liesOnFirst = areTheSame(d, a) && areApart(d, a.table);
+    if (!areApart(d) || !areApart(d, b) || !(liesOnFirst || areApart(d, a))) return 0;
+
     __m128 factor[9];
     for (std::size_t k = 0; k < 9; ++k) factor[k] = _mm_set1_ps(loadAt<Real32>(b[k]));
     for (std::size_t i = 0; i < 9; i += 3) {
         const std::byte *const a0 = a[i], *const a1 = a[i + 1], *const a2 = a[i + 2];
         std::byte *const d0 = d[i], *const d1 = d[i + 1], *const d2 = d[i + 2];
-        for (std::size_t at = 0; at < objects * sizeof(Real32); at += laneBytes) {
+        for (std::size_t at = 0; at < done * sizeof(Real32); at += laneBytes) {
             const __m128 x = load4(a0 + at), y = load4(a1 + at), z = load4(a2 + at);
             store4(d0 + at, (x * factor[0] + y * factor[3]) + z * factor[6]);
             store4(d1 + at, (x * factor[1] + y * factor[4]) + z * factor[7]);
             store4(d2 + at, (x * factor[2] + y * factor[5]) + z * factor[8]);
         }
     }
+    return done;
 }
 
-// Running sums from +0, cell by cell, over as many objects at a time as stay close to the processor with all their
-// runs. An operand that is single has its factor in all lanes.
-template <std::size_t terms, bool isArray> struct Factors {
+// The factors of a cell's terms; those of a single operand are in all lanes.
+template <std::size_t terms, bool isArray> struct RunFactors {
     const std::byte *run[terms];
     __m128 lanes[terms];
     VONKK3_INLINE void take(std::size_t k, const std::byte *begin) {
@@ -120,15 +133,26 @@ template <std::size_t terms, bool isArray> struct Factors {
     }
 };
 
-template <std::size_t order, std::size_t columns, bool firstArray, bool secondArray, class A, class B, class D>
-inline void sumRuns(const A &a, const B &b, const D &d, std::size_t objects) {
+// Running sums from +0, to which elements of the addends are added last, cell by cell: over as many objects at a time
+// as stay close to the processor with all their runs.
+template <std::size_t order, std::size_t columns, class A, class B, class D, class... Addends>
+inline std::size_t sumInRuns(const A &src1, const B &src2, const D &dst, std::size_t objects,
+                             const Addends &...addends) {
+    if (objects < worthRuns) return 0;
+    const std::size_t done = objects / 4 * 4;
+    const auto a = runsOf<order, order>(src1, done);
+    const auto b = runsOf<order, columns>(src2, done);
+    const auto d = runsOf<order, columns>(dst, done);
+    if (!areApart(d) || !areApart(d, a) || !areApart(d, b)) return 0;
+    if ((!areApart(d, runsOf<order, columns>(addends, done)) || ...)) return 0;
+
     constexpr std::size_t close = 64 * laneBytes;
-    const std::size_t end = objects * sizeof(Real32);
+    const std::size_t end = done * sizeof(Real32);
     for (std::size_t from = 0; from < end; from += close) {
         const std::size_t to = end - from < close ? end : from + close;
         for (std::size_t cell = 0; cell < order * columns; ++cell) {
-            Factors<order, firstArray> left;
-            Factors<order, secondArray> right;
+            RunFactors<order, A::isArray> left;
+            RunFactors<order, B::isArray> right;
             for (std::size_t k = 0; k < order; ++k) {
                 left.take(k, a[cell / columns * order + k]);
                 right.take(k, b[k * columns + cell % columns]);
@@ -138,30 +162,10 @@ inline void sumRuns(const A &a, const B &b, const D &d, std::size_t objects) {
                 __m128 sum = _mm_setzero_ps();
                 forIndices(0, order, fixed<order>,
                            [&](std::size_t k) VONKK3_INLINED { sum = sum + left.of(k, at) * right.of(k, at); });
+                ((sum = sum + load4(addends.tableView(columns).at(cell) + at)), ...);
                 store4(target + at, sum);
             }
         }
-    }
-}
-
-// ---- The way in -----------------------------------------------------------------------------------------------------
-
-// How many objects were done: all that make fours, or none.
-template <std::size_t order, std::size_t columns, bool sumsFromZero, class A, class B, class D>
-inline std::size_t multiplyPositionRuns(const A &src1, const B &src2, const D &dst, std::size_t objects) {
-    if (objects < worthRuns) return 0;
-    const std::size_t done = objects / 4 * 4;
-    const auto a = runsOf<order, order>(src1, done);
-    const auto b = runsOf<order, columns>(src2, done);
-    const auto d = runsOf<order, columns>(dst, done);
-    if (!areApart(d) || !areApart(d, b)) return 0;
-    if constexpr (sumsFromZero) {
-        if (!areApart(d, a)) return 0;
-        sumRuns<order, columns, A::isArray, B::isArray>(a, b, d, done);
-    } else {
-        const bool liesOnFirst = areTheSame(d, a) && areApart(d, a.table);
-        if (!liesOnFirst && !areApart(d, a)) return 0;
-        multiplyRunsOfThree(a, b, d, done);
     }
     return done;
 }
