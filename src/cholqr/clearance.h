@@ -2,8 +2,8 @@
 // can tell: what is written for one object must not be read for a later one.
 #pragma once
 
-#include "cholqr/four_reals.h"
 #include "frame/extent.h"
+#include "frame/four_reals.h"
 #include "frame/operands.h"
 
 namespace vonkk3::cholqr {

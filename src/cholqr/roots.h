@@ -2,7 +2,7 @@
 // without it.
 #pragma once
 
-#include "cholqr/four_reals.h"
+#include "frame/four_reals.h"
 
 namespace vonkk3::cholqr {
 

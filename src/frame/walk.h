@@ -50,20 +50,26 @@ VONKK3_INLINE VonkStatus forEachObject(Count count, Work work, const Operands &.
 // The same for objects that take only a few instructions and cannot fail: the loop is unrolled, or its own counting
 // would cost as much as the work.
 template <class Work, class... Operands>
+VONKK3_INLINE VonkStatus forEachLightObjectFrom(std::size_t first, Objects count, Work work,
+                                                const Operands &...operands) {
+    const std::size_t objects = count;
+    VONKK3_UNROLL_FOURFOLD
+    for (std::size_t n = first; n < objects; ++n) {
+        if ((operands.listHasNull(n) || ...)) [[unlikely]]
+            return vonkErrNullPtr;
+        work(n);
+    }
+    return vonkOk;
+}
+
+template <class Work, class... Operands>
 VONKK3_INLINE VonkStatus forEachLightObject(OneObject, Work work, const Operands &...) {
     return work(0), vonkOk;
 }
 
 template <class Work, class... Operands>
 VONKK3_INLINE VonkStatus forEachLightObject(Objects count, Work work, const Operands &...operands) {
-    const std::size_t objects = count;
-    VONKK3_UNROLL_FOURFOLD
-    for (std::size_t n = 0; n < objects; ++n) {
-        if ((operands.listHasNull(n) || ...)) [[unlikely]]
-            return vonkErrNullPtr;
-        work(n);
-    }
-    return vonkOk;
+    return forEachLightObjectFrom(0, count, work, operands...);
 }
 
 // Whether arrays lie equally spaced. One running offset then serves all of them, which leaves a light object's loop

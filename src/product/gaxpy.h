@@ -9,17 +9,22 @@ template <class A, class V, class W, class D, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus gaxpyInLanes(const A &src1, const V &src2, const W &src3, const D &dst, Fixed<order>,
                                       Count count) {
     if (count == 0) return vonkOk; // nothing is read, the matrix neither
-    const auto matrices = matricesInLanes<order>(src1);
-    return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED {
-            const typename HeldMatrix<A, order>::Factors v(src2.view(n).base);
-            const ProductVector w = loadVector<order>(src3.view(n).base);
+    using Held = HeldMatrix<A, order>;
+    const auto matrices = matricesInLanes<Held>(src1);
+    const auto walk = [&](auto forEach, const auto &w, const auto &d) VONKK3_INLINED {
+        return forEach([&](std::size_t n) VONKK3_INLINED {
+            const typename Held::Factors v(src2.view(n).base);
+            const ProductVector addend = loadVector<order>(w.view(n).base);
             const ProductVector product = matrices(n).times(v);
-            storeVector<order>(dst.view(n).base, {add(product.head, w.head), add(product.tail, w.tail)});
+            storeVector<order>(d.view(n).base, {add(product.head, addend.head), add(product.tail, addend.tail)});
             return vonkOk;
-        },
-        src2, src3, dst);
+        });
+    };
+    if constexpr (order <= 4 && Count::isArray && D::layout == Layout::Standard)
+        if (equallySpaced(src2, src3, dst))
+            return walk([&](auto work) VONKK3_INLINED { return forEachLightObject(count, work); }, src3.spacedAs(src2),
+                        dst.spacedAs(src2));
+    return walk([&](auto work) VONKK3_INLINED { return forEachObject(count, work, src2, src3, dst); }, src3, dst);
 }
 
 // One object element by element. Of a single object in tables, an element's entries of src3 and dst are tested ahead of

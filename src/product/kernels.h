@@ -22,6 +22,16 @@ VONKK3_INLINE __m128 broadcastLane(__m128 lanes, std::size_t lane) {
     }
 }
 
+// One lane of each of two registers, in two lanes.
+VONKK3_INLINE __m128 broadcastLane(__m128 upper, __m128 lower, std::size_t lane) {
+    switch (lane) {
+    case 0: return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(0, 0, 0, 0));
+    case 1: return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(1, 1, 1, 1));
+    case 2: return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(2, 2, 2, 2));
+    default: return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(3, 3, 3, 3));
+    }
+}
+
 inline __m128 broadcastPair(Real32 low, Real32 high) { return _mm_setr_ps(low, low, high, high); }
 inline __m128 multiplyAdd(__m128 sum, __m128 a, __m128 b) { return _mm_add_ps(sum, _mm_mul_ps(a, b)); }
 
@@ -128,12 +138,9 @@ template <class T> struct TwoRowFactors<RowsView<T>> {
     VONKK3_INLINE TwoRowFactors(const RowsView<T> &a, std::size_t i) {
         const __m128 upper = load4(a.at(i, 0)), lower = load4(a.at(i + 1, 0));
         const __m128 upperEnd = load2(a.at(i, 4)), lowerEnd = load2(a.at(i + 1, 4));
-        elements[0] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(0, 0, 0, 0));
-        elements[1] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(1, 1, 1, 1));
-        elements[2] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(2, 2, 2, 2));
-        elements[3] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(3, 3, 3, 3));
-        elements[4] = _mm_shuffle_ps(upperEnd, lowerEnd, _MM_SHUFFLE(0, 0, 0, 0));
-        elements[5] = _mm_shuffle_ps(upperEnd, lowerEnd, _MM_SHUFFLE(1, 1, 1, 1));
+        forIndices(0, 4, fixed<4>, [&](std::size_t k) VONKK3_INLINED { elements[k] = broadcastLane(upper, lower, k); });
+        elements[4] = broadcastLane(upperEnd, lowerEnd, 0);
+        elements[5] = broadcastLane(upperEnd, lowerEnd, 1);
     }
     VONKK3_INLINE __m128 operator[](std::size_t k) const { return elements[k]; }
 };

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "frame/walk.h"
+#include "product/four_rows.h"
 #include "product/kernels.h"
 #include "product/packed_triples.h"
 #include "product/position_runs.h"
+#include "product/row_pairs.h"
 #include "product/schemes.h"
 #include "product/shape.h"
 
@@ -73,35 +75,43 @@ VONKK3_INLINE void multiplyHeld(const A &a, const B &b, HeldRows<order> &held, c
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
+// Ways that take another order of reads and stores, or several objects at a time, and look first whether the operands
+// lie so that nobody can tell. How many objects were done, from the first on.
+template <class P, std::size_t order, class A, class B, class D>
+VONKK3_INLINE std::size_t multiplyUnseen(const A &src1, const B &src2, const D &dst, std::size_t objects) {
+    constexpr bool isOfRows = P::layout == Layout::Standard && P::firstArray && !P::firstTransposed;
+    if constexpr (P::layout == Layout::P) return multiplyRunsOfThree(src1, src2, dst, objects);
+    else if constexpr (isOfRows && order == 3 && !P::secondArray) return multiplyTriplesByOne(src1, src2, dst, objects);
+    else if constexpr (isOfRows && order == 5 && !P::secondArray && !P::secondTransposed)
+        return multiplyFourRows<order>(src1, src2, dst, objects);
+    else if constexpr (isOfRows && order == 6 && !P::secondTransposed)
+        return multiplyByRowPairs(src1, src2, dst, objects);
+    else return 0;
+}
+
 template <class P, class A, class B, class D, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &dst, Fixed<order>, Count count) {
-    const auto multiplyObject = [&](std::size_t n, HeldRows<order> &held) VONKK3_INLINED {
-        multiplyHeld<P>(src1.view(n, order), src2.view(n, order), held, dst.view(n, order));
-        return vonkOk;
+    if (count == 0) return vonkOk; // nothing is read, a single operand neither
+    const auto multiplyFrom = [&](std::size_t first, auto work) VONKK3_INLINED {
+        const auto multiplyObject = [&](std::size_t n) VONKK3_INLINED {
+            work(src1.view(n, order), src2.view(n, order), dst.view(n, order));
+            return vonkOk;
+        };
+        if constexpr (testsEntries<Real32, P, order>)
+            return forEachObjectFrom(first, count, multiplyObject, src1, src2, dst);
+        else return forEachObjectFrom(first, count, multiplyObject);
     };
-    std::size_t done = 0;
-    const auto walk = [&](auto work) VONKK3_INLINED {
-        if constexpr (testsEntries<Real32, P, order>) return forEachObjectFrom(done, count, work, src1, src2, dst);
-        else return forEachObjectFrom(done, count, work);
-    };
-    if constexpr (P::secondArray)
-        return walk([&](std::size_t n) VONKK3_INLINED {
-            HeldRows<order> held = hold<P, order>(src2.view(n, order));
-            return multiplyObject(n, held);
+    if constexpr (P::secondArray) {
+        const std::size_t done = multiplyUnseen<P, order>(src1, src2, dst, count);
+        return multiplyFrom(done, [](const auto &a, const auto &b, const auto &d) VONKK3_INLINED {
+            HeldRows<order> held = hold<P, order>(b);
+            multiplyHeld<P>(a, b, held, d);
         });
-    else {
-        if (count == 0) return vonkOk; // nothing is read, the single operand neither
-        HeldRows<order> held = hold<P, order>(src2.view(0, order));
-        if constexpr (order == 3 && P::layout == Layout::Standard && !P::firstTransposed) {
-            // The rows of packed matrices are vectors, multiplied by the single matrix transposed.
-            if (equallySpaced(src1, dst) && dst.objectSpacing() == 9 * sizeof(Real32) && src1.hasPackedRows(3) &&
-                dst.hasPackedRows(3))
-                done = multiplyPackedTriples([b = src2.view(0)](auto i, auto k) { return b.load(k, i); },
-                                             src1.view(0).base, dst.view(0).base, 3 * inBlocks(count)) /
-                       3;
-        }
-        if constexpr (P::layout == Layout::P) done = multiplyRunsOfThree(src1, src2, dst, count);
-        return walk([&](std::size_t n) VONKK3_INLINED { return multiplyObject(n, held); });
+    } else {
+        HeldRows<order> held = hold<P, order>(src2.view(0, order)); // before any result may be stored on it
+        const std::size_t done = multiplyUnseen<P, order>(src1, src2, dst, count);
+        return multiplyFrom(done, [&](const auto &a, const auto &b, const auto &d)
+                                      VONKK3_INLINED { multiplyHeld<P>(a, b, held, d); });
     }
 }
 

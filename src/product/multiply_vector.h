@@ -29,34 +29,44 @@ template <class Held, bool isArray, class Load> VONKK3_INLINE auto heldOrLoaded(
     else return [held = load(0)](std::size_t) -> const Held & { return held; };
 }
 
-template <std::size_t order, class A> VONKK3_INLINE auto matricesInLanes(const A &src) {
-    using Held = HeldMatrix<A, order>;
+template <class Held, class A> VONKK3_INLINE auto matricesInLanes(const A &src) {
     return heldOrLoaded<Held, A::isArray>([&src](std::size_t n) VONKK3_INLINED { return Held(src.view(n)); });
 }
 
-template <std::size_t order, class A, class V> VONKK3_INLINE auto factorsInLanes(const V &src) {
-    using Factors = typename HeldMatrix<A, order>::Factors;
+template <class Held, class V> VONKK3_INLINE auto factorsInLanes(const V &src) {
+    using Factors = typename Held::Factors;
     return heldOrLoaded<Factors, V::isArray>([&src](std::size_t n)
                                                  VONKK3_INLINED { return Factors(src.view(n).base); });
 }
 
-template <class A, class V, class D, std::size_t order, class Count>
-VONKK3_INLINE VonkStatus multiplyVectorInLanes(const A &src1, const V &src2, const D &dst, Fixed<order>, Count count) {
-    if (count == 0) return vonkOk; // nothing is read, a single operand neither
-    const auto matrices = matricesInLanes<order>(src1);
-    const auto vectors = factorsInLanes<order, A>(src2);
-    std::size_t done = 0;
-    if constexpr (order == 3 && !A::isArray && V::isArray && D::layout == Layout::Standard)
-        if (equallySpaced(src2, dst) && dst.objectSpacing() == 3 * sizeof(Real32))
-            done = multiplyPackedTriples([a = src1.view(0)](auto i, auto k) { return a.load(i, k); }, src2.view(0).base,
-                                         dst.view(0).base, count);
-    return forEachObjectFrom(
-        done, count,
-        [&](std::size_t n) VONKK3_INLINED {
+// A product of order 3 or 4 takes few instructions, and equally spaced vectors can share one running offset.
+template <class Held, class A, class V, class D, std::size_t order, class Count>
+VONKK3_INLINE VonkStatus multiplyVectors(const A &src1, const V &src2, const D &dst, Fixed<order>, Count count) {
+    const auto matrices = matricesInLanes<Held>(src1); // ahead of all results, one of which may be stored on it
+    const auto vectors = factorsInLanes<Held>(src2);
+    const auto walk = [&](auto forEach, const auto &dst) VONKK3_INLINED {
+        return forEach([&](std::size_t n) VONKK3_INLINED {
             storeVector<order>(dst.view(n).base, matrices(n).times(vectors(n)));
             return vonkOk;
-        },
-        src1, src2, dst);
+        });
+    };
+    std::size_t done = 0;
+    if constexpr (order == 3 && !A::isArray && V::isArray && D::layout == Layout::Standard)
+        done = multiplyOneByTriples(src1, src2, dst, count);
+    if constexpr (order <= 4 && V::isArray && D::layout == Layout::Standard)
+        if (equallySpaced(src2, dst))
+            return walk([&](auto work) VONKK3_INLINED { return forEachLightObjectFrom(done, count, work); },
+                        dst.spacedAs(src2));
+    return walk([&](auto work) VONKK3_INLINED { return forEachObjectFrom(done, count, work, src1, src2, dst); }, dst);
+}
+
+template <class A, class V, class D, std::size_t order, class Count>
+VONKK3_INLINE VonkStatus multiplyVectorInLanes(const A &src1, const V &src2, const D &dst, Fixed<order> size,
+                                               Count count) {
+    if (count == 0) return vonkOk; // nothing is read, a single operand neither
+    if constexpr (order == 3 && A::isArray && !A::isTransposed && A::layout == Layout::Standard)
+        if (src1.hasPackedRows(3)) return multiplyVectors<PackedMatrixOfThree>(src1, src2, dst, size, count);
+    return multiplyVectors<HeldMatrix<A, order>>(src1, src2, dst, size, count);
 }
 
 template <class A, class Cols, class Rows, class V, class Length, class D, class Count>

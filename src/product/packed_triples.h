@@ -43,4 +43,23 @@ inline std::size_t multiplyPackedTriples(const Element &elementAt, const std::by
     return end;
 }
 
+// The two products that are made of that, and how many objects were done: all that make fours, or none.
+template <class A, class V, class D>
+VONKK3_INLINE std::size_t multiplyOneByTriples(const A &src1, const V &src2, const D &dst, std::size_t objects) {
+    if (!equallySpaced(src2, dst) || dst.objectSpacing() != 3 * sizeof(Real32)) return 0;
+    return multiplyPackedTriples([a = src1.view(0)](auto i, auto k) { return a.load(i, k); }, src2.view(0).base,
+                                 dst.view(0).base, objects);
+}
+
+// The rows of packed matrices are vectors, multiplied by the single matrix transposed.
+template <class A, class B, class D>
+VONKK3_INLINE std::size_t multiplyTriplesByOne(const A &src1, const B &src2, const D &dst, std::size_t objects) {
+    if (!equallySpaced(src1, dst) || dst.objectSpacing() != 9 * sizeof(Real32) || !src1.hasPackedRows(3) ||
+        !dst.hasPackedRows(3))
+        return 0;
+    return multiplyPackedTriples([b = src2.view(0)](auto i, auto k) { return b.load(k, i); }, src1.view(0).base,
+                                 dst.view(0).base, 3 * inBlocks(objects)) /
+           3;
+}
+
 } // namespace vonkk3::product

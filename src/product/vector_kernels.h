@@ -33,6 +33,13 @@ template <std::size_t order> VONKK3_INLINE void storeVector(std::byte *address, 
     } else Lanes<order>{vector.head, vector.tail}.store(address);
 }
 
+// For two registers u and l, (u0 + u2, u1 + u3, l0 + l2, l1 + l3). One of the two operands takes whole halves from
+// both, which a processor does on more of its ways than it shuffles.
+VONKK3_INLINE __m128 addHalves(__m128 u, __m128 l) {
+    const __m128 outer = _mm_castpd_ps(_mm_move_sd(_mm_castps_pd(l), _mm_castps_pd(u)));
+    return add(outer, _mm_shuffle_ps(u, l, _MM_SHUFFLE(1, 0, 3, 2)));
+}
+
 // ---- The matrix as stored, by order ---------------------------------------------------------------------------------
 
 template <std::size_t order> struct PlainMatrix;
@@ -59,6 +66,31 @@ template <> struct PlainMatrix<3> {
     VONKK3_INLINE ProductVector times(const Factors &v) const {
         const __m128 sum = multiplyAdd(multiply(columns[0], v.elements[0]), columns[1], v.elements[1]);
         return {multiplyAdd(sum, columns[2], v.elements[2]), _mm_setzero_ps()};
+    }
+};
+
+// The same of packed rows, for a matrix that serves one vector alone: registers begin at each row, but the last at the
+// element ahead, so that none reaches beyond the matrix; products are turned instead of elements.
+struct PackedMatrixOfThree {
+    struct Factors {
+        __m128 elements, behindOther; // from lane 0 on, and from lane 1 on
+        VONKK3_INLINE explicit Factors(const std::byte *v)
+            : elements(loadVector<3>(v).head),
+              behindOther(_mm_shuffle_ps(elements, elements, _MM_SHUFFLE(2, 1, 0, 3))) {}
+    };
+    __m128 row0, row1, row2;
+
+    VONKK3_INLINE explicit PackedMatrixOfThree(const RowsView<const Real32> &a)
+        : row0(load4(a.at(0))), row1(load4(a.at(3))), row2(load4(a.at(5))) {}
+
+    VONKK3_INLINE ProductVector times(const Factors &v) const {
+        const __m128 upper = multiply(row0, v.elements), middle = multiply(row1, v.elements);
+        const __m128 lower = multiply(row2, v.behindOther);
+        const __m128 firstTwo = _mm_unpacklo_ps(upper, middle), third = _mm_unpackhi_ps(upper, middle);
+        const __m128 p0 = _mm_shuffle_ps(firstTwo, lower, _MM_SHUFFLE(1, 1, 1, 0));
+        const __m128 p1 = _mm_shuffle_ps(firstTwo, lower, _MM_SHUFFLE(2, 2, 3, 2));
+        const __m128 p2 = _mm_shuffle_ps(third, lower, _MM_SHUFFLE(3, 3, 1, 0));
+        return {add(add(p0, p1), p2), _mm_setzero_ps()};
     }
 };
 
@@ -102,7 +134,7 @@ template <> struct PlainMatrix<4> {
             multiplyAdd(multiply(pairs[0].columns[0], v.elements[0]), pairs[0].columns[1], v.elements[1]);
         const __m128 lower =
             multiplyAdd(multiply(pairs[1].columns[0], v.elements[0]), pairs[1].columns[1], v.elements[1]);
-        return {add(_mm_movelh_ps(upper, lower), _mm_movehl_ps(lower, upper)), _mm_setzero_ps()};
+        return {addHalves(upper, lower), _mm_setzero_ps()};
     }
 };
 
@@ -120,8 +152,7 @@ struct PassingMatrixOfFour {
 
     // (p0 + p2, p1 + p3) of rows i and i + 1.
     VONKK3_INLINE __m128 halves(std::size_t i, const Factors &v) const {
-        const __m128 upper = multiply(rows[i], v.elements), lower = multiply(rows[i + 1], v.elements);
-        return add(_mm_movelh_ps(upper, lower), _mm_movehl_ps(lower, upper));
+        return addHalves(multiply(rows[i], v.elements), multiply(rows[i + 1], v.elements));
     }
     VONKK3_INLINE ProductVector times(const Factors &v) const {
         const __m128 upper = halves(0, v), lower = halves(2, v);
@@ -148,8 +179,7 @@ template <> struct PlainMatrix<6> {
 
     VONKK3_INLINE ProductVector times(const Factors &v) const {
         const __m128 upper = halves(0, v), middle = halves(1, v), lower = halves(2, v);
-        return {add(_mm_movelh_ps(upper, middle), _mm_movehl_ps(middle, upper)),
-                add(lower, _mm_movehl_ps(lower, lower))};
+        return {addHalves(upper, middle), add(lower, _mm_movehl_ps(lower, lower))};
     }
 };
 

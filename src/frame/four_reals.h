@@ -6,7 +6,7 @@
 #include "frame/lanes.h"
 #include "frame/unroll.h"
 
-namespace vonkk3::cholqr {
+namespace vonkk3 {
 
 inline constexpr std::size_t four = 4;
 
@@ -107,4 +107,4 @@ VONKK3_INLINE void scatterRow(const FourTargets &to, std::size_t length, const F
     if (length % 2 != 0) scatter(to, (length - 1) * sizeof(Real32), row[length - 1]);
 }
 
-} // namespace vonkk3::cholqr
+} // namespace vonkk3
