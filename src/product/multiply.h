@@ -136,14 +136,16 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
         if constexpr (sumsInRuns<A, Cols1, Count>) done = sumInRuns<Cols1::value, Cols1::value>(src1, src2, dst, count);
         return forEachObjectFrom(
             done, count,
-            [&](std::size_t n) VONKK3_INLINED {
+            [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
                 const auto a = src1.view(n, P::firstTransposed ? rows1 : cols1);
                 const auto b = src2.view(n, P::secondTransposed ? rows2 : cols2);
                 const auto d = dst.view(n, size.template columns<P>());
                 if constexpr (scheme == Scheme::pairSum) return multiplyByPairSums(a, b, d), vonkOk;
-                else
-                    return sumIntoCells<T, accumulatesInCell<T, P::layout>, !P::isArray>(
-                        a, b, d, size.template rows<P>(), size.template columns<P>(), size.template terms<P>());
+                const std::size_t rows = size.template rows<P>(), columns = size.template columns<P>();
+                const std::size_t terms = size.template terms<P>();
+                if constexpr (!accumulatesInCell<T, P::layout> && hasExtent<std::remove_const_t<decltype(d)>>)
+                    if (sumApart<T>(a, b, d, rows, columns, terms)) return vonkOk;
+                return sumIntoCells<T, accumulatesInCell<T, P::layout>, !P::isArray>(a, b, d, rows, columns, terms);
             },
             src1, src2, dst);
     }

@@ -88,14 +88,16 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
         if constexpr (sumsInRuns<A, Cols, Count>) done = sumInRuns<Cols::value, 1>(src1, src2, dst, count);
         return forEachObjectFrom(
             done, count,
-            [&](std::size_t n) VONKK3_INLINED {
+            [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
                 const auto a = src1.view(n, A::isTransposed ? std::size_t(rows) : std::size_t(cols));
                 const ColumnView v{src2.view(n)};
                 const ColumnView d{dst.view(n)};
                 constexpr bool inCell = accumulatesInCell<T, D::layout>;
                 if constexpr (leavesPosition8Untested<A, Count, Cols>)
                     return sumIntoCells<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
-                else return sumIntoCells<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
+                if constexpr (!inCell && hasExtent<std::remove_const_t<decltype(d.vector)>>)
+                    if (sumApart<T>(a, asColumn(v.vector), asColumn(d.vector), rows, 1, cols)) return vonkOk;
+                return sumIntoCells<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
             },
             src1, src2, dst);
     }

@@ -2,6 +2,7 @@
 // follows every step, so an operand that overlaps it sees what was stored.
 #pragma once
 
+#include "frame/extent.h"
 #include "frame/walk.h"
 
 namespace vonkk3::product {
@@ -40,6 +41,52 @@ VONKK3_INLINE VonkStatus sumIntoCells(const A &a, const B &b, const D &d, std::s
         for (std::size_t j = 0; j < columns; ++j)
             if (!sumIntoCell<T, inCell, testsEntries>(a, b, d, i, j, terms, sum)) return vonkErrNullPtr;
     return vonkOk;
+}
+
+// ---- The same sums where no cell lies on a factor -------------------------------------------------------------------
+// What happens to a cell on the way to its sum cannot be seen then, and it is stored once.
+
+// The 80-bit unit is busy with nothing but the operations, so Real64 leaves out the first addition: a sum that begins
+// at its first product comes out the same as one from +0 unless all terms are zeros. A -0 is found out by its bits and
+// summed anew.
+template <class T> inline constexpr bool beginsAtFirstProduct = std::is_same_v<T, Real64>;
+
+inline bool isNegativeZero(const std::byte *real64) { return loadAt<std::uint64_t>(real64) == std::uint64_t(1) << 63; }
+
+template <class View> inline constexpr bool hasExtent = false;
+template <class T> inline constexpr bool hasExtent<RowsView<T>> = true;
+template <class T> inline constexpr bool hasExtent<TransposedView<RowsView<T>>> = true;
+
+template <class T> VONKK3_INLINE Extent extentOf(const RowsView<T> &view, std::size_t rows, std::size_t columns) {
+    return Extent(view, rows, columns);
+}
+template <class T>
+VONKK3_INLINE Extent extentOf(const TransposedView<RowsView<T>> &view, std::size_t rows, std::size_t columns) {
+    return Extent(view.stored, columns, rows);
+}
+
+// A vector of adjacent elements as a matrix of one column.
+template <class T> VONKK3_INLINE RowsView<T> asColumn(const RowsView<T> &vector) {
+    return RowsView<T>(vector.base, sizeof(T));
+}
+
+// False, and nothing done, where cells lie on factors.
+template <class T, class A, class B>
+VONKK3_INLINE bool sumApart(const A &a, const B &b, const RowsView<T> &d, std::size_t rows, std::size_t columns,
+                            std::size_t terms) {
+    const Extent cells(d, rows, columns);
+    if (!areApart(cells, extentOf(a, rows, terms)) || !areApart(cells, extentOf(b, terms, columns))) return false;
+    using W = Working<T>;
+    for (std::size_t i = 0; i < rows; ++i)
+        for (std::size_t j = 0; j < columns; ++j) {
+            const auto term = [&](std::size_t k) VONKK3_INLINED { return W(a.load(i, k)) * W(b.load(k, j)); };
+            W sum = beginsAtFirstProduct<T> ? term(0) : W(0);
+            for (std::size_t k = beginsAtFirstProduct<T>; k < terms; ++k) sum = sum + term(k);
+            d.store(i, j, round<T>(sum));
+            if (beginsAtFirstProduct<T> && isNegativeZero(d.at(i, j))) [[unlikely]]
+                sumIntoCell<T, false, false>(a, b, d, i, j, terms, sum);
+        }
+    return true;
 }
 
 } // namespace vonkk3::product
