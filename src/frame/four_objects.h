@@ -2,13 +2,11 @@
 // done to them needs no sums across lanes, and rounds in each lane as it would for one object.
 #pragma once
 
+#include "frame/four_reals.h"
 #include "frame/lanes.h"
 #include "frame/walk.h"
 
 namespace vonkk3 {
-
-inline constexpr std::size_t blockObjects = 4;
-inline constexpr std::size_t inBlocks(std::size_t count) { return count / blockObjects * blockObjects; }
 
 // An array of adjacent elements whose spacing the compiler knows. Blocks of it are loaded with fewer instructions.
 template <class T, std::ptrdiff_t bytes> struct SpacedVectors {
@@ -42,19 +40,13 @@ VONKK3_INLINE auto withKnownSpacing(const Work &work, const First &first, const 
 
 // Where the vectors of a block begin.
 template <class Byte> struct Block {
-    Byte *at[blockObjects];
+    Byte *at[four];
     template <class Operand> VONKK3_INLINE Block(const Operand &operand, std::size_t n) {
-        for (std::size_t k = 0; k < blockObjects; ++k) at[k] = operand.view(n + k).base;
+        for (std::size_t k = 0; k < four; ++k) at[k] = operand.view(n + k).base;
     }
 };
 using SourceBlock = Block<const std::byte>;
 using TargetBlock = Block<std::byte>;
-
-// One element of each, `offset` bytes into its vector.
-VONKK3_INLINE __m128 gather(const SourceBlock &block, std::size_t offset) {
-    return _mm_movelh_ps(_mm_unpacklo_ps(load1(block.at[0] + offset), load1(block.at[1] + offset)),
-                         _mm_unpacklo_ps(load1(block.at[2] + offset), load1(block.at[3] + offset)));
-}
 
 // Lanes a0, a1 of one register and b0, b1 of another.
 template <int a0, int a1, int b0, int b1> VONKK3_INLINE __m128 pick(__m128 a, __m128 b) {

@@ -9,6 +9,7 @@
 namespace vonkk3 {
 
 inline constexpr std::size_t four = 4;
+inline constexpr std::size_t inFours(std::size_t count) { return count / four * four; }
 
 struct FourReals {
     __m128 lanes;

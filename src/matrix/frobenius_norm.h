@@ -2,6 +2,7 @@
 // layout.
 #pragma once
 
+#include "frame/operations.h"
 #include "frame/walk.h"
 #include "matrix/norm_kernels.h"
 
@@ -33,9 +34,6 @@ template <class T, class A, class Columns>
 inline constexpr bool roundsSum = std::is_same_v<T, Real64> && !Columns::isFixed && !A::isTable;
 
 // ---- One object -----------------------------------------------------------------------------------------------------
-
-inline Real32 squareRoot(Real32 value) { return __builtin_sqrtf(value); }
-inline Wide squareRoot(Wide value) { return __builtin_sqrtl(value); }
 
 template <NormOrder way, class T, class View>
 VONKK3_INLINE Working<T> sumOfSquares(const View &a, std::size_t columns, std::size_t rows) {

@@ -33,7 +33,7 @@ template <std::size_t order, class A, class D> VONKK3_INLINE bool areRowsSpaced(
 // every row, and order 6 reads every matrix twice; neither is seen where the results lie apart.
 template <std::size_t order, class A, class B, class D>
 inline std::size_t multiplyFourRows(const A &src1, const B &src2, const D &dst, std::size_t objects) {
-    const std::size_t done = objects / four * four; // makes fours of rows at any order
+    const std::size_t done = inFours(objects);
     if (done == 0 || !areRowsSpaced<order>(src1, dst)) return 0;
     const SpacedRows<const Real32> from(src1, fixed<order>, done);
     const SpacedRows<Real32> to(dst, fixed<order>, done);

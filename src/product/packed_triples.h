@@ -34,12 +34,12 @@ template <class Element>
 inline std::size_t multiplyPackedTriples(const Element &elementAt, const std::byte *vectors, std::byte *results,
                                          std::size_t count) {
     constexpr std::ptrdiff_t packed = 3 * sizeof(Real32);
-    const std::size_t end = inBlocks(count);
+    const std::size_t end = inFours(count);
     if (end == 0 || !mayWorkInBlocks(vectors, results, end * packed)) return 0;
     const SpreadMatrix held(elementAt);
     const SpacedVectors<const Real32, packed> from{vectors};
     const SpacedVectors<Real32, packed> to{results};
-    for (std::size_t n = 0; n < end; n += blockObjects) held.times(FourTriples::load(from, n)).store(to, n);
+    for (std::size_t n = 0; n < end; n += four) held.times(FourTriples::load(from, n)).store(to, n);
     return end;
 }
 
@@ -58,7 +58,7 @@ VONKK3_INLINE std::size_t multiplyTriplesByOne(const A &src1, const B &src2, con
         !dst.hasPackedRows(3))
         return 0;
     return multiplyPackedTriples([b = src2.view(0)](auto i, auto k) { return b.load(k, i); }, src1.view(0).base,
-                                 dst.view(0).base, 3 * inBlocks(objects)) /
+                                 dst.view(0).base, 3 * inFours(objects)) /
            3;
 }
 

@@ -19,67 +19,62 @@ inline constexpr bool sumsInRuns =
 
 // ---- Where the runs lie ---------------------------------------------------------------------------------------------
 
-// What the positions of an operand lead to, in the order in which they enter the product; the table that says so; and
-// the bytes of a run, of all objects or of the one element of a single operand.
+// What the positions of an operand lead to, in the order in which they enter the product: runs of so many bytes, of all
+// objects or of the one element of a single operand; the table that says so; and the smallest block that holds all the
+// runs. Mostly each operand lies in a block of its own, and a look at the blocks will do.
 template <class Byte, std::size_t count> struct PositionRuns {
     static constexpr std::size_t positions = count;
     Byte *run[count];
     std::size_t bytes;
-    Extent table;
+    Extent table, block;
 
     VONKK3_INLINE Byte *operator[](std::size_t position) const { return run[position]; }
+    VONKK3_INLINE Extent extent(std::size_t position) const { return Extent(run[position], bytes); }
 };
 
 template <std::size_t rows, std::size_t columns, class Operand>
 VONKK3_INLINE auto runsOf(const Operand &operand, std::size_t objects) {
     constexpr std::size_t positions = rows * columns;
-    const auto table = operand.tableView(columns);
-    using Byte = std::remove_pointer_t<decltype(table.at(0))>;
-    PositionRuns<Byte, positions> runs{
-        {}, (Operand::isArray ? objects : 1) * sizeof(Real32), Extent(table.table, positions * sizeof(void *))};
+    const auto view = operand.tableView(columns);
+    const std::size_t bytes = (Operand::isArray ? objects : 1) * sizeof(Real32);
+    const Extent table(view.table, positions * sizeof(void *)), first(view.at(0), bytes);
+    PositionRuns<std::remove_pointer_t<decltype(view.at(0))>, positions> runs{{}, bytes, table, first};
     for (std::size_t i = 0; i < rows; ++i)
-        for (std::size_t j = 0; j < columns; ++j)
-            runs.run[i * columns + j] = Operand::isTransposed ? table.at(j, i) : table.at(i, j);
+        for (std::size_t j = 0; j < columns; ++j) {
+            const std::size_t position = i * columns + j;
+            runs.run[position] = Operand::isTransposed ? view.at(j, i) : view.at(i, j);
+            const Extent run = runs.extent(position);
+            if (run.begin < runs.block.begin) runs.block.begin = run.begin;
+            if (run.end > runs.block.end) runs.block.end = run.end;
+        }
     return runs;
 }
 
-// The smallest block that holds all the runs. They mostly lie in one block an operand, and a look at that will do.
-template <class Runs> VONKK3_INLINE Extent hullOf(const Runs &runs) {
-    Extent hull(runs[0], runs.bytes);
-    for (std::size_t k = 1; k < Runs::positions; ++k) {
-        const Extent run(runs[k], runs.bytes);
-        if (run.begin < hull.begin) hull.begin = run.begin;
-        if (run.end > hull.end) hull.end = run.end;
-    }
-    return hull;
-}
-
 template <class Runs> VONKK3_INLINE bool areApart(const Runs &runs, const Extent &block) {
-    if (areApart(hullOf(runs), block)) return true;
+    if (areApart(runs.block, block)) return true;
     for (std::size_t k = 0; k < Runs::positions; ++k)
-        if (!areApart(Extent(runs[k], runs.bytes), block)) return false;
+        if (!areApart(runs.extent(k), block)) return false;
     return true;
 }
 
-// Whether the written runs are apart from the read ones and the table of these.
+// Whether the written runs are apart from the read ones and from the table of these.
 template <class Written, class Read> inline bool areApart(const Written &written, const Read &read) {
     if (!areApart(written, read.table)) return false;
-    if (areApart(hullOf(written), hullOf(read))) return true;
+    if (areApart(written.block, read.block)) return true;
     for (std::size_t k = 0; k < Read::positions; ++k)
-        if (!areApart(written, Extent(read[k], read.bytes))) return false;
+        if (!areApart(written, read.extent(k))) return false;
     return true;
 }
 
-// Whether runs are apart from each other and from their table, the first of which shows where each follows another.
+// Whether runs are apart from each other, as is plain where each begins behind the one before, and from their table.
 template <class Runs> inline bool areApart(const Runs &runs) {
     if (!areApart(runs, runs.table)) return false;
     bool follow = true;
-    for (std::size_t k = 1; k < Runs::positions; ++k)
-        follow &= reinterpret_cast<std::uintptr_t>(runs[k]) >= Extent(runs[k - 1], runs.bytes).end;
+    for (std::size_t k = 1; k < Runs::positions; ++k) follow &= runs.extent(k).begin >= runs.extent(k - 1).end;
     if (follow) return true;
     for (std::size_t k = 1; k < Runs::positions; ++k)
         for (std::size_t before = 0; before < k; ++before)
-            if (!areApart(Extent(runs[k], runs.bytes), Extent(runs[before], runs.bytes))) return false;
+            if (!areApart(runs.extent(k), runs.extent(before))) return false;
     return true;
 }
 
@@ -97,7 +92,7 @@ template <class Written, class Read> inline bool areTheSame(const Written &writt
 template <class A, class B, class D>
 inline std::size_t multiplyRunsOfThree(const A &src1, const B &src2, const D &dst, std::size_t objects) {
     if (objects < worthRuns) return 0;
-    const std::size_t done = objects / 4 * 4;
+    const std::size_t done = inFours(objects);
     const auto a = runsOf<3, 3>(src1, done);
     const auto b = runsOf<3, 3>(src2, done);
     const auto d = runsOf<3, 3>(dst, done);
@@ -139,7 +134,7 @@ template <std::size_t order, std::size_t columns, class A, class B, class D, cla
 inline std::size_t sumInRuns(const A &src1, const B &src2, const D &dst, std::size_t objects,
                              const Addends &...addends) {
     if (objects < worthRuns) return 0;
-    const std::size_t done = objects / 4 * 4;
+    const std::size_t done = inFours(objects);
     const auto a = runsOf<order, order>(src1, done);
     const auto b = runsOf<order, columns>(src2, done);
     const auto d = runsOf<order, columns>(dst, done);

@@ -80,11 +80,11 @@ VONKK3_INLINE bool sumApart(const A &a, const B &b, const RowsView<T> &d, std::s
     for (std::size_t i = 0; i < rows; ++i)
         for (std::size_t j = 0; j < columns; ++j) {
             const auto term = [&](std::size_t k) VONKK3_INLINED { return W(a.load(i, k)) * W(b.load(k, j)); };
-            W sum = beginsAtFirstProduct<T> ? term(0) : W(0);
-            for (std::size_t k = beginsAtFirstProduct<T>; k < terms; ++k) sum = sum + term(k);
-            d.store(i, j, round<T>(sum));
+            W total = beginsAtFirstProduct<T> ? term(0) : W(0);
+            for (std::size_t k = beginsAtFirstProduct<T>; k < terms; ++k) total = total + term(k);
+            d.store(i, j, round<T>(total));
             if (beginsAtFirstProduct<T> && isNegativeZero(d.at(i, j))) [[unlikely]]
-                sumIntoCell<T, false, false>(a, b, d, i, j, terms, sum);
+                sumIntoCell<T, false, false>(a, b, d, i, j, terms, total);
         }
     return true;
 }

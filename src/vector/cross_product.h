@@ -61,10 +61,9 @@ VONKK3_INLINE FourTriples cross(const FourTriples &a, const FourTriples &b) {
 // How many objects were done.
 template <class A, class B, class D>
 inline std::size_t crossInBlocks(const A &a, const B &b, const D &d, std::size_t count) {
-    const std::size_t end = inBlocks(count);
+    const std::size_t end = inFours(count);
     const auto work = [&](const auto &p, const auto &q, const auto &r) VONKK3_INLINED {
-        for (std::size_t n = 0; n < end; n += blockObjects)
-            cross(FourTriples::load(p, n), FourTriples::load(q, n)).store(r, n);
+        for (std::size_t n = 0; n < end; n += four) cross(FourTriples::load(p, n), FourTriples::load(q, n)).store(r, n);
         return end;
     };
     return withKnownSpacing<3>(work, a, b, d);

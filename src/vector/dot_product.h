@@ -103,7 +103,7 @@ template <class B> struct FourOrOne {
     const B &b;
     std::size_t n;
     VONKK3_INLINE __m128 element(std::size_t j) const {
-        if constexpr (B::isArray) return gather(SourceBlock(b, n), j * sizeof(Real32));
+        if constexpr (B::isArray) return gather(SourceBlock(b, n).at, j * sizeof(Real32)).lanes;
         else return _mm_set1_ps(b.view(0).load(j));
     }
     VONKK3_INLINE __m128 row(std::size_t k) const { return load4(b.view(B::isArray ? n + k : 0).base); }
@@ -140,8 +140,8 @@ template <class A, class B> VONKK3_INLINE __m128 dotAlignedTriples(const A &a, c
 
 // Works whole blocks; the first object that they leave.
 template <class Sums> VONKK3_INLINE std::size_t forEachBlock(Objects count, std::byte *results, const Sums &sums) {
-    const std::size_t end = inBlocks(count);
-    for (std::size_t n = 0; n < end; n += blockObjects) store4(results + n * sizeof(Real32), sums(n));
+    const std::size_t end = inFours(count);
+    for (std::size_t n = 0; n < end; n += four) store4(results + n * sizeof(Real32), sums(n));
     return end;
 }
 

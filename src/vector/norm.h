@@ -3,6 +3,7 @@
 
 #include "frame/estimate.h"
 #include "frame/four_objects.h"
+#include "frame/operations.h"
 #include "frame/walk.h"
 #include "vector/block_walk.h"
 
@@ -43,17 +44,14 @@ template <class T, class View, class Length> VONKK3_INLINE Working<T> sumSquares
     return sum;
 }
 
-inline Real32 root(Real32 s) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(s))); }
-inline Wide root(Wide s) { return __builtin_sqrtl(s); }
-
 // The sum of squares q(j) as the forms with an estimated root group it; Reals are one object's or four objects'.
 template <std::size_t length, class Square> VONKK3_INLINE auto addAsTree(const Square &q) {
     if constexpr (length == 3) return (q(0) + q(1)) + q(2);
     else {
-        const auto four = (q(0) + q(1)) + (q(2) + q(3));
-        if constexpr (length == 4) return four;
-        else if constexpr (length == 5) return four + q(4);
-        else return four + (q(4) + q(5));
+        const auto ofFour = (q(0) + q(1)) + (q(2) + q(3));
+        if constexpr (length == 4) return ofFour;
+        else if constexpr (length == 5) return ofFour + q(4);
+        else return ofFour + (q(4) + q(5));
     }
 }
 
@@ -74,12 +72,13 @@ template <std::size_t length, class Source> VONKK3_INLINE __m128 sumFourSquares(
     } else {
         const SourceBlock block(source, n);
         const auto square = [](__m128 a) VONKK3_INLINED { return a * a; };
-        const auto elements = [&](std::size_t j) VONKK3_INLINED { return square(gather(block, j * sizeof(Real32))); };
-        const __m128 four = addRows(square(load4(block.at[0])), square(load4(block.at[1])), square(load4(block.at[2])),
-                                    square(load4(block.at[3])));
-        if constexpr (length == 4) return four;
-        else if constexpr (length == 5) return four + elements(4);
-        else return four + (elements(4) + elements(5));
+        const auto elements = [&](std::size_t j)
+                                  VONKK3_INLINED { return square(gather(block.at, j * sizeof(Real32)).lanes); };
+        const __m128 ofFour = addRows(square(load4(block.at[0])), square(load4(block.at[1])),
+                                      square(load4(block.at[2])), square(load4(block.at[3])));
+        if constexpr (length == 4) return ofFour;
+        else if constexpr (length == 5) return ofFour + elements(4);
+        else return ofFour + (elements(4) + elements(5));
     }
 }
 
@@ -87,9 +86,9 @@ template <std::size_t length, class Source> VONKK3_INLINE __m128 sumFourSquares(
 template <std::size_t length, bool testsEntries, class Source>
 inline std::size_t normInBlocks(const Source &source, std::byte *results, Objects count) {
     const auto work = [&](const auto &vectors) VONKK3_INLINED {
-        const std::size_t end = inBlocks(count);
-        for (std::size_t n = 0; n < end; n += blockObjects) {
-            for (std::size_t k = 0; testsEntries && k < blockObjects; ++k)
+        const std::size_t end = inFours(count);
+        for (std::size_t n = 0; n < end; n += four) {
+            for (std::size_t k = 0; testsEntries && k < four; ++k)
                 if (source.listHasNull(n + k)) return n;
             store4(results + n * sizeof(Real32), rootByEstimate(sumFourSquares<length>(vectors, n)));
         }
@@ -116,8 +115,8 @@ VONKK3_INLINE VonkStatus norm(const Source &source, T *dst, Length length, Count
         T result;
         if constexpr (rootsByEstimate<Source, Length>) result = normByEstimate<Length::value>(source.view(n));
         else if constexpr (squaresInBlocks<Source, Length>)
-            result = root(sumInBlocks(SquareTerm{}, length, source.view(0).base));
-        else result = round<T>(root(sumSquares<T>(source.view(n), length)));
+            result = squareRoot(sumInBlocks(SquareTerm{}, length, source.view(0).base));
+        else result = round<T>(squareRoot(sumSquares<T>(source.view(n), length)));
         storeAt<T>(results + n * sizeof(T), result);
         return vonkOk;
     };
