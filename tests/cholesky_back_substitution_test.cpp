@@ -13,7 +13,6 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <sys/mman.h>
 #include <utility>
 
 namespace {
@@ -443,26 +442,21 @@ TEST(CholeskyBackSubstitutionChecks, PassOverAnObjectThatLeadsToNull) {
     }
 }
 
-// The object that an array has at address 0, here the last of eight or of four: those before it lie 16 MiB apart.
+// The object that an array has at address 0, here the last.
 TEST(CholeskyBackSubstitutionChecks, PassOverTheObjectAtAddressZero) {
     constexpr std::int32_t apart = 1 << 24;
     const float unit[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
-    for (const std::int32_t count : {8, 4}) {
-        std::vector<float *> sides;
-        for (int n = 0; n + 1 < count; ++n) {
-            void *const wanted = reinterpret_cast<void *>(std::intptr_t{apart} * (count - 1 - n));
-            void *const got =
-                mmap(wanted, 4096, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED_NOREPLACE, -1, 0);
-            ASSERT_EQ(got, wanted);
-            sides.push_back(static_cast<float *>(got));
-            for (int i = 0; i < 3; ++i) sides.back()[i] = static_cast<float>(10 * n + i);
-        }
-        std::vector<float> solutions(static_cast<std::size_t>(3 * count), -1);
-        EXPECT_EQ(vonkCholeskyBackSubst_mva_32f_3x3(unit, 12, sides[0], -apart, solutions.data(), 12, count), vonkOk);
-        for (int n = 0; n < count; ++n)
-            for (int i = 0; i < 3; ++i)
-                EXPECT_EQ(solutions[static_cast<std::size_t>(3 * n + i)], n + 1 < count ? 10 * n + i : -1);
-        for (float *side : sides) munmap(side, 4096);
+    for (const std::uint32_t count : {2U, 4U, 8U}) {
+        const literal::PagesDownToNull sides(apart, count - 1);
+        for (std::uint32_t n = 0; n + 1 < count; ++n)
+            for (std::uint32_t i = 0; i < 3; ++i) sides[n][i] = static_cast<float>(10 * n + i);
+        std::vector<float> solutions(std::size_t{3} * count, -1);
+        EXPECT_EQ(vonkCholeskyBackSubst_mva_32f_3x3(unit, 12, sides[0], -apart, solutions.data(), 12,
+                                                    static_cast<std::int32_t>(count)),
+                  vonkOk);
+        for (std::uint32_t n = 0; n < count; ++n)
+            for (std::uint32_t i = 0; i < 3; ++i)
+                EXPECT_EQ(solutions[std::size_t{3} * n + i], n + 1 < count ? sides[n][i] : -1);
     }
 }
 

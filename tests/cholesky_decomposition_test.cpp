@@ -13,7 +13,6 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <sys/mman.h>
 
 namespace {
 
@@ -514,26 +513,20 @@ TEST(CholeskyDecompositionChecks, StopAtAnObjectThatLeadsToNull) {
     }
 }
 
-// The object that an array has at address 0, here the last: those before it lie 16 MiB apart.
+// The object that an array has at address 0, here the last.
 TEST(CholeskyDecompositionChecks, StopAtTheObjectAtAddressZero) {
     constexpr std::int32_t apart = 1 << 24;
-    for (const std::int32_t count : {2, 4, 8}) {
-        std::vector<float *> matrices;
-        for (int n = 0; n + 1 < count; ++n) {
-            void *const wanted = reinterpret_cast<void *>(std::intptr_t{apart} * (count - 1 - n));
-            void *const got =
-                mmap(wanted, 4096, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED_NOREPLACE, -1, 0);
-            ASSERT_EQ(got, wanted);
-            matrices.push_back(static_cast<float *>(got));
-            for (int i = 0; i < 3; ++i) matrices.back()[4 * i] = 4;
-        }
-        std::vector<float> factors(static_cast<std::size_t>(9 * count), -1);
-        EXPECT_EQ(vonkCholeskyDecomp_ma_32f_3x3(matrices[0], -apart, 12, factors.data(), 36, 12, count),
+    for (const std::uint32_t count : {2U, 4U, 8U}) {
+        const literal::PagesDownToNull matrices(apart, count - 1);
+        for (std::uint32_t n = 0; n + 1 < count; ++n)
+            for (std::uint32_t i = 0; i < 3; ++i) matrices[n][4 * i] = 4;
+        std::vector<float> factors(std::size_t{9} * count, -1);
+        EXPECT_EQ(vonkCholeskyDecomp_ma_32f_3x3(matrices[0], -apart, 12, factors.data(), 36, 12,
+                                                static_cast<std::int32_t>(count)),
                   vonkErrNullPtr);
-        for (int n = 0; n < count; ++n)
-            for (int i = 0; i < 3; ++i)
-                EXPECT_EQ(factors[static_cast<std::size_t>(9 * n + 4 * i)], n + 1 < count ? 0.5F : -1);
-        for (float *matrix : matrices) munmap(matrix, 4096);
+        for (std::uint32_t n = 0; n < count; ++n)
+            for (std::uint32_t i = 0; i < 3; ++i)
+                EXPECT_EQ(factors[std::size_t{9} * n + 4 * i], n + 1 < count ? 0.5F : -1);
     }
 }
 

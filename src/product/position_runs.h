@@ -20,33 +20,48 @@ inline constexpr bool sumsInRuns =
 // ---- Where the runs lie ---------------------------------------------------------------------------------------------
 
 // What the positions of an operand lead to, in the order in which they enter the product: runs of so many bytes, of all
-// objects or of the one element of a single operand; the table that says so; and the smallest block that holds all the
-// runs. Mostly each operand lies in a block of its own, and a look at the blocks will do.
+// objects or of the one element of a single operand; the table that says so; and a block that holds all the runs.
+// Mostly the runs follow one another in the order of the table, in a block that is the operand's own, and a look at the
+// blocks will do.
 template <class Byte, std::size_t count> struct PositionRuns {
     static constexpr std::size_t positions = count;
     Byte *run[count];
     std::size_t bytes;
     Extent table, block;
+    bool follow;
 
     VONKK3_INLINE Byte *operator[](std::size_t position) const { return run[position]; }
     VONKK3_INLINE Extent extent(std::size_t position) const { return Extent(run[position], bytes); }
 };
+
+template <class Runs> VONKK3_APART Extent blockOf(const Runs &runs) {
+    Extent block = runs.extent(0);
+    for (std::size_t k = 1; k < Runs::positions; ++k) {
+        const Extent run = runs.extent(k);
+        if (run.begin < block.begin) block.begin = run.begin;
+        if (run.end > block.end) block.end = run.end;
+    }
+    return block;
+}
 
 template <std::size_t rows, std::size_t columns, class Operand>
 VONKK3_INLINE auto runsOf(const Operand &operand, std::size_t objects) {
     constexpr std::size_t positions = rows * columns;
     const auto view = operand.tableView(columns);
     const std::size_t bytes = (Operand::isArray ? objects : 1) * sizeof(Real32);
-    const Extent table(view.table, positions * sizeof(void *)), first(view.at(0), bytes);
-    PositionRuns<std::remove_pointer_t<decltype(view.at(0))>, positions> runs{{}, bytes, table, first};
+    const Extent table(view.table, positions * sizeof(void *));
+    Extent block(view.at(0), bytes);
+    bool follow = true;
+    for (std::size_t k = 1; k < positions; ++k) {
+        const Extent run(view.at(k), bytes);
+        follow &= run.begin >= block.end;
+        block.end = run.end;
+    }
+    PositionRuns<std::remove_pointer_t<decltype(view.at(0))>, positions> runs{{}, bytes, table, block, follow};
     for (std::size_t i = 0; i < rows; ++i)
-        for (std::size_t j = 0; j < columns; ++j) {
-            const std::size_t position = i * columns + j;
-            runs.run[position] = Operand::isTransposed ? view.at(j, i) : view.at(i, j);
-            const Extent run = runs.extent(position);
-            if (run.begin < runs.block.begin) runs.block.begin = run.begin;
-            if (run.end > runs.block.end) runs.block.end = run.end;
-        }
+        for (std::size_t j = 0; j < columns; ++j)
+            runs.run[i * columns + j] = Operand::isTransposed ? view.at(j, i) : view.at(i, j);
+    if (!follow) runs.block = blockOf(runs);
     return runs;
 }
 
@@ -66,12 +81,10 @@ template <class Written, class Read> inline bool areApart(const Written &written
     return true;
 }
 
-// Whether runs are apart from each other, as is plain where each begins behind the one before, and from their table.
+// Whether runs are apart from each other and from their table.
 template <class Runs> inline bool areApart(const Runs &runs) {
     if (!areApart(runs, runs.table)) return false;
-    bool follow = true;
-    for (std::size_t k = 1; k < Runs::positions; ++k) follow &= runs.extent(k).begin >= runs.extent(k - 1).end;
-    if (follow) return true;
+    if (runs.follow) return true;
     for (std::size_t k = 1; k < Runs::positions; ++k)
         for (std::size_t before = 0; before < k; ++before)
             if (!areApart(runs.extent(k), runs.extent(before))) return false;

@@ -10,7 +10,9 @@
 
 #include <algorithm>
 #include <functional>
+#include <stdexcept>
 #include <string>
+#include <sys/mman.h>
 #include <vector>
 
 namespace literal {
@@ -110,6 +112,32 @@ inline std::int32_t statusOfNoObjects(const catalogue::Function &function) {
         operation == "Extract" || operation == "LoadIdentity" || operation.starts_with("Cholesky");
     return countsObjectsAsSize ? vonkErrSize : vonkOk;
 }
+
+// Pages of memory that begin at multiples of a distance, down to the distance itself: where the objects of an array lie
+// whose last one is at address 0. None are to be had where something else lies there.
+class PagesDownToNull {
+public:
+    PagesDownToNull(std::intptr_t distance, std::size_t count) {
+        for (std::size_t k = count; k > 0; --k) {
+            void *const wanted = reinterpret_cast<void *>(distance * static_cast<std::intptr_t>(k));
+            void *const got =
+                mmap(wanted, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED_NOREPLACE, -1, 0);
+            if (got != wanted) throw std::runtime_error("no memory at a low address");
+            pages_.push_back(static_cast<float *>(got));
+        }
+    }
+    ~PagesDownToNull() {
+        for (float *page : pages_) munmap(page, bytes);
+    }
+    PagesDownToNull(const PagesDownToNull &) = delete;
+    PagesDownToNull &operator=(const PagesDownToNull &) = delete;
+
+    float *operator[](std::size_t k) const { return pages_[k]; }
+
+private:
+    static constexpr std::size_t bytes = 4096;
+    std::vector<float *> pages_;
+};
 
 inline void blankEntries(Call &call, std::string_view operand) {
     for (std::byte *&entry : call[operand].entries) entry = nullptr;
