@@ -8101,10 +8101,11 @@ VonkStatus vonkFrobNorm_ma_64f_6x6_LS2(const double *const *src, int32_t srcShif
  *   `src2Cols` for the second if transposed), which need not be those that are written.
  *
  * Overlap:
- * Nothing tests overlap, and sums that are stored at every step destroy an operand under them. The forms in lanes hold
+ * Nothing protects overlap: sums that are stored at every step destroy an operand under them. The forms in lanes hold
  * B and read A row by row, so some calls in place are right: with `dst` = `src1` where A is not transposed (3x3 to
  * 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in `mmT`, `mTmT` of 6x6). A
- * single operand is never safe under an array.
+ * single operand is never safe under an array. Operands that are seen to lie apart may be worked quicker, with the same
+ * results: `32f` of fixed size in `P` and rows of 3x3 and 5x5 by one matrix four at a time, packed rows of 6x6 in twos.
  *
  * Read beyond the operands:
  * Nothing.
@@ -10452,8 +10453,9 @@ VonkStatus vonkMul_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shi
  * - vonkMul_mTv of 4x4 in `P`, both types, never tests the entry at position 8 of the `src1` table.
  *
  * Overlap:
- * Nothing tests overlap. In lanes the vector is held before the first store, so `dst` may be `src2`; elsewhere sums
- * that are stored at every step destroy it.
+ * Nothing protects overlap. In lanes the vector is held before the first store, so `dst` may be `src2`; elsewhere sums
+ * that are stored at every step destroy it. Operands that are seen to lie apart may be worked quicker, with the same
+ * results: `32f` of fixed size in `P` four objects at a time, and packed vectors of 3 by one matrix.
  *
  * Read beyond the operands:
  * Nothing.
@@ -11516,8 +11518,9 @@ VonkStatus vonkMul_maTva_64f_6x6_LS2(const double *const *src1, int32_t src1Shif
  * 0 then gives vonkOk.
  *
  * Overlap:
- * Nothing tests overlap. `32f` of fixed size in the standard layout and `L` holds both vectors before it stores, so
- * `dst` may be `src2` or `src3`; elsewhere the sum that is stored at every step destroys what lies under it.
+ * Nothing protects overlap. `32f` of fixed size in the standard layout and `L` holds both vectors before it stores, so
+ * `dst` may be `src2` or `src3`; elsewhere the sum that is stored at every step destroys what lies under it. `32f` of
+ * fixed size in `P` takes four objects at a time where operands are seen to lie apart, with the same results.
  *
  * Read beyond the operands:
  * Nothing.

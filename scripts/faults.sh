@@ -123,7 +123,7 @@ fault 'unseen: the runs of a position lie on each other' src/product/position_ru
     's/\(!areApart\(d\) \|\| !areApart\(d, a\)/(!areApart(d, a)/'
 fault 'unseen: runs lie on what is multiplied' src/product/position_runs.h 's/ \|\| !areApart\(d, a\) \|\| !areApart\(d, b\)//'
 fault 'unseen: runs lie on the single matrix' src/product/position_runs.h 's/ \|\| !areApart\(d, b\) \|\| !\(liesOnFirst/ || !(liesOnFirst/'
-fault 'unseen: four rows lie on what is multiplied' src/product/four_rows.h 's/!areApart\(written, from\.extent\(order\)\) \|\| //'
+fault 'unseen: four rows lie on what is multiplied' src/product/four_rows.h 's/!areApart\(written, extentOfRows\(src1, rows\)\) \|\| //'
 fault 'unseen: four rows lie on the single matrix' src/product/four_rows.h 's/ \|\| !areApart\(written, Extent\(single, order, order\)\)//'
 fault 'unseen: pairs of rows lie on what is multiplied' src/product/row_pairs.h 's/ \|\| !areApartObjectByObject\(src1, dst\)//'
 fault 'unseen: triples lie on their results anyhow' src/product/packed_triples.h 's/ \|\| !mayWorkInBlocks\(vectors, results, end \* packed\)//'

@@ -598,13 +598,10 @@ TEST(Guards, FindNoBlockOfVectorsOutsideItsOperands) {
 
 // Whatever works four objects or eight side by side beside these.
 bool worksObjectsSideBySide(const Function &function) {
-    static const std::set<std::string_view> sections{"frobenius-norm",
-                                                     "matrix-product",
-                                                     "matrix-vector",
-                                                     "cholesky-decomposition",
-                                                     "cholesky-back-substitution",
-                                                     "qr-decomposition",
-                                                     "qr-back-substitution"};
+    static const std::set<std::string_view> sections{"frobenius-norm",         "matrix-product",
+                                                     "matrix-vector",          "gaxpy",
+                                                     "cholesky-decomposition", "cholesky-back-substitution",
+                                                     "qr-decomposition",       "qr-back-substitution"};
     return sections.contains(function.section->id) && function.array() && function.order != 0 &&
            function.type == catalogue::Type::real32;
 }

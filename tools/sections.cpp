@@ -348,10 +348,11 @@ Members that behave unlike their siblings:
   passes, and nothing is written.
 - The scan of the `dst` table of run-time size covers `src1Cols` * `src2Rows` entries (`src1Rows` for the first,
   `src2Cols` for the second if transposed), which need not be those that are written.)",
-     R"(Nothing tests overlap, and sums that are stored at every step destroy an operand under them. The forms in lanes hold
+     R"(Nothing protects overlap: sums that are stored at every step destroy an operand under them. The forms in lanes hold
 B and read A row by row, so some calls in place are right: with `dst` = `src1` where A is not transposed (3x3 to
 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in `mmT`, `mTmT` of 6x6). A
-single operand is never safe under an array.)",
+single operand is never safe under an array. Operands that are seen to lie apart may be worked quicker, with the same
+results: `32f` of fixed size in `P` and rows of 3x3 and 5x5 by one matrix four at a time, packed rows of 6x6 in twos.)",
      R"(Nothing.)"},
     {"matrix-vector", "Matrix by vector", "product of a matrix and a vector",
      R"(dst(n, i) = sum over k of A(i, k) src2(n, k)
@@ -376,8 +377,9 @@ lanes with orders of their own. With p0, p1, ... for the products of row i:
 
 Members that behave unlike their siblings:
 - vonkMul_mTv of 4x4 in `P`, both types, never tests the entry at position 8 of the `src1` table.)",
-     R"(Nothing tests overlap. In lanes the vector is held before the first store, so `dst` may be `src2`; elsewhere sums
-that are stored at every step destroy it.)",
+     R"(Nothing protects overlap. In lanes the vector is held before the first store, so `dst` may be `src2`; elsewhere sums
+that are stored at every step destroy it. Operands that are seen to lie apart may be worked quicker, with the same
+results: `32f` of fixed size in `P` four objects at a time, and packed vectors of 3 by one matrix.)",
      R"(Nothing.)"},
     {"gaxpy", "Gaxpy", "a matrix times a vector, plus a vector",
      R"(dst(n, i) = (sum over k of src1(i, k) src2(n, k)) + src3(n, i)
@@ -391,8 +393,9 @@ vonkErrNullPtr if a table or list entry is null: of `v` in `P` those of `src3` a
 of its terms as the sum reaches them, earlier elements and the sum so far being in place; of `va` in `P` and `PS2`
 all four tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the object's turn comes. `count`
 0 then gives vonkOk.)",
-     R"(Nothing tests overlap. `32f` of fixed size in the standard layout and `L` holds both vectors before it stores, so
-`dst` may be `src2` or `src3`; elsewhere the sum that is stored at every step destroys what lies under it.)",
+     R"(Nothing protects overlap. `32f` of fixed size in the standard layout and `L` holds both vectors before it stores, so
+`dst` may be `src2` or `src3`; elsewhere the sum that is stored at every step destroys what lies under it. `32f` of
+fixed size in `P` takes four objects at a time where operands are seen to lie apart, with the same results.)",
      R"(Nothing.)"},
     {"copy", "Copy", "from any of three layouts into any of three layouts",
      R"(dst(n, j) = src(n, j)          (`va`, of `len` elements)

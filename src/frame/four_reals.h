@@ -43,7 +43,7 @@ struct EightReals {
     friend EightReals operator/(EightReals a, EightReals b) { return {a.first / b.first, a.second / b.second}; }
 };
 
-// Addresses of four objects.
+// Four addresses, of objects or of rows.
 using FourSources = const std::byte *[four];
 using FourTargets = std::byte *[four];
 

@@ -74,20 +74,16 @@ struct PairMinors {
     }
 };
 
-// In lane k, up to a sign that alternates, the 3x3 minor of a row and of the two rows of other minors that leaves out
-// column k - 1.
+// In lane k the 3x3 minor of a row and of the two rows of other minors that leaves out column k - 1.
+// The signs of the cofactors come with the reciprocal.
 VONKK3_INLINE __m128 minorsOfThree(const TurnedRow &v, const PairMinors &m) {
     return _mm_add_ps(_mm_sub_ps(_mm_mul_ps(v.row, m.nearByOne), _mm_mul_ps(v.byOne, m.far)),
                       _mm_mul_ps(v.byTwo, m.near));
 }
-VONKK3_INLINE __m128 minorsOfThreeNegated(const TurnedRow &v, const PairMinors &m) {
-    return _mm_sub_ps(_mm_sub_ps(_mm_mul_ps(v.byOne, m.far), _mm_mul_ps(v.row, m.nearByOne)),
-                      _mm_mul_ps(v.byTwo, m.near));
-}
 
 // The cofactors of a row, from the row that is paired with it and the minors of the two others, are a column of the
-// adjugate. The determinant is that of row 0 and its cofactors, (p0 + p2) - (p1 + p3). False, and nothing stored, if it
-// is zero.
+// adjugate. The determinant is that of row 0 and its minors, (p0 + p2) - (p1 + p3). False, and nothing stored, if it is
+// zero.
 VONKK3_INLINE bool invertFourInLanes(const RowsView<const Real32> &matrix, const RowsView<Real32> &inverse) {
     const TurnedRow row2(load4(matrix.at(2, 0))), row3(load4(matrix.at(3, 0)));
     const PairMinors lower(row2, row3);
@@ -96,7 +92,7 @@ VONKK3_INLINE bool invertFourInLanes(const RowsView<const Real32> &matrix, const
     const PairMinors upper(row0, row1);
     __m128 column2 = minorsOfThree(row3, upper), column3 = minorsOfThree(row2, upper);
 
-    const __m128 terms = _mm_mul_ps(row0.row, turnedByOne(column0)); // with alternating signs
+    const __m128 terms = _mm_mul_ps(row0.row, turnedByOne(column0)); // by minors
     const __m128 pairs = _mm_add_ps(terms, turnedByTwo(terms));
     const __m128 determinant = _mm_sub_ps(pairs, turnedByOne(pairs)); // D, -D, D, -D
     if (_mm_cvtss_f32(determinant) == 0) return false;

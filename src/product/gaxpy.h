@@ -8,7 +8,7 @@ namespace vonkk3::product {
 template <class A, class V, class W, class D, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus gaxpyInLanes(const A &src1, const V &src2, const W &src3, const D &dst, Fixed<order>,
                                       Count count) {
-    if (count == 0) return vonkOk; // nothing is read, the matrix neither
+    if (count == 0) return vonkOk; // nothing is read, not even the matrix
     using Held = HeldMatrix<A, order>;
     const auto matrices = matricesInLanes<Held>(src1);
     const auto walk = [&](auto forEach, const auto &w, const auto &d) VONKK3_INLINED {

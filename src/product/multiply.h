@@ -83,7 +83,7 @@ VONKK3_INLINE std::size_t multiplyUnseen(const A &src1, const B &src2, const D &
     if constexpr (P::layout == Layout::P) return multiplyRunsOfThree(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 3 && !P::secondArray) return multiplyTriplesByOne(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 5 && !P::secondArray && !P::secondTransposed)
-        return multiplyFourRows<order>(src1, src2, dst, objects);
+        return multiplyFourRows(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 6 && !P::secondTransposed)
         return multiplyByRowPairs(src1, src2, dst, objects);
     else return 0;
@@ -91,7 +91,7 @@ VONKK3_INLINE std::size_t multiplyUnseen(const A &src1, const B &src2, const D &
 
 template <class P, class A, class B, class D, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &dst, Fixed<order>, Count count) {
-    if (count == 0) return vonkOk; // nothing is read, a single operand neither
+    if (count == 0) return vonkOk; // nothing is read, not even a single operand
     const auto multiplyFrom = [&](std::size_t first, auto work) VONKK3_INLINED {
         const auto multiplyObject = [&](std::size_t n) VONKK3_INLINED {
             work(src1.view(n, order), src2.view(n, order), dst.view(n, order));
@@ -144,7 +144,7 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
                 const std::size_t rows = size.template rows<P>(), columns = size.template columns<P>();
                 const std::size_t terms = size.template terms<P>();
                 if constexpr (!accumulatesInCell<T, P::layout> && hasExtent<std::remove_const_t<decltype(d)>>)
-                    if (sumApart<T>(a, b, d, rows, columns, terms)) return vonkOk;
+                    if (sumOnceIfApart<T>(a, b, d, rows, columns, terms)) return vonkOk;
                 return sumIntoCells<T, accumulatesInCell<T, P::layout>, !P::isArray>(a, b, d, rows, columns, terms);
             },
             src1, src2, dst);

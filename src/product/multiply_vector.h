@@ -63,7 +63,7 @@ VONKK3_INLINE VonkStatus multiplyVectors(const A &src1, const V &src2, const D &
 template <class A, class V, class D, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus multiplyVectorInLanes(const A &src1, const V &src2, const D &dst, Fixed<order> size,
                                                Count count) {
-    if (count == 0) return vonkOk; // nothing is read, a single operand neither
+    if (count == 0) return vonkOk; // nothing is read, not even a single operand
     if constexpr (order == 3 && A::isArray && !A::isTransposed && A::layout == Layout::Standard)
         if (src1.hasPackedRows(3)) return multiplyVectors<PackedMatrixOfThree>(src1, src2, dst, size, count);
     return multiplyVectors<HeldMatrix<A, order>>(src1, src2, dst, size, count);
@@ -96,7 +96,7 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
                 if constexpr (leavesPosition8Untested<A, Count, Cols>)
                     return sumIntoCells<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
                 if constexpr (!inCell && hasExtent<std::remove_const_t<decltype(d.vector)>>)
-                    if (sumApart<T>(a, asColumn(v.vector), asColumn(d.vector), rows, 1, cols)) return vonkOk;
+                    if (sumOnceIfApart<T>(a, asColumn(v.vector), asColumn(d.vector), rows, 1, cols)) return vonkOk;
                 return sumIntoCells<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
             },
             src1, src2, dst);

@@ -8,8 +8,8 @@
 
 namespace vonkk3::product {
 
-// A run of vectors is worked in blocks if it lies apart from its results or just under them: each result depends on the
-// vector of its place alone. Nobody can tell the difference then.
+// Blocks are for results that lie apart from the vectors or exactly on them: each depends on the vector of its place
+// alone, so nobody can tell the difference.
 inline bool mayWorkInBlocks(const std::byte *vectors, const std::byte *results, std::size_t bytes) {
     return vectors == results || areApart(Extent(vectors, bytes), Extent(results, bytes));
 }

@@ -1,6 +1,7 @@
 // Real32 products of fixed order in the pointer layout with packed objects, where every position is a run of elements,
 // one for each object: four objects at a time, an element of each in a lane. Every lane is rounded as one object is,
-// and this way stands open only where the operands lie apart, so nobody can tell.
+// and this way stands open only where results lie apart from all else, or exactly on the first operand of a product
+// that goes row by row, so nobody can tell.
 #pragma once
 
 #include "frame/extent.h"
@@ -101,7 +102,7 @@ template <class Written, class Read> inline bool areTheSame(const Written &writt
 // Each returns how many objects were done: all that make fours, or none.
 
 // 3x3 by a single matrix, which is held in all lanes; sums begin at the first product. It goes row by row, so the
-// results may lie just on the first operand.
+// results may lie exactly on the first operand.
 template <class A, class B, class D>
 inline std::size_t multiplyRunsOfThree(const A &src1, const B &src2, const D &dst, std::size_t objects) {
     if (objects < worthRuns) return 0;

@@ -1,7 +1,7 @@
-// An array of 6x6 matrices times one matrix or as many, where the rows of the results are packed: two of them fill
-// three registers with columns 0 to 3 of the upper one, 4 and 5 of it with 0 and 1 of the lower one, and 2 to 5 of
-// that. Every element is summed as in the kernels, but elements are read and stored in another order, so this way
-// stands open only where nobody can tell.
+// An array of 6x6 matrices, each times its own matrix or all times one, where the rows of the results are packed: two
+// of them fill three registers with columns 0 to 3 of the upper one, 4 and 5 of it with 0 and 1 of the lower one, and 2
+// to 5 of that. Every element is summed as in the kernels, but elements are read and stored in another order, so this
+// way stands open only where nobody can tell.
 #pragma once
 
 #include "frame/extent.h"
@@ -21,8 +21,8 @@ struct HeldRowPairs {
     }
 };
 
-// The same of a matrix that serves once: what can be read again is not held.
-struct PassingRowPairs {
+// The same of a matrix that serves one object: only what takes a shuffle is held, and the rest read again.
+struct RowPairsInMemory {
     struct Rows {
         RowsView<const Real32> b;
         std::size_t from;
@@ -30,7 +30,7 @@ struct PassingRowPairs {
     };
     Rows head, last;
     __m128 middle[6];
-    VONKK3_INLINE explicit PassingRowPairs(const RowsView<const Real32> &b) : head{b, 0}, last{b, 2} {
+    VONKK3_INLINE explicit RowPairsInMemory(const RowsView<const Real32> &b) : head{b, 0}, last{b, 2} {
         forIndices(0, 6, fixed<6>, [&](std::size_t k) VONKK3_INLINED {
             middle[k] = _mm_shuffle_ps(last[k], head[k], _MM_SHUFFLE(1, 0, 3, 2));
         });
@@ -82,7 +82,7 @@ VONKK3_INLINE std::size_t multiplyByRowPairs(const A &src1, const B &src2, const
     if constexpr (B::isArray) {
         if (!areApartObjectByObject(src2, dst)) return 0;
         for (std::size_t n = 0; n < objects; ++n)
-            multiplyTwoRowsAtOnce(src1.view(n), PassingRowPairs(src2.view(n)), dst.view(n).base);
+            multiplyTwoRowsAtOnce(src1.view(n), RowPairsInMemory(src2.view(n)), dst.view(n).base);
     } else {
         const HeldRowPairs held(src2.view(0));
         for (std::size_t n = 0; n < objects; ++n) multiplyTwoRowsAtOnce(src1.view(n), held, dst.view(n).base);

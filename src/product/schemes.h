@@ -70,10 +70,10 @@ template <class T> VONKK3_INLINE RowsView<T> asColumn(const RowsView<T> &vector)
     return RowsView<T>(vector.base, sizeof(T));
 }
 
-// False, and nothing done, where cells lie on factors.
+// Looks first, and is false, and nothing done, where cells lie on factors.
 template <class T, class A, class B>
-VONKK3_INLINE bool sumApart(const A &a, const B &b, const RowsView<T> &d, std::size_t rows, std::size_t columns,
-                            std::size_t terms) {
+VONKK3_INLINE bool sumOnceIfApart(const A &a, const B &b, const RowsView<T> &d, std::size_t rows, std::size_t columns,
+                                  std::size_t terms) {
     const Extent cells(d, rows, columns);
     if (!areApart(cells, extentOf(a, rows, terms)) || !areApart(cells, extentOf(b, terms, columns))) return false;
     using W = Working<T>;

@@ -33,8 +33,8 @@ template <std::size_t order> VONKK3_INLINE void storeVector(std::byte *address, 
     } else Lanes<order>{vector.head, vector.tail}.store(address);
 }
 
-// For two registers u and l, (u0 + u2, u1 + u3, l0 + l2, l1 + l3). One of the two operands takes whole halves from
-// both, which a processor does on more of its ways than it shuffles.
+// For two registers u and l, (u0 + u2, u1 + u3, l0 + l2, l1 + l3). One operand of the addition is a blend of whole
+// halves, which more of a processor's units can do than a shuffle.
 VONKK3_INLINE __m128 addHalves(__m128 u, __m128 l) {
     const __m128 outer = _mm_castpd_ps(_mm_move_sd(_mm_castps_pd(l), _mm_castps_pd(u)));
     return add(outer, _mm_shuffle_ps(u, l, _MM_SHUFFLE(1, 0, 3, 2)));

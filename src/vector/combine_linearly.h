@@ -26,7 +26,7 @@ template <class Operand> inline bool allAligned(const Operand &operand) {
 template <class Operation, class A, class B, class D, class Size>
 inline VonkStatus combineEachAligned(const Operation &operation, const A &a, const B &b, const D &d, Size,
                                      Objects count) {
-    if (count == 0) return vonkOk; // nothing is read, the single vector neither
+    if (count == 0) return vonkOk; // nothing is read, not even a single vector
     const auto held = lanesOf<4, Alignment::any>(b);
     const auto combineObject = [&](std::size_t n) VONKK3_INLINED {
         const std::byte *from = a.view(n).base;

@@ -145,7 +145,7 @@ template <Alignment alignment = Alignment::any, class Operation, class Length, c
 VONKK3_INLINE VonkStatus combineObjects(const Operation &operation, Length length, Count count, const D &d,
                                         const Sources &...sources) {
     using F = Form<Length, D, Sources...>;
-    if (count == 0) return vonkOk; // nothing is read, a single vector neither
+    if (count == 0) return vonkOk; // nothing is read, not even a single vector
     if constexpr (walksInBlocks<F>) return combineInBlocks(operation, length, d, sources...);
     else if constexpr (worksInLanes<F> && F::isStandard && F::isArray && !F::sharesOne)
         return combineArraysInLanes<alignment>(operation, length, count, d, sources...);
