@@ -9,6 +9,8 @@
 #include "frame/operands.h"
 #include "frame/unroll.h"
 
+#include <utility>
+
 namespace vonkk3::product {
 
 // Fewer objects than this are not worth the looking.
@@ -24,47 +26,45 @@ inline constexpr bool sumsInRuns =
 // objects or of the one element of a single operand; the table that says so; and a block that holds all the runs.
 // Mostly the runs follow one another in the order of the table, in a block that is the operand's own, and a look at the
 // blocks will do.
-template <class Byte, std::size_t count> struct PositionRuns {
-    static constexpr std::size_t positions = count;
-    Byte *run[count];
+template <class Operand, std::size_t rows, std::size_t columns> struct PositionRuns {
+    static constexpr std::size_t positions = rows * columns;
+    using Byte = std::remove_pointer_t<decltype(std::declval<Operand>().tableView(columns).at(0))>;
+    Byte *run[positions];
     std::size_t bytes;
     Extent table, block;
-    bool follow;
+    bool follow = true;
+
+    VONKK3_INLINE PositionRuns(const Operand &operand, std::size_t objects)
+        : PositionRuns(operand.tableView(columns), (Operand::isArray ? objects : 1) * sizeof(Real32)) {}
+    PositionRuns(const PositionRuns &) = delete; // some compilers would call for memcpy
 
     VONKK3_INLINE Byte *operator[](std::size_t position) const { return run[position]; }
     VONKK3_INLINE Extent extent(std::size_t position) const { return Extent(run[position], bytes); }
+
+private:
+    template <class View>
+    VONKK3_INLINE PositionRuns(const View &view, std::size_t bytes)
+        : bytes(bytes), table(view.table, positions * sizeof(void *)), block(view.at(0), bytes) {
+        for (std::size_t k = 1; k < positions; ++k) {
+            const Extent next(view.at(k), bytes);
+            follow &= next.begin >= block.end;
+            block.end = next.end;
+        }
+        for (std::size_t i = 0; i < rows; ++i)
+            for (std::size_t j = 0; j < columns; ++j)
+                run[i * columns + j] = Operand::isTransposed ? view.at(j, i) : view.at(i, j);
+        if (!follow) findBlock();
+    }
+
+    VONKK3_APART void findBlock() {
+        block = extent(0);
+        for (std::size_t k = 1; k < positions; ++k) {
+            const Extent next = extent(k);
+            if (next.begin < block.begin) block.begin = next.begin;
+            if (next.end > block.end) block.end = next.end;
+        }
+    }
 };
-
-template <class Runs> VONKK3_APART Extent blockOf(const Runs &runs) {
-    Extent block = runs.extent(0);
-    for (std::size_t k = 1; k < Runs::positions; ++k) {
-        const Extent run = runs.extent(k);
-        if (run.begin < block.begin) block.begin = run.begin;
-        if (run.end > block.end) block.end = run.end;
-    }
-    return block;
-}
-
-template <std::size_t rows, std::size_t columns, class Operand>
-VONKK3_INLINE auto runsOf(const Operand &operand, std::size_t objects) {
-    constexpr std::size_t positions = rows * columns;
-    const auto view = operand.tableView(columns);
-    const std::size_t bytes = (Operand::isArray ? objects : 1) * sizeof(Real32);
-    const Extent table(view.table, positions * sizeof(void *));
-    Extent block(view.at(0), bytes);
-    bool follow = true;
-    for (std::size_t k = 1; k < positions; ++k) {
-        const Extent run(view.at(k), bytes);
-        follow &= run.begin >= block.end;
-        block.end = run.end;
-    }
-    PositionRuns<std::remove_pointer_t<decltype(view.at(0))>, positions> runs{{}, bytes, table, block, follow};
-    for (std::size_t i = 0; i < rows; ++i)
-        for (std::size_t j = 0; j < columns; ++j)
-            runs.run[i * columns + j] = Operand::isTransposed ? view.at(j, i) : view.at(i, j);
-    if (!follow) runs.block = blockOf(runs);
-    return runs;
-}
 
 template <class Runs> VONKK3_INLINE bool areApart(const Runs &runs, const Extent &block) {
     if (areApart(runs.block, block)) return true;
@@ -107,9 +107,9 @@ template <class A, class B, class D>
 inline std::size_t multiplyRunsOfThree(const A &src1, const B &src2, const D &dst, std::size_t objects) {
     if (objects < worthRuns) return 0;
     const std::size_t done = inFours(objects);
-    const auto a = runsOf<3, 3>(src1, done);
-    const auto b = runsOf<3, 3>(src2, done);
-    const auto d = runsOf<3, 3>(dst, done);
+    const PositionRuns<A, 3, 3> a(src1, done);
+    const PositionRuns<B, 3, 3> b(src2, done);
+    const PositionRuns<D, 3, 3> d(dst, done);
     const bool liesOnFirst = areTheSame(d, a) && areApart(d, a.table);
     if (!areApart(d) || !areApart(d, b) || !(liesOnFirst || areApart(d, a))) return 0;
 
@@ -149,11 +149,11 @@ inline std::size_t sumInRuns(const A &src1, const B &src2, const D &dst, std::si
                              const Addends &...addends) {
     if (objects < worthRuns) return 0;
     const std::size_t done = inFours(objects);
-    const auto a = runsOf<order, order>(src1, done);
-    const auto b = runsOf<order, columns>(src2, done);
-    const auto d = runsOf<order, columns>(dst, done);
+    const PositionRuns<A, order, order> a(src1, done);
+    const PositionRuns<B, order, columns> b(src2, done);
+    const PositionRuns<D, order, columns> d(dst, done);
     if (!areApart(d) || !areApart(d, a) || !areApart(d, b)) return 0;
-    if ((!areApart(d, runsOf<order, columns>(addends, done)) || ...)) return 0;
+    if ((!areApart(d, PositionRuns<Addends, order, columns>(addends, done)) || ...)) return 0;
 
     constexpr std::size_t close = 64 * laneBytes;
     const std::size_t end = done * sizeof(Real32);
