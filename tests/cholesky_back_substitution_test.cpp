@@ -448,15 +448,14 @@ TEST(CholeskyBackSubstitutionChecks, PassOverTheObjectAtAddressZero) {
     const float unit[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
     for (const std::uint32_t count : {2U, 4U, 8U}) {
         const literal::PagesDownToNull sides(apart, count - 1);
-        for (std::uint32_t n = 0; n + 1 < count; ++n)
-            for (std::uint32_t i = 0; i < 3; ++i) sides[n][i] = static_cast<float>(10 * n + i);
+        for (std::size_t n = 0; n + 1 < count; ++n)
+            for (std::size_t i = 0; i < 3; ++i) sides[n][i] = static_cast<float>(10 * n + i);
         std::vector<float> solutions(std::size_t{3} * count, -1);
         EXPECT_EQ(vonkCholeskyBackSubst_mva_32f_3x3(unit, 12, sides[0], -apart, solutions.data(), 12,
                                                     static_cast<std::int32_t>(count)),
                   vonkOk);
-        for (std::uint32_t n = 0; n < count; ++n)
-            for (std::uint32_t i = 0; i < 3; ++i)
-                EXPECT_EQ(solutions[std::size_t{3} * n + i], n + 1 < count ? sides[n][i] : -1);
+        for (std::size_t n = 0; n < count; ++n)
+            for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(solutions[3 * n + i], n + 1 < count ? sides[n][i] : -1);
     }
 }
 

@@ -17,7 +17,6 @@
 namespace {
 
 using catalogue::Function;
-using catalogue::Layout;
 using catalogue::Type;
 using literal::Call;
 using literal::Geometry;
@@ -518,15 +517,14 @@ TEST(CholeskyDecompositionChecks, StopAtTheObjectAtAddressZero) {
     constexpr std::int32_t apart = 1 << 24;
     for (const std::uint32_t count : {2U, 4U, 8U}) {
         const literal::PagesDownToNull matrices(apart, count - 1);
-        for (std::uint32_t n = 0; n + 1 < count; ++n)
-            for (std::uint32_t i = 0; i < 3; ++i) matrices[n][4 * i] = 4;
+        for (std::size_t n = 0; n + 1 < count; ++n)
+            for (std::size_t i = 0; i < 3; ++i) matrices[n][4 * i] = 4;
         std::vector<float> factors(std::size_t{9} * count, -1);
         EXPECT_EQ(vonkCholeskyDecomp_ma_32f_3x3(matrices[0], -apart, 12, factors.data(), 36, 12,
                                                 static_cast<std::int32_t>(count)),
                   vonkErrNullPtr);
-        for (std::uint32_t n = 0; n < count; ++n)
-            for (std::uint32_t i = 0; i < 3; ++i)
-                EXPECT_EQ(factors[std::size_t{9} * n + 4 * i], n + 1 < count ? 0.5F : -1);
+        for (std::size_t n = 0; n < count; ++n)
+            for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(factors[9 * n + 4 * i], n + 1 < count ? 0.5F : -1);
     }
 }
 
