@@ -3,9 +3,8 @@
 #pragma once
 
 #include "cholqr/elements.h"
-#include "cholqr/four_objects.h"
 #include "cholqr/single_calls.h"
-#include "frame/walk.h"
+#include "frame/batch.h"
 
 namespace vonkk3::cholqr {
 
@@ -56,49 +55,37 @@ VONKK3_INLINE void solveObject(const Factor &factor, const RightSide &b, const S
     else solveByLoops(factor, b, x, RunTime{std::uint32_t(order)});
 }
 
-// ---- Four objects ---------------------------------------------------------------------------------------------------
+// ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Four systems side by side, where they lie so that nobody can tell.
-template <class Factor, class RightSide, class Solution, std::size_t order> class FourSolutions {
-public:
-    FourSolutions(const Factor &src1, const RightSide &src2, const Solution &dst, std::size_t count)
-        : src1(src1), src2(src2), dst(dst), factors(src1, true), amongFactors(dst, 1, src1, order, order, count),
-          amongRightSides(dst, 1, src2, 1, order, count), amongThemselves(dst, 1, dst, 1, order, count) {}
+// Real32 sums are the same in every layout and for every order.
+template <std::size_t order, bool isArray> struct SolveBatch {
+    static constexpr std::size_t chains = 2;
+    MatricesOfBatch<order, isArray, Triangle::lower> factors;
+    ObjectsView src2, dst;
 
-    VONKK3_INLINE bool operator()(std::size_t n) {
-        if (anyBeginsAtNull(n, four, src1, src2, dst) || !isClear(n)) return false;
-        work<FourReals>(n);
+    template <class Factor, class RightSide, class Solution>
+    VONKK3_INLINE SolveBatch(const Factor &src1, const RightSide &src2, const Solution &dst, std::size_t count)
+        : factors(src1, count), src2(objectsOf(src2, 1, order, count)), dst(objectsOf(dst, 1, order, count)) {}
+
+    Access access() const { return accessOf(factors.view, src2, dst); }
+    VONKK3_INLINE void hoist() { factors.hoist(); }
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) {
+        Packs<chains> b[1][order], x[1][order];
+        gatherBlock<access>(src2, n, b);
+        factors.template with<access, chains>(
+            n, [&](auto &f) VONKK3_INLINED { solve(Apart{f}, Apart{b}, Apart{x}, fixed<order>); });
+        scatterBlock<access>(dst, n, x);
         return true;
-    }
-
-    static constexpr bool worksEight = FourMatrices<Factor, Solution, order>::isGatheredOnce;
-    VONKK3_INLINE bool eightFrom(std::size_t n) {
-        if (anyBeginsAtNull(n, 2 * four, src1, src2, dst) || !isClear(n)) return false;
-        work<EightReals>(n);
-        return true;
-    }
-
-private:
-    const Factor &src1;
-    const RightSide &src2;
-    const Solution &dst;
-    FourMatrices<Factor, Solution, order> factors;
-    Clearance<Solution, Factor> amongFactors;
-    Clearance<Solution, RightSide> amongRightSides;
-    Clearance<Solution, Solution> amongThemselves;
-
-    VONKK3_INLINE bool isClear(std::size_t n) const {
-        return amongFactors.ofFourFrom(n) && amongRightSides.ofFourFrom(n) && amongThemselves.ofFourFrom(n);
-    }
-
-    template <class Reals> VONKK3_INLINE void work(std::size_t n) {
-        Reals b[1][order], x[1][order];
-        factors.gatherFrom(n);
-        gatherRows(src2, n, 0, order, b[0]);
-        solve(factors.elements(), Apart{b}, Apart{x}, fixed<order>);
-        scatterRows(dst, n, 0, order, x[0]);
     }
 };
+
+template <class Factor, class RightSide, class Solution, std::size_t order, class One>
+VONKK3_INLINE VonkStatus solveInBatches(const Factor &src1, const RightSide &src2, const Solution &dst, Fixed<order>,
+                                        std::size_t count, const One &one) {
+    SolveBatch<order, Factor::isArray> batch(src1, src2, dst, count);
+    const Aliasing aliasing(count, writes(batch.dst), reads(batch.factors.view), readsInPlace(batch.src2));
+    return forEachBatch(batch, aliasing, count, one);
+}
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -111,13 +98,14 @@ VONKK3_INLINE VonkStatus choleskyBackSubstitute(const Factor &src1, const RightS
     if (order.isZero() || count == 0) return vonkErrSize;
     if (hasTopBit(count) || (ordersWithSign<Solution> && hasTopBit(order))) return vonkOk;
     const auto one = [&](std::size_t n) VONKK3_INLINED {
-        if (!anyBeginsAtNull(n, 1, src1, src2, dst)) solveObject(src1.view(n, order), src2.view(n), dst.view(n), order);
+        if (!anyBeginsAtNull(n, src1, src2, dst)) solveObject(src1.view(n, order), src2.view(n), dst.view(n), order);
         return vonkOk;
     };
-    if constexpr (worksFourAtOnce<Solution, Order>)
-        if (count >= four)
-            return forEachFourOrOne(
-                count, FourSolutions<Factor, RightSide, Solution, Order::value>(src1, src2, dst, count), one);
+    if constexpr (worksInBatches<Solution>)
+        if (count >= packWidth)
+            return withFixedOrder(
+                order, [&](auto size) VONKK3_INLINED { return solveInBatches(src1, src2, dst, size, count, one); },
+                [&]() VONKK3_INLINED { return forEachObject(count, one); });
     return forEachObject(count, one);
 }
 

@@ -4,10 +4,9 @@
 #pragma once
 
 #include "cholqr/elements.h"
-#include "cholqr/four_objects.h"
 #include "cholqr/roots.h"
 #include "cholqr/single_calls.h"
-#include "frame/walk.h"
+#include "frame/batch.h"
 
 namespace vonkk3::cholqr {
 
@@ -37,16 +36,16 @@ inline constexpr bool letsFirstNanPass = std::is_same_v<Number, Wide> && (order 
 
 // Real32 takes root and reciprocal in the 80-bit type and rounds once, but in the pointer layouts takes them in Real32
 // and rounds twice.
-template <class View, class Number> VONKK3_INLINE Number reciprocalPivot(Number s) {
-    if constexpr (std::is_same_v<View, TableView<Real32>>) return 1.0F / __builtin_sqrtf(s);
-    else return reciprocalRoot(s);
-}
+template <class View>
+using Roots = std::conditional_t<std::is_same_v<View, TableView<Real32>>, RoundedTwice, RoundedOnce>;
 
 // A NaN is not.
 template <class Number> inline bool isPositive(Number s) { return s > 0; }
-inline bool isPositive(FourReals s) { return _mm_movemask_ps(_mm_cmpgt_ps(s.lanes, _mm_setzero_ps())) == 0xf; }
+template <std::size_t chains> VONKK3_INLINE bool isPositive(const Packs<chains> &s) {
+    return inAllLanes(s, [](Pack a) VONKK3_INLINED { return a > Pack(0); });
+}
 
-template <std::size_t order, class Number> inline bool isPositiveFirst(Number s) {
+template <std::size_t order, class Number> VONKK3_INLINE bool isPositiveFirst(const Number &s) {
     if constexpr (letsFirstNanPass<Number, order>) return !(0 >= s);
     else return isPositive(s);
 }
@@ -70,15 +69,15 @@ template <class Source, class Factor>
         for (std::size_t j = 0; j < i; ++j) f.store(i, j, minusProducts(a.load(i, j), f, i, j, j) * f.load(j, j));
         const auto s = minusProducts(a.load(i, i), f, i, i, i);
         if (!isPositive(s)) return vonkErrNotPosDef;
-        f.store(i, i, reciprocalPivot<Factor>(s));
+        f.store(i, i, Roots<Factor>()(s));
     }
     return vonkOk;
 }
 
-// The straight way: elements come from `load` and go to `store`, in the order of the loops.
-template <class Number, std::size_t order, class Load, class Store>
-VONKK3_INLINE bool factorStraight(Fixed<order>, const Load &load, const Store &store) {
-    Number f[order][order];
+// The straight way, in the order of the loops: elements come from `load` and go to f and, as they are finished, to
+// `store`.
+template <class Number, std::size_t order, class Roots, class Load, class Store>
+VONKK3_INLINE bool factorStraight(Number (&f)[order][order], Roots &&roots, const Load &load, const Store &store) {
     const auto minus = [&](Number s, std::size_t i, std::size_t j) VONKK3_INLINED {
         forIndices(0, j, fixed<order>, [&](std::size_t k) VONKK3_INLINED { s = s - f[i][k] * f[j][k]; });
         return s;
@@ -90,7 +89,7 @@ VONKK3_INLINE bool factorStraight(Fixed<order>, const Load &load, const Store &s
         });
         const Number s = minus(load(i, i), i, i);
         if (!(i == 0 ? isPositiveFirst<order>(s) : isPositive(s))) return false;
-        f[i][i] = reciprocalRoot(s);
+        f[i][i] = roots(s);
         store(i, i, f[i][i]);
         return true;
     });
@@ -101,8 +100,9 @@ VONKK3_INLINE VonkStatus factorStraight(const Source &source, const Factor &fact
     const InMemory a{inWholeElements(source)};
     const InMemory f{inWholeElements(factor)};
     using Number = typename decltype(f)::Number;
-    const bool definite = factorStraight<Number>(
-        fixed<order>, [&](std::size_t i, std::size_t j) VONKK3_INLINED { return a.load(i, j); },
+    Number inRegisters[order][order];
+    const bool definite = factorStraight(
+        inRegisters, RoundedOnce(), [&](std::size_t i, std::size_t j) VONKK3_INLINED { return a.load(i, j); },
         [&](std::size_t i, std::size_t j, Number value) VONKK3_INLINED { f.store(i, j, value); });
     return definite ? vonkOk : vonkErrNotPosDef;
 }
@@ -133,43 +133,59 @@ VONKK3_INLINE VonkStatus factor(const Source &source, const Factor &factor, Fixe
     else return factorStraightByCall<Source, Factor, order>(source, factor);
 }
 
-// ---- Four objects ---------------------------------------------------------------------------------------------------
+// ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Four objects side by side on the straight way, where they lie so that nobody can tell. They are stored when all is
-// done, so if one of them is null or fails, nothing has happened.
-template <class Source, class Factor, std::size_t order> class FourFactors {
-public:
-    FourFactors(const Source &src, const Factor &dst, std::size_t count)
-        : src(src), dst(dst), amongSources(dst, order, src, order, order, count),
-          amongThemselves(dst, order, dst, order, order, count),
-          isOpen(control.bothRoundToNearest() && control.wideHas53Bits()) {}
+// Matrices on the straight way. Where roots round once, they are filtered; if one is doubtful, all are taken anew.
+template <std::size_t order, bool rootsRoundTwice> struct FactorBatch {
+    static constexpr std::size_t chains = 2; // a root waits for the one before it
+    ObjectsView src, dst;
 
-    static constexpr bool worksEight = false;
-    VONKK3_INLINE bool operator()(std::size_t n) const {
-        if (!isOpen || anyBeginsAtNull(n, four, src, dst)) return false;
-        if (!amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n)) return false;
-        FourReals f[order][order];
-        FourReals row[order];
-        const bool definite = factorStraight<FourReals>(
-            fixed<order>,
-            [&](std::size_t i, std::size_t j) VONKK3_INLINED {
-                if (j == 0) gatherRows(src, n, i, i + 1, row);
-                return row[j];
-            },
-            [&](std::size_t i, std::size_t j, FourReals value) VONKK3_INLINED { f[i][j] = value; });
-        if (!definite) return false;
-        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { scatterRows(dst, n, i, i + 1, f[i]); });
+    Access access() const { return accessOf(src, dst); }
+
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
+        Packs<chains> f[order][order];
+        if constexpr (rootsRoundTwice) {
+            if (!factorGathered<access>(n, f, RoundedTwice())) return false;
+        } else {
+            Filtered roots;
+            if (!factorGathered<access>(n, f, roots)) return false;
+            if (roots.hasDoubt() && !factorAnew<access>(n, f)) return false;
+        }
+        scatterBlock<access, Triangle::lower>(dst, n, f);
         return true;
     }
 
 private:
-    const Source &src;
-    const Factor &dst;
-    Clearance<Factor, Source> amongSources;
-    Clearance<Factor, Factor> amongThemselves;
-    RoundingControl control;
-    bool isOpen;
+    template <Access access, std::size_t chains, class Roots>
+    VONKK3_INLINE bool factorGathered(std::size_t n, Packs<chains> (&f)[order][order], Roots &&roots) const {
+        gatherBlock<access, Triangle::lower>(src, n, f);
+        return factorStraight(
+            f, roots, [&](std::size_t i, std::size_t j) VONKK3_INLINED { return f[i][j]; },
+            [](std::size_t, std::size_t, const Packs<chains> &) VONKK3_INLINED {});
+    }
+    template <Access access, std::size_t chains>
+    VONKK3_APART bool factorAnew(std::size_t n, Packs<chains> (&f)[order][order]) const {
+        return factorGathered<access>(n, f, LaneByLane());
+    }
 };
+
+// On the straight way an element stride counts in whole elements.
+template <class Operand, std::size_t order>
+VONKK3_INLINE ObjectsView matricesOf(const Operand &operand, Fixed<order>, std::size_t count) {
+    ObjectsView view = objectsOf(operand, order, order, count);
+    if (Operand::isStrided) view.elementStride &= -std::ptrdiff_t(sizeof(Real32));
+    return view;
+}
+
+template <class Source, class Factor, std::size_t order, class One>
+VONKK3_INLINE VonkStatus factorInBatches(const Source &src, const Factor &dst, Fixed<order> size, std::size_t count,
+                                         const One &one) {
+    if constexpr (!Factor::isTable)
+        if (const RoundingControl control; !control.bothRoundToNearest() || !control.wideHas53Bits())
+            return forEachObject(count, one);
+    FactorBatch<order, Factor::isTable> batch{matricesOf(src, size, count), matricesOf(dst, size, count)};
+    return forEachBatch(batch, Aliasing(count, writes(batch.dst), readsInPlace(batch.src)), count, one);
+}
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -181,12 +197,14 @@ VONKK3_INLINE VonkStatus choleskyDecompose(const Source &src, const Factor &dst,
     if (order.isZero() || count == 0) return vonkErrSize;
     if (countsWithSign<Factor> && hasTopBit(count)) return vonkOk;
     const auto one = [&](std::size_t n) VONKK3_INLINED {
-        if (anyBeginsAtNull(n, 1, src, dst)) return VonkStatus(vonkErrNullPtr);
+        if (anyBeginsAtNull(n, src, dst)) return VonkStatus(vonkErrNullPtr);
         return factor(src.view(n, order), dst.view(n, order), order);
     };
-    if constexpr (worksFourAtOnce<Factor, Order>)
-        if (count >= four)
-            return forEachFourOrOne(count, FourFactors<Source, Factor, Order::value>(src, dst, count), one);
+    if constexpr (worksInBatches<Factor>)
+        if (count >= packWidth)
+            return withFixedOrder(
+                order, [&](auto size) VONKK3_INLINED { return factorInBatches(src, dst, size, count, one); },
+                [&]() VONKK3_INLINED { return forEachObject(count, one); });
     return forEachObject(count, one);
 }
 

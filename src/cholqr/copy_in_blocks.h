@@ -2,7 +2,7 @@
 // forward loop. Both leave the same.
 #pragma once
 
-#include "frame/extent.h"
+#include "frame/aliasing.h"
 #include "frame/lanes.h"
 
 namespace vonkk3::cholqr {
@@ -34,7 +34,7 @@ inline void copyInBlocks(const std::byte *source, std::byte *target, std::size_t
     const std::size_t bytes = length * sizeof(Real32);
     const std::size_t pastBoundary = reinterpret_cast<std::uintptr_t>(target) % laneBytes;
     if (length < blockThreshold || pastBoundary % sizeof(Real32) != 0 ||
-        !areApart(Extent(source, bytes), Extent(target, bytes)))
+        !disjoint(extentOf(source, bytes), extentOf(target, bytes)))
         return copyElements(source, target, 0, bytes);
 
     const std::size_t peeled = pastBoundary == 0 ? 0 : laneBytes - pastBoundary;

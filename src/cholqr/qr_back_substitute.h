@@ -5,9 +5,8 @@
 
 #include "cholqr/copy_in_blocks.h"
 #include "cholqr/elements.h"
-#include "cholqr/four_objects.h"
 #include "cholqr/reflectors.h"
-#include "frame/walk.h"
+#include "frame/batch.h"
 
 namespace vonkk3::cholqr {
 
@@ -138,71 +137,62 @@ VONKK3_INLINE void solveObject(const Reflectors &reflectors, const Triangle &tri
                                         RunTime{std::uint32_t(rows)});
 }
 
-// ---- Four objects ---------------------------------------------------------------------------------------------------
+// ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Four systems side by side, where they lie so that nobody can tell. `work` is left as the last of them leaves it.
-template <class Factors, class RightSide, class Solution, std::size_t order> class FourLeastSquares {
-public:
-    FourLeastSquares(const Factors &src1, Real32 *work, const RightSide &src2, const Solution &dst, std::size_t count)
-        : src1(src1), work(work), src2(src2), dst(dst), factors(src1, false),
-          amongFactors(dst, 1, src1, order, order, count), amongRightSides(dst, 1, src2, 1, order, count),
-          amongThemselves(dst, 1, dst, 1, order, count), ofWork(dst, 1, this->work, 1, order, count),
-          ofWorkAmongFactors(src1, order, this->work, 1, order, count),
-          ofWorkAmongRightSides(src2, 1, this->work, 1, order, count) {
-        if (factors.isGatheredOnce) findBetas();
+// `work` is left as the last object leaves it.
+template <std::size_t order, bool isArray> struct LeastSquaresBatch {
+    static constexpr std::size_t chains = 2;
+    MatricesOfBatch<order, isArray> factors;
+    ObjectsView src2, dst, workspace;
+    Pack betasOfSingle[order];
+
+    template <class Factors, class RightSide, class Solution>
+    VONKK3_INLINE LeastSquaresBatch(const Factors &src1, Real32 *work, const RightSide &src2, const Solution &dst,
+                                    std::size_t count)
+        : factors(src1, count), src2(objectsOf(src2, 1, order, count)), dst(objectsOf(dst, 1, order, count)),
+          workspace(packedBlocks(work, order, 1)) {}
+
+    Access access() const { return accessOf(factors.view, src2, dst); }
+    VONKK3_INLINE void hoist() {
+        factors.hoist();
+        if constexpr (!isArray) findBetas(factors.single, betasOfSingle);
     }
-
-    VONKK3_INLINE bool operator()(std::size_t n) {
-        if (anyListEntryNull(n, src1, src2, dst) || !isClear(n)) return false;
-        solveFrom<FourReals>(n);
-        return true;
-    }
-
-    static constexpr bool worksEight = FourMatrices<Factors, Solution, order>::isGatheredOnce;
-    VONKK3_INLINE bool eightFrom(std::size_t n) {
-        if (!isClear(n)) return false;
-        solveFrom<EightReals>(n);
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) {
+        Packs<chains> b[1][order], x[1][order];
+        gatherBlock<access>(src2, n, b);
+        factors.template with<access, chains>(n, [&](auto &f) VONKK3_INLINED {
+            if constexpr (isArray) {
+                Packs<chains> betas[order];
+                findBetas(f, betas);
+                solveWith(f, betas, b, x);
+            } else solveWith(f, betasOfSingle, b, x);
+        });
+        scatterBlock<access>(dst, n, x);
+        forIndices(0, order, fixed<order>,
+                   [&](std::size_t i) VONKK3_INLINED { workspace.store(0, i, b[0][i].last()); });
         return true;
     }
 
 private:
-    using Work = Vector<Real32, Layout::Standard>;
-    const Factors &src1;
-    Work work;
-    const RightSide &src2;
-    const Solution &dst;
-    FourMatrices<Factors, Solution, order> factors;
-    Clearance<Solution, Factors> amongFactors;
-    Clearance<Solution, RightSide> amongRightSides;
-    Clearance<Solution, Solution> amongThemselves;
-    Clearance<Solution, Work> ofWork;
-    Clearance<Factors, Work> ofWorkAmongFactors;
-    Clearance<RightSide, Work> ofWorkAmongRightSides;
-    FourReals betas[order];
-
-    VONKK3_INLINE bool isClear(std::size_t n) const {
-        return amongFactors.ofFourFrom(n) && amongRightSides.ofFourFrom(n) && amongThemselves.ofFourFrom(n) &&
-               ofWork.ofFourFrom(n) && ofWorkAmongFactors.ofFourFrom(n) && ofWorkAmongRightSides.ofFourFrom(n);
-    }
-
-    template <class Reals> VONKK3_INLINE void solveFrom(std::size_t n) {
-        Reals b[1][order], x[1][order];
-        factors.gatherFrom(n);
-        gatherRows(src2, n, 0, order, b[0]);
-        if (!factors.isGatheredOnce) findBetas();
-        replay(factors.elements(), Apart{b}, fixed<order>, fixed<order>,
-               [&](std::size_t k) VONKK3_INLINED { return betas[k]; });
-        solveTriangle(factors.elements(), Apart{b}, Apart{x}, fixed<order>);
-        scatterRows(dst, n, 0, order, x[0]);
-        forIndices(0, order, fixed<order>,
-                   [&](std::size_t i) VONKK3_INLINED { work.view(0).store(i, b[0][i].last()); });
-    }
-
-    VONKK3_INLINE void findBetas() {
+    template <class Number> VONKK3_INLINE static void findBetas(Number (&f)[order][order], Number (&betas)[order]) {
         forIndices(0, order - 1, fixed<order>,
-                   [&](std::size_t k) VONKK3_INLINED { betas[k] = betaOf(factors.elements(), k, fixed<order>); });
+                   [&](std::size_t k) VONKK3_INLINED { betas[k] = betaOf(Apart{f}, k, fixed<order>); });
+    }
+    template <class Factor, class Vector>
+    VONKK3_INLINE static void solveWith(Factor (&f)[order][order], const Factor (&betas)[order], Vector &b, Vector &x) {
+        replay(Apart{f}, Apart{b}, fixed<order>, fixed<order>, [&](std::size_t k) VONKK3_INLINED { return betas[k]; });
+        solveTriangle(Apart{f}, Apart{b}, Apart{x}, fixed<order>);
     }
 };
+
+template <class Factors, class RightSide, class Solution, std::size_t order, class One>
+VONKK3_INLINE VonkStatus leastSquaresInBatches(const Factors &src1, Real32 *work, const RightSide &src2,
+                                               const Solution &dst, Fixed<order>, std::size_t count, const One &one) {
+    LeastSquaresBatch<order, Factors::isArray> batch(src1, work, src2, dst, count);
+    const Aliasing aliasing(count, writes(batch.dst), reads(batch.factors.view), readsInPlace(batch.src2),
+                            writes(batch.workspace));
+    return forEachBatch(batch, aliasing, count, one);
+}
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -222,11 +212,13 @@ VONKK3_INLINE VonkStatus qrBackSubstitute(const Factors &src1, T *work, const Ri
                                                         src2.view(n), dst.view(n), columns, rows);
         return VonkStatus(vonkOk);
     };
-    if constexpr (worksFourAtOnce<Solution, Columns>)
-        if (count >= four)
-            return forEachFourOrOne(
-                count, FourLeastSquares<Factors, RightSide, Solution, Columns::value>(src1, work, src2, dst, count),
-                one);
+    if constexpr (worksInBatches<Solution>)
+        if (count >= packWidth && columns == rows)
+            return withFixedOrder(
+                columns,
+                [&](auto order)
+                    VONKK3_INLINED { return leastSquaresInBatches(src1, work, src2, dst, order, count, one); },
+                [&]() VONKK3_INLINED { return forEachObject(count, one); });
     return forEachObject(count, one);
 }
 

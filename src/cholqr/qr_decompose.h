@@ -4,10 +4,9 @@
 #pragma once
 
 #include "cholqr/elements.h"
-#include "cholqr/four_objects.h"
 #include "cholqr/reflectors.h"
 #include "cholqr/roots.h"
-#include "frame/walk.h"
+#include "frame/batch.h"
 
 namespace vonkk3::cholqr {
 
@@ -17,15 +16,17 @@ inline constexpr Real32 squaredNormTolerance = 0x1p-23F;
 
 // A NaN does not pass.
 template <class Number> inline bool passesAsSquaredNorm(Number s) { return s >= Number(squaredNormTolerance); }
-inline bool passesAsSquaredNorm(FourReals s) {
-    return _mm_movemask_ps(_mm_cmpge_ps(s.lanes, _mm_set1_ps(squaredNormTolerance))) == 0xf;
+template <std::size_t chains> VONKK3_INLINE bool passesAsSquaredNorm(const Packs<chains> &s) {
+    return inAllLanes(s, [](Pack a) VONKK3_INLINED { return a >= Pack(squaredNormTolerance); });
 }
 
 // With the sign of the diagonal element, so that their sum cancels nothing; of zero and NaN the minus sign.
 template <class Number> inline Number withSignOf(Number diagonal, Number norm) { return diagonal > 0 ? norm : -norm; }
-inline FourReals withSignOf(FourReals diagonal, FourReals norm) {
-    const __m128 isPositive = _mm_cmpgt_ps(diagonal.lanes, _mm_setzero_ps());
-    return _mm_xor_ps(norm.lanes, _mm_andnot_ps(isPositive, _mm_set1_ps(-0.0F)));
+template <std::size_t chains>
+VONKK3_INLINE Packs<chains> withSignOf(const Packs<chains> &diagonal, const Packs<chains> &norm) {
+    return Packs<chains>::each([&](std::size_t c) VONKK3_INLINED {
+        return select(diagonal.chain[c] > Pack(0), norm.chain[c], -norm.chain[c]);
+    });
 }
 
 // ---- One object -----------------------------------------------------------------------------------------------------
@@ -80,15 +81,14 @@ template <class Source, class Factors, class T>
     return reflectAll(InMemory{factors}, InMemory{workSpace(work)}, columns, rows) ? vonkOk : vonkErrSingular;
 }
 
-// Real32 of fixed order in rows of adjacent elements is worked apart from memory, where nobody can tell, and stored if
-// all goes well.
+// Real32 of fixed order in rows of adjacent elements is worked on a local copy, where operands are disjoint or in
+// place, and stored if all goes well.
 template <std::size_t order>
-VONKK3_INLINE bool reflectApart(const RowsView<const Real32> &source, const RowsView<Real32> &factors, Real32 *work,
-                                Fixed<order>) {
-    if (!areRowsApart(factors, order)) return false;
-    const Extent target(factors, order, order);
-    if (!areApart(target, Extent(work, order * sizeof(Real32)))) return false;
-    if (!areApart(target, Extent(source, order, order)) &&
+VONKK3_INLINE bool reflectLocally(const RowsView<const Real32> &source, const RowsView<Real32> &factors, Real32 *work,
+                                  Fixed<order>) {
+    const Extent target = extentOf(factors, order, order);
+    if (!areRowsDisjoint(factors, order) || !disjoint(target, extentOf(work, order))) return false;
+    if (!disjoint(target, extentOf(source, order, order)) &&
         !(source.base == factors.base && source.rowStride == factors.rowStride))
         return false;
 
@@ -109,49 +109,39 @@ template <class Source, class Factors, class T, class Columns, class Rows>
 VONKK3_INLINE VonkStatus reflectObject(const Source &source, const Factors &factors, T *work, Columns columns,
                                        Rows rows) {
     if constexpr (Columns::isFixed && std::is_same_v<Factors, RowsView<Real32>>)
-        if (reflectApart(source, factors, work, columns)) return vonkOk;
+        if (reflectLocally(source, factors, work, columns)) return vonkOk;
     return reflectByLoops(source, factors, work, RunTime{std::uint32_t(columns)}, RunTime{std::uint32_t(rows)});
 }
 
-// ---- Four objects ---------------------------------------------------------------------------------------------------
+// ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Four matrices side by side, where they lie so that nobody can tell. They are stored when all is done, so if one of
-// them is null or fails, nothing has happened. `work` is left as the last of them leaves it.
-template <class Source, class Factors, std::size_t order> class FourReflected {
-public:
-    FourReflected(const Source &src, Real32 *work, const Factors &dst, std::size_t count)
-        : src(src), work(work), dst(dst), amongSources(dst, order, src, order, order, count),
-          amongThemselves(dst, order, dst, order, order, count), ofWork(dst, order, this->work, 1, order, count),
-          ofWorkAmongSources(src, order, this->work, 1, order, count),
-          isOpen(areRowsApart(dst.view(0), order) && RoundingControl().bothRoundToNearest()) {}
+// `work` is left as the last object leaves it.
+template <std::size_t order> struct ReflectBatch {
+    static constexpr std::size_t chains = 1;
+    ObjectsView src, dst, workspace;
 
-    static constexpr bool worksEight = false;
-    VONKK3_INLINE bool operator()(std::size_t n) const {
-        if (!isOpen || anyListEntryNull(n, src, dst)) return false;
-        if (!amongSources.ofFourFrom(n) || !amongThemselves.ofFourFrom(n) || !ofWork.ofFourFrom(n) ||
-            !ofWorkAmongSources.ofFourFrom(n))
-            return false;
+    Access access() const { return accessOf(src, dst); }
 
-        FourReals d[order][order], v[1][order];
-        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { gatherRows(src, n, i, order, d[i]); });
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
+        Packs<chains> d[order][order], v[1][order];
+        gatherBlock<access>(src, n, d);
         if (!reflectAll(Apart{d}, Apart{v}, fixed<order>, fixed<order>)) return false;
-        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { scatterRows(dst, n, i, order, d[i]); });
+        scatterBlock<access>(dst, n, d);
         forIndices(0, order, fixed<order>,
-                   [&](std::size_t i) VONKK3_INLINED { work.view(0).store(i, v[0][i].last()); });
+                   [&](std::size_t i) VONKK3_INLINED { workspace.store(0, i, v[0][i].last()); });
         return true;
     }
-
-private:
-    using Work = Vector<Real32, Layout::Standard>;
-    const Source &src;
-    Work work;
-    const Factors &dst;
-    Clearance<Factors, Source> amongSources;
-    Clearance<Factors, Factors> amongThemselves;
-    Clearance<Factors, Work> ofWork;
-    Clearance<Source, Work> ofWorkAmongSources;
-    bool isOpen;
 };
+
+template <class Source, class Factors, std::size_t order, class One>
+VONKK3_INLINE VonkStatus reflectInBatches(const Source &src, Real32 *work, const Factors &dst, Fixed<order>,
+                                          std::size_t count, const One &one) {
+    if (!RoundingControl().bothRoundToNearest()) return forEachObject(count, one);
+    ReflectBatch<order> batch{objectsOf(src, order, order, count), objectsOf(dst, order, order, count),
+                              packedBlocks(work, order, 1)};
+    const Aliasing aliasing(count, writes(batch.dst), readsInPlace(batch.src), writes(batch.workspace));
+    return forEachBatch(batch, aliasing, count, one);
+}
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -166,9 +156,11 @@ VONKK3_INLINE VonkStatus qrDecompose(const Source &src, T *work, const Factors &
         if (src.listHasNull(n) || dst.listHasNull(n)) return VonkStatus(vonkErrNullPtr);
         return reflectObject(src.view(n, columns), dst.view(n, columns), work, columns, rows);
     };
-    if constexpr (worksFourAtOnce<Factors, Columns>)
-        if (count >= four)
-            return forEachFourOrOne(count, FourReflected<Source, Factors, Columns::value>(src, work, dst, count), one);
+    if constexpr (worksInBatches<Factors>)
+        if (count >= packWidth && columns == rows)
+            return withFixedOrder(
+                columns, [&](auto order) VONKK3_INLINED { return reflectInBatches(src, work, dst, order, count, one); },
+                [&]() VONKK3_INLINED { return forEachObject(count, one); });
     return forEachObject(count, one);
 }
 

@@ -9,14 +9,10 @@ namespace vonkk3::cholqr {
 // Sizes that are signed are negative then.
 inline bool hasTopBit(std::size_t size) { return size >> 31 != 0; }
 
-// The test for null that every single call makes, for so many objects from n on: whether one of the operands has its
-// object at null. In the pointer layouts it is a test of the table, which has been made by then. Nothing is looked at
-// behind the first that is null.
-template <class... Operands>
-VONKK3_INLINE bool anyBeginsAtNull(std::size_t n, std::size_t objects, const Operands &...operands) {
-    for (std::size_t k = n; k < n + objects; ++k)
-        if ((operands.beginsAtNull(k) || ...)) return true;
-    return false;
+// The test for null that every single call makes: whether an operand has object n at null. In the pointer layouts it is
+// a test of the table, which has been made by then.
+template <class... Operands> VONKK3_INLINE bool anyBeginsAtNull(std::size_t n, const Operands &...operands) {
+    return (operands.beginsAtNull(n) || ...);
 }
 
 } // namespace vonkk3::cholqr

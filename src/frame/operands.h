@@ -86,6 +86,11 @@ public:
         return copy;
     }
     std::ptrdiff_t rowSpacing() const { return rowStride; }
+    std::ptrdiff_t elementSpacing() const { return elementStride; }
+    std::ptrdiff_t entryShift() const { return shift; }
+
+    // Of object 0, or of the list or table.
+    std::uintptr_t address() const { return reinterpret_cast<std::uintptr_t>(pointer); }
 
 private:
     static constexpr bool hasShift = isTable || isList;

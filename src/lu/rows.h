@@ -2,7 +2,7 @@
 // a copy of the source in the order of the source.
 #pragma once
 
-#include "frame/extent.h"
+#include "frame/aliasing.h"
 #include "lu/permutation.h"
 
 namespace vonkk3::lu {
@@ -86,7 +86,7 @@ VONKK3_INLINE bool mayWorkInRegisters(const RowsView<const Real32> &source, cons
     const auto rowBytes = std::ptrdiff_t(order * sizeof(Real32));
     if (factors.rowStride < rowBytes && factors.rowStride > -rowBytes) return false;
     if (source.base == factors.base && source.rowStride == factors.rowStride) return true;
-    return areApart(Extent(source, order, order), Extent(factors, order, order));
+    return disjoint(extentOf(source, order, order), extentOf(factors, order, order));
 }
 
 } // namespace vonkk3::lu

@@ -2,7 +2,7 @@
 // rounded operation per element; objects, rows and columns in ascending order.
 #pragma once
 
-#include "frame/extent.h"
+#include "frame/aliasing.h"
 #include "frame/operations.h"
 #include "frame/untested_position.h"
 #include "frame/walk.h"
@@ -206,7 +206,7 @@ VONKK3_INLINE bool repeatSingle(const X &x, const Y &y, const D &d, std::size_t 
     const std::byte *const from = x.view(0).base;
     std::byte *const to = d.view(0).base;
     if (!areOneRun<F::order>(x, d) || count < worthRepeating || runsAhead(to, from, bytes)) return false;
-    if (!isHeld<F, Y> && !areApart(Extent(asStored(y.view(0)), F::order, F::order), Extent(to, bytes))) return false;
+    if (!isHeld<F, Y> && !disjoint(extentOf(asStored(y.view(0)), F::order, F::order), extentOf(to, bytes))) return false;
     return RepeatedRun<F::order>(y.view(0)).work(from, to, count, operation), true;
 }
 

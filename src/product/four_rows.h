@@ -3,7 +3,7 @@
 // object.
 #pragma once
 
-#include "frame/extent.h"
+#include "frame/aliasing.h"
 #include "frame/four_reals.h"
 
 namespace vonkk3::product {
@@ -14,7 +14,7 @@ template <class Matrices> VONKK3_INLINE bool areRowsSpacedEqually(const Matrices
 }
 
 template <class Matrices> VONKK3_INLINE Extent extentOfRows(const Matrices &matrices, std::size_t rows) {
-    return Extent(matrices.view(0), rows, 5);
+    return extentOf(matrices.view(0), rows, 5);
 }
 
 // How many objects were done: all that make fours, or none. The kernel reads column 4 of the single matrix anew for
@@ -28,7 +28,7 @@ inline std::size_t multiplyFourRows(const A &src1, const B &src2, const D &dst, 
     if (targetStep < std::ptrdiff_t(order * sizeof(Real32))) return 0; // rows of a result would share elements
     const auto single = src2.view(0);
     const Extent written = extentOfRows(dst, rows);
-    if (!areApart(written, extentOfRows(src1, rows)) || !areApart(written, Extent(single, order, order))) return 0;
+    if (!disjoint(written, extentOfRows(src1, rows)) || !disjoint(written, extentOf(single, order, order))) return 0;
 
     FourReals factor[order][order];
     for (std::size_t k = 0; k < order; ++k)

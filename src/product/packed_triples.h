@@ -3,7 +3,7 @@
 // (p0 + p1) + p2, as in the kernels for one object, and so are the results.
 #pragma once
 
-#include "frame/extent.h"
+#include "frame/aliasing.h"
 #include "frame/four_objects.h"
 
 namespace vonkk3::product {
@@ -11,7 +11,7 @@ namespace vonkk3::product {
 // Blocks are for results that lie apart from the vectors or exactly on them: each depends on the vector of its place
 // alone, so nobody can tell the difference.
 inline bool mayWorkInBlocks(const std::byte *vectors, const std::byte *results, std::size_t bytes) {
-    return vectors == results || areApart(Extent(vectors, bytes), Extent(results, bytes));
+    return vectors == results || disjoint(extentOf(vectors, bytes), extentOf(results, bytes));
 }
 
 // The elements of a matrix in all lanes: element (i, j) of the result's vector i takes factor j of it.

@@ -4,7 +4,7 @@
 // that goes row by row, so nobody can tell.
 #pragma once
 
-#include "frame/extent.h"
+#include "frame/aliasing.h"
 #include "frame/lanes.h"
 #include "frame/operands.h"
 #include "frame/unroll.h"
@@ -39,14 +39,14 @@ template <class Operand, std::size_t rows, std::size_t columns> struct PositionR
     PositionRuns(const PositionRuns &) = delete; // some compilers would call for memcpy
 
     VONKK3_INLINE Byte *operator[](std::size_t position) const { return run[position]; }
-    VONKK3_INLINE Extent extent(std::size_t position) const { return Extent(run[position], bytes); }
+    VONKK3_INLINE Extent extent(std::size_t position) const { return extentOf(run[position], bytes); }
 
 private:
     template <class View>
     VONKK3_INLINE PositionRuns(const View &view, std::size_t bytes)
-        : bytes(bytes), table(view.table, positions * sizeof(void *)), block(view.at(0), bytes) {
+        : bytes(bytes), table(extentOf(view.table, positions)), block(extentOf(view.at(0), bytes)) {
         for (std::size_t k = 1; k < positions; ++k) {
-            const Extent next(view.at(k), bytes);
+            const Extent next = extentOf(view.at(k), bytes);
             follow &= next.begin >= block.end;
             block.end = next.end;
         }
@@ -66,29 +66,29 @@ private:
     }
 };
 
-template <class Runs> VONKK3_INLINE bool areApart(const Runs &runs, const Extent &block) {
-    if (areApart(runs.block, block)) return true;
+template <class Runs> VONKK3_INLINE bool disjoint(const Runs &runs, const Extent &block) {
+    if (disjoint(runs.block, block)) return true;
     for (std::size_t k = 0; k < Runs::positions; ++k)
-        if (!areApart(runs.extent(k), block)) return false;
+        if (!disjoint(runs.extent(k), block)) return false;
     return true;
 }
 
 // Whether the written runs are apart from the read ones and from the table of these.
-template <class Written, class Read> inline bool areApart(const Written &written, const Read &read) {
-    if (!areApart(written, read.table)) return false;
-    if (areApart(written.block, read.block)) return true;
+template <class Written, class Read> inline bool disjoint(const Written &written, const Read &read) {
+    if (!disjoint(written, read.table)) return false;
+    if (disjoint(written.block, read.block)) return true;
     for (std::size_t k = 0; k < Read::positions; ++k)
-        if (!areApart(written, read.extent(k))) return false;
+        if (!disjoint(written, read.extent(k))) return false;
     return true;
 }
 
 // Whether runs are apart from each other and from their table.
-template <class Runs> inline bool areApart(const Runs &runs) {
-    if (!areApart(runs, runs.table)) return false;
+template <class Runs> inline bool disjoint(const Runs &runs) {
+    if (!disjoint(runs, runs.table)) return false;
     if (runs.follow) return true;
     for (std::size_t k = 1; k < Runs::positions; ++k)
         for (std::size_t before = 0; before < k; ++before)
-            if (!areApart(runs.extent(k), runs.extent(before))) return false;
+            if (!disjoint(runs.extent(k), runs.extent(before))) return false;
     return true;
 }
 
@@ -110,8 +110,8 @@ inline std::size_t multiplyRunsOfThree(const A &src1, const B &src2, const D &ds
     const PositionRuns<A, 3, 3> a(src1, done);
     const PositionRuns<B, 3, 3> b(src2, done);
     const PositionRuns<D, 3, 3> d(dst, done);
-    const bool liesOnFirst = areTheSame(d, a) && areApart(d, a.table);
-    if (!areApart(d) || !areApart(d, b) || !(liesOnFirst || areApart(d, a))) return 0;
+    const bool liesOnFirst = areTheSame(d, a) && disjoint(d, a.table);
+    if (!disjoint(d) || !disjoint(d, b) || !(liesOnFirst || disjoint(d, a))) return 0;
 
     __m128 factor[9];
     for (std::size_t k = 0; k < 9; ++k) factor[k] = _mm_set1_ps(loadAt<Real32>(b[k]));
@@ -152,8 +152,8 @@ inline std::size_t sumInRuns(const A &src1, const B &src2, const D &dst, std::si
     const PositionRuns<A, order, order> a(src1, done);
     const PositionRuns<B, order, columns> b(src2, done);
     const PositionRuns<D, order, columns> d(dst, done);
-    if (!areApart(d) || !areApart(d, a) || !areApart(d, b)) return 0;
-    if ((!areApart(d, PositionRuns<Addends, order, columns>(addends, done)) || ...)) return 0;
+    if (!disjoint(d) || !disjoint(d, a) || !disjoint(d, b)) return 0;
+    if ((!disjoint(d, PositionRuns<Addends, order, columns>(addends, done)) || ...)) return 0;
 
     constexpr std::size_t close = 64 * laneBytes;
     const std::size_t end = done * sizeof(Real32);

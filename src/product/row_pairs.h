@@ -4,7 +4,7 @@
 // way stands open only where nobody can tell.
 #pragma once
 
-#include "frame/extent.h"
+#include "frame/aliasing.h"
 #include "frame/walk.h"
 #include "product/kernels.h"
 
@@ -72,7 +72,7 @@ VONKK3_INLINE void multiplyTwoRowsAtOnce(const RowsView<const Real32> &a, const 
 
 // Whether each result is apart from the matrix of its own object.
 template <class Matrices, class D> VONKK3_INLINE bool areApartObjectByObject(const Matrices &matrices, const D &dst) {
-    return equallySpaced(matrices, dst) && areApart(Extent(dst.view(0), 6, 6), Extent(matrices.view(0), 6, 6));
+    return equallySpaced(matrices, dst) && disjoint(extentOf(dst.view(0), 6, 6), extentOf(matrices.view(0), 6, 6));
 }
 
 // How many objects were done: all or none.

@@ -2,7 +2,7 @@
 // follows every step, so an operand that overlaps it sees what was stored.
 #pragma once
 
-#include "frame/extent.h"
+#include "frame/aliasing.h"
 #include "frame/walk.h"
 
 namespace vonkk3::product {
@@ -57,12 +57,9 @@ template <class View> inline constexpr bool hasExtent = false;
 template <class T> inline constexpr bool hasExtent<RowsView<T>> = true;
 template <class T> inline constexpr bool hasExtent<TransposedView<RowsView<T>>> = true;
 
-template <class T> VONKK3_INLINE Extent extentOf(const RowsView<T> &view, std::size_t rows, std::size_t columns) {
-    return Extent(view, rows, columns);
-}
 template <class T>
 VONKK3_INLINE Extent extentOf(const TransposedView<RowsView<T>> &view, std::size_t rows, std::size_t columns) {
-    return Extent(view.stored, columns, rows);
+    return extentOf(view.stored, columns, rows);
 }
 
 // A vector of adjacent elements as a matrix of one column.
@@ -74,8 +71,8 @@ template <class T> VONKK3_INLINE RowsView<T> asColumn(const RowsView<T> &vector)
 template <class T, class A, class B>
 VONKK3_INLINE bool sumOnceIfApart(const A &a, const B &b, const RowsView<T> &d, std::size_t rows, std::size_t columns,
                                   std::size_t terms) {
-    const Extent cells(d, rows, columns);
-    if (!areApart(cells, extentOf(a, rows, terms)) || !areApart(cells, extentOf(b, terms, columns))) return false;
+    const Extent cells = extentOf(d, rows, columns);
+    if (!disjoint(cells, extentOf(a, rows, terms)) || !disjoint(cells, extentOf(b, terms, columns))) return false;
     using W = Working<T>;
     for (std::size_t i = 0; i < rows; ++i)
         for (std::size_t j = 0; j < columns; ++j) {

@@ -1,7 +1,7 @@
 // Dot product: of two vectors, of an array and one vector, or of two arrays pairwise. Results are a dense block.
 #pragma once
 
-#include "frame/extent.h"
+#include "frame/aliasing.h"
 #include "frame/four_objects.h"
 #include "frame/walk.h"
 #include "vector/block_walk.h"
@@ -83,10 +83,10 @@ VONKK3_INLINE Working<typename F::T> sumProducts(const A &a, const B &b, Length 
 // other only if results overlap operands.
 template <class F, class A, class B>
 inline bool resultsLieApart(const Real32 *dst, const A &a, const B &b, Objects count) {
-    const Extent results(dst, count * sizeof(Real32));
+    const Extent results = extentOf(dst, count);
     const auto isApart = [&](const auto &operand) {
         const RowsView<const Real32> objects(operand.view(0).base, operand.objectSpacing());
-        return areApart(results, Extent(objects, count, F::length));
+        return disjoint(results, extentOf(objects, count, F::length));
     };
     return isApart(a) && isApart(b);
 }

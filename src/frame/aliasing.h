@@ -1,0 +1,422 @@
+// The alias test: whether objects may be worked together, all of a batch read before any of it is written. It is asked
+// of the bytes that operands cover, so it answers for any layout, and for strides of any sign and size.
+//
+// One object after the other, an object sees what was written for those before it. A batch gives the same results if,
+// for any two of its objects, nothing that is written for one is read or written for the other, and if each object
+// is written clear of its own sources or, where the family's arithmetic allows it, exactly in place.
+#pragma once
+
+#include "frame/objects_view.h"
+
+namespace vonkk3 {
+
+// From the first byte to past the last.
+struct Extent {
+    std::uintptr_t begin, end;
+
+    std::uintptr_t bytes() const { return end - begin; }
+    Extent movedBy(std::uintptr_t distance) const { return {begin + distance, end + distance}; }
+
+    // With further copies of it, the last one so many bytes away.
+    Extent extendedBy(std::ptrdiff_t distance) const {
+        return distance < 0 ? Extent{begin + std::uintptr_t(distance), end}
+                            : Extent{begin, end + std::uintptr_t(distance)};
+    }
+    Extent joinedWith(const Extent &other) const {
+        return {begin < other.begin ? begin : other.begin, end > other.end ? end : other.end};
+    }
+};
+
+inline Extent extentOf(const std::byte *block, std::size_t bytes) {
+    const auto begin = reinterpret_cast<std::uintptr_t>(block);
+    return {begin, begin + bytes};
+}
+template <class T> inline Extent extentOf(const T *block, std::size_t length) {
+    return extentOf(reinterpret_cast<const std::byte *>(block), length * sizeof(T));
+}
+template <class T> VONKK3_INLINE Extent extentOf(const RowsView<T> &view, std::size_t rows, std::size_t columns) {
+    return extentOf(view.base, columns * sizeof(T)).extendedBy(strides(rows - 1, view.rowStride));
+}
+
+// Whether the rows of a matrix are disjoint.
+template <class T> inline bool areRowsDisjoint(const RowsView<T> &view, std::size_t columns) {
+    const auto rowBytes = std::ptrdiff_t(columns * sizeof(T));
+    return view.rowStride >= rowBytes || view.rowStride <= -rowBytes;
+}
+
+VONKK3_INLINE bool disjoint(const Extent &a, const Extent &b) { return a.end <= b.begin || b.end <= a.begin; }
+
+inline std::uintptr_t magnitudeOf(std::ptrdiff_t stride) {
+    return stride < 0 ? -std::uintptr_t(stride) : std::uintptr_t(stride);
+}
+
+// An operand in the test.
+struct AliasOperand {
+    enum class Use : std::uint8_t {
+        read,        // nothing that is written may overlap it
+        readInPlace, // but results may coincide with it, object for object and element for element
+        written
+    };
+
+    const ObjectsView &view;
+    Use use;
+    Extent object; // of object 0; in a list, of an object at address 0
+    Extent whole;  // of all objects; in a list, where it ascends
+
+    VONKK3_INLINE AliasOperand(const ObjectsView &view, Use use) : view(view), use(use) {}
+
+    void findExtents() {
+        object = view.isTable() ? extentOfPositions() : extentOfStrides();
+        whole = ofAllObjects(object);
+    }
+    bool isWritten() const { return use == Use::written; }
+
+    // Some families test every object for address 0. No memory lies there, nor where extents wrap round.
+    bool mayBeginAtNull() const { return whole.begin == 0 || whole.end < whole.begin; }
+    Extent ofAllObjects(const Extent &part) const {
+        return part.extendedBy(strides(view.count - 1, view.objectStride));
+    }
+    Extent ofObject(std::size_t n) const {
+        return object.movedBy(view.isList() ? view.object(n) : std::uintptr_t(strides(n, view.objectStride)));
+    }
+
+    // An object is made of parts that may interleave with those of other operands: the positions of a table, else its
+    // rows, or its columns if these lie farther apart.
+    std::size_t parts() const {
+        if (view.isTable()) return std::size_t(view.rows) * view.columns;
+        return isRowMajor() ? view.rows : view.columns;
+    }
+    Extent part(std::size_t k) const {
+        if (view.isTable()) {
+            const std::uintptr_t address = view.position(k / view.columns, k % view.columns);
+            return {address, address + view.elementBytes};
+        }
+        const Extent element{view.begin, view.begin + view.elementBytes};
+        return isRowMajor()
+                   ? element.extendedBy(strides(view.columns - 1, view.elementStride))
+                         .movedBy(offset(k, view.rowStride))
+                   : element.extendedBy(strides(view.rows - 1, view.rowStride)).movedBy(offset(k, view.elementStride));
+    }
+
+    // The list or table itself.
+    bool hasEntries() const { return view.indirection != ObjectsView::Indirection::none; }
+    Extent entries() const {
+        const std::size_t number = view.isList() ? view.count : std::size_t(view.rows) * view.columns;
+        return {view.begin, view.begin + number * sizeof(void *)};
+    }
+
+private:
+    bool isRowMajor() const { return magnitudeOf(view.rowStride) >= magnitudeOf(view.elementStride); }
+    static std::uintptr_t offset(std::size_t k, std::ptrdiff_t stride) { return std::uintptr_t(strides(k, stride)); }
+
+    Extent extentOfStrides() const {
+        const std::uintptr_t first = view.isList() ? 0 : view.begin;
+        return Extent{first, first + view.elementBytes}
+            .extendedBy(strides(view.rows - 1, view.rowStride))
+            .extendedBy(strides(view.columns - 1, view.elementStride));
+    }
+    Extent extentOfPositions() const {
+        Extent all = part(0);
+        for (std::size_t i = 0; i < view.rows; ++i)
+            for (std::size_t j = 0; j < view.columns; ++j) {
+                const std::uintptr_t address = view.position(i, j);
+                all.begin = address < all.begin ? address : all.begin;
+                all.end = address + view.elementBytes > all.end ? address + view.elementBytes : all.end;
+            }
+        return all;
+    }
+};
+
+// The views must live as long as the test.
+VONKK3_INLINE AliasOperand reads(const ObjectsView &view) { return {view, AliasOperand::Use::read}; }
+VONKK3_INLINE AliasOperand readsInPlace(const ObjectsView &view) { return {view, AliasOperand::Use::readInPlace}; }
+VONKK3_INLINE AliasOperand writes(const ObjectsView &view) { return {view, AliasOperand::Use::written}; }
+
+// ---- Operands whose extents are known for the whole call ------------------------------------------------------------
+
+namespace aliasing {
+
+inline bool haveSameStrides(const ObjectsView &a, const ObjectsView &b) {
+    return a.rowStride == b.rowStride && a.elementStride == b.elementStride && a.rows == b.rows &&
+           a.columns == b.columns;
+}
+
+// Every element of a where that of b is. Transposed operands do not coincide, whatever their order.
+inline bool coincide(const ObjectsView &a, const ObjectsView &b) {
+    if (!haveSameStrides(a, b) || a.objectStride != b.objectStride) return false;
+    if (!a.isTable()) return a.begin == b.begin && a.shift == b.shift && a.isList() == b.isList();
+    for (std::size_t i = 0; i < a.rows; ++i)
+        for (std::size_t j = 0; j < a.columns; ++j)
+            if (a.position(i, j) != b.position(i, j)) return false;
+    return true;
+}
+
+// Equally spaced objects that fit, both together, between two places of the spacing: those of different number are
+// disjoint then.
+inline bool interleave(const AliasOperand &a, const AliasOperand &b) {
+    return a.view.objectStride == b.view.objectStride && a.view.isArray && b.view.isArray &&
+           a.object.joinedWith(b.object).bytes() <= magnitudeOf(a.view.objectStride);
+}
+
+// Comparing parts with parts pays for itself only over so many objects.
+inline bool isWorthComparing(std::size_t pairs, std::size_t objects) { return pairs <= 16 * objects; }
+
+inline bool arePartsDisjoint(const AliasOperand &a, const AliasOperand &b, const Extent &p, const Extent &q,
+                             bool interleaved) {
+    return disjoint(a.ofAllObjects(p), b.ofAllObjects(q)) || (interleaved && disjoint(p, q));
+}
+
+inline bool areDisjointByParts(const AliasOperand &a, const AliasOperand &b) {
+    const bool interleaved = interleave(a, b);
+    if (interleaved && disjoint(a.object, b.object)) return true;
+    const std::size_t parts = a.parts(), others = b.parts();
+    if (!isWorthComparing(parts * others, a.view.count)) return false;
+    for (std::size_t k = 0; k < parts; ++k)
+        for (std::size_t l = 0; l < others; ++l)
+            if (!arePartsDisjoint(a, b, a.part(k), b.part(l), interleaved)) return false;
+    return true;
+}
+
+inline bool areIndependent(const AliasOperand &written, const AliasOperand &other) {
+    if (disjoint(written.whole, other.whole)) return true;
+    if (other.use == AliasOperand::Use::readInPlace && coincide(written.view, other.view)) return true;
+    if (written.view.isList() || other.view.isList()) return false; // left to a look at each batch
+    return areDisjointByParts(written, other);
+}
+
+// Whether no two elements overlap, of one object or of two: strides, from the smallest, each step over all before it.
+inline bool areStridesDisjoint(const ObjectsView &view) {
+    struct Dimension {
+        std::uintptr_t stride;
+        std::size_t number;
+    };
+    Dimension dimensions[] = {{magnitudeOf(view.elementStride), view.columns},
+                              {magnitudeOf(view.rowStride), view.rows},
+                              {magnitudeOf(view.objectStride), view.isList() ? 1 : view.count}};
+    std::uintptr_t covered = view.elementBytes;
+    for (std::size_t left = 3; left > 0; --left) {
+        Dimension *least = dimensions;
+        for (Dimension *each = dimensions; each < dimensions + left; ++each)
+            if (each->stride < least->stride) least = each;
+        if (least->number > 1) {
+            if (least->stride < covered) return false;
+            covered += least->stride * (least->number - 1);
+        }
+        *least = dimensions[left - 1];
+    }
+    return true;
+}
+
+inline bool arePositionsDisjoint(const AliasOperand &a) {
+    if (a.view.count > 1 && magnitudeOf(a.view.objectStride) < a.view.elementBytes) return false;
+    const std::size_t parts = a.parts();
+    bool ascend = true;
+    Extent before = a.ofAllObjects(a.part(0));
+    for (std::size_t k = 1; k < parts; ++k) {
+        const Extent next = a.ofAllObjects(a.part(k));
+        ascend &= before.end <= next.begin;
+        before = next;
+    }
+    if (ascend) return true;
+    const bool interleaved = a.object.bytes() <= magnitudeOf(a.view.objectStride);
+    for (std::size_t k = 1; k < parts; ++k)
+        for (std::size_t l = 0; l < k; ++l)
+            if (!arePartsDisjoint(a, a, a.part(k), a.part(l), interleaved)) return false;
+    return true;
+}
+
+inline bool isWrittenOnce(const AliasOperand &written) {
+    return written.view.isTable() ? arePositionsDisjoint(written) : areStridesDisjoint(written.view);
+}
+
+// ---- Lists: by batches ----------------------------------------------------------------------------------------------
+
+inline Extent ofObjects(const AliasOperand &operand, std::size_t n, std::size_t objects) {
+    Extent all = operand.ofObject(n);
+    for (std::size_t k = 1; k < objects; ++k) all = all.joinedWith(operand.ofObject(n + k));
+    return all;
+}
+
+inline bool areIndependentOneByOne(const AliasOperand &written, const AliasOperand &other, std::size_t n,
+                                   std::size_t objects) {
+    const bool mayCoincide = other.use == AliasOperand::Use::readInPlace && haveSameStrides(written.view, other.view);
+    for (std::size_t a = 0; a < objects; ++a)
+        for (std::size_t b = 0; b < objects; ++b) {
+            const bool isSame = mayCoincide && a == b && written.view.object(n + a) == other.view.object(n + b);
+            if (!isSame && !disjoint(written.ofObject(n + a), other.ofObject(n + b))) return false;
+        }
+    return true;
+}
+
+inline bool areObjectsDisjoint(const AliasOperand &written, std::size_t n, std::size_t objects) {
+    bool ascend = true;
+    for (std::size_t k = 1; k < objects; ++k)
+        ascend &= written.ofObject(n + k - 1).end <= written.ofObject(n + k).begin;
+    if (ascend) return true;
+    for (std::size_t a = 1; a < objects; ++a)
+        for (std::size_t b = 0; b < a; ++b)
+            if (!disjoint(written.ofObject(n + a), written.ofObject(n + b))) return false;
+    return true;
+}
+
+// ---- Lists that ascend are as good as arrays ------------------------------------------------------------------------
+
+struct AscendingLists {
+    std::size_t length; // objects until one of the lists has a null entry
+    bool ascend;        // and the objects of written lists are disjoint
+};
+
+// Entries are looked at object by object, none after the first that is null.
+template <std::size_t lists> VONKK3_APART AscendingLists scanLists(AliasOperand *const *operands) {
+    struct {
+        std::uintptr_t entries, shift, before, leastStep;
+    } list[lists];
+    for (std::size_t l = 0; l < lists; ++l) {
+        const AliasOperand &operand = *operands[l];
+        list[l] = {operand.view.begin, std::uintptr_t(operand.view.shift), 0, 0};
+        list[l].leastStep = operand.isWritten() ? operand.object.bytes() : 0;
+    }
+    const std::size_t count = operands[0]->view.count;
+    for (std::size_t n = 0; n < count; ++n) {
+        VONKK3_UNROLL_WHOLE
+        for (std::size_t l = 0; l < lists; ++l) {
+            const std::uintptr_t entry = ObjectsView::pointerAt(list[l].entries + n * sizeof(void *));
+            const std::uintptr_t object = entry + list[l].shift;
+            if (entry == 0 || object == 0) return {n, true};
+            if (n != 0 && (object < list[l].before || object - list[l].before < list[l].leastStep)) return {n, false};
+            list[l].before = object;
+        }
+    }
+    return {count, true};
+}
+
+inline AscendingLists scanLists(AliasOperand *operands, std::size_t number) {
+    AliasOperand *lists[4] = {};
+    std::size_t found = 0;
+    for (std::size_t k = 0; k < number; ++k)
+        if (operands[k].view.isList()) lists[found++] = &operands[k];
+    const AscendingLists scanned = found == 1   ? scanLists<1>(lists)
+                                   : found == 2 ? scanLists<2>(lists)
+                                   : found == 3 ? scanLists<3>(lists)
+                                                : scanLists<4>(lists);
+    for (std::size_t l = 0; l < found && scanned.length != 0; ++l) {
+        AliasOperand &operand = *lists[l];
+        operand.whole = operand.ofObject(0).joinedWith(operand.ofObject(scanned.length - 1));
+    }
+    return scanned;
+}
+
+// ---- All operands ---------------------------------------------------------------------------------------------------
+
+// For how many objects batches are allowed without another look, and whether others may ask batch by batch.
+struct Answer {
+    std::size_t allowed;
+    bool asksByBatch;
+};
+
+inline bool areAllIndependent(const AliasOperand *operands, std::size_t number) {
+    for (std::size_t w = 0; w < number; ++w) {
+        const AliasOperand &written = operands[w];
+        if (!written.isWritten()) continue;
+        for (std::size_t k = 0; k < number; ++k) {
+            const AliasOperand &other = operands[k];
+            if (other.hasEntries() && !disjoint(written.whole, other.entries())) return false;
+            if (k != w && !areIndependent(written, other)) return false;
+        }
+    }
+    return true;
+}
+
+// The usual case at a glance: arrays in ascending order, rows within objects and elements within rows. Whether it is
+// one, and where it lies.
+VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
+    if (view.indirection != ObjectsView::Indirection::none) return false;
+    const std::ptrdiff_t ofRow = strides(view.columns - 1, view.elementStride) + std::ptrdiff_t(view.elementBytes);
+    const std::ptrdiff_t ofObject = strides(view.rows - 1, view.rowStride) + ofRow;
+    if (view.elementStride < std::ptrdiff_t(view.elementBytes) || (view.rows > 1 && view.rowStride < ofRow) ||
+        (view.isArray && view.objectStride < ofObject))
+        return false;
+    whole = {view.begin, view.begin + std::uintptr_t(strides(view.count - 1, view.objectStride) + ofObject)};
+    return whole.begin < whole.end;
+}
+
+template <std::size_t number> VONKK3_INLINE bool isPlainlyIndependent(const AliasOperand (&operands)[number]) {
+    Extent whole[number];
+    bool plain = true;
+    VONKK3_UNROLL_WHOLE
+    for (std::size_t k = 0; k < number; ++k) plain = plain && isAscending(operands[k].view, whole[k]);
+    VONKK3_UNROLL_WHOLE
+    for (std::size_t w = 0; w < number; ++w) {
+        if (!operands[w].isWritten()) continue;
+        VONKK3_UNROLL_WHOLE
+        for (std::size_t k = 0; k < number; ++k) plain = plain && (k == w || disjoint(whole[w], whole[k]));
+    }
+    return plain;
+}
+
+VONKK3_APART inline Answer askOnce(AliasOperand *operands, std::size_t number, std::size_t count) {
+    constexpr Answer no = {0, false};
+    bool anyList = false;
+    for (std::size_t k = 0; k < number; ++k) {
+        operands[k].findExtents();
+        if (operands[k].view.isList()) anyList = true;
+        else if (operands[k].mayBeginAtNull()) return no;
+    }
+    for (std::size_t w = 0; w < number; ++w)
+        if (operands[w].isWritten() && !isWrittenOnce(operands[w])) return no;
+    const AscendingLists lists = anyList ? scanLists(operands, number) : AscendingLists{count, true};
+    if (lists.ascend && lists.length != 0 && areAllIndependent(operands, number)) return {lists.length, false};
+    return {0, anyList};
+}
+
+// Of the objects from n on.
+VONKK3_APART inline bool askForBatch(const AliasOperand *operands, std::size_t number, std::size_t n,
+                                     std::size_t objects) {
+    for (std::size_t k = n; k < n + objects; ++k)
+        for (std::size_t l = 0; l < number; ++l) {
+            const ObjectsView &view = operands[l].view;
+            if (view.isList() && (view.listEntry(k) == 0 || view.object(k) == 0)) return false;
+        }
+    for (std::size_t w = 0; w < number; ++w) {
+        const AliasOperand &written = operands[w];
+        if (!written.isWritten()) continue;
+        if (written.view.isList() && !areObjectsDisjoint(written, n, objects)) return false;
+        const Extent ofWritten = ofObjects(written, n, objects);
+        for (std::size_t k = 0; k < number; ++k) {
+            const AliasOperand &other = operands[k];
+            if (other.hasEntries() && !disjoint(ofWritten, other.entries())) return false;
+            if (k != w && !disjoint(ofWritten, ofObjects(other, n, objects)) &&
+                !areIndependentOneByOne(written, other, n, objects))
+                return false;
+        }
+    }
+    return true;
+}
+
+} // namespace aliasing
+
+// The operands of a call, and whether its objects may be worked in batches. Entries of lists are looked at object by
+// object, and none after the first that is null.
+template <std::size_t number> class Aliasing {
+public:
+    template <class... Operands>
+    VONKK3_INLINE explicit Aliasing(std::size_t count, const Operands &...each) : operands{each...} {
+        if (aliasing::isPlainlyIndependent(operands)) answer = {count, false};
+        else answer = aliasing::askOnce(operands, number, count);
+    }
+
+    bool rulesOutBatches() const { return answer.allowed == 0 && !answer.asksByBatch; }
+
+    // For so many objects from n on.
+    VONKK3_INLINE bool allowsBatch(std::size_t n, std::size_t objects) const {
+        if (n + objects <= answer.allowed) return true;
+        return answer.asksByBatch && aliasing::askForBatch(operands, number, n, objects);
+    }
+
+private:
+    AliasOperand operands[number];
+    aliasing::Answer answer;
+};
+template <class... Operands> Aliasing(std::size_t, const Operands &...) -> Aliasing<sizeof...(Operands)>;
+
+} // namespace vonkk3

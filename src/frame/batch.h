@@ -1,0 +1,88 @@
+// The fast path of families that compute: batches of objects, one to a SIMD lane. A batch gathers its objects, works
+// them like one, and stores them if all went well. If not, nothing of it is stored, and its first object goes the plain
+// way, alone, which finds out what is wrong and reports it.
+#pragma once
+
+#include "frame/aliasing.h"
+#include "frame/gather.h"
+#include "frame/walk.h"
+
+#include <concepts>
+
+namespace vonkk3 {
+
+// Where batches are tried: arrays of Real32.
+template <class Written>
+inline constexpr bool worksInBatches = Written::isArray &&std::is_same_v<typename Written::Element, Real32>;
+
+// work(fixed<order>) for the orders that batches are made for, also where the order comes at run time.
+template <class Order, class Work, class Otherwise>
+VONKK3_INLINE VonkStatus withFixedOrder(Order order, const Work &work, const Otherwise &otherwise) {
+    if constexpr (Order::isFixed) return work(order);
+    else switch (order) {
+        case 3: return work(fixed<3>);
+        case 4: return work(fixed<4>);
+        case 5: return work(fixed<5>);
+        case 6: return work(fixed<6>);
+        default: return otherwise();
+        }
+}
+
+// What a family gives: `chains`, how many packs its work takes together; access(), how its arrays are reached; and
+// work<access, chains>(n) for the objects from n on, which returns false, with nothing stored, if they must go the
+// plain way.
+template <class Batch>
+concept BatchKernel = requires(Batch &batch, std::size_t n) {
+    { Batch::chains } -> std::convertible_to<std::size_t>;
+    { batch.access() } -> std::same_as<Access>;
+    { batch.template work<Access::rows, 1>(n) } -> std::same_as<bool>;
+};
+
+// hoist() takes single operands out of the loop.
+template <class Batch> inline constexpr bool hoistsOperands = requires(Batch &batch) { batch.hoist(); };
+
+// Batches from object n on, as long as they can be had; the first object that they leave.
+template <Access access, std::size_t chains, BatchKernel Batch, std::size_t operands>
+VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
+                                           std::size_t count) {
+    constexpr std::size_t objects = chains * packWidth;
+    while (count - n >= objects) {
+        if (!aliasing.allowsBatch(n, objects) || !batch.template work<access, chains>(n)) break;
+        n += objects;
+    }
+    return n;
+}
+
+template <Access access, BatchKernel Batch, std::size_t operands>
+VONKK3_APART std::size_t workBatches(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
+                                     std::size_t count) {
+    if constexpr (hoistsOperands<Batch>) batch.hoist(); // nothing overlaps it, from here to the next plain object
+    if constexpr (Batch::chains > 1) n = workWhileAllowed<access, Batch::chains>(batch, aliasing, n, count);
+    return workWhileAllowed<access, 1>(batch, aliasing, n, count);
+}
+
+template <BatchKernel Batch, std::size_t operands>
+VONKK3_INLINE std::size_t workBatches(Access access, Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
+                                      std::size_t count) {
+    switch (access) {
+    case Access::rows: return workBatches<Access::rows>(batch, aliasing, n, count);
+    case Access::positions: return workBatches<Access::positions>(batch, aliasing, n, count);
+    default: return workBatches<Access::any>(batch, aliasing, n, count);
+    }
+}
+
+// `one` is the plain way of one object; it returns a status, which ends the call if it is a failure.
+template <BatchKernel Batch, class One, std::size_t operands>
+VONKK3_INLINE VonkStatus forEachBatch(Batch &batch, const Aliasing<operands> &aliasing, std::size_t count,
+                                      const One &one) {
+    const bool mayWork = !aliasing.rulesOutBatches();
+    const Access access = batch.access();
+    for (std::size_t n = 0; n < count; ++n) {
+        if (mayWork && count - n >= packWidth) n = workBatches(access, batch, aliasing, n, count);
+        if (n == count) break;
+        if (const VonkStatus status = one(n); status != vonkOk) return status;
+    }
+    return vonkOk;
+}
+
+} // namespace vonkk3

@@ -1,0 +1,237 @@
+// Blocks of objects to and from packs: element (i, j) of packWidth objects becomes one pack. Contiguous positions of a
+// table are one load, contiguous rows a transpose in registers, anything else goes element by element. Exactly the
+// bytes of the elements are moved.
+#pragma once
+
+#include "frame/lanes.h"
+#include "frame/objects_view.h"
+#include "frame/pack.h"
+
+namespace vonkk3 {
+
+// Addresses of one row, or of one element, of the objects of a pack.
+using PackSources = const std::byte *[packWidth];
+using PackTargets = std::byte *[packWidth];
+
+// ---- Rows of contiguous elements, up to 6 ---------------------------------------------------------------------------
+
+inline Pack gatherElement(const PackSources &from, std::size_t offset) {
+    const __m128 ab = _mm_unpacklo_ps(load1(from[0] + offset), load1(from[1] + offset));
+    const __m128 cd = _mm_unpacklo_ps(load1(from[2] + offset), load1(from[3] + offset));
+    return _mm_movelh_ps(ab, cd);
+}
+
+inline void gatherTwo(const PackSources &from, std::size_t offset, Pack *elements) {
+    const __m128 ab = _mm_loadh_pi(load2(from[0] + offset), pair(from[1] + offset));
+    const __m128 cd = _mm_loadh_pi(load2(from[2] + offset), pair(from[3] + offset));
+    elements[0] = _mm_shuffle_ps(ab, cd, _MM_SHUFFLE(2, 0, 2, 0));
+    elements[1] = _mm_shuffle_ps(ab, cd, _MM_SHUFFLE(3, 1, 3, 1));
+}
+
+inline void gatherFour(const PackSources &from, std::size_t offset, Pack *elements) {
+    __m128 a = load4(from[0] + offset), b = load4(from[1] + offset);
+    __m128 c = load4(from[2] + offset), d = load4(from[3] + offset);
+    _MM_TRANSPOSE4_PS(a, b, c, d);
+    elements[0] = a, elements[1] = b, elements[2] = c, elements[3] = d;
+}
+
+inline void scatterElement(const PackTargets &to, std::size_t offset, Pack element) {
+    const __m128 lanes = element.lanes;
+    store1(to[0] + offset, lanes);
+    store1(to[1] + offset, _mm_shuffle_ps(lanes, lanes, 1));
+    store1(to[2] + offset, _mm_movehl_ps(lanes, lanes));
+    store1(to[3] + offset, _mm_shuffle_ps(lanes, lanes, 3));
+}
+
+inline void scatterTwo(const PackTargets &to, std::size_t offset, Pack first, Pack second) {
+    const __m128 ab = _mm_unpacklo_ps(first.lanes, second.lanes);
+    const __m128 cd = _mm_unpackhi_ps(first.lanes, second.lanes);
+    _mm_storel_pi(pair(to[0] + offset), ab);
+    _mm_storeh_pi(pair(to[1] + offset), ab);
+    _mm_storel_pi(pair(to[2] + offset), cd);
+    _mm_storeh_pi(pair(to[3] + offset), cd);
+}
+
+inline void scatterFour(const PackTargets &to, std::size_t offset, Pack first, Pack second, Pack third, Pack fourth) {
+    __m128 a = first.lanes, b = second.lanes, c = third.lanes, d = fourth.lanes;
+    _MM_TRANSPOSE4_PS(a, b, c, d);
+    store4(to[0] + offset, a);
+    store4(to[1] + offset, b);
+    store4(to[2] + offset, c);
+    store4(to[3] + offset, d);
+}
+
+VONKK3_INLINE void gatherRow(const PackSources &from, std::size_t length, Pack *row) {
+    const std::size_t whole = length / 4 * 4;
+    if (whole != 0) gatherFour(from, 0, row);
+    if (length - whole >= 2) gatherTwo(from, whole * sizeof(Real32), row + whole);
+    if (length % 2 != 0) row[length - 1] = gatherElement(from, (length - 1) * sizeof(Real32));
+}
+
+VONKK3_INLINE void scatterRow(const PackTargets &to, std::size_t length, const Pack *row) {
+    const std::size_t whole = length / 4 * 4;
+    if (whole != 0) scatterFour(to, 0, row[0], row[1], row[2], row[3]);
+    if (length - whole >= 2) scatterTwo(to, whole * sizeof(Real32), row[whole], row[whole + 1]);
+    if (length % 2 != 0) scatterElement(to, (length - 1) * sizeof(Real32), row[length - 1]);
+}
+
+// ---- Blocks of objects in any layout --------------------------------------------------------------------------------
+
+// What of a square matrix is moved.
+enum class Triangle { both, lower };
+constexpr std::size_t rowLength(Triangle triangle, std::size_t columns, std::size_t i) {
+    return triangle == Triangle::lower ? i + 1 : columns;
+}
+
+// Elements of objects n to n + packWidth - 1 of a view, by their addresses.
+template <class Byte> class ElementsOfPack {
+public:
+    VONKK3_INLINE ElementsOfPack(const ObjectsView &view, std::size_t n) : view(view), n(n) {
+        if (view.isTable()) return;
+        const std::uintptr_t first = view.isList() ? 0 : view.object(n);
+        for (std::size_t k = 0; k < packWidth; ++k)
+            object[k] = reinterpret_cast<Byte *>(view.isList() ? view.object(n + k)
+                                                               : first + std::uintptr_t(strides(k, view.objectStride)));
+    }
+
+    // Of row i, where the elements of rows are contiguous.
+    VONKK3_INLINE void findRow(std::size_t i, Byte *(&row)[packWidth]) const {
+        for (std::size_t k = 0; k < packWidth; ++k) row[k] = object[k] + strides(i, view.rowStride);
+    }
+    VONKK3_INLINE void findElement(std::size_t i, std::size_t j, Byte *(&element)[packWidth]) const {
+        if (view.isTable()) {
+            Byte *const first = reinterpret_cast<Byte *>(view.position(i, j, n));
+            for (std::size_t k = 0; k < packWidth; ++k) element[k] = first + strides(k, view.objectStride);
+        } else {
+            const std::ptrdiff_t offset = strides(i, view.rowStride) + strides(j, view.elementStride);
+            for (std::size_t k = 0; k < packWidth; ++k) element[k] = object[k] + offset;
+        }
+    }
+    // A pack in one piece, where the objects of a position are contiguous.
+    VONKK3_INLINE Byte *position(std::size_t i, std::size_t j) const {
+        return reinterpret_cast<Byte *>(view.position(i, j, n));
+    }
+
+private:
+    const ObjectsView &view;
+    std::size_t n;
+    Byte *object[packWidth] = {};
+};
+
+// How the elements of a call's arrays are reached, which is known before the first batch: a kernel is compiled for
+// each.
+enum class Access {
+    rows,      // rows are contiguous: standard and list layouts, and strided ones without gaps
+    positions, // the objects of a position are contiguous: P
+    any        // element by element
+};
+
+template <class... Views> inline Access accessOf(const Views &...views) {
+    const auto all = [&](const auto &test) { return ((!views.isArray || test(views)) && ...); };
+    if (all([](const ObjectsView &view) { return view.hasContiguousRows(); })) return Access::rows;
+    const auto isContiguous = [](const ObjectsView &view) {
+        return view.isTable() && view.objectStride == std::ptrdiff_t(sizeof(Real32));
+    };
+    return all(isContiguous) ? Access::positions : Access::any;
+}
+
+// Element by element, for `step` packs between one element of the block and the next.
+template <std::size_t rows, std::size_t columns, Triangle triangle>
+VONKK3_APART void gatherElements(const ObjectsView &view, std::size_t n, Pack *block, std::size_t step) {
+    const ElementsOfPack<const std::byte> elements(view, n);
+    for (std::size_t i = 0; i < rows; ++i)
+        for (std::size_t j = 0; j < rowLength(triangle, columns, i); ++j) {
+            PackSources from;
+            elements.findElement(i, j, from);
+            block[(i * columns + j) * step] = gatherElement(from, 0);
+        }
+}
+
+template <std::size_t rows, std::size_t columns, Triangle triangle>
+VONKK3_APART void scatterElements(const ObjectsView &view, std::size_t n, const Pack *block, std::size_t step) {
+    const ElementsOfPack<std::byte> elements(view, n);
+    for (std::size_t i = 0; i < rows; ++i)
+        for (std::size_t j = 0; j < rowLength(triangle, columns, i); ++j) {
+            PackTargets to;
+            elements.findElement(i, j, to);
+            scatterElement(to, 0, block[(i * columns + j) * step]);
+        }
+}
+
+// A block of chains, from the objects n on: each chain stands for packWidth objects of its own.
+template <Access access, Triangle triangle = Triangle::both, std::size_t chains, std::size_t rows, std::size_t columns>
+VONKK3_INLINE void gatherBlock(const ObjectsView &view, std::size_t n, Packs<chains> (&block)[rows][columns]) {
+    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
+        const std::size_t first = n + c * packWidth;
+        if constexpr (access == Access::any) {
+            gatherElements<rows, columns, triangle>(view, first, &block[0][0].chain[c], chains);
+            return;
+        }
+        const ElementsOfPack<const std::byte> elements(view, first);
+        forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
+            const std::size_t length = rowLength(triangle, columns, i);
+            Pack row[columns];
+            PackSources from;
+            if constexpr (access == Access::rows) elements.findRow(i, from), gatherRow(from, length, row);
+            forIndices(0, length, fixed<columns>, [&](std::size_t j) VONKK3_INLINED {
+                block[i][j].chain[c] = access == Access::rows ? row[j] : Pack(load4(elements.position(i, j)));
+            });
+        });
+    });
+}
+
+template <Access access, Triangle triangle = Triangle::both, std::size_t chains, std::size_t rows, std::size_t columns>
+VONKK3_INLINE void scatterBlock(const ObjectsView &view, std::size_t n, const Packs<chains> (&block)[rows][columns]) {
+    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
+        const std::size_t first = n + c * packWidth;
+        if constexpr (access == Access::any) {
+            scatterElements<rows, columns, triangle>(view, first, &block[0][0].chain[c], chains);
+            return;
+        }
+        const ElementsOfPack<std::byte> elements(view, first);
+        forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
+            const std::size_t length = rowLength(triangle, columns, i);
+            Pack row[columns];
+            PackTargets to;
+            forIndices(0, length, fixed<columns>, [&](std::size_t j) VONKK3_INLINED {
+                row[j] = block[i][j].chain[c];
+                if constexpr (access == Access::positions) store4(elements.position(i, j), row[j].lanes);
+            });
+            if constexpr (access == Access::rows) elements.findRow(i, to), scatterRow(to, length, row);
+        });
+    });
+}
+
+// The matrices of a batch: an array of them is gathered for each, a single one that serves all objects is broadcast
+// once, out of the loop.
+template <std::size_t order, bool isArray, Triangle triangle = Triangle::both> struct MatricesOfBatch {
+    ObjectsView view;
+    Pack single[order][order];
+
+    template <class Operand>
+    VONKK3_INLINE MatricesOfBatch(const Operand &operand, std::size_t count)
+        : view(objectsOf(operand, order, order, count)) {}
+
+    VONKK3_INLINE void hoist() {
+        if constexpr (!isArray)
+            forEachElement([&](std::size_t i, std::size_t j)
+                               VONKK3_INLINED { single[i][j] = view.load<Real32>(i, j); });
+    }
+
+    // work(matrices) with the matrices of the objects from n on.
+    template <Access access, std::size_t chains, class Work> VONKK3_INLINE void with(std::size_t n, const Work &work) {
+        if constexpr (isArray) {
+            Packs<chains> block[order][order];
+            gatherBlock<access, triangle>(view, n, block);
+            work(block);
+        } else work(single);
+    }
+
+private:
+    template <class Body> VONKK3_INLINE static void forEachElement(const Body &body) {
+        for (std::size_t i = 0; i < order; ++i)
+            for (std::size_t j = 0; j < rowLength(triangle, order, i); ++j) body(i, j);
+    }
+};
+
+} // namespace vonkk3

@@ -1,0 +1,98 @@
+// An operand as data at run time, whatever its layout: what the alias test and the batches work on, so that their code
+// exists once and not once for each layout.
+#pragma once
+
+#include "frame/operands.h"
+#include "frame/unroll.h"
+
+namespace vonkk3 {
+
+// Where the elements of an operand's objects lie. Objects are found by a stride or by a list of pointers; elements by
+// strides, or each position by a table of pointers. A transposed operand has its strides exchanged.
+struct ObjectsView {
+    enum class Indirection : std::uint8_t { none, list, table };
+
+    std::uintptr_t begin;         // object 0, or the list or table
+    std::ptrdiff_t shift;         // added to every pointer of a list or table
+    std::ptrdiff_t objectStride;  // 0 for a single object
+    std::ptrdiff_t rowStride;     // in a table: between entries
+    std::ptrdiff_t elementStride; // in a table: between entries
+    std::uint32_t rows, columns;  // of an object
+    std::uint32_t count;          // objects; 1 for a single one
+    std::uint32_t elementBytes;
+    Indirection indirection;
+    bool isArray;
+
+    bool isTable() const { return indirection == Indirection::table; }
+    bool isList() const { return indirection == Indirection::list; }
+    bool hasContiguousRows() const { return elementStride == std::ptrdiff_t(elementBytes) && !isTable(); }
+
+    std::uintptr_t listEntry(std::size_t n) const { return pointerAt(begin + n * sizeof(void *)); }
+
+    // Object n of a strided or list layout.
+    std::uintptr_t object(std::size_t n) const {
+        if (isList()) return listEntry(n) + std::uintptr_t(shift);
+        return begin + std::uintptr_t(strides(n, objectStride));
+    }
+
+    // Element (i, j) of object n, through a table.
+    std::uintptr_t position(std::size_t i, std::size_t j, std::size_t n = 0) const {
+        const std::uintptr_t entry = begin + std::uintptr_t(strides(i, rowStride) + strides(j, elementStride));
+        return pointerAt(entry) + std::uintptr_t(shift + strides(n, objectStride));
+    }
+
+    // Element (i, j) of object 0.
+    template <class T> T load(std::size_t i, std::size_t j) const {
+        return loadAt<T>(reinterpret_cast<const std::byte *>(addressOf(i, j)));
+    }
+    template <class T> void store(std::size_t i, std::size_t j, T value) const {
+        storeAt(reinterpret_cast<std::byte *>(addressOf(i, j)), value);
+    }
+    std::uintptr_t addressOf(std::size_t i, std::size_t j) const {
+        if (isTable()) return position(i, j);
+        return object(0) + std::uintptr_t(strides(i, rowStride) + strides(j, elementStride));
+    }
+
+    static std::uintptr_t pointerAt(std::uintptr_t address) {
+        return loadAt<std::uintptr_t>(reinterpret_cast<const std::byte *>(address));
+    }
+};
+
+// The first `rows` rows and `columns` columns of every object.
+template <class T, Layout layout, Shape shape, bool isArray>
+VONKK3_INLINE ObjectsView objectsOf(const Operand<T, layout, shape, isArray> &operand, std::size_t rows,
+                                    std::size_t columns, std::size_t count) {
+    using Operand = vonkk3::Operand<T, layout, shape, isArray>;
+    ObjectsView view;
+    view.begin = operand.address();
+    view.shift = operand.entryShift();
+    view.objectStride = isArray ? operand.objectSpacing() : 0;
+    view.rowStride = Operand::isTable ? std::ptrdiff_t(columns * sizeof(void *)) : operand.rowSpacing();
+    view.elementStride = Operand::isTable ? std::ptrdiff_t(sizeof(void *)) : operand.elementSpacing();
+    view.rows = std::uint32_t(rows);
+    view.columns = std::uint32_t(columns);
+    view.count = isArray ? std::uint32_t(count) : 1;
+    view.elementBytes = sizeof(T);
+    view.indirection = Operand::isTable  ? ObjectsView::Indirection::table
+                       : Operand::isList ? ObjectsView::Indirection::list
+                                         : ObjectsView::Indirection::none;
+    view.isArray = isArray;
+    return view;
+}
+
+// A plain block of `length` adjacent elements per object: packed results, pivots, or, with a count of 1, a workspace.
+template <class T> inline ObjectsView packedBlocks(T *block, std::size_t length, std::size_t count) {
+    ObjectsView view{};
+    view.begin = reinterpret_cast<std::uintptr_t>(block);
+    view.objectStride = std::ptrdiff_t(length * sizeof(T));
+    view.elementStride = sizeof(T);
+    view.rows = 1;
+    view.columns = std::uint32_t(length);
+    view.count = std::uint32_t(count);
+    view.elementBytes = sizeof(T);
+    view.indirection = ObjectsView::Indirection::none;
+    view.isArray = count > 1;
+    return view;
+}
+
+} // namespace vonkk3
