@@ -327,10 +327,27 @@ inline bool areAllIndependent(const AliasOperand *operands, std::size_t number) 
     return true;
 }
 
-// The usual case at a glance: arrays in ascending order, rows within objects and elements within rows. Whether it is
-// one, and where it lies.
+// The usual case at a glance: arrays in ascending order, rows within objects and elements within rows; tables whose
+// positions lie in their own order, each with all its objects. Whether it is one, and where it lies.
+VONKK3_APART inline bool isAscendingTable(const ObjectsView &view, Extent &whole) {
+    const std::size_t positions = std::size_t(view.rows) * view.columns;
+    const std::size_t span = std::size_t(strides(view.count - 1, view.objectStride)) + view.elementBytes;
+    if (view.isArray && view.objectStride < std::ptrdiff_t(view.elementBytes)) return false;
+    std::uintptr_t end = ObjectsView::pointerAt(view.begin);
+    whole.begin = end + std::uintptr_t(view.shift);
+    bool ascends = true;
+    for (std::size_t k = 0; k < positions; ++k) {
+        const std::uintptr_t address = ObjectsView::pointerAt(view.begin + k * sizeof(void *));
+        ascends &= address >= end;
+        end = address + span;
+    }
+    whole.end = end + std::uintptr_t(view.shift);
+    return ascends && whole.begin < whole.end;
+}
+
 VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
-    if (view.indirection != ObjectsView::Indirection::none) return false;
+    if (view.isTable()) return isAscendingTable(view, whole);
+    if (view.isList()) return false;
     const std::ptrdiff_t ofRow = strides(view.columns - 1, view.elementStride) + std::ptrdiff_t(view.elementBytes);
     const std::ptrdiff_t ofObject = strides(view.rows - 1, view.rowStride) + ofRow;
     if (view.elementStride < std::ptrdiff_t(view.elementBytes) || (view.rows > 1 && view.rowStride < ofRow) ||
@@ -349,7 +366,9 @@ template <std::size_t number> VONKK3_INLINE bool isPlainlyIndependent(const Alia
     for (std::size_t w = 0; w < number; ++w) {
         if (!operands[w].isWritten()) continue;
         VONKK3_UNROLL_WHOLE
-        for (std::size_t k = 0; k < number; ++k) plain = plain && (k == w || disjoint(whole[w], whole[k]));
+        for (std::size_t k = 0; k < number; ++k)
+            plain = plain && (k == w || disjoint(whole[w], whole[k])) &&
+                    (!operands[k].view.isTable() || disjoint(whole[w], operands[k].entries()));
     }
     return plain;
 }

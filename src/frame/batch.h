@@ -15,6 +15,9 @@ namespace vonkk3 {
 template <class Written>
 inline constexpr bool worksInBatches = Written::isArray &&std::is_same_v<typename Written::Element, Real32>;
 
+// Where the work of an object is a few instructions, fewer objects than this are not worth the alias test.
+inline constexpr std::size_t worthBatches = 3 * packWidth;
+
 // work(fixed<order>) for the orders that batches are made for, also where the order comes at run time.
 template <class Order, class Work, class Otherwise>
 VONKK3_INLINE VonkStatus withFixedOrder(Order order, const Work &work, const Otherwise &otherwise) {
@@ -35,11 +38,9 @@ template <class Batch>
 concept BatchKernel = requires(Batch &batch, std::size_t n) {
     { Batch::chains } -> std::convertible_to<std::size_t>;
     { batch.access() } -> std::same_as<Access>;
+    batch.template hoist<Access::rows>();
     { batch.template work<Access::rows, 1>(n) } -> std::same_as<bool>;
 };
-
-// hoist() takes single operands out of the loop.
-template <class Batch> inline constexpr bool hoistsOperands = requires(Batch &batch) { batch.hoist(); };
 
 // Batches from object n on, as long as they can be had; the first object that they leave.
 template <Access access, std::size_t chains, BatchKernel Batch, std::size_t operands>
@@ -56,7 +57,7 @@ VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands
 template <Access access, BatchKernel Batch, std::size_t operands>
 VONKK3_APART std::size_t workBatches(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                      std::size_t count) {
-    if constexpr (hoistsOperands<Batch>) batch.hoist(); // nothing overlaps it, from here to the next plain object
+    batch.template hoist<access>(); // anew behind every plain object, which may have written there
     if constexpr (Batch::chains > 1) n = workWhileAllowed<access, Batch::chains>(batch, aliasing, n, count);
     return workWhileAllowed<access, 1>(batch, aliasing, n, count);
 }

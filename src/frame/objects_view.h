@@ -80,6 +80,13 @@ VONKK3_INLINE ObjectsView objectsOf(const Operand<T, layout, shape, isArray> &op
     return view;
 }
 
+// The diagonals of square matrices, as vectors.
+inline ObjectsView diagonalOf(ObjectsView matrices) {
+    matrices.rows = 1;
+    matrices.elementStride += matrices.rowStride;
+    return matrices;
+}
+
 // A plain block of `length` adjacent elements per object: packed results, pivots, or, with a count of 1, a workspace.
 template <class T> inline ObjectsView packedBlocks(T *block, std::size_t length, std::size_t count) {
     ObjectsView view{};
