@@ -42,11 +42,16 @@ concept BatchKernel = requires(Batch &batch, std::size_t n) {
     { batch.template work<Access::rows, 1>(n) } -> std::same_as<bool>;
 };
 
+// Objects of a chain: a pack of them, or one, for kernels whose lanes lie within an object.
+template <class Batch> inline constexpr std::size_t objectsOfChain = packWidth;
+template <class Batch>
+requires(Batch::lanesWithinObject) inline constexpr std::size_t objectsOfChain<Batch> = 1;
+
 // Batches from object n on, as long as they can be had; the first object that they leave.
 template <Access access, std::size_t chains, BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                            std::size_t count) {
-    constexpr std::size_t objects = chains * packWidth;
+    constexpr std::size_t objects = chains * objectsOfChain<Batch>;
     while (count - n >= objects) {
         if (!aliasing.allowsBatch(n, objects) || !batch.template work<access, chains>(n)) break;
         n += objects;
@@ -65,11 +70,12 @@ VONKK3_APART std::size_t workBatches(Batch &batch, const Aliasing<operands> &ali
 template <BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workBatches(Access access, Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                       std::size_t count) {
-    switch (access) {
-    case Access::rows: return workBatches<Access::rows>(batch, aliasing, n, count);
-    case Access::positions: return workBatches<Access::positions>(batch, aliasing, n, count);
-    default: return workBatches<Access::any>(batch, aliasing, n, count);
-    }
+    if constexpr (objectsOfChain<Batch> == 1) return workBatches<Access::any>(batch, aliasing, n, count);
+    else switch (access) {
+        case Access::rows: return workBatches<Access::rows>(batch, aliasing, n, count);
+        case Access::positions: return workBatches<Access::positions>(batch, aliasing, n, count);
+        default: return workBatches<Access::any>(batch, aliasing, n, count);
+        }
 }
 
 // `one` is the plain way of one object; it returns a status, which ends the call if it is a failure.
@@ -79,7 +85,7 @@ VONKK3_INLINE VonkStatus forEachBatch(Batch &batch, const Aliasing<operands> &al
     const bool mayWork = !aliasing.rulesOutBatches();
     const Access access = batch.access();
     for (std::size_t n = 0; n < count; ++n) {
-        if (mayWork && count - n >= packWidth) n = workBatches(access, batch, aliasing, n, count);
+        if (mayWork && count - n >= objectsOfChain<Batch>) n = workBatches(access, batch, aliasing, n, count);
         if (n == count) break;
         if (const VonkStatus status = one(n); status != vonkOk) return status;
     }

@@ -58,6 +58,32 @@ struct ObjectsView {
     }
 };
 
+// Object n of a view, element by element: by strides, or through the entries of a table, whose own strides may be
+// exchanged.
+template <class T> inline StridedView<T> stridedObject(const ObjectsView &view, std::size_t n) {
+    return {reinterpret_cast<ByteOf<T> *>(view.object(n)), view.rowStride, view.elementStride};
+}
+
+template <class T> struct EntriesView : ElementAccess<EntriesView<T>, T> {
+    std::uintptr_t begin;
+    std::ptrdiff_t rowStride, elementStride, offset;
+
+    EntriesView(const ObjectsView &view, std::size_t n)
+        : begin(view.begin), rowStride(view.rowStride), elementStride(view.elementStride),
+          offset(view.shift + strides(n, view.objectStride)) {}
+
+    ByteOf<T> *at(std::size_t column) const { return at(0, column); }
+    ByteOf<T> *at(std::size_t row, std::size_t column) const {
+        const std::uintptr_t entry = begin + std::uintptr_t(strides(row, rowStride) + strides(column, elementStride));
+        return reinterpret_cast<ByteOf<T> *>(ObjectsView::pointerAt(entry) + std::uintptr_t(offset));
+    }
+};
+
+template <bool throughTable, class T> VONKK3_INLINE auto objectAt(const ObjectsView &view, std::size_t n) {
+    if constexpr (throughTable) return EntriesView<T>(view, n);
+    else return stridedObject<T>(view, n);
+}
+
 // The first `rows` rows and `columns` columns of every object.
 template <class T, Layout layout, Shape shape, bool isArray>
 VONKK3_INLINE ObjectsView objectsOf(const Operand<T, layout, shape, isArray> &operand, std::size_t rows,
@@ -77,6 +103,17 @@ VONKK3_INLINE ObjectsView objectsOf(const Operand<T, layout, shape, isArray> &op
                        : Operand::isList ? ObjectsView::Indirection::list
                                          : ObjectsView::Indirection::none;
     view.isArray = isArray;
+    return view;
+}
+
+// A square matrix that is read transposed: its strides exchanged.
+template <class Stored>
+VONKK3_INLINE ObjectsView objectsOf(const Transposed<Stored> &operand, std::size_t rows, std::size_t columns,
+                                    std::size_t count) {
+    ObjectsView view = objectsOf(static_cast<const Stored &>(operand), rows, columns, count);
+    const std::ptrdiff_t rowStride = view.rowStride;
+    view.rowStride = view.elementStride;
+    view.elementStride = rowStride;
     return view;
 }
 
