@@ -53,6 +53,9 @@ void addCholeskyAndQrRows(Rows &rows);
 void addMoveRows(Rows &rows);
 void addProductRows(Rows &rows);
 void addCallRows(Rows &rows);
+void addLayoutRows(Rows &rows);
+void addLayoutProductRows(Rows &rows);
+void addLayoutSolverRows(Rows &rows);
 
 // Runs every contestant once; says who differs from the library, or nothing.
 std::string disagreement(const Contest &contest);

@@ -78,6 +78,9 @@ int main(int argc, char **argv) {
     addMoveRows(rows);
     addProductRows(rows);
     addCallRows(rows);
+    addLayoutRows(rows); // after all others, whose names they look at
+    addLayoutProductRows(rows);
+    addLayoutSolverRows(rows);
 
     bench::TableReporter reporter(options.markdown);
     for (const bench::Row &row : rows)
