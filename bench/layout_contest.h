@@ -64,15 +64,14 @@ public:
             for (std::size_t k = 0; k < shape.elements(); ++k) table.push_back(memory + k * run);
             if (isRuns) table.resize(table.size() + count * shape.rows, arena.take(2 * count));
         } else
-            for (std::size_t n = 0; n < this->count; ++n)
-                table.push_back(plain::step(memory, std::ptrdiff_t(n) * object));
+            for (std::size_t n = 0; n < this->count; ++n) table.push_back(plain::step(memory, n * std::size_t(object)));
     }
 
     float &at(std::size_t n, std::size_t i, std::size_t j) {
         if (isTable(layout) && shape.extent != Extent::packed)
             return *plain::step(table[i * shape.columns + j],
-                                shape.extent == Extent::array ? std::ptrdiff_t(n) * object : 0);
-        return *plain::step(table[n], std::ptrdiff_t(i) * row + std::ptrdiff_t(j) * element);
+                                shape.extent == Extent::array ? n * std::size_t(object) : 0);
+        return *plain::step(table[n], i * std::size_t(row) + j * std::size_t(element));
     }
     template <class Function> void forEach(Function function) { // of n, i, j and the element
         for (std::size_t n = 0; n < count; ++n)
@@ -95,7 +94,7 @@ public:
     }
 
     float *start() { return memory; }
-    Place asPlace() { return {memory, table.data(), object, row, element}; }
+    Place asPlace() { return {memory, table.data(), std::size_t(object), std::size_t(row), std::size_t(element)}; }
 
     // What an operand takes from its arena, at most.
     static std::size_t claim(Layout layout, Shape shape, std::size_t count) {

@@ -304,12 +304,11 @@ template <Layout layout> struct StridedElement {
     const Place &place;
     std::size_t columns;
     [[gnu::always_inline]] float *operator()(std::size_t n, std::size_t i, std::size_t j) const {
-        const auto index = std::ptrdiff_t(n);
-        if constexpr (isTable(layout)) return step(place.table[i * columns + j], index * place.object);
+        if constexpr (isTable(layout)) return step(place.table[i * columns + j], n * place.object);
         else {
-            const std::ptrdiff_t offset = std::ptrdiff_t(i) * place.row + std::ptrdiff_t(j) * place.element;
+            const std::size_t offset = i * place.row + j * place.element;
             if constexpr (isList(layout)) return step(place.table[n], offset);
-            else return step(place.start, index * place.object + offset);
+            else return step(place.start, n * place.object + offset);
         }
     }
 };
@@ -324,8 +323,7 @@ template <Layout from, Layout to, bool isAcross>
                 float *s = source(0, i, j);
                 float *d = destination(0, i, j);
                 BENCH_INDEPENDENT
-                for (std::size_t n = 0; n < count; ++n)
-                    *step(d, std::ptrdiff_t(n) * places[1].object) = *step(s, std::ptrdiff_t(n) * places[0].object);
+                for (std::size_t n = 0; n < count; ++n) *step(d, n * places[1].object) = *step(s, n * places[0].object);
             }
     } else
         for (std::size_t n = 0; n < count; ++n)

@@ -41,7 +41,7 @@ constexpr Shape result() { return {1, 1, Extent::packed, false}; }
 struct Place {
     float *start;
     float *const *table; // an entry for each position or object
-    std::ptrdiff_t object, row, element;
+    std::size_t object, row, element;
 };
 
 // What a job has beside its operands.
@@ -53,7 +53,9 @@ struct Extra {
 
 namespace plain {
 
-[[gnu::always_inline]] inline float *step(float *from, std::ptrdiff_t bytes) {
+// Products of an index and a stride are made without a sign, which changes no address: a signed product that might
+// overflow keeps compilers from seeing that a pointer moves in equal steps.
+[[gnu::always_inline]] inline float *step(float *from, std::size_t bytes) {
     return reinterpret_cast<float *>(reinterpret_cast<char *>(from) + bytes);
 }
 
@@ -70,10 +72,10 @@ template <Shape shape> struct Held {
 
 template <Layout layout> struct StridedView {
     float *start;
-    std::ptrdiff_t row, element;
+    std::size_t row, element;
     [[gnu::always_inline]] float &operator()(std::size_t i, std::size_t j) const {
-        float *const atRow = i == 0 ? start : step(start, std::ptrdiff_t(i) * row);
-        if constexpr (hasElementStride(layout)) return *step(atRow, std::ptrdiff_t(j) * element);
+        float *const atRow = i == 0 ? start : step(start, i * row);
+        if constexpr (hasElementStride(layout)) return *step(atRow, j * element);
         else return atRow[j];
     }
 };
@@ -87,7 +89,7 @@ template <Shape shape> struct PackedView {
 
 template <Shape shape> struct TableView {
     float *const *pointers;
-    std::ptrdiff_t offset;
+    std::size_t offset;
     [[gnu::always_inline]] float &operator()(std::size_t i, std::size_t j) const {
         return *step(pointers[i * shape.columns + j], offset);
     }
@@ -101,24 +103,23 @@ template <Layout layout, Shape shape> class Opened {
 public:
     [[gnu::always_inline]] explicit Opened(const Place &at) : place(at) {
         if constexpr (isArrayOfTable)
-            for (std::size_t k = 0; k < shape.elements(); ++k) pointers[k] = at.table[k];
-        else if constexpr (shape.extent == Extent::single)
-            for (std::size_t i = 0; i < shape.rows; ++i)
-                for (std::size_t j = 0; j < shape.columns; ++j) {
-                    if constexpr (isTable(layout)) held(i, j) = *at.table[i * shape.columns + j];
-                    else held(i, j) = StridedView<layout>{at.start, at.row, at.element}(i, j);
-                }
+            // One by one: of a loop the compiler makes a call of memcpy, and then reads pointers from memory for ever.
+            [&]<std::size_t... k>(std::index_sequence<k...>) { ((pointers[k] = at.table[k]), ...); }
+        (std::make_index_sequence<shape.elements()>());
+        else if constexpr (shape.extent == Extent::single) for (std::size_t i = 0; i < shape.rows;
+                                                                ++i) for (std::size_t j = 0; j < shape.columns; ++j) {
+            if constexpr (isTable(layout)) held(i, j) = *at.table[i * shape.columns + j];
+            else held(i, j) = StridedView<layout>{at.start, at.row, at.element}(i, j);
+        }
     }
 
     [[gnu::always_inline]] auto object(std::size_t n) const {
-        const auto index = std::ptrdiff_t(n);
         if constexpr (shape.extent == Extent::packed) return PackedView<shape>{place.start + n * shape.elements()};
         else if constexpr (shape.extent == Extent::single) return held;
-        else if constexpr (layout == Layout::P)
-            return TableView<shape>{pointers, index * std::ptrdiff_t(sizeof(float))};
-        else if constexpr (layout == Layout::PS2) return TableView<shape>{pointers, index * place.object};
+        else if constexpr (layout == Layout::P) return TableView<shape>{pointers, n * sizeof(float)};
+        else if constexpr (layout == Layout::PS2) return TableView<shape>{pointers, n * place.object};
         else if constexpr (isList(layout)) return StridedView<layout>{place.table[n], place.row, place.element};
-        else return StridedView<layout>{step(place.start, index * place.object), place.row, place.element};
+        else return StridedView<layout>{step(place.start, n * place.object), place.row, place.element};
     }
 
 private:

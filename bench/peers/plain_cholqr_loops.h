@@ -75,7 +75,7 @@ template <class T, class W, class Root, std::size_t order, bool stops = true>
             if (!(norm.value() >= W(0x1p-23F))) return false;
         } else isRegular = isRegular & (norm.value() >= W(0x1p-23F));
         const W root = W(std::sqrt(Root(norm.value())));
-        const W inverse = 1 / (d[k][k] > 0 ? d[k][k] + root : d[k][k] - root);
+        const W inverse = 1 / (d[k][k] + (d[k][k] > 0 ? root : -root));
         T v[order];
         v[k] = 1;
         PairedSum<T, W> squares(1);

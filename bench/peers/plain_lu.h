@@ -12,6 +12,12 @@
 
 namespace bench::plain {
 
+template <class X> [[gnu::always_inline]] inline void swapIf(bool condition, X &a, X &b) {
+    const X first = a, second = b;
+    a = condition ? second : first;
+    b = condition ? first : second;
+}
+
 // One matrix, packed. `pivots` says which row of the source each row of the factors was. In line, for those who have
 // one matrix and no call to make. Whether it went through; `stops` at the pivot that fails, or else goes on, without a
 // branch.
@@ -27,21 +33,30 @@ template <class T, class W, std::size_t order, bool stops = true>
         BENCH_UNROLL for (std::size_t j = 0; j < order; ++j) a[i][j] = source[i * order + j];
     }
     BENCH_UNROLL for (std::size_t k = 0; k < order; ++k) {
-        auto best = std::uint32_t(k);
-        T largest = std::fabs(a[k][k]);
-        BENCH_UNROLL for (std::size_t i = k + 1; i < order; ++i) {
-            const T magnitude = std::fabs(a[i][k]);
-            const bool isLarger = magnitude > largest;
-            best = isLarger ? std::uint32_t(i) : best;
-            largest = isLarger ? magnitude : largest;
-        }
         if constexpr (stops) {
+            auto best = std::uint32_t(k);
+            T largest = std::fabs(a[k][k]);
+            BENCH_UNROLL for (std::size_t i = k + 1; i < order; ++i) {
+                const T magnitude = std::fabs(a[i][k]);
+                const bool isLarger = magnitude > largest;
+                best = isLarger ? std::uint32_t(i) : best;
+                largest = isLarger ? magnitude : largest;
+            }
             if (!(largest >= tolerance)) return false;
-        } else isRegular = isRegular & (largest >= tolerance);
-        // Asked row by row: an index that is only known at run time would keep the whole matrix out of registers.
-        BENCH_UNROLL for (std::size_t i = k + 1; i < order; ++i) if (i == best) {
-            BENCH_UNROLL for (std::size_t j = 0; j < order; ++j) std::swap(a[k][j], a[i][j]);
-            std::swap(rows[k], rows[i]);
+            // Asked row by row: an index that is only known at run time would keep the matrix out of registers.
+            BENCH_UNROLL for (std::size_t i = k + 1; i < order; ++i) if (i == best) {
+                BENCH_UNROLL for (std::size_t j = 0; j < order; ++j) std::swap(a[k][j], a[i][j]);
+                std::swap(rows[k], rows[i]);
+            }
+        } else {
+            // The largest so far goes up at once. Rows below it come in another order, which decides between equals
+            // alone.
+            BENCH_UNROLL for (std::size_t i = k + 1; i < order; ++i) {
+                const bool isLarger = std::fabs(a[i][k]) > std::fabs(a[k][k]);
+                BENCH_UNROLL for (std::size_t j = 0; j < order; ++j) swapIf(isLarger, a[k][j], a[i][j]);
+                swapIf(isLarger, rows[k], rows[i]);
+            }
+            isRegular = isRegular & (std::fabs(a[k][k]) >= tolerance);
         }
         BENCH_UNROLL for (std::size_t i = k + 1; i < order; ++i) {
             const W multiplier = W(a[i][k]) / W(a[k][k]);
