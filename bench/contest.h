@@ -62,11 +62,12 @@ std::string disagreement(const Contest &contest);
 
 struct Timing {
     std::string peer;
-    bool isPeer;        // as against a yardstick
+    Agreement agreement;
     double ours;        // nanoseconds per unit, the least of all rounds
     double theirs;      // the same of this peer
     double medianRatio; // median of what the rounds' own ratios were
     double ratio() const { return ours / theirs; }
+    bool isPeer() const { return agreement != Agreement::none; } // as against a yardstick
 };
 
 // One timing for each contestant but the library.

@@ -23,11 +23,6 @@
 
 namespace bench {
 
-constexpr const char *suffixOf(Layout layout) {
-    constexpr const char *suffixes[] = {"", "_S2", "_P", "_PS2", "_L", "_LS2"};
-    return suffixes[std::size_t(layout)];
-}
-
 // One piece of memory for all operands of a row, so that shifts of 32 bits reach from one to another. Each begins at
 // another place of a page, as separate buffers do.
 class Arena {
@@ -282,8 +277,8 @@ template <Layout layout, class F, class Call> Contest layoutContest(std::size_t 
 
 inline constexpr std::size_t layoutCounts[] = {64, 2048};
 
-// Where a row of that name is there already, of peers who know the strides when compiling, this one says what is new.
-inline void addRows(Rows &rows, const std::string &function, bool isOptional,
+// Where there is a row of that name already, of peers who know all strides when compiling, this one says what is new.
+inline void addRows(Rows &rows, const std::string &function, const char *remark, bool isOptional,
                     const std::function<Contest(std::size_t)> &prepare) {
     for (const std::size_t count : layoutCounts) {
         const auto isTaken = [&](const std::string &name) {
@@ -292,7 +287,7 @@ inline void addRows(Rows &rows, const std::string &function, bool isOptional,
         std::string name = function + "/" + std::to_string(count);
         if (isTaken(name)) {
             if (isOptional) continue;
-            name = function + " (strides at run time)/" + std::to_string(count);
+            name = function + remark + "/" + std::to_string(count);
         }
         rows.push_back({name, [=] { return prepare(count); }});
     }
@@ -301,7 +296,9 @@ inline void addRows(Rows &rows, const std::string &function, bool isOptional,
 // A function of a family.
 template <Layout layout, class F, class Call>
 void addLayoutRow(Rows &rows, const std::string &function, bool isOptional, Call call) {
-    addRows(rows, function, isOptional, [=](std::size_t count) { return layoutContest<layout, F>(count, call); });
+    constexpr const char *remark = isTable(layout) ? " (gaps)" : " (strides at run time)";
+    addRows(rows, function, remark, isOptional,
+            [=](std::size_t count) { return layoutContest<layout, F>(count, call); });
 }
 
 // The six functions of a family, and those of other orders in the standard layout unless they have rows already.
