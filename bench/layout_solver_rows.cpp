@@ -177,14 +177,38 @@ void prepareFactors(Data &data) {
     }
 }
 
-// |A (x - y)| cannot be told from factors; solutions by another order of additions are close where matrices are well
-// conditioned, and random ones are not. So all peers here add as the library does.
+// Solutions by sums that start from the right-hand side: |A (x - y)| against |A| max(|x|, |y|), in the maximum norm,
+// for the matrix that the factors multiply to. The order of its rows does not matter.
 template <Layout layout, std::size_t order> struct LuSolutions : Family<layout, plain::LuSolution<order, true>> {
     using Data = LayoutData<layout, plain::LuSolution<order, true>>;
     static void prepare(Data &data) {
         prepareFactors<Method::lu, layout, order, LuDecompositions<layout, order>>(data);
     }
     static auto afterFirst(Data &data) { return std::tuple(data.pivots.data()); }
+    static auto others() {
+        return std::tuple(Other<plain::LuSolution<order, false>>{"plain, sums from b", Agreement::tolerance});
+    }
+    static std::string complaint(Data &data, const Values &expected, const Values &found) {
+        for (std::size_t n = 0; n < data.count; ++n) {
+            const double *x = expected.data() + n * order, *y = found.data() + n * order;
+            double matrix[order * order], difference = 0, size = 0;
+            for (std::size_t i = 0; i < order; ++i) {
+                double rowDifference = 0;
+                for (std::size_t j = 0; j < order; ++j) {
+                    double sum = 0;
+                    for (std::size_t k = 0; k <= std::min(i, j); ++k)
+                        sum += (k == i ? 1.0 : double(data.own.at(n, i, k))) * double(data.own.at(n, k, j));
+                    matrix[i * order + j] = sum;
+                    rowDifference += sum * (x[j] - y[j]);
+                }
+                difference = std::max(difference, std::fabs(rowDifference));
+                size = std::max({size, std::fabs(x[i]), std::fabs(y[i])});
+            }
+            if (!(difference <= tolerance * norm<order>(matrix) * size))
+                return "solution " + std::to_string(n) + " differs by " + std::to_string(difference);
+        }
+        return "";
+    }
 };
 
 template <Layout layout, std::size_t order> struct CholeskySolutions : Family<layout, plain::CholeskySolution<order>> {

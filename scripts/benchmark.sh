@@ -68,5 +68,5 @@ run=$(mktemp)
 trap 'rm -f "$run"' EXIT
 build/bench/bench/benchmarks --rounds="$rounds" --benchmark_filter="$filter" --benchmark_out="$run" \
     --benchmark_out_format=json || fail "no row matches $filter, or contestants disagree"
-[ -z "$save" ] || cp "$run" "$save"
+[ -z "$save" ] || cat "$run" >"$save"
 [ -z "$against" ] || python3 scripts/benchmark_compare.py "$against" "$run"
