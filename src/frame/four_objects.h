@@ -2,11 +2,13 @@
 // done to them needs no sums across lanes, and rounds in each lane as it would for one object.
 #pragma once
 
-#include "frame/four_reals.h"
-#include "frame/lanes.h"
+#include "frame/gather.h"
 #include "frame/walk.h"
 
 namespace vonkk3 {
+
+inline constexpr std::size_t four = 4;
+inline constexpr std::size_t inFours(std::size_t count) { return count / four * four; }
 
 // An array of adjacent elements whose spacing the compiler knows. Blocks of it are loaded with fewer instructions.
 template <class T, std::ptrdiff_t bytes> struct SpacedVectors {

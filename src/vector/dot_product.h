@@ -102,7 +102,7 @@ template <class B> struct FourOrOne {
     const B &b;
     std::size_t n;
     VONKK3_INLINE __m128 element(std::size_t j) const {
-        if constexpr (B::isArray) return gather(SourceBlock(b, n).at, j * sizeof(Real32)).lanes;
+        if constexpr (B::isArray) return gatherElement(SourceBlock(b, n).at, j * sizeof(Real32)).lanes;
         else return _mm_set1_ps(b.view(0).load(j));
     }
     VONKK3_INLINE __m128 row(std::size_t k) const { return load4(b.view(B::isArray ? n + k : 0).base); }

@@ -73,7 +73,7 @@ template <std::size_t length, class Source> VONKK3_INLINE __m128 sumFourSquares(
         const SourceBlock block(source, n);
         const auto square = [](__m128 a) VONKK3_INLINED { return a * a; };
         const auto elements = [&](std::size_t j)
-                                  VONKK3_INLINED { return square(gather(block.at, j * sizeof(Real32)).lanes); };
+                                  VONKK3_INLINED { return square(gatherElement(block.at, j * sizeof(Real32)).lanes); };
         const __m128 ofFour = addRows(square(load4(block.at[0])), square(load4(block.at[1])),
                                       square(load4(block.at[2])), square(load4(block.at[3])));
         if constexpr (length == 4) return ofFour;
