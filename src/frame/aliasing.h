@@ -266,27 +266,30 @@ struct AscendingLists {
     bool ascend;        // and the objects of written lists are disjoint
 };
 
-// Entries are looked at object by object, none after the first that is null.
+// Entries are looked at object by object, none after the first that is null. A shift moves all objects of a list alike,
+// so entries are compared in place of objects; the objects ascend with them unless they wrap round at address 0.
 template <std::size_t lists> VONKK3_APART AscendingLists scanLists(AliasOperand *const *operands) {
-    struct {
-        std::uintptr_t entries, shift, before, leastStep;
-    } list[lists];
+    constexpr std::uintptr_t farthest = std::uintptr_t(1) << 62; // a step down is farther
+    std::uintptr_t entries[lists], before[lists], leastStep[lists];
     for (std::size_t l = 0; l < lists; ++l) {
         const AliasOperand &operand = *operands[l];
-        list[l] = {operand.view.begin, std::uintptr_t(operand.view.shift), 0, 0};
-        list[l].leastStep = operand.isWritten() ? operand.object.bytes() : 0;
+        entries[l] = operand.view.begin;
+        leastStep[l] = operand.isWritten() ? operand.object.bytes() : 0;
+        before[l] = operand.view.listEntry(0);
+        if (before[l] == 0 || operand.view.object(0) == 0) return {0, true};
     }
     const std::size_t count = operands[0]->view.count;
-    for (std::size_t n = 0; n < count; ++n) {
+    for (std::size_t n = 1; n < count; ++n) {
         VONKK3_UNROLL_WHOLE
         for (std::size_t l = 0; l < lists; ++l) {
-            const std::uintptr_t entry = ObjectsView::pointerAt(list[l].entries + n * sizeof(void *));
-            const std::uintptr_t object = entry + list[l].shift;
-            if (entry == 0 || object == 0) return {n, true};
-            if (n != 0 && (object < list[l].before || object - list[l].before < list[l].leastStep)) return {n, false};
-            list[l].before = object;
+            const std::uintptr_t entry = ObjectsView::pointerAt(entries[l] + n * sizeof(void *));
+            if (entry == 0) return {n, true};
+            if (entry - before[l] - leastStep[l] > farthest) return {n, false};
+            before[l] = entry;
         }
     }
+    for (std::size_t l = 0; l < lists; ++l)
+        if (operands[l]->view.object(count - 1) < operands[l]->view.object(0)) return {0, false};
     return {count, true};
 }
 

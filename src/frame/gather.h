@@ -177,7 +177,14 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
     VONKK3_INLINE void gather(std::size_t n, Packs<chains> (&block)[rows][columns]) const {
         forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
             const std::size_t first = n + c * packWidth;
-            if constexpr (access == Access::any)
+            if constexpr (access == Access::any && rows == 1) {
+                const ElementsOfPack<const std::byte> elements(view, first);
+                forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+                    PackSources from;
+                    elements.findElement(i, j, from);
+                    block[i][j].chain[c] = gatherElement(from, 0);
+                });
+            } else if constexpr (access == Access::any)
                 gatherElements<rows, columns, triangle>(view, first, &block[0][0].chain[c], chains);
             else if constexpr (access == Access::positions)
                 forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
@@ -202,7 +209,14 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
     VONKK3_INLINE void scatter(std::size_t n, const Packs<chains> (&block)[rows][columns]) const {
         forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
             const std::size_t first = n + c * packWidth;
-            if constexpr (access == Access::any)
+            if constexpr (access == Access::any && rows == 1) {
+                const ElementsOfPack<std::byte> elements(view, first);
+                forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+                    PackTargets to;
+                    elements.findElement(i, j, to);
+                    scatterElement(to, 0, block[i][j].chain[c]);
+                });
+            } else if constexpr (access == Access::any)
                 scatterElements<rows, columns, triangle>(view, first, &block[0][0].chain[c], chains);
             else if constexpr (access == Access::positions)
                 forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
