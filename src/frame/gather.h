@@ -282,6 +282,16 @@ VONKK3_INLINE void scatterRowsInOrder(const ObjectsView &view, std::size_t n, co
     });
 }
 
+// ---- Results --------------------------------------------------------------------------------------------------------
+
+// One number for each object, packed.
+template <std::size_t chains>
+VONKK3_INLINE void storeContiguous(const ObjectsView &numbers, std::size_t n, const Packs<chains> &result) {
+    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
+        store4(reinterpret_cast<std::byte *>(numbers.object(n + c * packWidth)), result.chain[c].lanes);
+    });
+}
+
 // ---- Matrices that are read, one for each object or one for all -----------------------------------------------------
 
 // The matrices of a batch: an array of them is gathered for each, a single one that serves all objects is broadcast

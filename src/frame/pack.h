@@ -96,6 +96,9 @@ template <class Value, std::size_t chains> struct Chains {
     VONKK3_INLINE friend Chains operator-(const Chains &a, const Chains &b) {
         return each([&](std::size_t c) VONKK3_INLINED { return a.chain[c] - b.chain[c]; });
     }
+    VONKK3_INLINE friend Chains operator-(const Chains &a) {
+        return each([&](std::size_t c) VONKK3_INLINED { return -a.chain[c]; });
+    }
     VONKK3_INLINE friend Chains operator*(const Chains &a, const Chains &b) {
         return each([&](std::size_t c) VONKK3_INLINED { return a.chain[c] * b.chain[c]; });
     }
@@ -146,6 +149,15 @@ template <std::size_t chains>
 VONKK3_INLINE void exchangeWhere(const PackMasks<chains> &mask, Packs<chains> &a, Packs<chains> &b) {
     VONKK3_UNROLL_WHOLE
     for (std::size_t c = 0; c < chains; ++c) exchangeWhere(mask.chain[c], a.chain[c], b.chain[c]);
+}
+
+// Whether a comparison holds in any lane.
+template <std::size_t chains, class Comparison>
+VONKK3_INLINE bool inAnyLane(const Packs<chains> &a, const Comparison &comparison) {
+    PackMask any = comparison(a.chain[0]);
+    VONKK3_UNROLL_WHOLE
+    for (std::size_t c = 1; c < chains; ++c) any = any | comparison(a.chain[c]);
+    return any.any();
 }
 
 // Whether a comparison holds in all lanes.

@@ -3,7 +3,7 @@
 // inverts.
 #pragma once
 
-#include "frame/walk.h"
+#include "frame/batch.h"
 #include "lu/block_inverse.h"
 #include "lu/closed_inverse.h"
 #include "lu/invert_by_minors.h"
@@ -52,6 +52,34 @@ VONKK3_INLINE bool invertObject(const SourceView &source, const View &inverse, F
     }
 }
 
+// ---- Batches --------------------------------------------------------------------------------------------------------
+
+// Of the forms that divide. A singular matrix goes the plain way.
+template <std::size_t order> struct InvertBatch {
+    static constexpr std::size_t chains = order == 3 ? 2 : 1; // the larger ones fill the registers
+    ObjectsView src, dst;
+
+    Access access() const { return accessOf(src, dst); }
+
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
+        Packs<chains> matrices[order][order], inverses[order][order];
+        gatherBlock<access>(src, n, matrices);
+        if constexpr (order <= 4) {
+            if (!invertClosed(matrices, inverses)) return false;
+        } else if (!invertByBlocks(matrices, inverses)) return false;
+        scatterBlock<access>(dst, n, inverses);
+        return true;
+    }
+};
+
+template <class Source, class Destination, std::size_t order, class One>
+VONKK3_INLINE VonkStatus invertInBatches(const Source &src, const Destination &dst, Fixed<order>, std::size_t count,
+                                         const One &one) {
+    InvertBatch<order> batch{objectsOf(src, order, order, count), objectsOf(dst, order, order, count)};
+    const Aliasing aliasing(count, writes(batch.dst), readsInPlace(batch.src));
+    return forEachBatch(batch, aliasing, count, one);
+}
+
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 template <class Source, class Destination>
@@ -67,9 +95,12 @@ VONKK3_INLINE VonkStatus invert(const Source &src, Fixed<order> size, const Dest
     if (anyNull(src, dst)) return vonkErrNullPtr;
     if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
     if (scansListsFirst<Source> && anyListEntryNull(count, src, dst)) return vonkErrNullPtr;
-    return forEachObject(count, [&](std::size_t n) VONKK3_INLINED {
+    const auto one = [&](std::size_t n) VONKK3_INLINED {
         return invertObject<Source>(src.view(n, order), dst.view(n, order), size) ? vonkOk : vonkErrSingular;
-    });
+    };
+    if constexpr (worksInBatches<Destination> && !isBuiltForSpeed<Source>)
+        if (count >= packWidth) return invertInBatches(src, dst, size, count, one);
+    return forEachObject(count, one);
 }
 
 template <class Source, class Destination, class Count>

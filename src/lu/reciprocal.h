@@ -1,7 +1,7 @@
 // The divisor of an inverse: when it is taken for zero, and how its reciprocal is made.
 #pragma once
 
-#include "frame/real.h"
+#include "frame/pack.h"
 
 #include <xmmintrin.h>
 
@@ -17,6 +17,13 @@ inline bool isInSingularInterval(Real32 divisor) {
 }
 inline bool isInSingularInterval(Wide divisor) {
     return -Wide(singularBelow<Real64>) < divisor && divisor < Wide(singularBelow<Real64>);
+}
+
+// Whether the divisor of any object of a batch is. The Real32 bound is the least Real32 that is not below the other.
+template <std::size_t chains> VONKK3_INLINE bool isInSingularInterval(const Packs<chains> &divisor) {
+    static constexpr auto bound = Real32(singularBelow<Real32>);
+    static_assert(bound >= singularBelow<Real32> && Real64(bound) * (1 - 0x1p-23) < singularBelow<Real32>);
+    return inAnyLane(divisor, [](Pack d) VONKK3_INLINED { return Pack(bound) > magnitude(d); });
 }
 
 // One Newton step from the processor's estimate x of about 12 bits: x + x - d x^2, which is multiplied in one order for
