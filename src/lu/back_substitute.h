@@ -155,12 +155,12 @@ private:
 // Where batches are quicker than one by one, if objects are not few: pivots to follow and lists to look at are time
 // that small matrices do not save.
 template <class Factors, class Solution, std::size_t order>
-inline constexpr bool isWorthBatches = Factors::isTable || order >= 3U + Factors::isArray + Solution::isList;
+inline constexpr bool isWorthSolving = Factors::isTable || order >= 3U + Factors::isArray + Solution::isList;
 
 template <class Factors, class RightSide, class Solution, std::size_t order, class One>
 VONKK3_INLINE VonkStatus solveInBatches(const Factors &src1, const std::uint32_t *pivots, const RightSide &src2,
                                         const Solution &dst, Fixed<order>, std::size_t count, const One &one) {
-    if constexpr (isWorthBatches<Factors, Solution, order>) {
+    if constexpr (isWorthSolving<Factors, Solution, order>) {
         SolveBatch<order, Factors::isArray> batch(src1, pivots, src2, dst, count);
         const Aliasing aliasing(count, writes(batch.dst), reads(batch.src1), reads(batch.src2), reads(batch.pivots));
         return forEachBatch(batch, aliasing, count, one);

@@ -190,11 +190,11 @@ template <class T, std::size_t order>
 }
 
 // The same for the matrices of a batch. Their columns are exchanged on the way.
-template <std::size_t chains, std::size_t order>
-VONKK3_INLINE bool invertByBlocks(Packs<chains> (&matrices)[order][order], Packs<chains> (&inverses)[order][order]) {
+template <std::size_t chains, std::size_t order, class Reciprocal>
+VONKK3_INLINE bool invertByBlocks(Packs<chains> (&matrices)[order][order], Packs<chains> (&inverses)[order][order],
+                                  const Reciprocal &reciprocal) {
     using W = Packs<chains>;
     const auto a = [&](std::size_t i, std::size_t j) VONKK3_INLINED { return matrices[i][j]; };
-    const auto reciprocal = [](const W &divisor) VONKK3_INLINED { return W(1.0F) / divisor; };
     ColumnsOfBatch<chains, order> c(matrices);
     chooseColumns<order - 3, W>(a, c, candidateColumns);
     Blocks<W, order> blocks(a, c);

@@ -74,10 +74,10 @@ template <class T, std::size_t order>
 }
 
 // The matrices of a batch.
-template <std::size_t chains, std::size_t order>
-VONKK3_INLINE bool invertClosed(Packs<chains> (&matrices)[order][order], Packs<chains> (&inverses)[order][order]) {
+template <std::size_t chains, std::size_t order, class Reciprocal>
+VONKK3_INLINE bool invertClosed(Packs<chains> (&matrices)[order][order], Packs<chains> (&inverses)[order][order],
+                                const Reciprocal &reciprocal) {
     using W = Packs<chains>;
-    const auto reciprocal = [](const W &divisor) VONKK3_INLINED { return W(1.0F) / divisor; };
     const LocalBlock a{matrices}, inverse{inverses};
     const auto store = [&](std::size_t i, std::size_t j, const W &value) VONKK3_INLINED { inverse.store(i, j, value); };
     if constexpr (order == 3) return invertThree<W>(a, reciprocal, store);

@@ -167,7 +167,7 @@ template <std::size_t order> struct DecomposeBatch {
 
 // From how many objects on batches are quicker than one by one. Small matrices are quick enough; and the alias test of
 // lists and tables costs as much as several objects.
-template <std::size_t order> std::size_t leastForBatches(const ObjectsView &factors, Access access) {
+template <std::size_t order> std::size_t leastToDecompose(const ObjectsView &factors, Access access) {
     if (access == Access::any) return order < 5 ? std::size_t(-1) : 16 * packWidth;
     return factors.indirection == ObjectsView::Indirection::none ? 2 * packWidth : 8 * packWidth;
 }
@@ -176,7 +176,7 @@ template <class Source, class Factors, std::size_t order, class One>
 VONKK3_INLINE VonkStatus decomposeInBatches(const Source &src, std::uint32_t *pivots, const Factors &dst, Fixed<order>,
                                             std::size_t count, const One &one) {
     DecomposeBatch<order> batch(src, pivots, dst, count);
-    if (count < leastForBatches<order>(batch.dst, batch.access())) return forEachObject(count, one);
+    if (count < leastToDecompose<order>(batch.dst, batch.access())) return forEachObject(count, one);
     const Aliasing aliasing(count, writes(batch.dst), writes(batch.pivots), readsInPlace(batch.src));
     return forEachBatch(batch, aliasing, count, one);
 }

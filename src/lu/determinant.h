@@ -84,10 +84,19 @@ private:
     }
 };
 
+// From how many objects on batches are quicker than one by one: of small matrices, not where each element or list entry
+// is a load of its own.
+template <std::size_t order> std::size_t leastForDeterminants(const ObjectsView &matrices, Access access) {
+    if (order >= 5) return packWidth;
+    if (access == Access::any || matrices.isList()) return std::size_t(-1);
+    return 4 * packWidth;
+}
+
 template <class Source, std::size_t order, class One>
 VONKK3_INLINE VonkStatus determinantsInBatches(const Source &src, Fixed<order>, Real32 *dst, std::size_t count,
                                                const One &one) {
     DeterminantBatch<order> batch{objectsOf(src, order, order, count), packedBlocks(dst, 1, count)};
+    if (count < leastForDeterminants<order>(batch.src, batch.access())) return forEachObject(count, one);
     const Aliasing aliasing(count, writes(batch.results), reads(batch.src));
     return forEachBatch(batch, aliasing, count, one);
 }

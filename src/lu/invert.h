@@ -54,8 +54,11 @@ VONKK3_INLINE bool invertObject(const SourceView &source, const View &inverse, F
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Of the forms that divide. A singular matrix goes the plain way.
-template <std::size_t order> struct InvertBatch {
+// A matrix that is singular goes the plain way. Of the forms that are built for speed, 3x3 and 4x4 are as quick there.
+template <class Source, std::size_t order>
+inline constexpr bool isWorthInverting = !isBuiltForSpeed<Source> || order >= 5;
+
+template <bool builtForSpeed, std::size_t order> struct InvertBatch {
     static constexpr std::size_t chains = order == 3 ? 2 : 1; // the larger ones fill the registers
     ObjectsView src, dst;
 
@@ -64,18 +67,29 @@ template <std::size_t order> struct InvertBatch {
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> matrices[order][order], inverses[order][order];
         gatherBlock<access>(src, n, matrices);
-        if constexpr (order <= 4) {
-            if (!invertClosed(matrices, inverses)) return false;
-        } else if (!invertByBlocks(matrices, inverses)) return false;
+        if (!invertGathered(matrices, inverses)) return false;
         scatterBlock<access>(dst, n, inverses);
         return true;
+    }
+
+private:
+    template <class Number>
+    VONKK3_INLINE static bool invertGathered(Number (&matrices)[order][order], Number (&inverses)[order][order]) {
+        const auto reciprocal = [](const Number &divisor) VONKK3_INLINED {
+            if constexpr (builtForSpeed) return reciprocalByEstimate(divisor);
+            else return Number(1.0F) / divisor;
+        };
+        if constexpr (order <= 4) return invertClosed(matrices, inverses, reciprocal);
+        else if constexpr (order == 6 && builtForSpeed) return invertSixOfBatch(matrices, inverses);
+        else return invertByBlocks(matrices, inverses, reciprocal);
     }
 };
 
 template <class Source, class Destination, std::size_t order, class One>
 VONKK3_INLINE VonkStatus invertInBatches(const Source &src, const Destination &dst, Fixed<order>, std::size_t count,
                                          const One &one) {
-    InvertBatch<order> batch{objectsOf(src, order, order, count), objectsOf(dst, order, order, count)};
+    InvertBatch<isBuiltForSpeed<Source>, order> batch{objectsOf(src, order, order, count),
+                                                      objectsOf(dst, order, order, count)};
     const Aliasing aliasing(count, writes(batch.dst), readsInPlace(batch.src));
     return forEachBatch(batch, aliasing, count, one);
 }
@@ -98,8 +112,8 @@ VONKK3_INLINE VonkStatus invert(const Source &src, Fixed<order> size, const Dest
     const auto one = [&](std::size_t n) VONKK3_INLINED {
         return invertObject<Source>(src.view(n, order), dst.view(n, order), size) ? vonkOk : vonkErrSingular;
     };
-    if constexpr (worksInBatches<Destination> && !isBuiltForSpeed<Source>)
-        if (count >= packWidth) return invertInBatches(src, dst, size, count, one);
+    if constexpr (worksInBatches<Destination> && isWorthInverting<Source, order>)
+        if (count >= (order == 3 ? 2 : 1) * packWidth) return invertInBatches(src, dst, size, count, one);
     return forEachObject(count, one);
 }
 

@@ -36,6 +36,10 @@ inline __m128 reciprocalByEstimate(__m128 d) {
     const __m128 x = _mm_rcp_ps(d);
     return _mm_sub_ps(_mm_add_ps(x, x), _mm_mul_ps(d, _mm_mul_ps(x, x)));
 }
+template <std::size_t chains> VONKK3_INLINE Packs<chains> reciprocalByEstimate(const Packs<chains> &d) {
+    return Packs<chains>::each([&](std::size_t c)
+                                   VONKK3_INLINED { return Pack(reciprocalByEstimate(d.chain[c].lanes)); });
+}
 inline Real32 reciprocalByEstimate(Real32 d) { return _mm_cvtss_f32(reciprocalByEstimate(_mm_set1_ps(d))); }
 
 } // namespace vonkk3::lu
