@@ -87,7 +87,7 @@ private:
 // From how many objects on batches are quicker than one by one: of small matrices, not where each element or list entry
 // is a load of its own.
 template <std::size_t order> std::size_t leastForDeterminants(const ObjectsView &matrices, Access access) {
-    if (order >= 5) return packWidth;
+    if (order >= 5) return (order == 5 ? 2 : 1) * packWidth;
     if (access == Access::any || matrices.isList()) return std::size_t(-1);
     return 4 * packWidth;
 }

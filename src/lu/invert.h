@@ -4,6 +4,7 @@
 #pragma once
 
 #include "frame/batch.h"
+#include "lu/batch_of_six.h"
 #include "lu/block_inverse.h"
 #include "lu/closed_inverse.h"
 #include "lu/invert_by_minors.h"

@@ -35,8 +35,8 @@ private:
     GrowingPermutation<Order> rows;
 };
 
-// The matrix is worked on apart from memory, where rows can be exchanged in fact, and stored when all is done. Nobody
-// can tell, if the rows of the destination lie apart from each other and from the source, or just on it.
+// The matrix is worked on in a local copy, where rows can be exchanged in fact, and stored when all is done. For
+// destinations whose rows are disjoint from each other and from the source, or in place.
 template <class T, class Factors, std::size_t order> class RowsInRegisters {
 public:
     template <class Source>
