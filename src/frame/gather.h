@@ -98,6 +98,11 @@ public:
     VONKK3_INLINE void findRow(std::size_t i, Byte *(&row)[packWidth]) const {
         for (std::size_t k = 0; k < packWidth; ++k) row[k] = object[k] + strides(i, view.rowStride);
     }
+    // Element indexOf(k) of object k, where elements, or rows, are so many bytes apart.
+    template <class IndexOf>
+    VONKK3_INLINE void findOwn(const IndexOf &indexOf, std::ptrdiff_t stride, Byte *(&own)[packWidth]) const {
+        for (std::size_t k = 0; k < packWidth; ++k) own[k] = object[k] + strides(indexOf(k), stride);
+    }
     VONKK3_INLINE void findElement(std::size_t i, std::size_t j, Byte *(&element)[packWidth]) const {
         if (view.isTable()) {
             Byte *const first = reinterpret_cast<Byte *>(view.position(i, j, n));
@@ -269,6 +274,83 @@ private:
 template <std::size_t order, bool isArray = true, Triangle triangle = Triangle::both>
 using MatricesOfBatch = BatchOperand<order, order, isArray, triangle>;
 template <std::size_t length, bool isArray = true> using VectorsOfBatch = BatchOperand<1, length, isArray>;
+
+// ---- Rows and elements in an order of each object's own -------------------------------------------------------------
+
+// Element (i, j) of lane k in a block of one chain.
+template <std::size_t rows, std::size_t columns>
+VONKK3_INLINE const std::byte *laneOf(const Packs<1> (&block)[rows][columns], std::size_t i, std::size_t j,
+                                      std::size_t k) {
+    return reinterpret_cast<const std::byte *>(block) + (i * columns + j) * sizeof(Pack) + k * sizeof(Real32);
+}
+
+// Row i of the block is row rowOf(k, i) of object n + k, which must be one of its `rows`.
+template <Access access, std::size_t chains, std::size_t rows, std::size_t columns, class RowOf>
+VONKK3_INLINE void gatherRowsInOrder(const BatchOperand<rows, columns, true> &operand, std::size_t n,
+                                     const RowOf &rowOf, Packs<chains> (&block)[rows][columns]) {
+    const ObjectsView &view = operand.view;
+    const bool isPermutedLocally = access == Access::positions || (access == Access::any && view.isTable());
+    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
+        const std::size_t first = c * packWidth;
+        const ElementsOfPack<const std::byte> elements(view, n + first);
+        Packs<1> unordered[rows][columns];
+        if (isPermutedLocally) operand.template gather<access>(n + first, unordered);
+        forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
+            const auto rowOfLane = [&](std::size_t k) VONKK3_INLINED { return rowOf(first + k, i); };
+            Pack row[columns];
+            PackSources from;
+            if (isPermutedLocally)
+                for (std::size_t k = 0; k < packWidth; ++k) from[k] = laneOf(unordered, rowOfLane(k), 0, k);
+            else elements.findOwn(rowOfLane, view.rowStride, from);
+            if constexpr (access == Access::rows) gatherRow(from, columns, row);
+            else {
+                const std::size_t step = isPermutedLocally ? sizeof(Pack) : std::size_t(view.elementStride);
+                for (std::size_t j = 0; j < columns; ++j) row[j] = gatherElement(from, j * step);
+            }
+            for (std::size_t j = 0; j < columns; ++j) block[i][j].chain[c] = row[j];
+        });
+    });
+}
+
+// Element i of the block is element indexOf(k, i) of the vector of object n + k, which must be one of its `length`.
+template <Access access, std::size_t chains, std::size_t length, class IndexOf>
+VONKK3_INLINE void gatherElementsInOrder(const VectorsOfBatch<length> &operand, std::size_t n, const IndexOf &indexOf,
+                                         Packs<chains> (&block)[1][length]) {
+    const ObjectsView &view = operand.view;
+    const bool isPermutedLocally = access == Access::positions || (access == Access::any && view.isTable());
+    const std::ptrdiff_t stride = access == Access::rows ? sizeof(Real32) : view.elementStride;
+    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
+        const std::size_t first = c * packWidth;
+        const ElementsOfPack<const std::byte> elements(view, n + first);
+        Packs<1> unordered[1][length];
+        if (isPermutedLocally) operand.template gather<access>(n + first, unordered);
+        forIndices(0, length, fixed<length>, [&](std::size_t i) VONKK3_INLINED {
+            const auto indexOfLane = [&](std::size_t k) VONKK3_INLINED { return indexOf(first + k, i); };
+            PackSources from;
+            if (isPermutedLocally)
+                for (std::size_t k = 0; k < packWidth; ++k) from[k] = laneOf(unordered, 0, indexOfLane(k), k);
+            else elements.findOwn(indexOfLane, stride, from);
+            block[0][i].chain[c] = gatherElement(from, 0);
+        });
+    });
+}
+
+// Row i of the block becomes row rowOf(k, i) of object n + k. Its elements must be contiguous.
+template <std::size_t chains, std::size_t rows, std::size_t columns, class RowOf>
+VONKK3_INLINE void scatterRowsInOrder(const ObjectsView &view, std::size_t n, const RowOf &rowOf,
+                                      const Packs<chains> (&block)[rows][columns]) {
+    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
+        const std::size_t first = c * packWidth;
+        const ElementsOfPack<std::byte> elements(view, n + first);
+        forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
+            Pack row[columns];
+            PackTargets to;
+            for (std::size_t j = 0; j < columns; ++j) row[j] = block[i][j].chain[c];
+            elements.findOwn([&](std::size_t k) VONKK3_INLINED { return rowOf(first + k, i); }, view.rowStride, to);
+            scatterRow(to, columns, row);
+        });
+    });
+}
 
 // One packed result per object.
 template <std::size_t chains>

@@ -51,6 +51,22 @@ struct Pack {
 inline Pack squareRoot(Pack s) { return _mm_sqrt_ps(s.lanes); }
 inline Pack magnitude(Pack a) { return _mm_andnot_ps(_mm_set1_ps(-0.0F), a.lanes); }
 
+// The larger one; b if they are equal or one is a NaN.
+inline Pack larger(Pack a, Pack b) { return _mm_max_ps(a.lanes, b.lanes); }
+
+// Where the first is set and the second is not.
+inline PackMask without(PackMask a, PackMask b) { return {_mm_andnot_ps(b.lanes, a.lanes)}; }
+
+// Exchanges a and b where the mask is set.
+inline void exchangeWhere(PackMask mask, Pack &a, Pack &b) {
+    const __m128 difference = _mm_and_ps(_mm_xor_ps(a.lanes, b.lanes), mask.lanes);
+    a.lanes = _mm_xor_ps(a.lanes, difference);
+    b.lanes = _mm_xor_ps(b.lanes, difference);
+}
+
+// An index in every lane, as bits.
+inline Pack packOfIndex(std::uint32_t index) { return _mm_castsi128_ps(_mm_set1_epi32(std::int32_t(index))); }
+
 // a where the mask is set, else b.
 inline Pack select(PackMask mask, Pack a, Pack b) {
     return _mm_or_ps(_mm_and_ps(mask.lanes, a.lanes), _mm_andnot_ps(mask.lanes, b.lanes));
@@ -80,6 +96,9 @@ template <class Value, std::size_t chains> struct Chains {
     VONKK3_INLINE friend Chains operator-(const Chains &a, const Chains &b) {
         return each([&](std::size_t c) VONKK3_INLINED { return a.chain[c] - b.chain[c]; });
     }
+    VONKK3_INLINE friend Chains operator-(const Chains &a) {
+        return each([&](std::size_t c) VONKK3_INLINED { return -a.chain[c]; });
+    }
     VONKK3_INLINE friend Chains operator*(const Chains &a, const Chains &b) {
         return each([&](std::size_t c) VONKK3_INLINED { return a.chain[c] * b.chain[c]; });
     }
@@ -89,6 +108,7 @@ template <class Value, std::size_t chains> struct Chains {
 };
 
 template <std::size_t chains> using Packs = Chains<Pack, chains>;
+template <std::size_t chains> using PackMasks = Chains<PackMask, chains>;
 
 // How many objects a number stands for.
 template <class Number> inline constexpr std::size_t lanesOf = 1;
@@ -97,6 +117,47 @@ template <std::size_t chains> inline constexpr std::size_t lanesOf<Packs<chains>
 
 template <std::size_t chains> VONKK3_INLINE Packs<chains> squareRoot(const Packs<chains> &s) {
     return Packs<chains>::each([&](std::size_t c) VONKK3_INLINED { return squareRoot(s.chain[c]); });
+}
+
+// isLargest[t] tells for t above `from` where candidate(t) is the largest of those from `from` to `to` - 1, the first
+// of equals; the others hold where none is. A NaN is never larger, and nothing is larger than it.
+template <std::size_t chains, std::size_t length, class Candidate>
+VONKK3_INLINE void findLargest(std::size_t from, std::size_t to, const Candidate &candidate,
+                               PackMasks<chains> (&isLargest)[length]) {
+    Packs<chains> largest = candidate(from);
+    forIndices(from + 1, to, fixed<length>, [&](std::size_t t) VONKK3_INLINED {
+        const Packs<chains> next = candidate(t);
+        VONKK3_UNROLL_WHOLE
+        for (std::size_t c = 0; c < chains; ++c) {
+            isLargest[t].chain[c] = next.chain[c] > largest.chain[c];
+            largest.chain[c] = larger(next.chain[c], largest.chain[c]);
+        }
+    });
+    VONKK3_UNROLL_WHOLE
+    for (std::size_t c = 0; c < chains; ++c) {
+        PackMask later = PackMask::none();
+        forIndices(from + 1, to, fixed<length>, [&](std::size_t ahead) VONKK3_INLINED {
+            PackMask &mask = isLargest[from + to - ahead].chain[c];
+            const PackMask wins = mask;
+            mask = without(wins, later);
+            later = later | wins;
+        });
+    }
+}
+
+template <std::size_t chains>
+VONKK3_INLINE void exchangeWhere(const PackMasks<chains> &mask, Packs<chains> &a, Packs<chains> &b) {
+    VONKK3_UNROLL_WHOLE
+    for (std::size_t c = 0; c < chains; ++c) exchangeWhere(mask.chain[c], a.chain[c], b.chain[c]);
+}
+
+// Whether a comparison holds in any lane.
+template <std::size_t chains, class Comparison>
+VONKK3_INLINE bool inAnyLane(const Packs<chains> &a, const Comparison &comparison) {
+    PackMask any = comparison(a.chain[0]);
+    VONKK3_UNROLL_WHOLE
+    for (std::size_t c = 1; c < chains; ++c) any = any | comparison(a.chain[c]);
+    return any.any();
 }
 
 // Whether a comparison holds in all lanes.

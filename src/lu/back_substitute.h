@@ -3,7 +3,9 @@
 // Nothing about the numbers is tested: a zero pivot divides through.
 #pragma once
 
-#include "frame/walk.h"
+#include "frame/batch.h"
+#include "lu/arithmetic.h"
+#include "lu/local_block.h"
 #include "lu/permutation.h"
 
 namespace vonkk3::lu {
@@ -43,34 +45,45 @@ template <class Order> VONKK3_INLINE Real32 beginSum(Real32 product, Real32 minu
     return 0.0F + product;
 }
 template <class Order> VONKK3_INLINE Wide beginSum(Wide product, Wide) { return 0.0L + product; }
+template <class Order, std::size_t chains>
+VONKK3_INLINE Packs<chains> beginSum(const Packs<chains> &product, const Packs<chains> &) {
+    return Packs<chains>(0.0F) + product;
+}
+
+// A batch cannot ask. There the 0 is added to the second product, if there is one: that waits for nothing, and the sum
+// of both is the same.
+template <class T> inline constexpr bool addsZeroToSecond = isPacks<T>;
 
 // minuend - sum over j from `from` to `to` - 1 of factors(row, j) * x(j), in ascending order. Terms read what x holds
 // by then; there is at least one.
 template <bool keepsWide, class T, class Factors, class Solution, class Order>
-VONKK3_INLINE Working<T> minusProducts(Working<T> minuend, const Factors &factors, std::size_t row, const Solution &x,
-                                       std::size_t from, std::size_t to, Order order) {
-    using W = Working<T>;
+VONKK3_INLINE WorkedAs<T> minusProducts(const WorkedAs<T> &minuend, const Factors &factors, std::size_t row,
+                                        const Solution &x, std::size_t from, std::size_t to, Order order) {
+    using W = WorkedAs<T>;
     const auto product = [&](std::size_t j) VONKK3_INLINED { return W(factors.load(row, j)) * W(x.load(j)); };
     const std::size_t endOfPairs = from + (to - from) / 2 * 2;
-    W sum = beginSum<Order>(product(from), minuend);
-    forIndices(from + 1, endOfPairs, order, [&](std::size_t j) VONKK3_INLINED { sum = sum + product(j); });
-    if (!keepsWide) sum = round<T>(sum);
+    const bool zeroIsLeft = addsZeroToSecond<T> && to - from > 1;
+    W sum = zeroIsLeft ? product(from) : beginSum<Order>(product(from), minuend);
+    forIndices(from + 1, endOfPairs, order, [&](std::size_t j) VONKK3_INLINED {
+        sum = sum + (zeroIsLeft && j == from + 1 ? product(j) + W(0.0F) : product(j));
+    });
+    if (!keepsWide) sum = rounded<T>(sum);
     if (from < endOfPairs && endOfPairs < to) {
         sum = sum + product(endOfPairs);
-        if (!keepsWide) sum = round<T>(sum);
+        if (!keepsWide) sum = rounded<T>(sum);
     }
     return minuend - sum;
 }
 
-template <bool keepsWide, class T, class Factors, class RightSide, class Solution, class Order>
-VONKK3_INLINE void solveObject(const Factors &factors, const std::byte *pivots, const RightSide &b, const Solution &x,
+// Row i of the factors is rows[i] of what they are read from, and so is element i of b.
+template <bool keepsWide, class T, class Factors, class Rows, class RightSide, class Solution, class Order>
+VONKK3_INLINE void solveObject(const Factors &factors, const Rows &rows, const RightSide &b, const Solution &x,
                                Order order) {
-    using W = Working<T>;
-    const auto storeElement = [&](std::size_t i, W value) VONKK3_INLINED {
-        x.store(i, round<T>(value));
+    using W = WorkedAs<T>;
+    const auto storeElement = [&](std::size_t i, const W &value) VONKK3_INLINED {
+        x.store(i, rounded<T>(value));
         readBackWhatIsStored<T>();
     };
-    const Permutation<Order> rows(pivots, order);
     x.store(0, b.load(rows[0]));
     forIndices(1, order, order, [&](std::size_t i) VONKK3_INLINED {
         storeElement(i, minusProducts<keepsWide, T>(b.load(rows[i]), factors, rows[i], x, 0, i, order));
@@ -84,6 +97,84 @@ VONKK3_INLINE void solveObject(const Factors &factors, const std::byte *pivots, 
     });
 }
 
+// ---- Batches --------------------------------------------------------------------------------------------------------
+
+// Rows and right-hand sides are gathered in their logical order. Pivots that are no row indices go the plain way.
+template <std::size_t order, bool isArray> struct SolveBatch {
+    static constexpr std::size_t chains = 2; // a quotient waits for the one before it
+    MatricesOfBatch<order> src1;
+    VectorsOfBatch<order> src2, dst;
+    ObjectsView pivots;
+    Pack single[order][order]; // the one matrix, in its logical order
+    bool singleIsTrusted = false;
+
+    template <class Factors, class RightSide, class Solution>
+    VONKK3_INLINE SolveBatch(const Factors &src1, const std::uint32_t *pivots, const RightSide &src2,
+                             const Solution &dst, std::size_t count)
+        : src1(src1, count), src2(src2, count), dst(dst, count),
+          pivots(packedBlocks(pivots, order, isArray ? count : 1)) {}
+
+    Access access() const { return accessOf(src1.view, src2.view, dst.view); }
+    template <Access access> VONKK3_INLINE void hoist() {
+        src2.template hoist<access>();
+        dst.template hoist<access>();
+        if constexpr (isArray) src1.template hoist<access>();
+        else {
+            singleIsTrusted = areRowIndices(pivotsOf(0), order, order);
+            if (!singleIsTrusted) return;
+            for (std::size_t i = 0; i < order; ++i)
+                for (std::size_t j = 0; j < order; ++j)
+                    single[i][j] = src1.view.template load<Real32>(loadPivot(pivotsOf(0), i), j);
+        }
+    }
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) {
+        Packs<chains> b[1][order], x[1][order];
+        if constexpr (isArray) {
+            const std::byte *const rows = pivotsOf(n);
+            if (!areRowIndices(rows, chains * packWidth * order, order)) return false;
+            const auto rowOf = [&](std::size_t k, std::size_t i)
+                                   VONKK3_INLINED { return loadPivot(rows, k * order + i); };
+            Packs<chains> factors[order][order];
+            gatherElementsInOrder<access>(src2, n, rowOf, b);
+            gatherRowsInOrder<access>(src1, n, rowOf, factors);
+            solveGathered(factors, b, x);
+        } else {
+            if (!singleIsTrusted) return false;
+            Packs<chains> unordered[1][order];
+            src2.template gather<access>(n, unordered);
+            for (std::size_t i = 0; i < order; ++i) b[0][i] = unordered[0][loadPivot(pivotsOf(0), i)];
+            solveGathered(single, b, x);
+        }
+        dst.template scatter<access>(n, x);
+        return true;
+    }
+
+private:
+    const std::byte *pivotsOf(std::size_t n) const { return reinterpret_cast<const std::byte *>(pivots.object(n)); }
+
+    template <class Number, class Factor>
+    VONKK3_INLINE static void solveGathered(Factor (&factors)[order][order], Number (&b)[1][order],
+                                            Number (&x)[1][order]) {
+        solveObject<true, Number>(LocalBlock{factors}, InOrder(), LocalBlock{b}, LocalBlock{x}, fixed<order>);
+    }
+};
+
+// Where batches are quicker than one by one, if objects are not few: pivots to follow and lists to look at are time
+// that small matrices do not save.
+template <class Factors, class Solution, std::size_t order>
+inline constexpr bool isWorthSolving = Factors::isTable || order >= 3U + Factors::isArray + Solution::isList;
+
+template <class Factors, class RightSide, class Solution, std::size_t order, class One>
+VONKK3_INLINE VonkStatus solveInBatches(const Factors &src1, const std::uint32_t *pivots, const RightSide &src2,
+                                        const Solution &dst, Fixed<order>, std::size_t count, const One &one) {
+    if constexpr (isWorthSolving<Factors, Solution, order>) {
+        SolveBatch<order, Factors::isArray> batch(src1, pivots, src2, dst, count);
+        const Aliasing aliasing(count, writes(batch.dst.view), reads(batch.src1.view), reads(batch.src2.view),
+                                reads(batch.pivots));
+        return forEachBatch(batch, aliasing, count, one);
+    } else return forEachObject(count, one);
+}
+
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 // One factored matrix serves all right-hand sides (mva), or each has its own, with its own block of pivots (mava).
@@ -94,15 +185,21 @@ VONKK3_INLINE VonkStatus backSubstitute(const Factors &src1, const std::uint32_t
     if (order.isZero()) return vonkErrSize;
     if (anyTableEntryNull(order * order, src1)) return vonkErrNullPtr;
     if (anyTableEntryNull(order, src2, dst)) return vonkErrNullPtr;
-    return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED {
-            const std::byte *block = pivotBlock(pivots, Factors::isArray ? n : 0, order);
-            solveObject<keepsSumWide<Solution, Order>, typename Solution::Element>(
-                factorsOfObject<Solution>(src1, n, order), block, src2.view(n), dst.view(n), order);
-            return vonkOk;
-        },
-        src1, src2, dst);
+    const auto one = [&](std::size_t n) VONKK3_INLINED {
+        if (src1.listHasNull(n) || src2.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
+            return VonkStatus(vonkErrNullPtr);
+        const Permutation<Order> rows(pivotBlock(pivots, Factors::isArray ? n : 0, order), order);
+        solveObject<keepsSumWide<Solution, Order>, typename Solution::Element>(
+            factorsOfObject<Solution>(src1, n, order), rows, src2.view(n), dst.view(n), order);
+        return VonkStatus(vonkOk);
+    };
+    if constexpr (worksInBatches<Solution>)
+        if (count >= 2 * packWidth)
+            return withFixedOrder(
+                order,
+                [&](auto size) VONKK3_INLINED { return solveInBatches(src1, pivots, src2, dst, size, count, one); },
+                [&]() VONKK3_INLINED { return forEachObject(count, one); });
+    return forEachObject(count, one);
 }
 
 } // namespace vonkk3::lu

@@ -43,10 +43,44 @@ template <std::size_t order> struct ColumnOrder {
     }
 };
 
+// The same for the matrices of a batch, whose columns are brought to their places.
+template <std::size_t chains, std::size_t order> class ColumnsOfBatch {
+public:
+    using Block = Packs<chains>[order][order];
+
+    VONKK3_INLINE explicit ColumnsOfBatch(Block &matrices) : matrices(matrices) {}
+    std::size_t operator[](std::size_t place) const { return place; }
+
+    template <class Magnitude>
+    VONKK3_INLINE void choose(std::size_t place, std::size_t candidates, const Magnitude &magnitude) {
+        findLargest(place, candidates, magnitude, exchanged[place]);
+        forIndices(place + 1, candidates, fixed<order>, [&](std::size_t t) VONKK3_INLINED {
+            forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+                exchangeWhere(exchanged[place][t], matrices[i][place], matrices[i][t]);
+            });
+        });
+    }
+
+    // Brings the rows of a block from the places of so many chosen columns to where these were.
+    VONKK3_INLINE void takeBack(std::size_t chosen, std::size_t candidates, Block &rows) const {
+        forIndices(0, chosen, fixed<order>, [&](std::size_t later) VONKK3_INLINED {
+            const std::size_t place = chosen - 1 - later;
+            forIndices(place + 1, candidates, fixed<order>, [&](std::size_t t) VONKK3_INLINED {
+                forIndices(0, order, fixed<order>, [&](std::size_t j) VONKK3_INLINED {
+                    exchangeWhere(exchanged[place][t], rows[place][j], rows[t][j]);
+                });
+            });
+        });
+    }
+
+private:
+    Block &matrices;
+    PackMasks<chains> exchanged[order][order];
+};
+
 // Places of the leading block: 2 or 3. Each is given to the column that makes its leading minor largest.
-template <std::size_t lead, class W, std::size_t order, class A>
-VONKK3_INLINE ColumnOrder<order> chooseColumns(const A &a, std::size_t candidates) {
-    ColumnOrder<order> c;
+template <std::size_t lead, class W, class A, class Columns>
+VONKK3_INLINE void chooseColumns(const A &a, Columns &c, std::size_t candidates) {
     const auto minor = [&](std::size_t i, std::size_t k, std::size_t first, std::size_t second)
                            VONKK3_INLINED { return a(i, first) * a(k, second) - a(i, second) * a(k, first); };
     c.choose(0, candidates, [&](std::size_t t) VONKK3_INLINED { return magnitude(a(0, t)); });
@@ -57,7 +91,6 @@ VONKK3_INLINE ColumnOrder<order> chooseColumns(const A &a, std::size_t candidate
             return magnitude((a(0, t) * m12 - a(1, t) * m02) + a(2, t) * m01);
         });
     }
-    return c;
 }
 
 template <class W, std::size_t rows, std::size_t inner, std::size_t columns>
@@ -95,7 +128,7 @@ template <class W, std::size_t order> class Blocks {
 public:
     static constexpr std::size_t lead = order - 3;
 
-    template <class Matrix> VONKK3_INLINE Blocks(const Matrix &a, const ColumnOrder<order> &c) {
+    template <class Matrix, class Columns> VONKK3_INLINE Blocks(const Matrix &a, const Columns &c) {
         for (std::size_t i = 0; i < order; ++i)
             for (std::size_t j = 0; j < order; ++j) {
                 const W element = a(i, c[j]);
@@ -147,11 +180,30 @@ template <class T, std::size_t order>
     using W = Working<T>;
     const auto a = [&](std::size_t i, std::size_t j) VONKK3_INLINED { return W(matrix.elements[i][j]); };
     const auto reciprocal = [](W divisor) { return W(1) / divisor; };
-    const auto c = chooseColumns<order - 3, W, order>(a, candidateColumns);
+    ColumnOrder<order> c;
+    chooseColumns<order - 3, W>(a, c, candidateColumns);
     Blocks<W, order> blocks(a, c);
     if (!blocks.invertLeading(reciprocal) || !blocks.invertRest(reciprocal)) return false;
     for (std::size_t i = 0; i < order; ++i)
         for (std::size_t j = 0; j < order; ++j) inverse.store(c[i], j, round<T>(blocks.inverse(i, j)));
+    return true;
+}
+
+// The same for the matrices of a batch. Their columns are exchanged on the way.
+template <std::size_t chains, std::size_t order, class Reciprocal>
+VONKK3_INLINE bool invertByBlocks(Packs<chains> (&matrices)[order][order], Packs<chains> (&inverses)[order][order],
+                                  const Reciprocal &reciprocal) {
+    using W = Packs<chains>;
+    const auto a = [&](std::size_t i, std::size_t j) VONKK3_INLINED { return matrices[i][j]; };
+    ColumnsOfBatch<chains, order> c(matrices);
+    chooseColumns<order - 3, W>(a, c, candidateColumns);
+    Blocks<W, order> blocks(a, c);
+    if (!blocks.invertLeading(reciprocal) || !blocks.invertRest(reciprocal)) return false;
+    forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+        forIndices(0, order, fixed<order>,
+                   [&](std::size_t j) VONKK3_INLINED { inverses[i][j] = blocks.inverse(i, j); });
+    });
+    c.takeBack(order - 3, candidateColumns, inverses);
     return true;
 }
 
@@ -162,7 +214,8 @@ template <class T, std::size_t order>
     const SmallMatrix<Real32, 5> matrix(source);
     const auto a = [&](std::size_t i, std::size_t j) VONKK3_INLINED { return matrix.elements[i][j]; };
     const auto estimated = [](Real32 divisor) VONKK3_INLINED { return reciprocalByEstimate(divisor); };
-    const auto c = chooseColumns<2, Real32, 5>(a, candidateColumns);
+    ColumnOrder<5> c;
+    chooseColumns<2, Real32>(a, c, candidateColumns);
     Blocks<Real32, 5> blocks(a, c);
     if (!blocks.invertLeading(estimated)) return false;
     for (std::size_t i = 0; i < 2; ++i)

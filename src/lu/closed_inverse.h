@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lu/element_in_memory.h"
+#include "lu/local_block.h"
 #include "lu/minors.h"
 #include "lu/reciprocal.h"
 #include "lu/small.h"
@@ -68,6 +69,17 @@ template <class T, std::size_t order>
     const auto reciprocal = [](W divisor) VONKK3_INLINED { return W(1) / divisor; };
     const auto store = [&](std::size_t i, std::size_t j, W value)
                            VONKK3_INLINED { inverse.store(i, j, round<T>(value)); };
+    if constexpr (order == 3) return invertThree<W>(a, reciprocal, store);
+    else return invertFour<W>(a, reciprocal, store);
+}
+
+// The matrices of a batch.
+template <std::size_t chains, std::size_t order, class Reciprocal>
+VONKK3_INLINE bool invertClosed(Packs<chains> (&matrices)[order][order], Packs<chains> (&inverses)[order][order],
+                                const Reciprocal &reciprocal) {
+    using W = Packs<chains>;
+    const LocalBlock a{matrices}, inverse{inverses};
+    const auto store = [&](std::size_t i, std::size_t j, const W &value) VONKK3_INLINED { inverse.store(i, j, value); };
     if constexpr (order == 3) return invertThree<W>(a, reciprocal, store);
     else return invertFour<W>(a, reciprocal, store);
 }

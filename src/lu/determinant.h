@@ -2,7 +2,8 @@
 // 0; of fixed order as polynomials in the elements, without a test. A singular matrix is no failure.
 #pragma once
 
-#include "frame/walk.h"
+#include "frame/batch.h"
+#include "lu/local_block.h"
 #include "lu/minors.h"
 #include "lu/scratch_elimination.h"
 #include "lu/small.h"
@@ -56,22 +57,67 @@ inline void determinantInScratch(const ScratchMatrix<T> &matrix, std::size_t ord
     if (done.isRegular || multipliesZeroByLastPivot<Count>) multiplyLastPivot(matrix, order, done.sign, product);
 }
 
-// ---- All objects ----------------------------------------------------------------------------------------------------
-
 // The results are packed, whatever the layout.
 template <class T> inline std::byte *resultCell(T *dst, std::size_t n) { return shifted(dst, n * sizeof(T)); }
+
+// ---- Batches --------------------------------------------------------------------------------------------------------
+
+// Of fixed order, where Real32 is worked in Real32.
+template <std::size_t order> struct DeterminantBatch {
+    static constexpr std::size_t chains = 1;
+    MatricesOfBatch<order> src;
+    ObjectsView results;
+
+    Access access() const { return accessOf(src.view); }
+    template <Access access> VONKK3_INLINE void hoist() { src.template hoist<access>(); }
+
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
+        Packs<chains> matrices[order][order];
+        src.template gather<access>(n, matrices);
+        storeResults(results, n, determinantOf(LocalBlock{matrices}));
+        return true;
+    }
+
+private:
+    template <class Number> VONKK3_INLINE static Number determinantOf(const LocalBlock<Number, order> &a) {
+        if constexpr (order == 3) return determinantInOrder(a);
+        else if constexpr (order == 4) return determinantOfFour(a);
+        else return determinantByLevels<Number, order>(a);
+    }
+};
+
+// From how many objects on batches are quicker than one by one: of small matrices, not where each element or list entry
+// is a load of its own.
+template <std::size_t order> std::size_t leastForDeterminants(const ObjectsView &matrices, Access access) {
+    if (order >= 5) return (order == 5 ? 2 : 1) * packWidth;
+    if (access == Access::any || matrices.isList()) return std::size_t(-1);
+    return 4 * packWidth;
+}
+
+template <class Source, std::size_t order, class One>
+VONKK3_INLINE VonkStatus determinantsInBatches(const Source &src, Fixed<order>, Real32 *dst, std::size_t count,
+                                               const One &one) {
+    DeterminantBatch<order> batch{{src, count}, packedBlocks(dst, 1, count)};
+    if (count < leastForDeterminants<order>(batch.src.view, batch.access())) return forEachObject(count, one);
+    const Aliasing aliasing(count, writes(batch.results), reads(batch.src.view));
+    return forEachBatch(batch, aliasing, count, one);
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
 
 template <class Source, std::size_t order, class T, class Count>
 VONKK3_INLINE VonkStatus determinant(const Source &src, Fixed<order> size, T *dst, Count count) {
     if (anyNull(src, dst)) return vonkErrNullPtr;
     if (anyTableEntryNull(order * order, src)) return vonkErrNullPtr;
-    return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED {
-            storeAt(resultCell(dst, n), static_cast<T>(closedForm<Source>(src.view(n, order), size)));
-            return vonkOk;
-        },
-        src);
+    const auto one = [&](std::size_t n) VONKK3_INLINED {
+        if (src.listHasNull(n)) [[unlikely]]
+            return VonkStatus(vonkErrNullPtr);
+        storeAt(resultCell(dst, n), static_cast<T>(closedForm<Source>(src.view(n, order), size)));
+        return VonkStatus(vonkOk);
+    };
+    if constexpr (worksInBatches<Source> && !isWorkedWide<Source>)
+        if (count >= packWidth) return determinantsInBatches(src, size, dst, count, one);
+    return forEachObject(count, one);
 }
 
 template <class Source, class T, class Count>

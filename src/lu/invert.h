@@ -3,7 +3,8 @@
 // inverts.
 #pragma once
 
-#include "frame/walk.h"
+#include "frame/batch.h"
+#include "lu/batch_of_six.h"
 #include "lu/block_inverse.h"
 #include "lu/closed_inverse.h"
 #include "lu/invert_by_minors.h"
@@ -52,6 +53,51 @@ VONKK3_INLINE bool invertObject(const SourceView &source, const View &inverse, F
     }
 }
 
+// ---- Batches --------------------------------------------------------------------------------------------------------
+
+// A matrix that is singular goes the plain way. Of the forms that are built for speed, 3x3 and 4x4 are as quick there.
+template <class Source, std::size_t order>
+inline constexpr bool isWorthInverting = !isBuiltForSpeed<Source> || order >= 5;
+
+template <bool builtForSpeed, std::size_t order> struct InvertBatch {
+    static constexpr std::size_t chains = order == 3 ? 2 : 1; // the larger ones fill the registers
+    MatricesOfBatch<order> src, dst;
+
+    Access access() const { return accessOf(src.view, dst.view); }
+    template <Access access> VONKK3_INLINE void hoist() {
+        src.template hoist<access>();
+        dst.template hoist<access>();
+    }
+
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
+        Packs<chains> matrices[order][order], inverses[order][order];
+        src.template gather<access>(n, matrices);
+        if (!invertGathered(matrices, inverses)) return false;
+        dst.template scatter<access>(n, inverses);
+        return true;
+    }
+
+private:
+    template <class Number>
+    VONKK3_INLINE static bool invertGathered(Number (&matrices)[order][order], Number (&inverses)[order][order]) {
+        const auto reciprocal = [](const Number &divisor) VONKK3_INLINED {
+            if constexpr (builtForSpeed) return reciprocalByEstimate(divisor);
+            else return Number(1.0F) / divisor;
+        };
+        if constexpr (order <= 4) return invertClosed(matrices, inverses, reciprocal);
+        else if constexpr (order == 6 && builtForSpeed) return invertSixOfBatch(matrices, inverses);
+        else return invertByBlocks(matrices, inverses, reciprocal);
+    }
+};
+
+template <class Source, class Destination, std::size_t order, class One>
+VONKK3_INLINE VonkStatus invertInBatches(const Source &src, const Destination &dst, Fixed<order>, std::size_t count,
+                                         const One &one) {
+    InvertBatch<isBuiltForSpeed<Source>, order> batch{{src, count}, {dst, count}};
+    const Aliasing aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view));
+    return forEachBatch(batch, aliasing, count, one);
+}
+
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 template <class Source, class Destination>
@@ -67,9 +113,12 @@ VONKK3_INLINE VonkStatus invert(const Source &src, Fixed<order> size, const Dest
     if (anyNull(src, dst)) return vonkErrNullPtr;
     if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
     if (scansListsFirst<Source> && anyListEntryNull(count, src, dst)) return vonkErrNullPtr;
-    return forEachObject(count, [&](std::size_t n) VONKK3_INLINED {
+    const auto one = [&](std::size_t n) VONKK3_INLINED {
         return invertObject<Source>(src.view(n, order), dst.view(n, order), size) ? vonkOk : vonkErrSingular;
-    });
+    };
+    if constexpr (worksInBatches<Destination> && isWorthInverting<Source, order>)
+        if (count >= (order == 3 ? 2 : 1) * packWidth) return invertInBatches(src, dst, size, count, one);
+    return forEachObject(count, one);
 }
 
 template <class Source, class Destination, class Count>

@@ -82,4 +82,20 @@ private:
     std::size_t rows[order];
 };
 
+// Of rows that are in their logical order already.
+struct InOrder {
+    constexpr std::size_t operator[](std::size_t k) const { return k; }
+};
+
+// Whether so many row indices in a row are below `order`, which callers are trusted with; but the alias test has looked
+// at no other rows. The top bit is set of an index that is not, or of its distance from the last row.
+VONKK3_INLINE bool areRowIndices(const std::byte *indices, std::size_t number, std::size_t order) {
+    std::uint32_t bits = 0;
+    for (std::size_t k = 0; k < number; ++k) {
+        const auto row = std::uint32_t(loadPivot(indices, k));
+        bits |= row | (std::uint32_t(order - 1) - row);
+    }
+    return bits >> 31 == 0;
+}
+
 } // namespace vonkk3::lu

@@ -1,7 +1,7 @@
 // The divisor of an inverse: when it is taken for zero, and how its reciprocal is made.
 #pragma once
 
-#include "frame/real.h"
+#include "frame/pack.h"
 
 #include <xmmintrin.h>
 
@@ -19,6 +19,13 @@ inline bool isInSingularInterval(Wide divisor) {
     return -Wide(singularBelow<Real64>) < divisor && divisor < Wide(singularBelow<Real64>);
 }
 
+// Whether the divisor of any object of a batch is. The Real32 bound is the least Real32 that is not below the other.
+template <std::size_t chains> VONKK3_INLINE bool isInSingularInterval(const Packs<chains> &divisor) {
+    static constexpr auto bound = Real32(singularBelow<Real32>);
+    static_assert(bound >= singularBelow<Real32> && Real64(bound) * (1 - 0x1p-23) < singularBelow<Real32>);
+    return inAnyLane(divisor, [](Pack d) VONKK3_INLINED { return Pack(bound) > magnitude(d); });
+}
+
 // One Newton step from the processor's estimate x of about 12 bits: x + x - d x^2, which is multiplied in one order for
 // 3x3 and in the other for larger matrices.
 inline __m128 reciprocalByEstimateOfThree(__m128 d) {
@@ -28,6 +35,10 @@ inline __m128 reciprocalByEstimateOfThree(__m128 d) {
 inline __m128 reciprocalByEstimate(__m128 d) {
     const __m128 x = _mm_rcp_ps(d);
     return _mm_sub_ps(_mm_add_ps(x, x), _mm_mul_ps(d, _mm_mul_ps(x, x)));
+}
+template <std::size_t chains> VONKK3_INLINE Packs<chains> reciprocalByEstimate(const Packs<chains> &d) {
+    return Packs<chains>::each([&](std::size_t c)
+                                   VONKK3_INLINED { return Pack(reciprocalByEstimate(d.chain[c].lanes)); });
 }
 inline Real32 reciprocalByEstimate(Real32 d) { return _mm_cvtss_f32(reciprocalByEstimate(_mm_set1_ps(d))); }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/aliasing.h"
+#include "frame/gather.h"
 #include "lu/permutation.h"
 
 namespace vonkk3::lu {
@@ -34,8 +35,8 @@ private:
     GrowingPermutation<Order> rows;
 };
 
-// The matrix is worked on apart from memory, where rows can be exchanged in fact, and stored when all is done. Nobody
-// can tell, if the rows of the destination lie apart from each other and from the source, or just on it.
+// The matrix is worked on in a local copy, where rows can be exchanged in fact, and stored when all is done. For
+// destinations whose rows are disjoint from each other and from the source, or in place.
 template <class T, class Factors, std::size_t order> class RowsInRegisters {
 public:
     template <class Source>
@@ -75,6 +76,62 @@ private:
     std::byte *pivots;
     T elements[order][order];
     std::size_t rows[order];
+};
+
+// Those of the objects of a batch, and where they lie. Rows are exchanged in the lanes of a mask.
+template <std::size_t chains, std::size_t order> class RowsOfBatch {
+public:
+    using Mask = PackMasks<chains>;
+    static constexpr std::size_t objects = chains * packWidth;
+
+    VONKK3_INLINE RowsOfBatch() {
+        forIndices(0, order, fixed<order>,
+                   [&](std::size_t i) VONKK3_INLINED { rows[0][i] = packOfIndex(std::uint32_t(i)); });
+    }
+    const Packs<chains> &load(std::size_t position, std::size_t column) const { return elements[position][column]; }
+    void store(std::size_t position, std::size_t column, const Packs<chains> &value) {
+        elements[position][column] = value;
+    }
+
+    // Where mask[i] is set, position a and the later position i.
+    VONKK3_INLINE void exchange(std::size_t a, const Mask (&mask)[order]) {
+        forIndices(a + 1, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+            exchanged[a][i] = mask[i];
+            exchangeWhere(mask[i], rows[0][a], rows[0][i]);
+            exchangeElements(a, i);
+        });
+    }
+
+    // Back to where they lie.
+    VONKK3_INLINE void takeBackExchanges() {
+        forIndices(1, order, fixed<order>, [&](std::size_t later) VONKK3_INLINED {
+            const std::size_t a = order - 1 - later;
+            forIndices(a + 1, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { exchangeElements(a, i); });
+        });
+    }
+
+    // Of one object. Rarely asked for, from a copy: an index that is not known when compiling would keep the elements
+    // out of registers.
+    VONKK3_INLINE Real32 element(std::size_t object, std::size_t i, std::size_t j) const {
+        Packs<chains> copy[order][order];
+        forIndices(0, order, fixed<order>, [&](std::size_t row) VONKK3_INLINED {
+            forIndices(0, order, fixed<order>,
+                       [&](std::size_t column) VONKK3_INLINED { copy[row][column] = elements[row][column]; });
+        });
+        return loadAt<Real32>(reinterpret_cast<const std::byte *>(&copy[i][j]) + object * sizeof(Real32));
+    }
+
+    Packs<chains> elements[order][order];
+    Packs<chains> rows[1][order]; // as indices
+
+private:
+    Mask exchanged[order][order];
+
+    VONKK3_INLINE void exchangeElements(std::size_t a, std::size_t i) {
+        forIndices(0, order, fixed<order>, [&](std::size_t j) VONKK3_INLINED {
+            exchangeWhere(exchanged[a][i], elements[a][j], elements[i][j]);
+        });
+    }
 };
 
 // Worth it for Real32 of fixed order with adjacent elements; Real64 goes through memory anyway, as its roundings do.

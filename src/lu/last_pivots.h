@@ -1,0 +1,103 @@
+// The test of the last pivots of a batch, before anything of it is stored. In an array it looks at a displaced element,
+// which is what it is only after the objects up to its own have been stored, and before any later one is.
+#pragma once
+
+#include "frame/aliasing.h"
+#include "lu/permutation.h"
+
+namespace vonkk3::lu {
+
+// The last pivot test of object n in an array does not look at that pivot but n * order columns beyond it: in another
+// row, in another object, or behind the array. Only object 0 has its own last pivot tested.
+inline std::size_t testedLastColumn(std::size_t order, std::size_t n) { return order - 1 + n * order; }
+
+template <std::size_t order> class LastPivots {
+public:
+    // The views must live as long.
+    VONKK3_INLINE LastPivots(const ObjectsView &factors, const ObjectsView &pivots)
+        : factors(writes(factors)), pivots(writes(pivots)) {
+        this->factors.findExtents();
+        this->pivots.findExtents();
+    }
+
+    // Whether they pass, in ascending order: after one that does not, none is looked at. physical[k] are the rows of
+    // object n + k, own(k, i, j) is element (i, j) of its factors, by logical row. Also false if a look meets something
+    // else that is about to be stored.
+    template <std::size_t objects, class Own, class Passes>
+    VONKK3_INLINE bool pass(std::size_t n, const std::uint32_t (&physical)[objects][order], const Own &own,
+                            const Passes &passes) const {
+        const Extent ofPivots = pivots.ofObject(n).joinedWith(pivots.ofObject(n + objects - 1));
+        Extent stored = factors.ofObject(n);
+        for (std::size_t k = 0; k < objects; ++k) {
+            std::uintptr_t address;
+            if (!findTested(n + k, physical[k][order - 1], address)) return false;
+            if (k != 0) stored = stored.joinedWith(factors.ofObject(n + k));
+            if (overlaps(address, stored) || overlaps(address, ofPivots)) [[unlikely]] {
+                const Position found = findOwn(address, n + k, physical[k]);
+                if (found.row < order) {
+                    if (!passes(own(k, found.row, found.column))) return false;
+                    continue;
+                }
+                if (isStored(address, n, k) || overlaps(address, ofPivots)) return false;
+            }
+            if (!passes(loadAt<Real32>(reinterpret_cast<const std::byte *>(address)))) return false;
+        }
+        return true;
+    }
+
+private:
+    struct Position {
+        std::size_t row, column;
+    };
+
+    AliasOperand factors, pivots;
+
+    // The bytes of an element.
+    static bool overlaps(std::uintptr_t address, const Extent &extent) {
+        return address - extent.begin + (sizeof(Real32) - 1) < extent.bytes() + (sizeof(Real32) - 1);
+    }
+
+    // The address of what is looked at for object n. False if that is behind an entry of the table that may be stored.
+    VONKK3_INLINE bool findTested(std::size_t n, std::size_t row, std::uintptr_t &address) const {
+        const ObjectsView &view = factors.view;
+        const auto offset =
+            std::uintptr_t(strides(row, view.rowStride) + strides(testedLastColumn(order, n), view.elementStride));
+        if (!view.isTable()) {
+            address = view.object(n) + offset;
+            return true;
+        }
+        const std::uintptr_t entry = view.begin + offset;
+        const Extent bytes{entry, entry + sizeof(void *)};
+        if (!disjoint(bytes, factors.whole) || !disjoint(bytes, pivots.whole)) return false;
+        address = ObjectsView::pointerAt(entry) + std::uintptr_t(view.shift + strides(n, view.objectStride));
+        return true;
+    }
+
+    // The element of object n at an address, with its logical row; row `order` if there is none.
+    VONKK3_APART Position findOwn(std::uintptr_t address, std::size_t n, const std::uint32_t (&physical)[order]) const {
+        for (std::size_t column = order; column-- > 0;)
+            for (std::size_t row = 0; row < order; ++row)
+                if (address == addressOf(physical[row], column, n)) return {row, column};
+        return {order, order};
+    }
+    std::uintptr_t addressOf(std::size_t row, std::size_t column, std::size_t n) const {
+        const ObjectsView &view = factors.view;
+        if (view.isTable()) return view.position(row, column, n);
+        return view.object(n) + std::uintptr_t(strides(row, view.rowStride) + strides(column, view.elementStride));
+    }
+
+    // Whether it overlaps an element of the objects n to n + k, whose extents have gaps.
+    VONKK3_APART bool isStored(std::uintptr_t address, std::size_t n, std::size_t k) const {
+        for (std::size_t m = n; m <= n + k; ++m) {
+            if (!overlaps(address, factors.ofObject(m))) continue;
+            for (std::size_t row = 0; row < order; ++row)
+                for (std::size_t column = 0; column < order; ++column) {
+                    const std::uintptr_t element = addressOf(row, column, m);
+                    if (overlaps(address, {element, element + sizeof(Real32)})) return true;
+                }
+        }
+        return false;
+    }
+};
+
+} // namespace vonkk3::lu
