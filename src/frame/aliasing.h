@@ -327,10 +327,33 @@ inline bool areAllIndependent(const AliasOperand *operands, std::size_t number) 
     return true;
 }
 
+// A table whose entries ascend, and all objects of a position lie before the next position's, or all positions of an
+// object before the next object. Whether it is one, and where it lies.
+VONKK3_APART inline bool isAscendingTable(const ObjectsView &view, Extent &whole) {
+    const std::size_t positions = std::size_t(view.rows) * view.columns;
+    const std::ptrdiff_t step = view.count > 1 ? view.objectStride : std::ptrdiff_t(view.elementBytes);
+    const std::uintptr_t ofPosition = std::uintptr_t(strides(view.count - 1, step)) + view.elementBytes;
+    if (step < std::ptrdiff_t(view.elementBytes)) return false;
+    const std::uintptr_t first = view.position(0, 0);
+    std::uintptr_t before = first, least = ~std::uintptr_t(0);
+    for (std::size_t k = 1; k < positions; ++k) {
+        const std::uintptr_t address =
+            ObjectsView::pointerAt(view.begin + k * sizeof(void *)) + std::uintptr_t(view.shift);
+        if (address < before) return false;
+        least = address - before < least ? address - before : least;
+        before = address;
+    }
+    whole = {first, before + ofPosition};
+    return whole.begin < whole.end &&
+           (least >= ofPosition ||
+            (least >= view.elementBytes && before + view.elementBytes - first <= std::uintptr_t(step)));
+}
+
 // The usual case at a glance: arrays in ascending order, rows within objects and elements within rows. Whether it is
 // one, and where it lies.
 VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
-    if (view.indirection != ObjectsView::Indirection::none) return false;
+    if (view.isTable()) return isAscendingTable(view, whole);
+    if (view.isList()) return false;
     const std::ptrdiff_t ofRow = strides(view.columns - 1, view.elementStride) + std::ptrdiff_t(view.elementBytes);
     const std::ptrdiff_t ofObject = strides(view.rows - 1, view.rowStride) + ofRow;
     if (view.elementStride < std::ptrdiff_t(view.elementBytes) || (view.rows > 1 && view.rowStride < ofRow) ||
@@ -340,16 +363,34 @@ VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
     return whole.begin < whole.end;
 }
 
+// The same words, and so the same elements.
+VONKK3_INLINE bool areSame(const ObjectsView &a, const ObjectsView &b) {
+    return a.begin == b.begin && a.shift == b.shift && a.objectStride == b.objectStride && haveSameStrides(a, b) &&
+           a.indirection == b.indirection;
+}
+
+VONKK3_INLINE bool isClearOf(const AliasOperand &written, const Extent &whole, const AliasOperand &other,
+                             const Extent &ofOther) {
+    if (other.hasEntries() && !disjoint(whole, other.entries())) return false;
+    return disjoint(whole, ofOther) ||
+           (other.use == AliasOperand::Use::readInPlace && areSame(written.view, other.view));
+}
+
 template <std::size_t number> VONKK3_INLINE bool isPlainlyIndependent(const AliasOperand (&operands)[number]) {
-    Extent whole[number];
-    bool plain = true;
+    Extent whole[number] = {};
     VONKK3_UNROLL_WHOLE
-    for (std::size_t k = 0; k < number; ++k) plain = plain && isAscending(operands[k].view, whole[k]);
+    for (std::size_t k = 0; k < number; ++k)
+        if (!isAscending(operands[k].view, whole[k])) return false;
+    bool plain = true;
     VONKK3_UNROLL_WHOLE
     for (std::size_t w = 0; w < number; ++w) {
         if (!operands[w].isWritten()) continue;
         VONKK3_UNROLL_WHOLE
-        for (std::size_t k = 0; k < number; ++k) plain = plain && (k == w || disjoint(whole[w], whole[k]));
+        for (std::size_t k = 0; k < number; ++k) {
+            const bool isClear = k == w ? !operands[w].hasEntries() || disjoint(whole[w], operands[w].entries())
+                                        : isClearOf(operands[w], whole[w], operands[k], whole[k]);
+            plain = plain && isClear;
+        }
     }
     return plain;
 }

@@ -80,6 +80,19 @@ VONKK3_INLINE ObjectsView objectsOf(const Operand<T, layout, shape, isArray> &op
     return view;
 }
 
+// The same of a transposed operand: the matrix that is read, of `rows` rows and `columns` columns.
+template <class Stored>
+VONKK3_INLINE ObjectsView objectsOf(const Transposed<Stored> &operand, std::size_t rows, std::size_t columns,
+                                    std::size_t count) {
+    const ObjectsView stored = objectsOf(static_cast<const Stored &>(operand), columns, rows, count);
+    ObjectsView view = stored;
+    view.rowStride = stored.elementStride;
+    view.elementStride = stored.rowStride;
+    view.rows = stored.columns;
+    view.columns = stored.rows;
+    return view;
+}
+
 // A plain block of `length` adjacent elements per object: packed results, pivots, or, with a count of 1, a workspace.
 template <class T> inline ObjectsView packedBlocks(T *block, std::size_t length, std::size_t count) {
     ObjectsView view{};

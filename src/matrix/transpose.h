@@ -149,6 +149,8 @@ VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, RowCount rows, c
                                                     count);
         return transposeInLanes<Rows::anywhere>(a, d, columns, count);
     } else {
+        if (!D::isTable || columns == rows)
+            if (streamObjects(Moved(), columns, rows, count, d, Transposed{a})) return vonkOk;
         const TableRowLengths lengths(columns, rows);
         return forEachObject(
             count,
