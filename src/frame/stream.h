@@ -298,4 +298,18 @@ VONKK3_INLINE bool streamObjects(const Operation &operation, Rows rows, Columns 
     else return false;
 }
 
+// The same into packed objects.
+template <class Operation, class T, class Source>
+VONKK3_INLINE bool streamPacked(const Operation &operation, std::size_t rows, std::size_t columns, std::size_t count,
+                                T *dst, const Source &source) {
+    if constexpr (mayStream<RunTime, Source> && std::is_same_v<T, Real32>) {
+        if (count < worthStreaming<Source>) return false;
+        ObjectsView packed = packedBlocks(dst, rows * columns, count);
+        packed.rowStride = std::ptrdiff_t(columns * sizeof(T));
+        packed.rows = std::uint32_t(rows);
+        packed.columns = std::uint32_t(columns);
+        return stream(operation, packed, objectsOf(source, rows, columns, count));
+    } else return false;
+}
+
 } // namespace vonkk3
