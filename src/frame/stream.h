@@ -155,24 +155,31 @@ private:
 
 // ---- One position of many objects -----------------------------------------------------------------------------------
 
-// An element of object after object, a stride apart.
+// An element of object after object, a stride apart. The second stride is hidden from the compiler, which would take
+// care of a stride of one byte, and else step from element to element, one waiting for the other.
 template <class Byte> struct StridedElements {
-    Byte *address;
-    std::ptrdiff_t stride;
-    VONKK3_INLINE Byte *at(std::size_t n) const { return address + strides(n, stride); }
-    VONKK3_INLINE void advance(std::size_t objects) { address += strides(objects, stride); }
+    Byte *first;
+    std::ptrdiff_t stride, twice;
+
+    VONKK3_INLINE StridedElements(Byte *first, std::ptrdiff_t stride)
+        : first(first), stride(stride), twice(2 * stride) {
+        __asm__("" : "+r"(twice));
+    }
+    VONKK3_INLINE Byte *second() const { return first + stride; }
+    VONKK3_INLINE void advanceByTwo() { first += twice; }
 };
 
 template <class Operation, class... Sources>
 VONKK3_INLINE void streamStrided(const Operation &operation, std::size_t objects, StridedElements<std::byte> d,
                                  Sources... sources) {
-    const auto one = [&](std::size_t n) VONKK3_INLINED {
-        storeAt<Real32>(d.at(n), operation(loadAt<Real32>(sources.at(n))...));
+    for (; objects >= 2; objects -= 2) {
+        storeAt<Real32>(d.first, operation(loadAt<Real32>(sources.first)...));
         keepLoopPlain();
-    };
-    const auto advance = [&](std::size_t by) VONKK3_INLINED { d.advance(by), (sources.advance(by), ...); };
-    for (; objects >= 4; objects -= 4) one(0), one(1), one(2), one(3), advance(4);
-    for (; objects > 0; --objects) one(0), advance(1);
+        storeAt<Real32>(d.second(), operation(loadAt<Real32>(sources.second())...));
+        keepLoopPlain();
+        d.advanceByTwo(), (sources.advanceByTwo(), ...);
+    }
+    if (objects != 0) storeAt<Real32>(d.first, operation(loadAt<Real32>(sources.first)...));
 }
 
 // A source at the position; contiguous over the objects, or single.
@@ -265,23 +272,26 @@ VONKK3_INLINE void streamPositions(const Operation &operation, const ObjectsView
     }
 }
 
-// All objects of arrays that are not lists; false, with nothing done, where overlap might show the order.
+// All objects of arrays that are not lists; false, with nothing done, where overlap might show the order, or where
+// neither long ranges nor tables make it worth it.
 template <class Operation, class... Views>
 VONKK3_APART bool stream(const Operation &shared, const ObjectsView &d, const Views &...sources) {
     const Operation operation = shared; // a local copy stays in registers
+    const CommonRange range(d, sources...);
+    if (range.elements < leastRange && !(d.isTable() || ... || sources.isTable())) return false;
     const Aliasing aliasing(d.count, writes(d), readsInPlace(sources)...);
     if (!aliasing.allowsBatch(0, d.count)) return false;
-    const CommonRange range(d, sources...);
     if (range.elements >= leastRange) streamRanges(operation, range, d, sources...);
     else streamPositions(operation, d, sources...);
     return true;
 }
 
-// Fewer objects are done before the alias test is answered and the first position is set up.
-template <class Operand>
-inline constexpr std::size_t worthStreaming = Operand::layout == Layout::P     ? 24
-                                              : Operand::layout == Layout::PS2 ? 64
-                                                                               : 16;
+// Fewer objects are done before the alias test is answered and the first position is set up. Positions gain more where
+// they are contiguous.
+template <class Operand> VONKK3_INLINE bool isWorthStreaming(const Operand &operand, std::size_t count) {
+    if constexpr (!Operand::isTable) return count >= 16;
+    else return count >= (operand.objectSpacing() == std::ptrdiff_t(sizeof(Real32)) ? 24 : 96);
+}
 
 // Fixed sizes of strided layouts are unrolled on the plain path, which is as fast.
 template <class Columns, class D, class... Sources>
@@ -293,7 +303,7 @@ template <class Operation, class Rows, class Columns, class D, class... Sources>
 VONKK3_INLINE bool streamObjects(const Operation &operation, Rows rows, Columns columns, std::size_t count, const D &d,
                                  const Sources &...sources) {
     if constexpr (mayStream<Columns, D, Sources...>)
-        return count >= worthStreaming<D> &&
+        return isWorthStreaming(d, count) &&
                stream(operation, objectsOf(d, rows, columns, count), objectsOf(sources, rows, columns, count)...);
     else return false;
 }
@@ -303,13 +313,27 @@ template <class Operation, class T, class Source>
 VONKK3_INLINE bool streamPacked(const Operation &operation, std::size_t rows, std::size_t columns, std::size_t count,
                                 T *dst, const Source &source) {
     if constexpr (mayStream<RunTime, Source> && std::is_same_v<T, Real32>) {
-        if (count < worthStreaming<Source>) return false;
+        if (!isWorthStreaming(source, count)) return false;
         ObjectsView packed = packedBlocks(dst, rows * columns, count);
         packed.rowStride = std::ptrdiff_t(columns * sizeof(T));
         packed.rows = std::uint32_t(rows);
         packed.columns = std::uint32_t(columns);
         return stream(operation, packed, objectsOf(source, rows, columns, count));
     } else return false;
+}
+
+// ---- The plain path of run-time sizes -------------------------------------------------------------------------------
+
+// work(columns), with the usual numbers of columns known to the compiler. Real64 is no faster for it.
+template <class T, class Columns, class Work> VONKK3_INLINE auto withFixedColumns(Columns columns, const Work &work) {
+    if constexpr (std::is_same_v<T, Real32> && !Columns::isFixed) switch (columns.extent) {
+        case 3: return work(fixed<3>);
+        case 4: return work(fixed<4>);
+        case 5: return work(fixed<5>);
+        case 6: return work(fixed<6>);
+        default: break;
+        }
+    return work(columns);
 }
 
 } // namespace vonkk3

@@ -70,16 +70,16 @@ VONKK3_INLINE VonkStatus scale(const A &a, typename D::Element value, const D &d
     if constexpr (scalesInLanes<D, Columns>) return scaleInLanes<Columns::value>(a, times, d, count);
     else {
         if (streamObjects(times, rows, columns, count, d, a)) return vonkOk;
-        return forEachObject(
-            count,
-            [&](std::size_t n) VONKK3_INLINED {
+        return withColumns<Count, T>(columns, [&](auto fixedColumns) VONKK3_INLINED {
+            const auto scaleObject = [&](std::size_t n) VONKK3_INLINED {
                 const auto source = a.view(n, A::isTransposed ? rows : columns);
                 const auto view = d.view(n, columns);
                 if constexpr (scalesPosition8Untested<A, Columns>)
-                    return workElements<true>(view, rows, columns, times, Position8Untested{source});
-                else return workElements<!Count::isArray>(view, rows, columns, times, source);
-            },
-            a, d);
+                    return workElements<true>(view, rows, fixedColumns, times, Position8Untested{source});
+                else return workElements<!Count::isArray>(view, rows, fixedColumns, times, source);
+            };
+            return forEachObject(count, scaleObject, a, d);
+        });
     }
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "frame/real.h"
-#include "frame/unroll.h"
 
 namespace vonkk3::move {
 
@@ -14,17 +13,6 @@ inline Real64 moved(Real64 element) {
     Wide onStack = element;
     __asm__("" : "+t"(onStack));
     return round<Real64>(onStack);
-}
-
-// work(columns), with the usual numbers of columns known to the compiler. Real64 is no faster for it.
-template <class T, class Work> VONKK3_INLINE void withFixedColumns(RunTime columns, const Work &work) {
-    if constexpr (std::is_same_v<T, Real32>) switch (columns.extent) {
-        case 3: return work(fixed<3>);
-        case 4: return work(fixed<4>);
-        case 6: return work(fixed<6>);
-        default: break;
-        }
-    work(columns);
 }
 
 } // namespace vonkk3::move

@@ -33,12 +33,13 @@ template <class F> inline constexpr bool holdsSingleVector = F::isReal32 &&F::is
 template <bool testsEntries, class Operation, class Length, class D, class... Sources>
 inline VonkStatus combineElements(const Operation &operation, Length length, const D &d, const Sources &...sources) {
     using T = typename D::Element;
-    for (std::size_t j = 0; j < length; ++j) {
+    const bool noneIsNull = everyIndex(0, length, length, [&](std::size_t j) VONKK3_INLINED {
         if constexpr (testsEntries)
-            if ((sources.hasNullEntry(j) || ...) || d.hasNullEntry(j)) return vonkErrNullPtr;
+            if ((sources.hasNullEntry(j) || ...) || d.hasNullEntry(j)) return false;
         d.store(j, round<T>(operation(Working<T>(sources.load(j))...)));
-    }
-    return vonkOk;
+        return true;
+    });
+    return noneIsNull ? vonkOk : vonkErrNullPtr;
 }
 
 // A vector of 3 to 6 elements is loaded whole before any of it is stored.
@@ -98,10 +99,14 @@ VONKK3_INLINE VonkStatus combineHeld(const Operation &operation, Fixed<length> s
 template <class Operation, class Length, class Count, class D, class... Sources>
 VONKK3_INLINE VonkStatus combineAnew(const Operation &operation, Length length, Count count, const D &d,
                                      const Sources &...sources) {
-    const auto combineObject = [&](std::size_t n) {
-        return combineElements<!Count::isArray>(operation, length, d.view(n), sources.view(n)...);
+    const auto walk = [&](auto fixedLength) VONKK3_INLINED {
+        const auto combineObject = [&](std::size_t n) {
+            return combineElements<!Count::isArray>(operation, fixedLength, d.view(n), sources.view(n)...);
+        };
+        return forEachObject(count, combineObject, sources..., d);
     };
-    return forEachObject(count, combineObject, sources..., d);
+    if constexpr (Count::isArray) return withFixedColumns<typename D::Element>(length, walk);
+    else return walk(length);
 }
 
 // ---- The fast paths -------------------------------------------------------------------------------------------------
