@@ -70,6 +70,9 @@ VONKK3_INLINE bool overwritesAhead(const std::byte *d, const std::byte *source, 
     return reinterpret_cast<std::uintptr_t>(d) - reinterpret_cast<std::uintptr_t>(source) - 1 < bytes - 1;
 }
 
+// Fewer objects of a fixed size are done before their range is set up, or a single one is repeated beside it.
+inline constexpr std::size_t worthCollapsing = 8;
+
 // In ascending order, nothing is read later than element by element: a destination may begin before a source. Stores
 // are kept between the loads: in bursts they take twice the time where the data is not in the first-level cache.
 template <class Operation, class... Sources>
@@ -98,9 +101,6 @@ template <class Operation> struct Reversed {
     Operation operation;
     __m128 operator()(__m128 a, __m128 b) const { return operation(b, a); }
 };
-
-// Repeating an object takes as long as working some.
-inline constexpr std::size_t worthRepeating = 8;
 
 // So many copies of an object of `period` elements fill whole registers.
 template <std::size_t period>
@@ -290,7 +290,7 @@ VONKK3_APART bool stream(const Operation &shared, const ObjectsView &d, const Vi
 // they are contiguous.
 template <class Operand> VONKK3_INLINE bool isWorthStreaming(const Operand &operand, std::size_t count) {
     if constexpr (!Operand::isTable) return count >= 16;
-    else return count >= (operand.objectSpacing() == std::ptrdiff_t(sizeof(Real32)) ? 24 : 96);
+    else return count >= (operand.objectSpacing() == std::ptrdiff_t(sizeof(Real32)) ? 24 : 128);
 }
 
 // Fixed sizes of strided layouts are unrolled on the plain path, which is as fast.

@@ -171,7 +171,7 @@ VONKK3_INLINE bool repeatSingle(const X &x, const Y &y, const D &d, std::size_t 
     const std::byte *const from = x.view(0).base;
     std::byte *const to = d.view(0).base;
     const auto single = y.view(0);
-    if (count < worthRepeating || !areOneRun<F::order>(x, d) || overwritesAhead(to, from, bytes) ||
+    if (count < worthCollapsing || !areOneRun<F::order>(x, d) || overwritesAhead(to, from, bytes) ||
         !disjoint(extentOf(asStored(single), F::order, F::order), extentOf(to, bytes)))
         return false;
     const RepeatedObject<F::order * F::order> repeated(

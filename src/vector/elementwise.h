@@ -138,7 +138,7 @@ VONKK3_INLINE bool combineRepeated(const Operation &operation, std::size_t count
         const auto single = b.view(0);
         const auto array = a.view(0);
         const auto result = d.view(0);
-        if (count < worthRepeating || !arePacked(length, a, d) || overwritesAhead(result.base, array.base, bytes) ||
+        if (!arePacked(length, a, d) || overwritesAhead(result.base, array.base, bytes) ||
             !disjoint(extentOf(single, 1, length), extentOf(result.base, bytes)))
             return false;
         const RepeatedObject<length> repeated([&](std::size_t j) VONKK3_INLINED { return single.load(j); });
@@ -151,6 +151,7 @@ template <class Operation, class Length, class Count, class D, class... Sources>
 VONKK3_INLINE bool combineFast(const Operation &operation, Length length, Count count, const D &d,
                                const Sources &...sources) {
     using F = Form<Length, D, Sources...>;
+    if (F::isFixed && count < worthCollapsing) return false;
     if constexpr (F::isReal32 && F::isStandard && !F::sharesOne && (F::isArray || !F::isFixed))
         if (combineAsOneRange(operation, length, count, d, sources...)) return true;
     if constexpr (F::isReal32 && F::isStandard && F::sharesOne && F::isFixed)
