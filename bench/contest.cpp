@@ -82,15 +82,15 @@ std::vector<Timing> measure(const Contest &contest, std::size_t rounds) {
     for (std::size_t who = 1; who < contestants.size(); ++who) {
         std::vector<double> ratios;
         for (std::size_t round = 0; round < rounds; ++round) ratios.push_back(turns[0][round] / turns[who][round]);
-        timings.push_back({contestants[who].name, contestants[who].agreement != Agreement::none, least(turns[0]),
-                           least(turns[who]), median(ratios)});
+        timings.push_back(
+            {contestants[who].name, contestants[who].agreement, least(turns[0]), least(turns[who]), median(ratios)});
     }
     return timings;
 }
 
 const Timing &bestOf(const std::vector<Timing> &timings) {
     return *std::min_element(timings.begin(), timings.end(), [](const Timing &a, const Timing &b) {
-        return a.isPeer != b.isPeer ? a.isPeer : a.theirs < b.theirs;
+        return a.isPeer() != b.isPeer() ? a.isPeer() : a.theirs < b.theirs;
     });
 }
 

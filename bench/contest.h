@@ -53,17 +53,21 @@ void addCholeskyAndQrRows(Rows &rows);
 void addMoveRows(Rows &rows);
 void addProductRows(Rows &rows);
 void addCallRows(Rows &rows);
+void addLayoutRows(Rows &rows);
+void addLayoutProductRows(Rows &rows);
+void addLayoutSolverRows(Rows &rows);
 
 // Runs every contestant once; says who differs from the library, or nothing.
 std::string disagreement(const Contest &contest);
 
 struct Timing {
     std::string peer;
-    bool isPeer;        // as against a yardstick
+    Agreement agreement;
     double ours;        // nanoseconds per unit, the least of all rounds
     double theirs;      // the same of this peer
     double medianRatio; // median of what the rounds' own ratios were
     double ratio() const { return ours / theirs; }
+    bool isPeer() const { return agreement != Agreement::none; } // as against a yardstick
 };
 
 // One timing for each contestant but the library.

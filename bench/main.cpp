@@ -37,7 +37,7 @@ void printHelp() {
     std::cout << "benchmarks [--check] [--rounds=N] [--markdown] [options of Google Benchmark]\n\n"
                  "    --check                     few rounds, only to see that all contestants agree\n"
                  "    --rounds=N                  turns of every contestant in a row (1000)\n"
-                 "    --markdown                  the table as README.md has it, a line for each row\n"
+                 "    --markdown                  a line for each row, as a table in Markdown, and no summary\n"
                  "    --benchmark_filter=REGEX    only these rows\n"
                  "    --benchmark_list_tests      the names of the rows\n"
                  "    --benchmark_out=FILE        the ratios to the best peers as JSON too\n";
@@ -58,6 +58,7 @@ void runRow(benchmark::State &state, const bench::Row &row, const Options &optio
     state.counters["ours_ns"] = best.ours;
     state.counters["best_peer_ns"] = best.theirs;
     state.counters["ratio"] = best.ratio();
+    state.SetLabel(best.peer);
     reporter.keep(row.name, contest, std::move(timings));
 }
 
@@ -78,6 +79,13 @@ int main(int argc, char **argv) {
     addMoveRows(rows);
     addProductRows(rows);
     addCallRows(rows);
+    addLayoutRows(rows); // after all others, whose names they look at
+    addLayoutProductRows(rows);
+    addLayoutSolverRows(rows);
+
+    for (const auto &[name, value] : bench::circumstances()) benchmark::AddCustomContext(name, value);
+    benchmark::AddCustomContext("format", "vonkk3 benchmarks 1"); // see scripts/benchmark_compare.py
+    benchmark::AddCustomContext("rounds", std::to_string(options.rounds));
 
     bench::TableReporter reporter(options.markdown);
     for (const bench::Row &row : rows)

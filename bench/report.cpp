@@ -1,5 +1,9 @@
-// Prints the table.
+// Prints the table, and says on a terminal how far it is if the table goes elsewhere.
 #include "report.h"
+
+#include <vonkk3.h>
+
+#include <unistd.h>
 
 #include <cstdio>
 #include <fstream>
@@ -24,13 +28,27 @@ std::string compilerName() {
 
 } // namespace
 
+std::vector<std::pair<std::string, std::string>> circumstances() {
+#ifdef BENCH_NATIVE
+    const char *const peers = "compiled for this machine; the library as built";
+#else
+    const char *const peers = "compiled for the library's own target";
+#endif
+    return {{"library", vonkGetLibVersion()->versionText},
+            {"processor", processorName()},
+            {"compiler", compilerName()},
+            {"flags", BENCH_FLAGS},
+            {"peers", peers}};
+}
+
 void TableReporter::keep(const std::string &row, const Contest &contest, std::vector<Timing> timings) {
     pending.push_back({row, contest.unit, contest.units, std::move(timings)});
+    if (isatty(STDERR_FILENO) && !isatty(STDOUT_FILENO))
+        std::fprintf(stderr, "\r\033[K%zu %s", printed.size() + 1, row.c_str());
 }
 
 bool TableReporter::ReportContext(const Context &) {
-    std::printf("processor  %s\ncompiler   %s\nflags      %s\n", processorName().c_str(), compilerName().c_str(),
-                BENCH_FLAGS);
+    for (const auto &[name, value] : circumstances()) std::printf("%-10s %s\n", name.c_str(), value.c_str());
 #ifndef __OPTIMIZE__
     std::printf("NOT OPTIMISED: these figures mean nothing\n");
 #endif
@@ -51,7 +69,7 @@ void TableReporter::printLines(const Measured &measured) {
     const std::string count = std::to_string(measured.units) + " " + measured.unit;
     for (const Timing &timing : measured.timings) {
         const bool isFirst = &timing == &measured.timings.front();
-        const std::string peer = timing.isPeer ? timing.peer : "(" + timing.peer + ")";
+        const std::string peer = timing.isPeer() ? timing.peer : "(" + timing.peer + ")";
         std::printf("%-32s %15s  %-34s %9.3f %9.3f %7.2f%c %7.2f\n", isFirst ? measured.row.c_str() : "",
                     isFirst ? count.c_str() : "", peer.c_str(), timing.ours, timing.theirs, timing.ratio(),
                     &timing == &best ? '*' : ' ', timing.medianRatio);
@@ -64,7 +82,7 @@ void TableReporter::printMarkdown(const Measured &measured) {
                 measured.unit.c_str(), best.ours);
     const char *separator = "";
     for (const Timing &timing : measured.timings) {
-        std::printf(timing.isPeer ? "%s %s %.3g" : "%s (%s %.3g)", separator, timing.peer.c_str(), timing.theirs);
+        std::printf(timing.isPeer() ? "%s %s %.3g" : "%s (%s %.3g)", separator, timing.peer.c_str(), timing.theirs);
         separator = ";";
     }
     std::printf(" | %.2f |\n", best.ratio());
@@ -81,10 +99,13 @@ void TableReporter::ReportRuns(const std::vector<Run> &) {
 }
 
 void TableReporter::Finalize() {
+    if (isatty(STDERR_FILENO) && !isatty(STDOUT_FILENO)) std::fprintf(stderr, "\r\033[K");
+    if (markdown) return;
     constexpr double noise = 1.02;
     std::size_t lost = 0;
     for (const Measured &measured : printed) lost += bestOf(measured.timings).ratio() > noise;
     std::printf("\n%zu rows; slower than the best peer by more than 2 %% in %zu\n", printed.size(), lost);
+    printSummary(printed);
 }
 
 } // namespace bench

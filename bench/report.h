@@ -1,12 +1,16 @@
 // The table of ratios, as a reporter of Google Benchmark: a heading that says what was compiled how, then the lines of
-// each row as soon as it is measured, then how many lost.
+// each row as soon as it is measured, then what they come to.
 #pragma once
 
 #include "contest.h"
+#include "summary.h"
 
 #include <benchmark/benchmark.h>
 
 namespace bench {
+
+// What was measured how, as a run's context too: processor, compiler, flags, library.
+std::vector<std::pair<std::string, std::string>> circumstances();
 
 class TableReporter : public benchmark::BenchmarkReporter {
 public:
@@ -21,11 +25,6 @@ public:
     void Finalize() override;
 
 private:
-    struct Measured {
-        std::string row, unit;
-        std::size_t units;
-        std::vector<Timing> timings;
-    };
     std::vector<Measured> pending, printed;
     bool markdown;
 

@@ -1,85 +1,38 @@
-// Determinants and inverses as one writes them by hand: cofactors of row 0, each in its own words, one division.
+// Determinants and inverses by hand, of packed and of listed matrices.
 #include "peers/inverses.h"
+
+#include "peers/inverse_formulas.h"
+
+#include <type_traits>
 
 namespace bench::plain {
 namespace {
 
-template <class W, class T> W determinant3(const T *a) {
-    const auto at = [&](int i, int j) { return W(a[3 * i + j]); };
-    return (at(2, 0) * at(1, 2) - at(1, 0) * at(2, 2)) * at(0, 1) +
-           (at(2, 1) * at(1, 0) - at(2, 0) * at(1, 1)) * at(0, 2) +
-           (at(1, 1) * at(2, 2) - at(1, 2) * at(2, 1)) * at(0, 0);
-}
-
-template <class W, class T> W determinant4(const T *a) {
-    const auto at = [&](int i, int j) { return W(a[4 * i + j]); };
-    const auto minor = [&](int j, int k) { return at(2, j) * at(3, k) - at(2, k) * at(3, j); };
-    const W m01 = minor(0, 1), m02 = minor(0, 2), m03 = minor(0, 3);
-    const W m12 = minor(1, 2), m13 = minor(1, 3), m23 = minor(2, 3);
-    return (at(1, 1) * m23 - at(1, 2) * m13 + at(1, 3) * m12) * at(0, 0) -
-           (at(1, 0) * m23 - at(1, 2) * m03 + at(1, 3) * m02) * at(0, 1) +
-           (at(1, 0) * m13 - at(1, 1) * m03 + at(1, 3) * m01) * at(0, 2) -
-           (at(1, 0) * m12 - at(1, 1) * m02 + at(1, 2) * m01) * at(0, 3);
-}
-
-template <class W, class T> void invert3(const T *__restrict a, T *__restrict x) {
-    const auto at = [&](int i, int j) { return W(a[3 * i + j]); };
-    const W c0 = at(1, 1) * at(2, 2) - at(1, 2) * at(2, 1);
-    const W c1 = at(1, 2) * at(2, 0) - at(1, 0) * at(2, 2);
-    const W c2 = at(1, 0) * at(2, 1) - at(1, 1) * at(2, 0);
-    const W r = 1 / (at(0, 0) * c0 + at(0, 1) * c1 + at(0, 2) * c2);
-    x[0] = T(c0 * r);
-    x[1] = T((at(0, 2) * at(2, 1) - at(0, 1) * at(2, 2)) * r);
-    x[2] = T((at(0, 1) * at(1, 2) - at(0, 2) * at(1, 1)) * r);
-    x[3] = T(c1 * r);
-    x[4] = T((at(0, 0) * at(2, 2) - at(0, 2) * at(2, 0)) * r);
-    x[5] = T((at(0, 2) * at(1, 0) - at(0, 0) * at(1, 2)) * r);
-    x[6] = T(c2 * r);
-    x[7] = T((at(0, 1) * at(2, 0) - at(0, 0) * at(2, 1)) * r);
-    x[8] = T((at(0, 0) * at(1, 1) - at(0, 1) * at(1, 0)) * r);
-}
-
-// The cofactors of two rows from the minors of the two others.
-template <class W, class T> void invert4(const T *__restrict a, T *__restrict x) {
-    const auto at = [&](int i, int j) { return W(a[4 * i + j]); };
-    const auto upper = [&](int j, int k) { return at(0, j) * at(1, k) - at(0, k) * at(1, j); };
-    const auto lower = [&](int j, int k) { return at(2, j) * at(3, k) - at(2, k) * at(3, j); };
-    const W u01 = upper(0, 1), u02 = upper(0, 2), u03 = upper(0, 3);
-    const W u12 = upper(1, 2), u13 = upper(1, 3), u23 = upper(2, 3);
-    const W l01 = lower(0, 1), l02 = lower(0, 2), l03 = lower(0, 3);
-    const W l12 = lower(1, 2), l13 = lower(1, 3), l23 = lower(2, 3);
-    const W r = 1 / (u01 * l23 - u02 * l13 + u03 * l12 + u12 * l03 - u13 * l02 + u23 * l01);
-    x[0] = T((at(1, 1) * l23 - at(1, 2) * l13 + at(1, 3) * l12) * r);
-    x[1] = T((at(0, 2) * l13 - at(0, 1) * l23 - at(0, 3) * l12) * r);
-    x[2] = T((at(3, 1) * u23 - at(3, 2) * u13 + at(3, 3) * u12) * r);
-    x[3] = T((at(2, 2) * u13 - at(2, 1) * u23 - at(2, 3) * u12) * r);
-    x[4] = T((at(1, 2) * l03 - at(1, 0) * l23 - at(1, 3) * l02) * r);
-    x[5] = T((at(0, 0) * l23 - at(0, 2) * l03 + at(0, 3) * l02) * r);
-    x[6] = T((at(3, 2) * u03 - at(3, 0) * u23 - at(3, 3) * u02) * r);
-    x[7] = T((at(2, 0) * u23 - at(2, 2) * u03 + at(2, 3) * u02) * r);
-    x[8] = T((at(1, 0) * l13 - at(1, 1) * l03 + at(1, 3) * l01) * r);
-    x[9] = T((at(0, 1) * l03 - at(0, 0) * l13 - at(0, 3) * l01) * r);
-    x[10] = T((at(3, 0) * u13 - at(3, 1) * u03 + at(3, 3) * u01) * r);
-    x[11] = T((at(2, 1) * u03 - at(2, 0) * u13 - at(2, 3) * u01) * r);
-    x[12] = T((at(1, 1) * l02 - at(1, 0) * l12 - at(1, 2) * l01) * r);
-    x[13] = T((at(0, 0) * l12 - at(0, 1) * l02 + at(0, 2) * l01) * r);
-    x[14] = T((at(3, 1) * u02 - at(3, 0) * u12 - at(3, 2) * u01) * r);
-    x[15] = T((at(2, 0) * u12 - at(2, 1) * u02 + at(2, 2) * u01) * r);
-}
+template <std::size_t order, class T> struct Matrix {
+    T *elements;
+    T &operator()(std::size_t i, std::size_t j) const { return elements[i * order + j]; }
+};
 
 template <class W, std::size_t order, class T, class Objects>
 void determinantsOf(Objects a, T *__restrict d, std::size_t count) {
     for (std::size_t n = 0; n < count; ++n) {
-        if constexpr (order == 3) d[n] = T(determinant3<W>(a[n]));
-        else d[n] = T(determinant4<W>(a[n]));
+        const Matrix<order, const T> matrix{a[n]};
+        if constexpr (order == 3) d[n] = T(determinant3<W>(matrix));
+        else d[n] = T(determinant4<W>(matrix));
     }
 }
 
 template <class W, std::size_t order, class Objects, class Results>
 void inversesOf(Objects a, Results x, std::size_t count) {
     for (std::size_t n = 0; n < count; ++n) {
-        if constexpr (order == 3) invert3<W>(a[n], x[n]);
-        else invert4<W>(a[n], x[n]);
+        using T = std::remove_reference_t<decltype(*x[n])>;
+        T inverse[order * order]; // not stored before all is read
+        Matrix<order, T> local{inverse};
+        const Matrix<order, const T> matrix{a[n]};
+        if constexpr (order == 3) invert3<W>(matrix, local);
+        else invert4<W>(matrix, local);
+        T *const destination = x[n];
+        for (std::size_t k = 0; k < order * order; ++k) destination[k] = inverse[k];
     }
 }
 

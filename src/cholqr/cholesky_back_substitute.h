@@ -60,21 +60,21 @@ VONKK3_INLINE void solveObject(const Factor &factor, const RightSide &b, const S
 // Real32 sums are the same in every layout and for every order.
 template <std::size_t order, bool isArray> struct SolveBatch {
     static constexpr std::size_t chains = 2;
-    MatricesOfBatch<order, isArray, Triangle::lower> factors;
-    ObjectsView src2, dst;
+    MatricesOfBatch<order, isArray, Triangle::lower> src1;
+    VectorsOfBatch<order> src2, dst;
 
-    template <class Factor, class RightSide, class Solution>
-    VONKK3_INLINE SolveBatch(const Factor &src1, const RightSide &src2, const Solution &dst, std::size_t count)
-        : factors(src1, count), src2(objectsOf(src2, 1, order, count)), dst(objectsOf(dst, 1, order, count)) {}
-
-    Access access() const { return accessOf(factors.view, src2, dst); }
-    VONKK3_INLINE void hoist() { factors.hoist(); }
-    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) {
+    Access access() const { return accessOf(src1.view, src2.view, dst.view); }
+    template <Access access> VONKK3_INLINE void hoist() {
+        src1.template hoist<access>();
+        src2.template hoist<access>();
+        dst.template hoist<access>();
+    }
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> b[1][order], x[1][order];
-        gatherBlock<access>(src2, n, b);
-        factors.template with<access, chains>(
-            n, [&](auto &f) VONKK3_INLINED { solve(Apart{f}, Apart{b}, Apart{x}, fixed<order>); });
-        scatterBlock<access>(dst, n, x);
+        src2.template gather<access>(n, b);
+        src1.template with<access, chains>(
+            n, [&](auto &f) VONKK3_INLINED { solve(Local{f}, Local{b}, Local{x}, fixed<order>); });
+        dst.template scatter<access>(n, x);
         return true;
     }
 };
@@ -82,8 +82,8 @@ template <std::size_t order, bool isArray> struct SolveBatch {
 template <class Factor, class RightSide, class Solution, std::size_t order, class One>
 VONKK3_INLINE VonkStatus solveInBatches(const Factor &src1, const RightSide &src2, const Solution &dst, Fixed<order>,
                                         std::size_t count, const One &one) {
-    SolveBatch<order, Factor::isArray> batch(src1, src2, dst, count);
-    const Aliasing aliasing(count, writes(batch.dst), reads(batch.factors.view), readsInPlace(batch.src2));
+    SolveBatch<order, Factor::isArray> batch{{src1, count}, {src2, count}, {dst, count}};
+    const Aliasing aliasing(count, writes(batch.dst.view), reads(batch.src1.view), readsInPlace(batch.src2.view));
     return forEachBatch(batch, aliasing, count, one);
 }
 

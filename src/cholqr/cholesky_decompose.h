@@ -138,10 +138,13 @@ VONKK3_INLINE VonkStatus factor(const Source &source, const Factor &factor, Fixe
 // Matrices on the straight way. Where roots round once, they are filtered; if one is doubtful, all are taken anew.
 template <std::size_t order, bool rootsRoundTwice> struct FactorBatch {
     static constexpr std::size_t chains = 2; // a root waits for the one before it
-    ObjectsView src, dst;
+    MatricesOfBatch<order, true, Triangle::lower> src, dst;
 
-    Access access() const { return accessOf(src, dst); }
-
+    Access access() const { return accessOf(src.view, dst.view); }
+    template <Access access> VONKK3_INLINE void hoist() {
+        src.template hoist<access>();
+        dst.template hoist<access>();
+    }
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> f[order][order];
         if constexpr (rootsRoundTwice) {
@@ -151,14 +154,14 @@ template <std::size_t order, bool rootsRoundTwice> struct FactorBatch {
             if (!factorGathered<access>(n, f, roots)) return false;
             if (roots.hasDoubt() && !factorAnew<access>(n, f)) return false;
         }
-        scatterBlock<access, Triangle::lower>(dst, n, f);
+        dst.template scatter<access>(n, f);
         return true;
     }
 
 private:
     template <Access access, std::size_t chains, class Roots>
     VONKK3_INLINE bool factorGathered(std::size_t n, Packs<chains> (&f)[order][order], Roots &&roots) const {
-        gatherBlock<access, Triangle::lower>(src, n, f);
+        src.template gather<access>(n, f);
         return factorStraight(
             f, roots, [&](std::size_t i, std::size_t j) VONKK3_INLINED { return f[i][j]; },
             [](std::size_t, std::size_t, const Packs<chains> &) VONKK3_INLINED {});
@@ -183,8 +186,10 @@ VONKK3_INLINE VonkStatus factorInBatches(const Source &src, const Factor &dst, F
     if constexpr (!Factor::isTable)
         if (const RoundingControl control; !control.bothRoundToNearest() || !control.wideHas53Bits())
             return forEachObject(count, one);
-    FactorBatch<order, Factor::isTable> batch{matricesOf(src, size, count), matricesOf(dst, size, count)};
-    return forEachBatch(batch, Aliasing(count, writes(batch.dst), readsInPlace(batch.src)), count, one);
+    using Matrices = MatricesOfBatch<order, true, Triangle::lower>;
+    FactorBatch<order, Factor::isTable> batch{Matrices(matricesOf(src, size, count)),
+                                              Matrices(matricesOf(dst, size, count))};
+    return forEachBatch(batch, Aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view)), count, one);
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------

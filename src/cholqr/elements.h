@@ -2,6 +2,7 @@
 // store rounds to the element's own type.
 #pragma once
 
+#include "frame/objects_view.h"
 #include "frame/unroll.h"
 #include "frame/views.h"
 
@@ -28,22 +29,28 @@ template <class View> struct InMemory {
 };
 template <class View> InMemory(View) -> InMemory<View>;
 
-// In numbers apart from memory, which the caller of an algorithm sees to.
-template <class Value, std::size_t columns> struct Apart {
-    using Number = Value;
+// In a local array of numbers, of one object or of a batch.
+template <class Value, std::size_t columns> struct Local {
+    using Number = std::remove_const_t<Value>;
 
     Value (*rows)[columns];
 
-    Value load(std::size_t column) const { return rows[0][column]; }
-    Value load(std::size_t row, std::size_t column) const { return rows[row][column]; }
-    void store(std::size_t column, Value value) const { rows[0][column] = value; }
-    void store(std::size_t row, std::size_t column, Value value) const { rows[row][column] = value; }
-    static Value rounded(Value value) { return value; }
+    Number load(std::size_t column) const { return rows[0][column]; }
+    Number load(std::size_t row, std::size_t column) const { return rows[row][column]; }
+    void store(std::size_t column, Number value) const { rows[0][column] = value; }
+    void store(std::size_t row, std::size_t column, Number value) const { rows[row][column] = value; }
+    static Number rounded(Number value) { return value; }
 };
-template <class Value, std::size_t columns> Apart(Value (*)[columns]) -> Apart<Value, columns>;
+template <class Value, std::size_t columns> Local(Value (*)[columns]) -> Local<Value, columns>;
 
 // The caller's contiguous work space.
 template <class T> inline RowsView<T> workSpace(T *work) { return {reinterpret_cast<std::byte *>(work), 0}; }
+
+// What a batch leaves in the work space: that of its last object.
+template <class Number, std::size_t length>
+VONKK3_INLINE void storeLast(const ObjectsView &workspace, const Number (&vector)[length]) {
+    for (std::size_t i = 0; i < length; ++i) workspace.store(0, i, vector[i].last());
+}
 
 // start + Σ term(i) for i from `from` to `to` - 1. Real64 sums are rounded behind the pairs of terms, and again behind
 // an odd last one.

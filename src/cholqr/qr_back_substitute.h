@@ -142,46 +142,48 @@ VONKK3_INLINE void solveObject(const Reflectors &reflectors, const Triangle &tri
 // `work` is left as the last object leaves it.
 template <std::size_t order, bool isArray> struct LeastSquaresBatch {
     static constexpr std::size_t chains = 2;
-    MatricesOfBatch<order, isArray> factors;
-    ObjectsView src2, dst, workspace;
+    MatricesOfBatch<order, isArray> src1;
+    VectorsOfBatch<order> src2, dst;
+    ObjectsView workspace;
     Pack betasOfSingle[order];
 
     template <class Factors, class RightSide, class Solution>
     VONKK3_INLINE LeastSquaresBatch(const Factors &src1, Real32 *work, const RightSide &src2, const Solution &dst,
                                     std::size_t count)
-        : factors(src1, count), src2(objectsOf(src2, 1, order, count)), dst(objectsOf(dst, 1, order, count)),
-          workspace(packedBlocks(work, order, 1)) {}
+        : src1(src1, count), src2(src2, count), dst(dst, count), workspace(packedBlocks(work, order, 1)) {}
 
-    Access access() const { return accessOf(factors.view, src2, dst); }
-    VONKK3_INLINE void hoist() {
-        factors.hoist();
-        if constexpr (!isArray) findBetas(factors.single, betasOfSingle);
+    Access access() const { return accessOf(src1.view, src2.view, dst.view); }
+    template <Access access> VONKK3_INLINE void hoist() {
+        src1.template hoist<access>();
+        src2.template hoist<access>();
+        dst.template hoist<access>();
+        if constexpr (!isArray) findBetas(src1.broadcast(), betasOfSingle);
     }
-    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) {
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> b[1][order], x[1][order];
-        gatherBlock<access>(src2, n, b);
-        factors.template with<access, chains>(n, [&](auto &f) VONKK3_INLINED {
+        src2.template gather<access>(n, b);
+        src1.template with<access, chains>(n, [&](auto &f) VONKK3_INLINED {
             if constexpr (isArray) {
                 Packs<chains> betas[order];
                 findBetas(f, betas);
                 solveWith(f, betas, b, x);
             } else solveWith(f, betasOfSingle, b, x);
         });
-        scatterBlock<access>(dst, n, x);
-        forIndices(0, order, fixed<order>,
-                   [&](std::size_t i) VONKK3_INLINED { workspace.store(0, i, b[0][i].last()); });
+        dst.template scatter<access>(n, x);
+        storeLast(workspace, b[0]);
         return true;
     }
 
 private:
-    template <class Number> VONKK3_INLINE static void findBetas(Number (&f)[order][order], Number (&betas)[order]) {
+    template <class Factors, class Number>
+    VONKK3_INLINE static void findBetas(const Factors &f, Number (&betas)[order]) {
         forIndices(0, order - 1, fixed<order>,
-                   [&](std::size_t k) VONKK3_INLINED { betas[k] = betaOf(Apart{f}, k, fixed<order>); });
+                   [&](std::size_t k) VONKK3_INLINED { betas[k] = betaOf(Local{f}, k, fixed<order>); });
     }
-    template <class Factor, class Vector>
-    VONKK3_INLINE static void solveWith(Factor (&f)[order][order], const Factor (&betas)[order], Vector &b, Vector &x) {
-        replay(Apart{f}, Apart{b}, fixed<order>, fixed<order>, [&](std::size_t k) VONKK3_INLINED { return betas[k]; });
-        solveTriangle(Apart{f}, Apart{b}, Apart{x}, fixed<order>);
+    template <class Factors, class Betas, class Vector>
+    VONKK3_INLINE static void solveWith(const Factors &f, const Betas &betas, Vector &b, Vector &x) {
+        replay(Local{f}, Local{b}, fixed<order>, fixed<order>, [&](std::size_t k) VONKK3_INLINED { return betas[k]; });
+        solveTriangle(Local{f}, Local{b}, Local{x}, fixed<order>);
     }
 };
 
@@ -189,7 +191,7 @@ template <class Factors, class RightSide, class Solution, std::size_t order, cla
 VONKK3_INLINE VonkStatus leastSquaresInBatches(const Factors &src1, Real32 *work, const RightSide &src2,
                                                const Solution &dst, Fixed<order>, std::size_t count, const One &one) {
     LeastSquaresBatch<order, Factors::isArray> batch(src1, work, src2, dst, count);
-    const Aliasing aliasing(count, writes(batch.dst), reads(batch.factors.view), readsInPlace(batch.src2),
+    const Aliasing aliasing(count, writes(batch.dst.view), reads(batch.src1.view), readsInPlace(batch.src2.view),
                             writes(batch.workspace));
     return forEachBatch(batch, aliasing, count, one);
 }

@@ -99,7 +99,7 @@ VONKK3_INLINE bool reflectLocally(const RowsView<const Real32> &source, const Ro
         });
     };
     forElements([&](std::size_t i, std::size_t j) VONKK3_INLINED { d[i][j] = source.load(i, j); });
-    if (!reflectAll(Apart{d}, Apart{v}, fixed<order>, fixed<order>)) return false;
+    if (!reflectAll(Local{d}, Local{v}, fixed<order>, fixed<order>)) return false;
     forElements([&](std::size_t i, std::size_t j) VONKK3_INLINED { factors.store(i, j, d[i][j]); });
     forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { workSpace(work).store(i, v[0][i]); });
     return true;
@@ -118,17 +118,20 @@ VONKK3_INLINE VonkStatus reflectObject(const Source &source, const Factors &fact
 // `work` is left as the last object leaves it.
 template <std::size_t order> struct ReflectBatch {
     static constexpr std::size_t chains = 1;
-    ObjectsView src, dst, workspace;
+    MatricesOfBatch<order> src, dst;
+    ObjectsView workspace;
 
-    Access access() const { return accessOf(src, dst); }
-
+    Access access() const { return accessOf(src.view, dst.view); }
+    template <Access access> VONKK3_INLINE void hoist() {
+        src.template hoist<access>();
+        dst.template hoist<access>();
+    }
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> d[order][order], v[1][order];
-        gatherBlock<access>(src, n, d);
-        if (!reflectAll(Apart{d}, Apart{v}, fixed<order>, fixed<order>)) return false;
-        scatterBlock<access>(dst, n, d);
-        forIndices(0, order, fixed<order>,
-                   [&](std::size_t i) VONKK3_INLINED { workspace.store(0, i, v[0][i].last()); });
+        src.template gather<access>(n, d);
+        if (!reflectAll(Local{d}, Local{v}, fixed<order>, fixed<order>)) return false;
+        dst.template scatter<access>(n, d);
+        storeLast(workspace, v[0]);
         return true;
     }
 };
@@ -137,9 +140,8 @@ template <class Source, class Factors, std::size_t order, class One>
 VONKK3_INLINE VonkStatus reflectInBatches(const Source &src, Real32 *work, const Factors &dst, Fixed<order>,
                                           std::size_t count, const One &one) {
     if (!RoundingControl().bothRoundToNearest()) return forEachObject(count, one);
-    ReflectBatch<order> batch{objectsOf(src, order, order, count), objectsOf(dst, order, order, count),
-                              packedBlocks(work, order, 1)};
-    const Aliasing aliasing(count, writes(batch.dst), readsInPlace(batch.src), writes(batch.workspace));
+    ReflectBatch<order> batch{{src, count}, {dst, count}, packedBlocks(work, order, 1)};
+    const Aliasing aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view), writes(batch.workspace));
     return forEachBatch(batch, aliasing, count, one);
 }
 

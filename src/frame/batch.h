@@ -15,6 +15,9 @@ namespace vonkk3 {
 template <class Written>
 inline constexpr bool worksInBatches = Written::isArray &&std::is_same_v<typename Written::Element, Real32>;
 
+// Where the work of an object is a few instructions, fewer objects than this are not worth the alias test.
+inline constexpr std::size_t worthBatches = 3 * packWidth;
+
 // work(fixed<order>) for the orders that batches are made for, also where the order comes at run time.
 template <class Order, class Work, class Otherwise>
 VONKK3_INLINE VonkStatus withFixedOrder(Order order, const Work &work, const Otherwise &otherwise) {
@@ -35,17 +38,20 @@ template <class Batch>
 concept BatchKernel = requires(Batch &batch, std::size_t n) {
     { Batch::chains } -> std::convertible_to<std::size_t>;
     { batch.access() } -> std::same_as<Access>;
+    batch.template hoist<Access::rows>();
     { batch.template work<Access::rows, 1>(n) } -> std::same_as<bool>;
 };
 
-// hoist() takes single operands out of the loop.
-template <class Batch> inline constexpr bool hoistsOperands = requires(Batch &batch) { batch.hoist(); };
+// Objects of a chain: a pack of them, or one, for kernels whose lanes lie within an object.
+template <class Batch> inline constexpr std::size_t objectsOfChain = packWidth;
+template <class Batch>
+requires(Batch::lanesWithinObject) inline constexpr std::size_t objectsOfChain<Batch> = 1;
 
 // Batches from object n on, as long as they can be had; the first object that they leave.
 template <Access access, std::size_t chains, BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                            std::size_t count) {
-    constexpr std::size_t objects = chains * packWidth;
+    constexpr std::size_t objects = chains * objectsOfChain<Batch>;
     while (count - n >= objects) {
         if (!aliasing.allowsBatch(n, objects) || !batch.template work<access, chains>(n)) break;
         n += objects;
@@ -56,7 +62,7 @@ VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands
 template <Access access, BatchKernel Batch, std::size_t operands>
 VONKK3_APART std::size_t workBatches(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                      std::size_t count) {
-    if constexpr (hoistsOperands<Batch>) batch.hoist(); // nothing overlaps it, from here to the next plain object
+    batch.template hoist<access>(); // anew behind every plain object, which may have written there
     if constexpr (Batch::chains > 1) n = workWhileAllowed<access, Batch::chains>(batch, aliasing, n, count);
     return workWhileAllowed<access, 1>(batch, aliasing, n, count);
 }
@@ -64,11 +70,12 @@ VONKK3_APART std::size_t workBatches(Batch &batch, const Aliasing<operands> &ali
 template <BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workBatches(Access access, Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                       std::size_t count) {
-    switch (access) {
-    case Access::rows: return workBatches<Access::rows>(batch, aliasing, n, count);
-    case Access::positions: return workBatches<Access::positions>(batch, aliasing, n, count);
-    default: return workBatches<Access::any>(batch, aliasing, n, count);
-    }
+    if constexpr (objectsOfChain<Batch> == 1) return workBatches<Access::any>(batch, aliasing, n, count);
+    else switch (access) {
+        case Access::rows: return workBatches<Access::rows>(batch, aliasing, n, count);
+        case Access::positions: return workBatches<Access::positions>(batch, aliasing, n, count);
+        default: return workBatches<Access::any>(batch, aliasing, n, count);
+        }
 }
 
 // `one` is the plain way of one object; it returns a status, which ends the call if it is a failure.
@@ -78,7 +85,7 @@ VONKK3_INLINE VonkStatus forEachBatch(Batch &batch, const Aliasing<operands> &al
     const bool mayWork = !aliasing.rulesOutBatches();
     const Access access = batch.access();
     for (std::size_t n = 0; n < count; ++n) {
-        if (mayWork && count - n >= packWidth) n = workBatches(access, batch, aliasing, n, count);
+        if (mayWork && count - n >= objectsOfChain<Batch>) n = workBatches(access, batch, aliasing, n, count);
         if (n == count) break;
         if (const VonkStatus status = one(n); status != vonkOk) return status;
     }

@@ -107,10 +107,6 @@ public:
             for (std::size_t k = 0; k < packWidth; ++k) element[k] = object[k] + offset;
         }
     }
-    // A pack in one piece, where the objects of a position are contiguous.
-    VONKK3_INLINE Byte *position(std::size_t i, std::size_t j) const {
-        return reinterpret_cast<Byte *>(view.position(i, j, n));
-    }
 
 private:
     const ObjectsView &view;
@@ -158,80 +154,113 @@ VONKK3_APART void scatterElements(const ObjectsView &view, std::size_t n, const 
         }
 }
 
-// A block of chains, from the objects n on: each chain stands for packWidth objects of its own.
-template <Access access, Triangle triangle = Triangle::both, std::size_t chains, std::size_t rows, std::size_t columns>
-VONKK3_INLINE void gatherBlock(const ObjectsView &view, std::size_t n, Packs<chains> (&block)[rows][columns]) {
-    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
-        const std::size_t first = n + c * packWidth;
-        if constexpr (access == Access::any) {
-            gatherElements<rows, columns, triangle>(view, first, &block[0][0].chain[c], chains);
-            return;
-        }
-        const ElementsOfPack<const std::byte> elements(view, first);
-        forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
-            const std::size_t length = rowLength(triangle, columns, i);
-            Pack row[columns];
-            PackSources from;
-            if constexpr (access == Access::rows) elements.findRow(i, from), gatherRow(from, length, row);
-            forIndices(0, length, fixed<columns>, [&](std::size_t j) VONKK3_INLINED {
-                block[i][j].chain[c] = access == Access::rows ? row[j] : Pack(load4(elements.position(i, j)));
-            });
-        });
-    });
-}
-
-template <Access access, Triangle triangle = Triangle::both, std::size_t chains, std::size_t rows, std::size_t columns>
-VONKK3_INLINE void scatterBlock(const ObjectsView &view, std::size_t n, const Packs<chains> (&block)[rows][columns]) {
-    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
-        const std::size_t first = n + c * packWidth;
-        if constexpr (access == Access::any) {
-            scatterElements<rows, columns, triangle>(view, first, &block[0][0].chain[c], chains);
-            return;
-        }
-        const ElementsOfPack<std::byte> elements(view, first);
-        forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
-            const std::size_t length = rowLength(triangle, columns, i);
-            Pack row[columns];
-            PackTargets to;
-            forIndices(0, length, fixed<columns>, [&](std::size_t j) VONKK3_INLINED {
-                row[j] = block[i][j].chain[c];
-                if constexpr (access == Access::positions) store4(elements.position(i, j), row[j].lanes);
-            });
-            if constexpr (access == Access::rows) elements.findRow(i, to), scatterRow(to, length, row);
-        });
-    });
-}
-
-// The matrices of a batch: an array of them is gathered for each, a single one that serves all objects is broadcast
-// once, out of the loop.
-template <std::size_t order, bool isArray, Triangle triangle = Triangle::both> struct MatricesOfBatch {
+// An operand of a batch: rows by columns Real32 elements of every object, or of the one object that serves all.
+template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle = Triangle::both> struct BatchOperand {
     ObjectsView view;
-    Pack single[order][order];
 
     template <class Operand>
-    VONKK3_INLINE MatricesOfBatch(const Operand &operand, std::size_t count)
-        : view(objectsOf(operand, order, order, count)) {}
+    VONKK3_INLINE BatchOperand(const Operand &operand, std::size_t count)
+        : BatchOperand(objectsOf(operand, rows, columns, count)) {}
+    VONKK3_INLINE explicit BatchOperand(const ObjectsView &view) : view(view) {}
 
-    VONKK3_INLINE void hoist() {
-        if constexpr (!isArray)
-            forEachElement([&](std::size_t i, std::size_t j)
-                               VONKK3_INLINED { single[i][j] = view.load<Real32>(i, j); });
+    // What is the same for all batches: a single object is broadcast, the pointers of a table are read. Nothing that is
+    // written overlaps either.
+    template <Access access> VONKK3_INLINE void hoist() {
+        forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+            if constexpr (!isArray) single[i][j] = view.load<Real32>(i, j);
+            else if constexpr (access == Access::positions) position[i][j] = view.position(i, j);
+        });
     }
 
-    // work(matrices) with the matrices of the objects from n on.
-    template <Access access, std::size_t chains, class Work> VONKK3_INLINE void with(std::size_t n, const Work &work) {
+    // Each chain stands for packWidth objects, from the objects n on.
+    template <Access access, std::size_t chains>
+    VONKK3_INLINE void gather(std::size_t n, Packs<chains> (&block)[rows][columns]) const {
+        forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
+            const std::size_t first = n + c * packWidth;
+            if constexpr (access == Access::any)
+                gatherElements<rows, columns, triangle>(view, first, &block[0][0].chain[c], chains);
+            else if constexpr (access == Access::positions)
+                forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+                    block[i][j].chain[c] = load4(addressOf<const std::byte>(i, j, first));
+                });
+            else {
+                const ElementsOfPack<const std::byte> elements(view, first);
+                forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
+                    const std::size_t length = rowLength(triangle, columns, i);
+                    Pack row[columns];
+                    PackSources from;
+                    elements.findRow(i, from);
+                    gatherRow(from, length, row);
+                    forIndices(0, length, fixed<columns>,
+                               [&](std::size_t j) VONKK3_INLINED { block[i][j].chain[c] = row[j]; });
+                });
+            }
+        });
+    }
+
+    template <Access access, std::size_t chains>
+    VONKK3_INLINE void scatter(std::size_t n, const Packs<chains> (&block)[rows][columns]) const {
+        forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
+            const std::size_t first = n + c * packWidth;
+            if constexpr (access == Access::any)
+                scatterElements<rows, columns, triangle>(view, first, &block[0][0].chain[c], chains);
+            else if constexpr (access == Access::positions)
+                forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+                    store4(addressOf<std::byte>(i, j, first), block[i][j].chain[c].lanes);
+                });
+            else {
+                const ElementsOfPack<std::byte> elements(view, first);
+                forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
+                    const std::size_t length = rowLength(triangle, columns, i);
+                    Pack row[columns];
+                    PackTargets to;
+                    forIndices(0, length, fixed<columns>,
+                               [&](std::size_t j) VONKK3_INLINED { row[j] = block[i][j].chain[c]; });
+                    elements.findRow(i, to);
+                    scatterRow(to, length, row);
+                });
+            }
+        });
+    }
+
+    // work(block) with the elements of the objects from n on, or of the one object.
+    template <Access access, std::size_t chains, class Work>
+    VONKK3_INLINE void with(std::size_t n, const Work &work) const {
         if constexpr (isArray) {
-            Packs<chains> block[order][order];
-            gatherBlock<access, triangle>(view, n, block);
+            Packs<chains> block[rows][columns];
+            gather<access>(n, block);
             work(block);
         } else work(single);
     }
 
+    // Of a single object.
+    const auto &broadcast() const requires(!isArray) { return single; }
+
 private:
+    union {
+        std::uintptr_t position[rows][columns];
+        Pack single[rows][columns];
+    };
+
+    template <class Byte> Byte *addressOf(std::size_t i, std::size_t j, std::size_t n) const {
+        return reinterpret_cast<Byte *>(position[i][j] + n * sizeof(Real32));
+    }
     template <class Body> VONKK3_INLINE static void forEachElement(const Body &body) {
-        for (std::size_t i = 0; i < order; ++i)
-            for (std::size_t j = 0; j < rowLength(triangle, order, i); ++j) body(i, j);
+        forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
+            forIndices(0, rowLength(triangle, columns, i), fixed<columns>,
+                       [&](std::size_t j) VONKK3_INLINED { body(i, j); });
+        });
     }
 };
+template <std::size_t order, bool isArray = true, Triangle triangle = Triangle::both>
+using MatricesOfBatch = BatchOperand<order, order, isArray, triangle>;
+template <std::size_t length, bool isArray = true> using VectorsOfBatch = BatchOperand<1, length, isArray>;
+
+// One packed result per object.
+template <std::size_t chains>
+VONKK3_INLINE void storeResults(const ObjectsView &results, std::size_t n, const Packs<chains> &values) {
+    const auto to = reinterpret_cast<std::byte *>(results.object(n));
+    for (std::size_t c = 0; c < chains; ++c) store4(to + c * packWidth * sizeof(Real32), values.chain[c].lanes);
+}
 
 } // namespace vonkk3

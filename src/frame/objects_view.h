@@ -58,6 +58,32 @@ struct ObjectsView {
     }
 };
 
+// Object n of a view, element by element: by strides, or through the entries of a table, whose own strides may be
+// exchanged.
+template <class T> inline StridedView<T> stridedObject(const ObjectsView &view, std::size_t n) {
+    return {reinterpret_cast<ByteOf<T> *>(view.object(n)), view.rowStride, view.elementStride};
+}
+
+template <class T> struct EntriesView : ElementAccess<EntriesView<T>, T> {
+    std::uintptr_t begin;
+    std::ptrdiff_t rowStride, elementStride, offset;
+
+    EntriesView(const ObjectsView &view, std::size_t n)
+        : begin(view.begin), rowStride(view.rowStride), elementStride(view.elementStride),
+          offset(view.shift + strides(n, view.objectStride)) {}
+
+    ByteOf<T> *at(std::size_t column) const { return at(0, column); }
+    ByteOf<T> *at(std::size_t row, std::size_t column) const {
+        const std::uintptr_t entry = begin + std::uintptr_t(strides(row, rowStride) + strides(column, elementStride));
+        return reinterpret_cast<ByteOf<T> *>(ObjectsView::pointerAt(entry) + std::uintptr_t(offset));
+    }
+};
+
+template <bool throughTable, class T> VONKK3_INLINE auto objectAt(const ObjectsView &view, std::size_t n) {
+    if constexpr (throughTable) return EntriesView<T>(view, n);
+    else return stridedObject<T>(view, n);
+}
+
 // The first `rows` rows and `columns` columns of every object.
 template <class T, Layout layout, Shape shape, bool isArray>
 VONKK3_INLINE ObjectsView objectsOf(const Operand<T, layout, shape, isArray> &operand, std::size_t rows,
@@ -91,6 +117,13 @@ VONKK3_INLINE ObjectsView objectsOf(const Transposed<Stored> &operand, std::size
     view.rows = stored.columns;
     view.columns = stored.rows;
     return view;
+}
+
+// The diagonals of square matrices, as vectors.
+inline ObjectsView diagonalOf(ObjectsView matrices) {
+    matrices.rows = 1;
+    matrices.elementStride += matrices.rowStride;
+    return matrices;
 }
 
 // A plain block of `length` adjacent elements per object: packed results, pivots, or, with a count of 1, a workspace.

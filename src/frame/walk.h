@@ -47,6 +47,16 @@ VONKK3_INLINE VonkStatus forEachObject(Count count, Work work, const Operands &.
     return forEachObjectFrom(0, count, work, operands...);
 }
 
+// The work of one object behind the tests of its list entries.
+template <class Work, class... Operands>
+VONKK3_INLINE auto testingLists(const Work &work, const Operands &...operands) {
+    return [&](std::size_t n) VONKK3_INLINED {
+        if ((operands.listHasNull(n) || ...)) [[unlikely]]
+            return VonkStatus(vonkErrNullPtr);
+        return VonkStatus(work(n));
+    };
+}
+
 // The same for objects that take only a few instructions and cannot fail: the loop is unrolled, or its own counting
 // would cost as much as the work.
 template <class Work, class... Operands>

@@ -2,8 +2,8 @@
 // layout.
 #pragma once
 
+#include "frame/batch.h"
 #include "frame/operations.h"
-#include "frame/walk.h"
 #include "matrix/norm_kernels.h"
 
 namespace vonkk3::matrix {
@@ -33,15 +33,15 @@ template <class T, class A, class Columns> constexpr NormOrder normOrder() {
 template <class T, class A, class Columns>
 inline constexpr bool roundsSum = std::is_same_v<T, Real64> && !Columns::isFixed && !A::isTable;
 
-// ---- One object -----------------------------------------------------------------------------------------------------
+// ---- One object, or the objects of a batch --------------------------------------------------------------------------
 
-template <NormOrder way, class T, class View>
-VONKK3_INLINE Working<T> sumOfSquares(const View &a, std::size_t columns, std::size_t rows) {
-    using W = Working<T>;
-    W sum = 0;
+// From +0; `element(i, j)` is a number or a pack.
+template <NormOrder way, class Number, class Element>
+VONKK3_INLINE Number sumOfSquares(const Element &element, std::size_t columns, std::size_t rows) {
+    Number sum = 0;
     const auto addSquare = [&](std::size_t i, std::size_t j) VONKK3_INLINED {
-        const W element = a.load(i, j);
-        sum = sum + element * element;
+        const Number a = element(i, j);
+        sum = sum + a * a;
     };
     if constexpr (way == NormOrder::alongRows)
         for (std::size_t i = 0; i < rows; ++i)
@@ -53,6 +53,31 @@ VONKK3_INLINE Working<T> sumOfSquares(const View &a, std::size_t columns, std::s
         for (std::size_t j = columns; j-- > 0;)
             for (std::size_t i = rows; i-- > 0;) addSquare(i, j);
     return sum;
+}
+
+// ---- Batches: the pointer layout with packed objects ----------------------------------------------------------------
+
+template <NormOrder way, std::size_t order> struct FrobeniusBatch {
+    static constexpr std::size_t chains = 2; // a sum waits for the term before
+    MatricesOfBatch<order> src;
+    ObjectsView dst;
+
+    Access access() const { return accessOf(src.view); }
+    template <Access access> VONKK3_INLINE void hoist() { src.template hoist<access>(); }
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
+        Packs<chains> a[order][order];
+        src.template gather<access>(n, a);
+        const auto sum = sumOfSquares<way, Packs<chains>>(
+            [&](std::size_t i, std::size_t j) VONKK3_INLINED { return a[i][j]; }, order, order);
+        storeResults(dst, n, squareRoot(sum));
+        return true;
+    }
+};
+
+template <NormOrder way, class A, std::size_t order, class One>
+VONKK3_INLINE VonkStatus normsInBatches(const A &a, Real32 *results, Fixed<order>, std::size_t count, const One &one) {
+    FrobeniusBatch<way, order> batch{{a, count}, packedBlocks(results, 1, count)};
+    return forEachBatch(batch, Aliasing(count, writes(batch.dst), reads(batch.src.view)), count, one);
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
@@ -147,16 +172,23 @@ VONKK3_INLINE VonkStatus frobeniusNorm(const A &a, Columns columns, RowCount row
             if (areRuns<3>(a)) [[likely]]
                 return normsByFour<Rows::adjacent>(withRuns<3>(a), columns, cells, count);
         return normsByFour<Rows::anywhere>(a, columns, cells, count);
-    } else
-        return forEachObject(
-            count,
-            [&](std::size_t n) VONKK3_INLINED {
-                Working<T> sum = sumOfSquares<way, T>(a.view(n, columns), columns, rows);
-                if constexpr (roundsSum<T, A, Columns>) sum = round<T>(sum);
-                storeAt<T>(cells + n * sizeof(T), round<T>(squareRoot(sum)));
-                return vonkOk;
-            },
-            a);
+    } else {
+        const auto one = [&](std::size_t n) VONKK3_INLINED {
+            const auto view = a.view(n, columns);
+            Working<T> sum = sumOfSquares<way, Working<T>>(
+                [&](std::size_t i, std::size_t j) VONKK3_INLINED { return view.load(i, j); }, columns, rows);
+            if constexpr (roundsSum<T, A, Columns>) sum = round<T>(sum);
+            storeAt<T>(cells + n * sizeof(T), round<T>(squareRoot(sum)));
+            return VonkStatus(vonkOk);
+        };
+        if constexpr (worksInBatches<A> && A::layout == Layout::P)
+            if (count >= worthBatches && columns == rows)
+                return withFixedOrder(
+                    columns,
+                    [&](auto order) VONKK3_INLINED { return normsInBatches<way>(a, results, order, count, one); },
+                    [&]() VONKK3_INLINED { return forEachObject(count, one); });
+        return forEachObject(count, one, a);
+    }
 }
 
 } // namespace vonkk3::matrix

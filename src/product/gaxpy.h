@@ -54,15 +54,25 @@ inline VonkStatus gaxpy(const A &src1, const V &src2, const W &src3, const D &ds
 
     if constexpr (multipliesVectorInLanes<T, D::layout, Cols>) return gaxpyInLanes(src1, src2, src3, dst, cols, count);
     else {
-        std::size_t done = 0;
-        if constexpr (sumsInRuns<A, Cols, Count>) done = sumInRuns<Cols::value, 1>(src1, src2, dst, count, src3);
-        return forEachObjectFrom(
-            done, count,
-            [&](std::size_t n) VONKK3_INLINED {
-                return gaxpyObject<T, accumulatesInCell<T, D::layout>, !Count::isArray>(
-                    src1.view(n, cols), src2.view(n), src3.view(n), dst.view(n), rows, cols);
-            },
-            src2, src3, dst);
+        const auto one = [&](std::size_t n) VONKK3_INLINED {
+            return gaxpyObject<T, accumulatesInCell<T, D::layout>, !Count::isArray>(
+                src1.view(n, cols), src2.view(n), src3.view(n), dst.view(n), rows, cols);
+        };
+        if constexpr (worksInBatches<D>)
+            if (count != 0 && cols == rows)
+                return withFixedOrder(
+                    cols,
+                    [&](auto order) VONKK3_INLINED {
+                        constexpr std::size_t extent = decltype(order)::value;
+                        if constexpr (multipliesPositions<D>)
+                            return forEachObjectFrom(multiplyVectorsByPositions<extent>(src1, src2, dst, count, src3),
+                                                     count, one);
+                        else
+                            return gaxpyInBatches<extent>(src1, src2, src3, dst, count,
+                                                          testingLists(one, src2, src3, dst));
+                    },
+                    [&]() VONKK3_INLINED { return forEachObject(count, one, src2, src3, dst); });
+        return forEachObject(count, one, src2, src3, dst);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "frame/lanes.h"
 #include "frame/unroll.h"
 #include "frame/views.h"
+#include "product/sums.h"
 
 namespace vonkk3::product {
 
@@ -65,6 +66,11 @@ template <std::size_t order, class View> VONKK3_INLINE void storeRowHead(const V
         forIndices(0, columns, fixed<columns>,
                    [&](std::size_t j) VONKK3_INLINED { view.store(i, j, lane(order == 3 && j > 0 ? j + 1 : j)); });
     }
+}
+
+template <class View> VONKK3_INLINE void storePair(const View &view, std::size_t i, std::size_t j, __m128 lanes) {
+    if constexpr (hasAdjacentRows<View>) store2(view.at(i, j), lanes);
+    else view.store(i, j, _mm_cvtss_f32(lanes)), view.store(i, j + 1, _mm_cvtss_f32(broadcastLane(lanes, 1)));
 }
 
 // The second operand as the kernels hold it: row k of B in lanes, and what lies beyond column 3.
@@ -145,30 +151,36 @@ template <class T> struct TwoRowFactors<RowsView<T>> {
     VONKK3_INLINE __m128 operator[](std::size_t k) const { return elements[k]; }
 };
 
+// The first term of a sum.
+template <SumBegins begins> VONKK3_INLINE __m128 firstTerm(__m128 product) {
+    return begins == SumBegins::withZero ? _mm_add_ps(_mm_setzero_ps(), product) : product;
+}
+
 // Columns 0 to 3 of row i of the product.
-template <std::size_t order, class A>
+template <SumBegins begins, std::size_t order, class A>
 VONKK3_INLINE __m128 rowHead(const A &a, std::size_t i, const HeldRows<order> &b) {
     const RowFactors<order, A> factors(a, i);
-    __m128 sum = _mm_mul_ps(factors[0], b.head[0]);
+    __m128 sum = firstTerm<begins>(_mm_mul_ps(factors[0], b.head[0]));
     forIndices(1, order, fixed<order>,
                [&](std::size_t k) VONKK3_INLINED { sum = multiplyAdd(sum, factors[k], b.head[k]); });
     return sum;
 }
 
 // 3x3 and 4x4: a row is one register.
-template <std::size_t order, class A, class D>
+template <SumBegins begins, std::size_t order, class A, class D>
 VONKK3_INLINE void multiplyRows(const A &a, const HeldRows<order> &b, const D &d) {
     forIndices(0, order, fixed<order>,
-               [&](std::size_t i) VONKK3_INLINED { storeRowHead<order>(d, i, rowHead(a, i, b)); });
+               [&](std::size_t i) VONKK3_INLINED { storeRowHead<order>(d, i, rowHead<begins>(a, i, b)); });
 }
 
 // 5x5: column 4 runs beside the lanes, in the same order. `column4(k)` gives B(k, 4): held, or read anew for every row.
-template <class A, class D, class Column4>
+template <SumBegins begins, class A, class D, class Column4>
 VONKK3_INLINE void multiplyRowsOfFive(const A &a, const HeldRows<5> &b, const D &d, const Column4 &column4) {
     forIndices(0, 5, fixed<5>, [&](std::size_t i) VONKK3_INLINED {
         const RowFactors<5, A> factors(a, i);
-        __m128 head = _mm_mul_ps(factors[0], b.head[0]);
+        __m128 head = firstTerm<begins>(_mm_mul_ps(factors[0], b.head[0]));
         Real32 last = _mm_cvtss_f32(factors[0]) * column4(0);
+        if constexpr (begins == SumBegins::withZero) last = 0.0F + last;
         forIndices(1, 5, fixed<5>, [&](std::size_t k) VONKK3_INLINED {
             const __m128 factor = factors[k];
             head = multiplyAdd(head, factor, b.head[k]);
@@ -180,20 +192,22 @@ VONKK3_INLINE void multiplyRowsOfFive(const A &a, const HeldRows<5> &b, const D 
 }
 
 // 6x6, first pass: columns 0 to 3 of all rows.
-template <class A, class D> VONKK3_INLINE void multiplyRowsOfSix(const A &a, const HeldRows<6> &b, const D &d) {
-    forIndices(0, 6, fixed<6>, [&](std::size_t i) VONKK3_INLINED { storeRowHead<6>(d, i, rowHead(a, i, b)); });
+template <SumBegins begins, class A, class D>
+VONKK3_INLINE void multiplyRowsOfSix(const A &a, const HeldRows<6> &b, const D &d) {
+    forIndices(0, 6, fixed<6>, [&](std::size_t i) VONKK3_INLINED { storeRowHead<6>(d, i, rowHead<begins>(a, i, b)); });
 }
 
 // 6x6, second pass: columns 4 and 5, two rows in one register.
-template <class A, class D> VONKK3_INLINE void multiplyPairsOfSix(const A &a, const HeldRows<6> &b, const D &d) {
+template <SumBegins begins, class A, class D>
+VONKK3_INLINE void multiplyPairsOfSix(const A &a, const HeldRows<6> &b, const D &d) {
     forIndices(0, 3, fixed<3>, [&](std::size_t half) VONKK3_INLINED {
         const std::size_t i = 2 * half;
         const TwoRowFactors<A> factors(a, i);
-        __m128 sum = _mm_mul_ps(factors[0], b.pairs[0]);
+        __m128 sum = firstTerm<begins>(_mm_mul_ps(factors[0], b.pairs[0]));
         forIndices(1, 6, fixed<6>,
                    [&](std::size_t k) VONKK3_INLINED { sum = multiplyAdd(sum, factors[k], b.pairs[k]); });
-        store2(d.at(i, 4), sum);
-        _mm_storeh_pi(pair(d.at(i + 1, 4)), sum);
+        storePair(d, i, 4, sum);
+        storePair(d, i + 1, 4, _mm_movehl_ps(sum, sum));
     });
 }
 

@@ -1,11 +1,11 @@
 // Matrix by matrix: a single matrix or an array on either side, either side read transposed.
 #pragma once
 
-#include "frame/walk.h"
 #include "product/four_rows.h"
 #include "product/kernels.h"
 #include "product/packed_triples.h"
-#include "product/position_runs.h"
+#include "product/position_products.h"
+#include "product/register_sums.h"
 #include "product/row_pairs.h"
 #include "product/schemes.h"
 #include "product/shape.h"
@@ -58,18 +58,18 @@ template <class P, std::size_t order, class B> VONKK3_INLINE HeldRows<order> hol
     return held;
 }
 
-template <class P, std::size_t order, class A, class B, class D>
+template <class P, SumBegins begins = SumBegins::withFirstProduct, std::size_t order, class A, class B, class D>
 VONKK3_INLINE void multiplyHeld(const A &a, const B &b, HeldRows<order> &held, const D &d) {
-    if constexpr (order <= 4) multiplyRows(a, held, d);
+    if constexpr (order <= 4) multiplyRows<begins>(a, held, d);
     else if constexpr (order == 5)
-        multiplyRowsOfFive(a, held, d, [&](std::size_t k) VONKK3_INLINED {
+        multiplyRowsOfFive<begins>(a, held, d, [&](std::size_t k) VONKK3_INLINED {
             if constexpr (rereadsColumn4<P>) return b.load(k, 4);
             else return held.last[k];
         });
     else {
-        multiplyRowsOfSix(a, held, d);
+        multiplyRowsOfSix<begins>(a, held, d);
         if constexpr (fetchesPairsLate<P>) held.loadPairs(b);
-        multiplyPairsOfSix(a, held, d);
+        multiplyPairsOfSix<begins>(a, held, d);
     }
 }
 
@@ -79,9 +79,10 @@ VONKK3_INLINE void multiplyHeld(const A &a, const B &b, HeldRows<order> &held, c
 // lie so that nobody can tell. How many objects were done, from the first on.
 template <class P, std::size_t order, class A, class B, class D>
 VONKK3_INLINE std::size_t multiplyUnseen(const A &src1, const B &src2, const D &dst, std::size_t objects) {
+    if constexpr (multipliesPositions<D>)
+        return multiplyMatricesByPositions<SumBegins::withFirstProduct, order>(src1, src2, dst, objects);
     constexpr bool isOfRows = P::layout == Layout::Standard && P::firstArray && !P::firstTransposed;
-    if constexpr (P::layout == Layout::P) return multiplyRunsOfThree(src1, src2, dst, objects);
-    else if constexpr (isOfRows && order == 3 && !P::secondArray) return multiplyTriplesByOne(src1, src2, dst, objects);
+    if constexpr (isOfRows && order == 3 && !P::secondArray) return multiplyTriplesByOne(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 5 && !P::secondArray && !P::secondTransposed)
         return multiplyFourRows(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 6 && !P::secondTransposed)
@@ -95,7 +96,7 @@ VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &
     const auto multiplyFrom = [&](std::size_t first, auto work) VONKK3_INLINED {
         const auto multiplyObject = [&](std::size_t n) VONKK3_INLINED {
             work(src1.view(n, order), src2.view(n, order), dst.view(n, order));
-            return vonkOk;
+            return VonkStatus(vonkOk);
         };
         if constexpr (testsEntries<Real32, P, order>)
             return forEachObjectFrom(first, count, multiplyObject, src1, src2, dst);
@@ -132,22 +133,32 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
 
     if constexpr (scheme == Scheme::rowBroadcast) return multiplyInLanes<P>(src1, src2, dst, cols1, count);
     else {
-        std::size_t done = 0;
-        if constexpr (sumsInRuns<A, Cols1, Count>) done = sumInRuns<Cols1::value, Cols1::value>(src1, src2, dst, count);
-        return forEachObjectFrom(
-            done, count,
-            [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
-                const auto a = src1.view(n, P::firstTransposed ? rows1 : cols1);
-                const auto b = src2.view(n, P::secondTransposed ? rows2 : cols2);
-                const auto d = dst.view(n, size.template columns<P>());
-                if constexpr (scheme == Scheme::pairSum) return multiplyByPairSums(a, b, d), vonkOk;
-                const std::size_t rows = size.template rows<P>(), columns = size.template columns<P>();
-                const std::size_t terms = size.template terms<P>();
-                if constexpr (!accumulatesInCell<T, P::layout> && hasExtent<std::remove_const_t<decltype(d)>>)
-                    if (sumOnceIfApart<T>(a, b, d, rows, columns, terms)) return vonkOk;
-                return sumIntoCells<T, accumulatesInCell<T, P::layout>, !P::isArray>(a, b, d, rows, columns, terms);
-            },
-            src1, src2, dst);
+        const std::size_t rows = size.template rows<P>(), columns = size.template columns<P>();
+        const std::size_t terms = size.template terms<P>();
+        const auto one = [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
+            const auto a = src1.view(n, P::firstTransposed ? rows1 : cols1);
+            const auto b = src2.view(n, P::secondTransposed ? rows2 : cols2);
+            const auto d = dst.view(n, columns);
+            if constexpr (scheme == Scheme::pairSum) return multiplyByPairSums(a, b, d), vonkOk;
+            if constexpr (worksInBatches<D>) return sumIntoCellsPlainly<T>(a, b, d, rows, columns, terms), vonkOk;
+            if constexpr (!accumulatesInCell<T, P::layout> && hasExtent<std::remove_const_t<decltype(d)>>)
+                if (sumOnceIfDisjoint<T>(a, b, d, rows, columns, terms)) return vonkOk;
+            return sumIntoCells<T, accumulatesInCell<T, P::layout>, !P::isArray>(a, b, d, rows, columns, terms);
+        };
+        if constexpr (worksInBatches<D>)
+            if (count != 0 && cols1 == rows1 && cols2 == rows2 && rows1 == rows2)
+                return withFixedOrder(
+                    cols1,
+                    [&](auto order) VONKK3_INLINED {
+                        constexpr std::size_t extent = decltype(order)::value;
+                        if constexpr (multipliesPositions<D>) {
+                            const std::size_t done =
+                                multiplyMatricesByPositions<SumBegins::withZero, extent>(src1, src2, dst, count);
+                            return forEachObjectFrom(done, count, one);
+                        } else return sumMatrices<extent>(src1, src2, dst, count, testingLists(one, src1, src2, dst));
+                    },
+                    [&]() VONKK3_INLINED { return forEachObject(count, one, src1, src2, dst); });
+        return forEachObject(count, one, src1, src2, dst);
     }
 }
 

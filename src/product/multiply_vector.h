@@ -3,8 +3,10 @@
 
 #include "frame/untested_position.h"
 #include "product/packed_triples.h"
-#include "product/position_runs.h"
+#include "product/position_products.h"
+#include "product/register_sums.h"
 #include "product/schemes.h"
+#include "product/vector_batches.h"
 #include "product/vector_kernels.h"
 
 namespace vonkk3::product {
@@ -84,22 +86,34 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
     if constexpr (multipliesVectorInLanes<T, D::layout, Cols>)
         return multiplyVectorInLanes(src1, src2, dst, cols, count);
     else {
-        std::size_t done = 0;
-        if constexpr (sumsInRuns<A, Cols, Count>) done = sumInRuns<Cols::value, 1>(src1, src2, dst, count);
-        return forEachObjectFrom(
-            done, count,
-            [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
-                const auto a = src1.view(n, A::isTransposed ? std::size_t(rows) : std::size_t(cols));
-                const ColumnView v{src2.view(n)};
-                const ColumnView d{dst.view(n)};
-                constexpr bool inCell = accumulatesInCell<T, D::layout>;
-                if constexpr (leavesPosition8Untested<A, Count, Cols>)
-                    return sumIntoCells<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
-                if constexpr (!inCell && hasExtent<std::remove_const_t<decltype(d.vector)>>)
-                    if (sumOnceIfApart<T>(a, asColumn(v.vector), asColumn(d.vector), rows, 1, cols)) return vonkOk;
-                return sumIntoCells<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
-            },
-            src1, src2, dst);
+        const auto one = [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
+            const auto a = src1.view(n, A::isTransposed ? std::size_t(rows) : std::size_t(cols));
+            const ColumnView v{src2.view(n)};
+            const ColumnView d{dst.view(n)};
+            constexpr bool inCell = accumulatesInCell<T, D::layout>;
+            if constexpr (leavesPosition8Untested<A, Count, Cols>)
+                return sumIntoCells<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
+            if constexpr (worksInBatches<D>) return sumIntoCellsPlainly<T>(a, v, d, rows, 1, cols), vonkOk;
+            if constexpr (!inCell && hasExtent<std::remove_const_t<decltype(d.vector)>>)
+                if (sumOnceIfDisjoint<T>(a, asColumn(v.vector), asColumn(d.vector), rows, 1, cols)) return vonkOk;
+            return sumIntoCells<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
+        };
+        if constexpr (worksInBatches<D>)
+            if (count != 0 && cols == rows)
+                return withFixedOrder(
+                    cols,
+                    [&](auto order) VONKK3_INLINED {
+                        constexpr std::size_t extent = decltype(order)::value;
+                        const auto tested = testingLists(one, src1, src2, dst);
+                        if constexpr (multipliesPositions<D>)
+                            return forEachObjectFrom(multiplyVectorsByPositions<extent>(src1, src2, dst, count), count,
+                                                     one);
+                        else if constexpr (!A::isArray || D::layout == Layout::Standard || D::layout == Layout::L)
+                            return multiplyInBatches<extent>(src1, src2, dst, count, tested);
+                        else return sumVectors<extent>(src1, src2, dst, count, tested);
+                    },
+                    [&]() VONKK3_INLINED { return forEachObject(count, one, src1, src2, dst); });
+        return forEachObject(count, one, src1, src2, dst);
     }
 }
 

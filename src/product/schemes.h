@@ -57,6 +57,13 @@ template <class View> inline constexpr bool hasExtent = false;
 template <class T> inline constexpr bool hasExtent<RowsView<T>> = true;
 template <class T> inline constexpr bool hasExtent<TransposedView<RowsView<T>>> = true;
 
+// The plain path of arrays that have a fast one: small, as it is for operands that overlap.
+template <class T, class A, class B, class D>
+VONKK3_APART void sumIntoCellsPlainly(const A &a, const B &b, const D &d, std::size_t rows, std::size_t columns,
+                                      std::size_t terms) {
+    sumIntoCells<T, false, false>(a, b, d, rows, columns, terms);
+}
+
 template <class T>
 VONKK3_INLINE Extent extentOf(const TransposedView<RowsView<T>> &view, std::size_t rows, std::size_t columns) {
     return extentOf(view.stored, columns, rows);
@@ -69,8 +76,8 @@ template <class T> VONKK3_INLINE RowsView<T> asColumn(const RowsView<T> &vector)
 
 // Looks first, and is false, and nothing done, where cells lie on factors.
 template <class T, class A, class B>
-VONKK3_INLINE bool sumOnceIfApart(const A &a, const B &b, const RowsView<T> &d, std::size_t rows, std::size_t columns,
-                                  std::size_t terms) {
+VONKK3_INLINE bool sumOnceIfDisjoint(const A &a, const B &b, const RowsView<T> &d, std::size_t rows,
+                                     std::size_t columns, std::size_t terms) {
     const Extent cells = extentOf(d, rows, columns);
     if (!disjoint(cells, extentOf(a, rows, terms)) || !disjoint(cells, extentOf(b, terms, columns))) return false;
     using W = Working<T>;

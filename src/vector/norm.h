@@ -1,10 +1,10 @@
 // Euclidean norm of a vector or of each vector of an array: the root of the sum of squares. Results are a dense block.
 #pragma once
 
+#include "frame/batch.h"
 #include "frame/estimate.h"
 #include "frame/four_objects.h"
 #include "frame/operations.h"
-#include "frame/walk.h"
 #include "vector/block_walk.h"
 
 namespace vonkk3::vector {
@@ -97,6 +97,33 @@ inline std::size_t normInBlocks(const Source &source, std::byte *results, Object
     return withKnownSpacing<length>(work, source);
 }
 
+// ---- Batches: the pointer layout with packed objects ----------------------------------------------------------------
+
+// A square is never -0, so a sum from +0 may as well begin with the first.
+template <std::size_t length> struct NormBatch {
+    static constexpr std::size_t chains = 2;
+    VectorsOfBatch<length> src;
+    ObjectsView dst;
+
+    Access access() const { return accessOf(src.view); }
+    template <Access access> VONKK3_INLINE void hoist() { src.template hoist<access>(); }
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
+        Packs<chains> a[1][length];
+        src.template gather<access>(n, a);
+        Packs<chains> sum = a[0][0] * a[0][0];
+        forIndices(1, length, fixed<length>, [&](std::size_t j) VONKK3_INLINED { sum = sum + a[0][j] * a[0][j]; });
+        storeResults(dst, n, squareRoot(sum));
+        return true;
+    }
+};
+
+template <class Source, std::size_t length, class One>
+VONKK3_INLINE VonkStatus normsInBatches(const Source &source, Real32 *dst, Fixed<length>, std::size_t count,
+                                        const One &one) {
+    NormBatch<length> batch{{source, count}, packedBlocks(dst, 1, count)};
+    return forEachBatch(batch, Aliasing(count, writes(batch.dst), reads(batch.src.view)), count, one);
+}
+
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 // dst[n] = root of the sum over j of the square of source(n, j).
@@ -118,8 +145,13 @@ VONKK3_INLINE VonkStatus norm(const Source &source, T *dst, Length length, Count
             result = squareRoot(sumInBlocks(SquareTerm{}, length, source.view(0).base));
         else result = round<T>(squareRoot(sumSquares<T>(source.view(n), length)));
         storeAt<T>(results + n * sizeof(T), result);
-        return vonkOk;
+        return VonkStatus(vonkOk);
     };
+    if constexpr (worksInBatches<Source> && Source::layout == Layout::P)
+        if (count >= worthBatches)
+            return withFixedOrder(
+                length, [&](auto size) VONKK3_INLINED { return normsInBatches(source, dst, size, count, work); },
+                [&]() VONKK3_INLINED { return forEachObject(count, work); });
     if constexpr (testsEntries) return forEachObjectFrom(done, count, work, source);
     else return forEachObjectFrom(done, count, work);
 }

@@ -1,0 +1,156 @@
+// Products of Real32 in the pointer layout with packed objects: loops interchanged, objects innermost. Every cell of
+// the result is a sum over contiguous ranges, one for each position, four objects at a time.
+#pragma once
+
+#include "frame/batch.h"
+#include "product/sums.h"
+
+namespace vonkk3::product {
+
+// One factor of `order` products: ranges of all objects, or a single object's numbers, broadcast.
+template <std::size_t order, bool isArray> struct Factors {
+    const std::byte *range[order];
+    VONKK3_INLINE void take(std::size_t k, std::uintptr_t address) {
+        range[k] = reinterpret_cast<const std::byte *>(address);
+    }
+    VONKK3_INLINE Pack at(std::size_t k, std::size_t offset) const { return load4(range[k] + offset); }
+};
+template <std::size_t order> struct Factors<order, false> {
+    Pack number[order];
+    VONKK3_INLINE void take(std::size_t k, std::uintptr_t address) {
+        number[k] = loadAt<Real32>(reinterpret_cast<const std::byte *>(address));
+    }
+    VONKK3_INLINE Pack at(std::size_t k, std::size_t) const { return number[k]; }
+};
+
+// Several cells that share a factor: a row of the first operand, or the vector. As many as pointers fit registers.
+template <std::size_t order, bool sharedIsArray, bool otherIsArray>
+inline constexpr std::size_t cellsAtOnce = order == 3                      ? 3
+                                           : (order == 4 || !otherIsArray) ? 2
+                                                                           : 1;
+
+template <std::size_t order, bool sharedIsArray, bool otherIsArray, bool hasAddends> struct Cells {
+    static constexpr std::size_t width = cellsAtOnce<order, sharedIsArray, otherIsArray>;
+    Factors<order, sharedIsArray> shared;
+    Factors<order, otherIsArray> other[width];
+    const std::byte *addend[width];
+    std::byte *target[width];
+
+    // For the objects between two offsets. All is read before anything is stored.
+    template <SumBegins begins> VONKK3_APART static void work(const Cells &memory, std::size_t from, std::size_t to) {
+        const Cells cells = memory; // pointers and numbers in registers
+        for (std::size_t at = from; at < to; at += packWidth * sizeof(Real32)) {
+            Pack sum[width];
+            forIndices(0, width, fixed<width>, [&](std::size_t w) VONKK3_INLINED {
+                sum[w] = cells.shared.at(0, at) * cells.other[w].at(0, at);
+                if constexpr (begins == SumBegins::withZero) sum[w] = Pack(0.0F) + sum[w];
+            });
+            forIndices(1, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+                const Pack factor = cells.shared.at(k, at);
+                forIndices(0, width, fixed<width>,
+                           [&](std::size_t w) VONKK3_INLINED { sum[w] = sum[w] + factor * cells.other[w].at(k, at); });
+            });
+            forIndices(0, width, fixed<width>, [&](std::size_t w) VONKK3_INLINED {
+                if constexpr (hasAddends) sum[w] = sum[w] + Pack(load4(cells.addend[w] + at));
+                store4(cells.target[w] + at, sum[w].lanes);
+            });
+        }
+    }
+};
+
+// As many objects at a time as stay in the first-level cache with all their positions.
+inline constexpr std::size_t objectsInCache = 256;
+
+template <class Work> VONKK3_INLINE void forEachRange(std::size_t objects, const Work &work) {
+    for (std::size_t from = 0; from < objects; from += objectsInCache) {
+        const std::size_t to = objects - from < objectsInCache ? objects : from + objectsInCache;
+        work(from * sizeof(Real32), to * sizeof(Real32));
+    }
+}
+
+// Views of the first operand, the second one, the addend (else any) and the result.
+struct PositionOperands {
+    const ObjectsView &a, &b, &addend, &d;
+};
+
+// d(i, j) = sum of a(i, k) b(k, j), for so many objects, a multiple of packWidth.
+template <SumBegins begins, std::size_t order, bool firstIsArray, bool secondIsArray>
+VONKK3_APART void multiplyMatrices(const PositionOperands &p, std::size_t objects) {
+    using Strip = Cells<order, firstIsArray, secondIsArray, false>;
+    forEachRange(objects, [&](std::size_t from, std::size_t to) VONKK3_INLINED {
+        for (std::size_t i = 0; i < order; ++i)
+            for (std::size_t next = 0; next < order; next += Strip::width) {
+                const std::size_t j = next + Strip::width <= order ? next : order - Strip::width;
+                Strip cells;
+                for (std::size_t k = 0; k < order; ++k) {
+                    cells.shared.take(k, p.a.position(i, k));
+                    for (std::size_t w = 0; w < Strip::width; ++w) cells.other[w].take(k, p.b.position(k, j + w));
+                }
+                for (std::size_t w = 0; w < Strip::width; ++w)
+                    cells.target[w] = reinterpret_cast<std::byte *>(p.d.position(i, j + w));
+                Strip::template work<begins>(cells, from, to);
+            }
+    });
+}
+
+// d(i) = sum of a(i, k) b(k), plus the addend's element.
+template <std::size_t order, bool firstIsArray, bool secondIsArray, bool hasAddends>
+VONKK3_APART void multiplyVectors(const PositionOperands &p, std::size_t objects) {
+    using Strip = Cells<order, secondIsArray, firstIsArray, hasAddends>;
+    forEachRange(objects, [&](std::size_t from, std::size_t to) VONKK3_INLINED {
+        for (std::size_t next = 0; next < order; next += Strip::width) {
+            const std::size_t i = next + Strip::width <= order ? next : order - Strip::width;
+            Strip cells;
+            for (std::size_t k = 0; k < order; ++k) {
+                cells.shared.take(k, p.b.position(0, k));
+                for (std::size_t w = 0; w < Strip::width; ++w) cells.other[w].take(k, p.a.position(i + w, k));
+            }
+            for (std::size_t w = 0; w < Strip::width; ++w) {
+                cells.addend[w] = reinterpret_cast<const std::byte *>(p.addend.position(0, i + w));
+                cells.target[w] = reinterpret_cast<std::byte *>(p.d.position(0, i + w));
+            }
+            Strip::template work<SumBegins::withZero>(cells, from, to);
+        }
+    });
+}
+
+// Arrays in the pointer layout with packed objects.
+template <class D>
+inline constexpr bool multipliesPositions =
+    D::isArray &&D::layout == Layout::P &&std::is_same_v<typename D::Element, Real32>;
+
+// How many objects were done: all that fill packs, or none.
+template <SumBegins begins, std::size_t order, class A, class B, class D>
+VONKK3_INLINE std::size_t multiplyMatricesByPositions(const A &src1, const B &src2, const D &dst, std::size_t count) {
+    if (count < worthBatches) return 0;
+    const std::size_t objects = inWholePacks(count);
+    const ObjectsView a = objectsOf(src1, order, order, objects), b = objectsOf(src2, order, order, objects);
+    const ObjectsView d = objectsOf(dst, order, order, objects);
+    // The kernel of order 3 has a row of the first operand in registers before it stores there.
+    const Aliasing aliasing(objects, writes(d), begins == SumBegins::withFirstProduct ? readsInPlace(a) : reads(a),
+                            reads(b));
+    if (!aliasing.allowsBatch(0, objects)) return 0;
+    multiplyMatrices<begins, order, A::isArray, B::isArray>({a, b, b, d}, objects);
+    return objects;
+}
+
+template <std::size_t order, class A, class V, class D, class... Addend>
+VONKK3_INLINE std::size_t multiplyVectorsByPositions(const A &src1, const V &src2, const D &dst, std::size_t count,
+                                                     const Addend &...src3) {
+    static_assert(sizeof...(src3) <= 1);
+    if (count < worthBatches) return 0;
+    const std::size_t objects = inWholePacks(count);
+    const ObjectsView a = objectsOf(src1, order, order, objects), b = objectsOf(src2, 1, order, objects);
+    const ObjectsView d = objectsOf(dst, 1, order, objects);
+    if constexpr (sizeof...(src3) == 1) {
+        const ObjectsView addend = objectsOf(src3..., 1, order, objects);
+        if (!Aliasing(objects, writes(d), reads(a), reads(b), reads(addend)).allowsBatch(0, objects)) return 0;
+        multiplyVectors<order, A::isArray, V::isArray, true>({a, b, addend, d}, objects);
+    } else {
+        if (!Aliasing(objects, writes(d), reads(a), reads(b)).allowsBatch(0, objects)) return 0;
+        multiplyVectors<order, A::isArray, V::isArray, false>({a, b, b, d}, objects);
+    }
+    return objects;
+}
+
+} // namespace vonkk3::product
