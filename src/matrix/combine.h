@@ -270,7 +270,7 @@ VONKK3_INLINE VonkStatus combine(const A &a, const B &b, const D &d, Columns col
     else if constexpr (worksInLanes<F>) return combineInLanes<F>(a, b, d, count, operation);
     else {
         if (streamObjects(operation, rows, columns, count, d, a, b)) return vonkOk;
-        return withColumns<Count, typename D::Element>(columns, [&](auto fixedColumns) VONKK3_INLINED {
+        return withColumns<Count, D>(columns, [&](auto fixedColumns) VONKK3_INLINED {
             const auto combineObject = [&](std::size_t n) VONKK3_INLINED {
                 return workElements<!Count::isArray>(d.view(n, columns), rows, fixedColumns, operation,
                                                      viewAs<F>(a, n, rows, columns), viewAs<F>(b, n, rows, columns));

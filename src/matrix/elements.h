@@ -24,10 +24,12 @@ VONKK3_INLINE VonkStatus workElements(const D &d, Rows rows, Columns columns, Op
     return vonkOk;
 }
 
-// Telling the compiler the number of columns pays for itself over several objects.
-template <class Count, class T, class Columns, class Work>
+// Telling the compiler the number of columns pays for itself over several objects. In tables a fixed number is looped
+// over: unrolled, it costs a single object more than it gains.
+template <class Count, class D, class Columns, class Work>
 VONKK3_INLINE VonkStatus withColumns(Columns columns, const Work &work) {
-    if constexpr (Count::isArray) return withFixedColumns<T>(columns, work);
+    if constexpr (Columns::isFixed && D::isTable) return work(RunTime{Columns::value});
+    else if constexpr (Count::isArray) return withFixedColumns<typename D::Element>(columns, work);
     else return work(columns);
 }
 

@@ -70,7 +70,7 @@ VONKK3_INLINE VonkStatus scale(const A &a, typename D::Element value, const D &d
     if constexpr (scalesInLanes<D, Columns>) return scaleInLanes<Columns::value>(a, times, d, count);
     else {
         if (streamObjects(times, rows, columns, count, d, a)) return vonkOk;
-        return withColumns<Count, T>(columns, [&](auto fixedColumns) VONKK3_INLINED {
+        return withColumns<Count, D>(columns, [&](auto fixedColumns) VONKK3_INLINED {
             const auto scaleObject = [&](std::size_t n) VONKK3_INLINED {
                 const auto source = a.view(n, A::isTransposed ? rows : columns);
                 const auto view = d.view(n, columns);

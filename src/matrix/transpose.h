@@ -156,7 +156,7 @@ VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, RowCount rows, c
         if (!D::isTable || columns == rows)
             if (streamObjects(Moved(), columns, rows, count, d, Transposed{a})) return vonkOk;
         const TableRowLengths lengths(columns, rows);
-        return withColumns<Count, typename D::Element>(columns, [&](auto fixedColumns) VONKK3_INLINED {
+        return withColumns<Count, D>(columns, [&](auto fixedColumns) VONKK3_INLINED {
             const auto transposeObject = [&](std::size_t n) VONKK3_INLINED {
                 return transposeElements<!Count::isArray>(a.view(n, lengths.source), d.view(n, lengths.destination),
                                                           fixedColumns, rows);
