@@ -101,8 +101,10 @@ struct AliasOperand {
     // The list or table itself.
     bool hasEntries() const { return view.indirection != ObjectsView::Indirection::none; }
     Extent entries() const {
-        const std::size_t number = view.isList() ? view.count : std::size_t(view.rows) * view.columns;
-        return {view.begin, view.begin + number * sizeof(void *)};
+        const Extent first{view.begin, view.begin + sizeof(void *)};
+        if (view.isList()) return first.extendedBy(strides(view.count - 1, sizeof(void *)));
+        return first.extendedBy(strides(view.rows - 1, view.rowStride))
+            .extendedBy(strides(view.columns - 1, view.elementStride));
     }
 
 private:
@@ -330,24 +332,36 @@ inline bool areAllIndependent(const AliasOperand *operands, std::size_t number) 
     return true;
 }
 
-// The usual case at a glance: arrays in ascending order, rows within objects and elements within rows; tables whose
-// positions lie in their own order, each with all its objects. Whether it is one, and where it lies.
+// A table whose entries ascend, and all objects of a position lie before the next position's, or all positions of an
+// object before the next object. Whether it is one, and where it lies.
 VONKK3_APART inline bool isAscendingTable(const ObjectsView &view, Extent &whole) {
-    const std::size_t positions = std::size_t(view.rows) * view.columns;
-    const std::size_t span = std::size_t(strides(view.count - 1, view.objectStride)) + view.elementBytes;
-    if (view.isArray && view.objectStride < std::ptrdiff_t(view.elementBytes)) return false;
-    std::uintptr_t end = ObjectsView::pointerAt(view.begin);
-    whole.begin = end + std::uintptr_t(view.shift);
-    bool ascends = true;
-    for (std::size_t k = 0; k < positions; ++k) {
-        const std::uintptr_t address = ObjectsView::pointerAt(view.begin + k * sizeof(void *));
-        ascends &= address >= end;
-        end = address + span;
+    const std::ptrdiff_t step = view.count > 1 ? view.objectStride : std::ptrdiff_t(view.elementBytes);
+    if (step < std::ptrdiff_t(view.elementBytes)) return false;
+    const std::uintptr_t ofPosition = std::uintptr_t(strides(view.count - 1, step)) + view.elementBytes;
+    const bool isTransposed = view.rowStride < view.elementStride && view.rows > 1;
+    const std::size_t rows = isTransposed ? view.columns : view.rows, columns = isTransposed ? view.rows : view.columns;
+    const std::ptrdiff_t rowStride = isTransposed ? view.elementStride : view.rowStride;
+    const std::ptrdiff_t elementStride = isTransposed ? view.rowStride : view.elementStride;
+    const std::uintptr_t first = ObjectsView::pointerAt(view.begin);
+    std::uintptr_t before = first, least = ~std::uintptr_t(0);
+    for (std::size_t i = 0; i < rows; ++i) {
+        std::uintptr_t entry = view.begin + std::uintptr_t(strides(i, rowStride));
+        for (std::size_t j = 0; j < columns; ++j, entry += std::uintptr_t(elementStride)) {
+            if (entry == view.begin) continue;
+            const std::uintptr_t address = ObjectsView::pointerAt(entry);
+            if (address < before) return false;
+            least = address - before < least ? address - before : least;
+            before = address;
+        }
     }
-    whole.end = end + std::uintptr_t(view.shift);
-    return ascends && whole.begin < whole.end;
+    whole = Extent{first, before + ofPosition}.movedBy(std::uintptr_t(view.shift));
+    const bool positionsFollow = least >= ofPosition;
+    const bool objectsFollow = least >= view.elementBytes && before + view.elementBytes - first <= std::uintptr_t(step);
+    return whole.begin < whole.end && (positionsFollow || objectsFollow);
 }
 
+// The usual case at a glance: arrays in ascending order, rows within objects and elements within rows; and tables, see
+// above. Whether it is one, and where it lies.
 VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
     if (view.isTable()) return isAscendingTable(view, whole);
     if (view.isList()) return false;
@@ -360,18 +374,34 @@ VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
     return whole.begin < whole.end;
 }
 
+// The same words, and so the same elements.
+VONKK3_INLINE bool areSame(const ObjectsView &a, const ObjectsView &b) {
+    return a.begin == b.begin && a.shift == b.shift && a.objectStride == b.objectStride && haveSameStrides(a, b) &&
+           a.indirection == b.indirection;
+}
+
+VONKK3_INLINE bool isClearOf(const AliasOperand &written, const Extent &whole, const AliasOperand &other,
+                             const Extent &ofOther) {
+    if (other.hasEntries() && !disjoint(whole, other.entries())) return false;
+    return disjoint(whole, ofOther) ||
+           (other.use == AliasOperand::Use::readInPlace && areSame(written.view, other.view));
+}
+
 template <std::size_t number> VONKK3_INLINE bool isPlainlyIndependent(const AliasOperand (&operands)[number]) {
-    Extent whole[number];
-    bool plain = true;
+    Extent whole[number] = {};
     VONKK3_UNROLL_WHOLE
-    for (std::size_t k = 0; k < number; ++k) plain = plain && isAscending(operands[k].view, whole[k]);
+    for (std::size_t k = 0; k < number; ++k)
+        if (!isAscending(operands[k].view, whole[k])) return false;
+    bool plain = true;
     VONKK3_UNROLL_WHOLE
     for (std::size_t w = 0; w < number; ++w) {
         if (!operands[w].isWritten()) continue;
         VONKK3_UNROLL_WHOLE
-        for (std::size_t k = 0; k < number; ++k)
-            plain = plain && (k == w || disjoint(whole[w], whole[k])) &&
-                    (!operands[k].view.isTable() || disjoint(whole[w], operands[k].entries()));
+        for (std::size_t k = 0; k < number; ++k) {
+            const bool isClear = k == w ? !operands[w].hasEntries() || disjoint(whole[w], operands[w].entries())
+                                        : isClearOf(operands[w], whole[w], operands[k], whole[k]);
+            plain = plain && isClear;
+        }
     }
     return plain;
 }

@@ -106,14 +106,16 @@ VONKK3_INLINE ObjectsView objectsOf(const Operand<T, layout, shape, isArray> &op
     return view;
 }
 
-// A square matrix that is read transposed: its strides exchanged.
+// The same of a transposed operand: the matrix that is read, of `rows` rows and `columns` columns.
 template <class Stored>
 VONKK3_INLINE ObjectsView objectsOf(const Transposed<Stored> &operand, std::size_t rows, std::size_t columns,
                                     std::size_t count) {
-    ObjectsView view = objectsOf(static_cast<const Stored &>(operand), rows, columns, count);
-    const std::ptrdiff_t rowStride = view.rowStride;
-    view.rowStride = view.elementStride;
-    view.elementStride = rowStride;
+    const ObjectsView stored = objectsOf(static_cast<const Stored &>(operand), columns, rows, count);
+    ObjectsView view = stored;
+    view.rowStride = stored.elementStride;
+    view.elementStride = stored.rowStride;
+    view.rows = stored.columns;
+    view.columns = stored.rows;
     return view;
 }
 

@@ -2,8 +2,8 @@
 // rounded operation per element; objects, rows and columns in ascending order.
 #pragma once
 
-#include "frame/aliasing.h"
 #include "frame/operations.h"
+#include "frame/stream.h"
 #include "frame/untested_position.h"
 #include "frame/walk.h"
 #include "matrix/crossed_rows.h"
@@ -13,7 +13,7 @@
 
 namespace vonkk3::matrix {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // One form of what `combine` is called with: the facts below are told about it.
 template <class Operation, class A, class B, class D, class Columns> struct Form {
@@ -46,27 +46,6 @@ inline constexpr bool isPipelined =
 // Of these mamT walks the rows of its second operand with the first one's row stride.
 template <class F> inline constexpr bool borrowsRowStride = isPipelined<F> &&F::secondTransposed;
 
-// Members that look whether all rows are aligned, and then move them so: a ragged list. No result depends on it.
-template <class F> constexpr bool looksAtAlignment() {
-    constexpr bool isL = F::layout == Layout::L;
-    constexpr bool plain = !F::firstTransposed && !F::secondTransposed;
-    constexpr bool mm = plain && !F::firstArray && !F::secondArray;
-    constexpr bool mam = plain && F::firstArray && !F::secondArray;
-    constexpr bool mma = plain && !F::firstArray && F::secondArray;
-    constexpr bool mama = plain && F::firstArray && F::secondArray;
-    constexpr bool maTm = F::firstArray && F::firstTransposed && !F::secondArray && !F::secondTransposed;
-    if (!worksInLanes<F>) return false;
-    if (F::order == 3) return maTm;
-    if (F::isSum) {
-        if (F::order == 4) return mam || mama;
-        if (F::order == 5) return mama;
-        return mam || (mama && !isL);
-    }
-    if (F::order == 4) return mam || mma || (isL ? mama : mm);
-    if (F::order == 5) return mama || mma || (mam && !isL);
-    return mam;
-}
-
 // vonkSub_mTmT_32f_6x6 and vonkSub_maTmaT_32f_6x6 (with its L form) subtract the wrong elements: see CrossedRows.
 template <class F>
 inline constexpr bool isCrossed = worksInLanes<F> &&F::order == 6 && !F::isSum && F::firstTransposed &&
@@ -77,25 +56,20 @@ template <class F, class Operand>
 inline constexpr bool leavesPosition8Untested =
     Operand::isTransposed && !F::isArray && F::order == 4 && F::layout == Layout::P;
 
-// Holding a matrix for repetition takes as long as some objects.
-inline constexpr std::size_t worthRepeating = 8;
-
 // ---- Rows in lanes --------------------------------------------------------------------------------------------------
 
 // What gives the rows of an operand's object n; a single one that is held is read once, here.
 template <std::size_t order, bool isHeld, class Operand> struct RowsByObject {
     const Operand &operand;
     VONKK3_INLINE explicit RowsByObject(const Operand &operand) : operand(operand) {}
-    template <Placement placement> VONKK3_INLINE auto at(std::size_t n) const {
-        return rowsOf<order, placement>(operand.view(n));
-    }
+    VONKK3_INLINE auto at(std::size_t n) const { return rowsOf<order>(operand.view(n)); }
 };
 
 template <std::size_t order, class Operand>
 requires(!Operand::isArray) struct RowsByObject<order, true, Operand> {
     HeldRows<order> held;
     VONKK3_INLINE explicit RowsByObject(const Operand &operand) : held(rowsOf<order>(operand.view(0))) {}
-    template <Placement> VONKK3_INLINE const HeldRows<order> &at(std::size_t) const { return held; }
+    VONKK3_INLINE const HeldRows<order> &at(std::size_t) const { return held; }
 };
 
 template <class F, class A, class B, class D, class Count, class Operation>
@@ -103,18 +77,11 @@ VONKK3_INLINE VonkStatus combineRows(const A &a, const B &b, const D &d, Count c
     if (count == 0) return vonkOk; // nothing is read, a single operand neither
     const RowsByObject<F::order, holdsSingleOperand<F>, A> first(a);
     const RowsByObject<F::order, holdsSingleOperand<F>, B> second(b);
-    const auto combineObject = [&]<Placement placement>(std::size_t n) VONKK3_INLINED {
-        workRows<F::order, placement>(first.template at<placement>(n), second.template at<placement>(n), d.view(n),
-                                      operation);
-        return vonkOk;
-    };
     return forEachObject(
         count,
         [&](std::size_t n) VONKK3_INLINED {
-            if constexpr (looksAtAlignment<F>())
-                if (haveAlignedRows(asStored(a.view(n)), asStored(b.view(n)), d.view(n)))
-                    return combineObject.template operator()<Placement::aligned>(n);
-            return combineObject.template operator()<Placement::anywhere>(n);
+            workRows<F::order>(d.view(n), operation, first.at(n), second.at(n));
+            return vonkOk;
         },
         a, b, d);
 }
@@ -179,49 +146,52 @@ VONKK3_INLINE VonkStatus combineRuns(const A &a, const B &b, const D &d, Count c
         [&](std::size_t n) VONKK3_INLINED {
             const auto view = d.view(n);
             if constexpr (fitsRegisters<F>) {
-                workRun<F::order, Storing::atTheEnd>(objectOf(first, n), objectOf(second, n), view.base, operation);
+                workRun<F::order, Storing::atTheEnd>(view.base, operation, objectOf(first, n), objectOf(second, n));
             } else if (first.mustGoByRows(n, view.base) || second.mustGoByRows(n, view.base)) [[unlikely]] {
-                workRunByRows<F::order>(first.stored(n), second.stored(n), view.base, operation);
+                workRunByRows<F::order>(view.base, operation, first.stored(n), second.stored(n));
                 first.refresh();
                 second.refresh();
-            } else workRun<F::order, Storing::asTheyCome>(first.object(n), second.object(n), view.base, operation);
+            } else workRun<F::order, Storing::asTheyCome>(view.base, operation, first.object(n), second.object(n));
             return vonkOk;
         },
         a, b, d);
 }
 
-// Which members may meet all matrices in one go: standard arrays that are read as they lie, beside another such array
-// or a single matrix that can be repeated.
+// Which members may work all matrices as one contiguous range: standard arrays that are read as they lie, beside
+// another such array or a single matrix that can be repeated.
 template <class F>
 inline constexpr bool mayBeOneRun = F::isArray &&F::layout == Layout::Standard &&
-                                    (F::firstArray && F::secondArray
-                                         ? !F::firstTransposed && !F::secondTransposed
-                                         : F::order != 5 &&
-                                               (F::firstArray ? !F::firstTransposed : !F::secondTransposed));
+                                    (F::firstArray ? !F::firstTransposed : !F::secondTransposed) &&
+                                    (!(F::firstArray && F::secondArray) || !F::secondTransposed);
 
-// The single matrix y beside all of array x; false where that is not allowed.
+// The single matrix y beside all of array x, if nothing overlaps it.
 template <class F, class X, class Y, class D, class Operation>
-VONKK3_INLINE bool repeatSingle(const X &x, const Y &y, const D &d, std::size_t count, Operation operation) {
+VONKK3_INLINE bool repeatSingle(const X &x, const Y &y, const D &d, std::size_t count, const Operation &operation) {
     const std::size_t bytes = count * objectBytes<F::order>;
     const std::byte *const from = x.view(0).base;
     std::byte *const to = d.view(0).base;
-    if (!areOneRun<F::order>(x, d) || count < worthRepeating || runsAhead(to, from, bytes)) return false;
-    if (!isHeld<F, Y> && !disjoint(extentOf(asStored(y.view(0)), F::order, F::order), extentOf(to, bytes))) return false;
-    return RepeatedRun<F::order>(y.view(0)).work(from, to, count, operation), true;
+    const auto single = y.view(0);
+    if (count < worthCollapsing || !areOneRun<F::order>(x, d) || overwritesAhead(to, from, bytes) ||
+        !disjoint(extentOf(asStored(single), F::order, F::order), extentOf(to, bytes)))
+        return false;
+    const RepeatedObject<F::order * F::order> repeated(
+        [&](std::size_t k) VONKK3_INLINED { return single.load(k / F::order, k % F::order); });
+    return repeated.stream(operation, to, from, count), true;
 }
 
 // All matrices in one go, if they follow one another and nothing is written that is yet to be read; else false.
 template <class F, class A, class B, class D, class Operation>
-VONKK3_INLINE bool combineAsOneRun(const A &a, const B &b, const D &d, std::size_t count, Operation operation) {
-    const auto reversed = [=](__m128 x, __m128 y) VONKK3_INLINED { return operation(y, x); };
+VONKK3_INLINE bool combineAsOneRun(const A &a, const B &b, const D &d, std::size_t count, const Operation &operation) {
     if constexpr (!F::secondArray) return repeatSingle<F>(a, b, d, count, operation);
-    else if constexpr (!F::firstArray) return repeatSingle<F>(b, a, d, count, reversed);
+    else if constexpr (!F::firstArray) return repeatSingle<F>(b, a, d, count, Reversed<Operation>{operation});
     else {
         const std::size_t bytes = count * objectBytes<F::order>;
-        const std::byte *const first = a.view(0).base, *const second = b.view(0).base;
+        const ContiguousSource first{a.view(0).base}, second{b.view(0).base};
         std::byte *const to = d.view(0).base;
-        if (!areOneRun<F::order>(a, b, d) || runsAhead(to, first, bytes) || runsAhead(to, second, bytes)) return false;
-        return workStream(StoredStream{first}, StoredStream{second}, to, bytes, operation), true;
+        if (!areOneRun<F::order>(a, b, d) || overwritesAhead(to, first.base, bytes) ||
+            overwritesAhead(to, second.base, bytes))
+            return false;
+        return streamContiguous(operation, to, bytes / sizeof(Real32), first, second), true;
     }
 }
 
@@ -229,13 +199,13 @@ template <class F, class A, class B, class D, class Operation>
 VONKK3_INLINE VonkStatus combinePipelined(const A &a, const B &b, const D &d, std::size_t count, Operation operation) {
     if (areRuns<3>(a, d)) [[likely]] {
         const auto work = [second = HeldRun<3>(b.view(0)), operation](const HeldRun<3> &first, const auto &view)
-                              VONKK3_INLINED { workRun<3, Storing::atTheEnd>(first, second, view.base, operation); };
+                              VONKK3_INLINED { workRun<3, Storing::atTheEnd>(view.base, operation, first, second); };
         return pipelined(
             a, d, count, [](const auto &view) VONKK3_INLINED { return HeldRun<3>(StoredRun<3>(view.base)); }, work);
     }
     const auto work =
         [second = HeldRows<3>(rowsOf<3>(b.view(0))), operation](const HeldRows<3> &first, const auto &view)
-            VONKK3_INLINED { workRows<3, Placement::anywhere>(first, second, view, operation); };
+            VONKK3_INLINED { workRows<3>(view, operation, first, second); };
     return pipelined(
         a, d, count, [](const auto &view) VONKK3_INLINED { return HeldRows<3>(rowsOf<3>(view)); }, work);
 }
@@ -298,14 +268,16 @@ VONKK3_INLINE VonkStatus combine(const A &a, const B &b, const D &d, Columns col
     } else if constexpr (borrowsRowStride<F>)
         return combineInLanes<F>(a, Transposed{b.walkedBy(a.rowSpacing())}, d, count, operation);
     else if constexpr (worksInLanes<F>) return combineInLanes<F>(a, b, d, count, operation);
-    else
-        return forEachObject(
-            count,
-            [&](std::size_t n) VONKK3_INLINED {
-                return workElements<!Count::isArray>(d.view(n, columns), rows, columns, operation,
+    else {
+        if (streamObjects(operation, rows, columns, count, d, a, b)) return vonkOk;
+        return withColumns<Count, D>(columns, [&](auto fixedColumns) VONKK3_INLINED {
+            const auto combineObject = [&](std::size_t n) VONKK3_INLINED {
+                return workElements<!Count::isArray>(d.view(n, columns), rows, fixedColumns, operation,
                                                      viewAs<F>(a, n, rows, columns), viewAs<F>(b, n, rows, columns));
-            },
-            a, b, d);
+            };
+            return forEachObject(count, combineObject, a, b, d);
+        });
+    }
 }
 
 } // namespace vonkk3::matrix

@@ -1,8 +1,9 @@
-// Real32 matrices whose rows follow one another without gaps: a matrix is then one run of adjacent elements, and so are
-// matrices that follow one another. Runs are worked four elements at a time from front to back. That gives what going
-// row by row gives, unless the destination begins inside a source.
+// Real32 matrices whose rows follow one another without gaps: a matrix is then one contiguous range of elements. Ranges
+// are worked four elements at a time in ascending order. That gives what going row by row gives, unless the destination
+// begins inside a source.
 #pragma once
 
+#include "frame/stream.h"
 #include "matrix/rows.h"
 #include "matrix/touch.h"
 
@@ -26,12 +27,6 @@ template <std::size_t order, class... Operands> VONKK3_INLINE bool areOneRun(con
 // An operand that is known to have runs: the compiler is told the row stride.
 template <std::size_t order, class Operand> VONKK3_INLINE Operand withRuns(const Operand &operand) {
     return operand.walkedBy(rowBytes<order>);
-}
-
-// Whether what is written going forward is yet to be read: the destination begins behind the source's first byte and
-// not behind its last.
-VONKK3_INLINE bool runsAhead(const std::byte *destination, const std::byte *source, std::size_t bytes) {
-    return reinterpret_cast<std::uintptr_t>(destination) - reinterpret_cast<std::uintptr_t>(source) - 1 < bytes - 1;
 }
 
 // ---- One matrix -----------------------------------------------------------------------------------------------------
@@ -68,40 +63,29 @@ template <std::size_t order> struct HeldRun {
     VONKK3_INLINE __m128 last() const { return over; }
 };
 
-struct ConstantRun {
-    __m128 value;
-    VONKK3_INLINE explicit ConstantRun(Real32 value) : value(_mm_set1_ps(value)) {}
-    VONKK3_INLINE __m128 four(std::size_t) const { return value; }
-    VONKK3_INLINE __m128 last() const { return value; }
-};
-
 // When a run's results are stored: each as it comes, or all of them when the whole run has been worked.
 enum class Storing { asTheyCome, atTheEnd };
 
-template <std::size_t order, Storing storing, class Operation, class A, class B>
-VONKK3_INLINE void workRun(const A &a, const B &b, std::byte *d, Operation operation) {
-    constexpr std::size_t fours = runFours<order>, lastAt = fours * laneBytes;
-    if constexpr (storing == Storing::atTheEnd) {
-        __m128 results[fours];
-        forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { results[k] = operation(a.four(k), b.four(k)); });
-        if constexpr (order % 2 == 0)
-            forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { store4(d + k * laneBytes, results[k]); });
-        else {
-            const __m128 last = operation(a.last(), b.last());
-            forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { store4(d + k * laneBytes, results[k]); });
-            store1(d + lastAt, last);
-        }
-    } else {
+template <std::size_t order, Storing storing, class Operation, class... Sources>
+VONKK3_INLINE void workRun(std::byte *d, const Operation &operation, const Sources &...sources) {
+    constexpr std::size_t fours = runFours<order>;
+    if constexpr (storing == Storing::asTheyCome) {
         forEachBelow<fours>([&](std::size_t k)
-                                VONKK3_INLINED { store4(d + k * laneBytes, operation(a.four(k), b.four(k))); });
-        if constexpr (order % 2 != 0) store1(d + lastAt, operation(a.last(), b.last()));
+                                VONKK3_INLINED { store4(d + k * laneBytes, operation(sources.four(k)...)); });
+        if constexpr (order % 2 != 0) store1(d + fours * laneBytes, operation(sources.last()...));
+    } else {
+        __m128 results[fours + 1];
+        forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { results[k] = operation(sources.four(k)...); });
+        if constexpr (order % 2 != 0) results[fours] = operation(sources.last()...);
+        forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { store4(d + k * laneBytes, results[k]); });
+        if constexpr (order % 2 != 0) store1(d + fours * laneBytes, results[fours]);
     }
 }
 
 // The same row by row.
 template <std::size_t order, class Operation>
-VONKK3_APART void workRunByRows(StoredRun<order> a, StoredRun<order> b, std::byte *d, Operation operation) {
-    workRows<order, Placement::anywhere>(a, b, RowsView<Real32>(d, rowBytes<order>), operation);
+VONKK3_APART void workRunByRows(std::byte *d, Operation operation, StoredRun<order> a, StoredRun<order> b) {
+    workRows<order>(RowsView<Real32>(d, rowBytes<order>), operation, a, b);
 }
 
 // ---- One operand, object by object ----------------------------------------------------------------------------------
@@ -115,7 +99,7 @@ template <std::size_t order, class Operand> struct ArrayRuns {
     VONKK3_INLINE StoredRun<order> object(std::size_t n) const { return stored(n); }
     VONKK3_INLINE StoredRun<order> stored(std::size_t n) const { return StoredRun<order>(operand.view(n).base); }
     VONKK3_INLINE bool mustGoByRows(std::size_t n, const std::byte *d) const {
-        return runsAhead(d, operand.view(n).base, objectBytes<order>);
+        return overwritesAhead(d, operand.view(n).base, objectBytes<order>);
     }
     VONKK3_INLINE void refresh() const {}
 };
@@ -131,74 +115,6 @@ template <std::size_t order> struct SingleRun {
         return Touching(reach, reach)(d, source.base);
     }
     VONKK3_INLINE void refresh() { held = HeldRun<order>(source); }
-};
-
-// ---- Many matrices --------------------------------------------------------------------------------------------------
-
-struct StoredStream {
-    const std::byte *base;
-    VONKK3_INLINE __m128 four(std::size_t at) const { return load4(base + at); }
-    VONKK3_INLINE __m128 one(std::size_t at) const { return load1(base + at); }
-};
-
-struct ConstantStream {
-    __m128 value;
-    VONKK3_INLINE __m128 four(std::size_t) const { return value; }
-    VONKK3_INLINE __m128 one(std::size_t) const { return value; }
-};
-
-// So many bytes of whole elements, front to back.
-template <class Operation, class A, class B>
-VONKK3_APART void workStream(A a, B b, std::byte *d, std::size_t bytes, Operation operation) {
-    const std::size_t bytesInFours = bytes / laneBytes * laneBytes;
-    const auto workFour = [&](std::size_t at) VONKK3_INLINED { store4(d + at, operation(a.four(at), b.four(at))); };
-    std::size_t at = 0;
-    for (; at + 4 * laneBytes <= bytes; at += 4 * laneBytes) {
-        workFour(at), workFour(at + laneBytes);
-        workFour(at + 2 * laneBytes), workFour(at + 3 * laneBytes);
-    }
-    for (; at < bytesInFours; at += laneBytes) workFour(at);
-    for (; at < bytes; at += sizeof(Real32)) store1(d + at, operation(a.one(at), b.one(at)));
-}
-
-// A matrix that is held beside run upon run, in as many registers as bring it back to its first element: four matrices
-// of 3x3 make nine, and so does one of 6x6.
-template <std::size_t order> struct RepeatedRun {
-    static constexpr std::size_t matrices = order % 2 == 0 ? 1 : 4;
-    static constexpr std::size_t fours = matrices * order * order / 4;
-    static_assert(fours <= 9);
-    __m128 held[fours];
-
-    template <class View> VONKK3_INLINE explicit RepeatedRun(const View &view) {
-        const auto element = [&](std::size_t k) VONKK3_INLINED {
-            const std::size_t position = k % (order * order);
-            return view.load(position / order, position % order);
-        };
-        forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED {
-            held[k] = _mm_setr_ps(element(4 * k), element(4 * k + 1), element(4 * k + 2), element(4 * k + 3));
-        });
-    }
-
-    template <class Operation>
-    VONKK3_INLINE void work(const std::byte *a, std::byte *d, std::size_t count, Operation operation) const {
-        for (; count >= matrices; count -= matrices) {
-            forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED {
-                store4(d + k * laneBytes, operation(load4(a + k * laneBytes), held[k]));
-            });
-            a += fours * laneBytes;
-            d += fours * laneBytes;
-        }
-        if constexpr (matrices > 1)
-            for (; count > 0; --count) {
-                forEachBelow<runFours<order>>([&](std::size_t k) VONKK3_INLINED {
-                    store4(d + k * laneBytes, operation(load4(a + k * laneBytes), held[k]));
-                });
-                constexpr std::size_t at = runFours<order> * laneBytes;
-                store1(d + at, operation(load1(a + at), held[runFours<order>]));
-                a += objectBytes<order>;
-                d += objectBytes<order>;
-            }
-    }
 };
 
 } // namespace vonkk3::matrix

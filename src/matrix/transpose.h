@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/walk.h"
+#include "matrix/elements.h"
 #include "matrix/rows.h"
 #include "matrix/runs.h"
 
@@ -24,19 +25,22 @@ template <class Columns> inline constexpr bool storesBeforeItHasRead = Columns::
 // ---- One object -----------------------------------------------------------------------------------------------------
 
 // Along the rows of the source; an element is read when its turn comes.
-template <bool testsEntries, class A, class D>
-VONKK3_INLINE VonkStatus transposeElements(const A &a, const D &d, std::size_t columns, std::size_t rows) {
-    for (std::size_t i = 0; i < rows; ++i)
-        for (std::size_t j = 0; j < columns; ++j) {
-            if (testsEntries && (a.hasNullEntry(i, j) || d.hasNullEntry(j, i))) return vonkErrNullPtr;
+template <bool testsEntries, class A, class D, class Columns>
+VONKK3_INLINE VonkStatus transposeElements(const A &a, const D &d, Columns columns, std::size_t rows) {
+    for (std::size_t i = 0; i < rows; ++i) {
+        const bool noneIsNull = everyIndex(0, columns, columns, [&](std::size_t j) VONKK3_INLINED {
+            if (testsEntries && (a.hasNullEntry(i, j) || d.hasNullEntry(j, i))) return false;
             d.store(j, i, a.load(i, j));
-        }
+            return true;
+        });
+        if (!noneIsNull) return vonkErrNullPtr;
+    }
     return vonkOk;
 }
 
 // The same for rows of adjacent elements that something keeps from being turned round in registers.
 template <std::size_t order> VONKK3_APART void transposeInMemory(RowsView<const Real32> a, RowsView<Real32> d) {
-    transposeElements<false>(a, d, order, order);
+    transposeElements<false>(a, d, fixed<order>, order);
 }
 
 // ---- One object in registers: all of it is read before any of it is written -----------------------------------------
@@ -149,14 +153,16 @@ VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, RowCount rows, c
                                                     count);
         return transposeInLanes<Rows::anywhere>(a, d, columns, count);
     } else {
+        if (!D::isTable || columns == rows)
+            if (streamObjects(Moved(), columns, rows, count, d, Transposed{a})) return vonkOk;
         const TableRowLengths lengths(columns, rows);
-        return forEachObject(
-            count,
-            [&](std::size_t n) VONKK3_INLINED {
+        return withColumns<Count, D>(columns, [&](auto fixedColumns) VONKK3_INLINED {
+            const auto transposeObject = [&](std::size_t n) VONKK3_INLINED {
                 return transposeElements<!Count::isArray>(a.view(n, lengths.source), d.view(n, lengths.destination),
-                                                          columns, rows);
-            },
-            a, d);
+                                                          fixedColumns, rows);
+            };
+            return forEachObject(count, transposeObject, a, d);
+        });
     }
 }
 

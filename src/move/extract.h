@@ -2,12 +2,13 @@
 // tables are never tested.
 #pragma once
 
+#include "frame/stream.h"
 #include "frame/walk.h"
 #include "move/moved.h"
 
 namespace vonkk3::move {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // Two pairs of names stand for one function each, and that is settled where names are made: vonkExtract_va_*_S2 is
 // vonkExtract_m_*_S2, and vonkExtract_maT_*_PS2 is vonkExtract_ma_*_PS2, so that it does not transpose.
@@ -27,25 +28,26 @@ template <bool isTransposed> inline bool isEmptyTable(RunTime cols, RunTime rows
 // the table points, its shift is never added.
 template <class Source> inline constexpr bool isTransposedTable = Source::isTransposed &&Source::isTable;
 
-template <class Source> inline auto matrixOf(const Source &src, std::size_t n, std::size_t cols) {
-    auto view = src.view(n, cols);
-    if constexpr (isTransposedTable<Source>) view.stored.offset = 0;
-    return view;
-}
-
-// The dense block while it is filled.
-template <class T> class Block {
-public:
-    explicit Block(T *first) : first(first) {}
-    void append(T element) { storeAt(shifted(first, sizeof(T) * filled++), moved(element)); }
-
-private:
-    T *first;
-    std::size_t filled = 0;
-};
-template <class T> Block(T *) -> Block<T>;
-
 // ---- All objects ----------------------------------------------------------------------------------------------------
+
+// `rows` by `columns` of the result. A table has rows of `tableColumns` entries.
+template <class Source, class T, class Count>
+VONKK3_INLINE VonkStatus extractObjects(const Source &src, T *dst, RunTime rows, RunTime columns, RunTime tableColumns,
+                                        Count count) {
+    if (streamPacked(Moved(), rows, columns, count, dst, src)) return vonkOk;
+    withFixedColumns<T>(columns, [&](auto fixedColumns) {
+        std::byte *row = reinterpret_cast<std::byte *>(dst);
+        for (std::size_t n = 0; n < count; ++n) {
+            auto object = src.view(n, tableColumns);
+            if constexpr (isTransposedTable<Source>) object.stored.offset = 0;
+            for (std::size_t i = 0; i < rows; ++i, row += columns * sizeof(T))
+                forIndices(0, fixedColumns, fixedColumns, [&](std::size_t j) VONKK3_INLINED {
+                    storeAt(row + j * sizeof(T), moved(object.load(i, j)));
+                });
+        }
+    });
+    return vonkOk;
+}
 
 template <class Source, class T, class Count>
 VONKK3_INLINE VonkStatus extract(const Source &src, T *dst, RunTime len, Count count) {
@@ -53,12 +55,7 @@ VONKK3_INLINE VonkStatus extract(const Source &src, T *dst, RunTime len, Count c
         if (anyNull(src, dst)) return vonkErrNullPtr;
         if (len.isZero() || count == 0) return vonkErrSize;
     }
-    Block block(dst);
-    for (std::size_t n = 0; n < count; ++n) {
-        const auto vector = src.view(n);
-        for (std::size_t j = 0; j < len; ++j) block.append(vector.load(j));
-    }
-    return vonkOk;
+    return extractObjects(src, dst, RunTime{1}, len, len, count);
 }
 
 template <class Source, class T, class Count>
@@ -69,15 +66,8 @@ VONKK3_INLINE VonkStatus extract(const Source &src, T *dst, RunTime cols, RunTim
         if (anyNull(src, dst)) return vonkErrNullPtr;
         if (cols.isZero() || rows.isZero() || count == 0) return vonkErrSize;
     }
-    const std::size_t rowsOfResult = isTransposedTable<Source> ? cols : rows;
-    const std::size_t columnsOfResult = isTransposedTable<Source> ? rows : cols;
-    Block block(dst);
-    for (std::size_t n = 0; n < count; ++n) {
-        const auto matrix = matrixOf(src, n, cols);
-        for (std::size_t i = 0; i < rowsOfResult; ++i)
-            for (std::size_t j = 0; j < columnsOfResult; ++j) block.append(matrix.load(i, j));
-    }
-    return vonkOk;
+    if constexpr (isTransposedTable<Source>) return extractObjects(src, dst, cols, rows, cols, count);
+    else return extractObjects(src, dst, rows, cols, cols, count);
 }
 
 } // namespace vonkk3::move

@@ -1,6 +1,5 @@
-// The walks over long Real32 vectors of adjacent elements: blocks of eight in four-lane registers, and a plain forward
-// loop for whatever blocks cannot do. Vectors that are combined give the same results by either, element for element;
-// a sum over elements is grouped by lanes in blocks, and so is the order of its roundings.
+// Sums over the elements of long contiguous Real32 vectors: blocks of eight in four-lane registers, and a plain forward
+// loop for whatever blocks cannot do. In blocks a sum is grouped by lanes, and so is the order of its roundings.
 #pragma once
 
 #include "frame/lanes.h"
@@ -19,10 +18,6 @@ inline constexpr std::size_t prefetchDistance = 64; // bytes ahead of the block'
 // the place of two loads a block, cost a quarter of the speed.
 inline constexpr std::size_t prefetchThreshold = 4096;
 
-// Where the hints of a block stand: all ahead of its first half, or one ahead of each half.
-enum class Prefetch { atHead, inHalves };
-template <class Operation> inline constexpr Prefetch prefetchOf = Prefetch::atHead;
-
 inline std::size_t pastBoundary(const std::byte *address) {
     return reinterpret_cast<std::uintptr_t>(address) % laneBytes;
 }
@@ -31,68 +26,6 @@ inline std::size_t pastBoundary(const std::byte *address) {
 inline std::size_t elementsToBoundary(const std::byte *address) {
     return (laneBytes - pastBoundary(address)) % laneBytes / sizeof(Real32);
 }
-
-// Whether two runs of as many bytes share any; equal addresses count as sharing.
-inline bool overlap(const std::byte *a, const std::byte *b, std::size_t bytes) {
-    const auto first = reinterpret_cast<std::uintptr_t>(a);
-    const auto second = reinterpret_cast<std::uintptr_t>(b);
-    return first < second + bytes && second < first + bytes;
-}
-
-// ---- Element by element into a destination --------------------------------------------------------------------------
-
-// Only where there may be many elements is it worth the compiler's while to look for lanes in the plain loop.
-enum class Many { yes, no };
-
-// The plain loop, over elements [from, to). A destination that runs ahead of a source sees elements already written.
-template <Many many, class Operation, class... Sources>
-inline void walkElements(const Operation &operation, std::byte *d, std::size_t from, std::size_t to,
-                         Sources... sources) {
-    for (std::size_t j = from; j < to; ++j) {
-        if constexpr (many == Many::no) keepLoopPlain();
-        const std::size_t at = j * sizeof(Real32);
-        storeAt<Real32>(d + at, operation(loadAt<Real32>(sources + at)...));
-    }
-}
-
-// Blocks from `from` on as long as whole ones remain; returns the first element that they leave. The destination is
-// aligned to 16 bytes here, the last source only if the template says so, another one is never expected to be.
-template <Alignment ofLast, class Operation, class... Others>
-inline std::size_t walkWholeBlocks(const Operation &operation, std::byte *d, std::size_t from, std::size_t length,
-                                   const std::byte *last, Others... others) {
-    const std::size_t end = from + (length - from) / blockElements * blockElements;
-    for (std::size_t at = from * sizeof(Real32); at < end * sizeof(Real32); at += blockBytes) {
-        const std::size_t half = at + laneBytes;
-        const bool far = length >= prefetchThreshold;
-        if (far) prefetchOnce(last + at + prefetchDistance);
-        if (far && prefetchOf<Operation> == Prefetch::atHead) (prefetchOnce(others + at + prefetchDistance), ...);
-        store4Aligned(d + at, operation(load4(others + at)..., load4<ofLast>(last + at)));
-        if (far && prefetchOf<Operation> == Prefetch::inHalves) (prefetchOnce(others + at + prefetchDistance), ...);
-        store4Aligned(d + half, operation(load4(others + half)..., load4<ofLast>(last + half)));
-    }
-    return end;
-}
-
-// d(j) = operation(others(j)..., last(j)) for j below `length`. Blocks are for destinations that overlap no source
-// anywhere and can be brought to a 16-byte boundary by whole elements; of the sources' alignments only the last one's
-// is looked at, so there are two inner loops and not four.
-template <class Operation, class... Others>
-inline void walkBlocks(const Operation &operation, std::byte *d, std::size_t length, const std::byte *last,
-                       Others... others) {
-    const std::size_t bytes = length * sizeof(Real32);
-    if (length < blockThreshold || overlap(last, d, bytes) || (overlap(others, d, bytes) || ...) ||
-        pastBoundary(d) % sizeof(Real32) != 0)
-        return walkElements<Many::yes>(operation, d, 0, length, others..., last);
-
-    const std::size_t peeled = elementsToBoundary(d);
-    walkElements<Many::no>(operation, d, 0, peeled, others..., last);
-    const std::size_t done = isAligned(last + peeled * sizeof(Real32))
-                                 ? walkWholeBlocks<Alignment::lanes>(operation, d, peeled, length, last, others...)
-                                 : walkWholeBlocks<Alignment::any>(operation, d, peeled, length, last, others...);
-    walkElements<Many::no>(operation, d, done, length, others..., last);
-}
-
-// ---- Sums over elements ---------------------------------------------------------------------------------------------
 
 // The sum of term(sources(j)...) for j below `length`, from +0. In blocks it runs in eight lanes, two registers of
 // four, so its roundings depend on the length and on the alignment of the last source, by design: that source is

@@ -2,9 +2,8 @@
 // two, each a single vector or an array. One store per element, objects and elements in ascending order.
 #pragma once
 
-#include "frame/lanes.h"
+#include "frame/stream.h"
 #include "frame/walk.h"
-#include "vector/block_walk.h"
 
 namespace vonkk3::vector {
 
@@ -18,9 +17,6 @@ template <class Length, class D, class... Sources> struct Form {
     static constexpr std::size_t length = Length::value;
     static constexpr bool isFixed = Length::isFixed;
 };
-
-// Only run-time forms of single Real32 vectors of adjacent elements are built for length.
-template <class F> inline constexpr bool walksInBlocks = F::isReal32 && !F::isFixed && F::isStandard && !F::isArray;
 
 // Real32 of fixed size works whole vectors in lanes where elements are adjacent. The exception is 3x1 with a single
 // vector for all objects, which is worked element by element.
@@ -37,18 +33,18 @@ template <class F> inline constexpr bool holdsSingleVector = F::isReal32 &&F::is
 template <bool testsEntries, class Operation, class Length, class D, class... Sources>
 inline VonkStatus combineElements(const Operation &operation, Length length, const D &d, const Sources &...sources) {
     using T = typename D::Element;
-    for (std::size_t j = 0; j < length; ++j) {
+    const bool noneIsNull = everyIndex(0, length, length, [&](std::size_t j) VONKK3_INLINED {
         if constexpr (testsEntries)
-            if ((sources.hasNullEntry(j) || ...) || d.hasNullEntry(j)) return vonkErrNullPtr;
+            if ((sources.hasNullEntry(j) || ...) || d.hasNullEntry(j)) return false;
         d.store(j, round<T>(operation(Working<T>(sources.load(j))...)));
-    }
-    return vonkOk;
+        return true;
+    });
+    return noneIsNull ? vonkOk : vonkErrNullPtr;
 }
 
 // A vector of 3 to 6 elements is loaded whole before any of it is stored.
-template <class Operation, std::size_t length, Alignment alignment, class... Others>
-inline Lanes<length, alignment> combineLanes(const Operation &operation, const Lanes<length, alignment> &first,
-                                             const Others &...others) {
+template <class Operation, std::size_t length, class... Others>
+inline Lanes<length> combineLanes(const Operation &operation, const Lanes<length> &first, const Others &...others) {
     if constexpr (length <= 4) return {operation(first.head, others.head...), first.tail};
     else return {operation(first.head, others.head...), operation(first.tail, others.tail...)};
 }
@@ -56,8 +52,8 @@ inline Lanes<length, alignment> combineLanes(const Operation &operation, const L
 // ---- What hands out a source of object n ----------------------------------------------------------------------------
 
 // As lanes, or as something with load(j): an array's from memory, a single vector's taken out of memory once, here.
-template <std::size_t length, Alignment alignment, class Source> inline auto lanesOf(const Source &source) {
-    const auto load = [source](std::size_t n) { return Lanes<length, alignment>::load(source.view(n).base); };
+template <std::size_t length, class Source> inline auto lanesOf(const Source &source) {
+    const auto load = [source](std::size_t n) { return Lanes<length>::load(source.view(n).base); };
     if constexpr (Source::isArray) return load;
     else return [held = load(0)](std::size_t) { return held; };
 }
@@ -75,29 +71,20 @@ template <std::size_t length, class Source> inline auto elementsOf(const Source 
     else return [held = HeldElements<length>(source.view(0))](std::size_t) { return held; };
 }
 
-// ---- All objects ----------------------------------------------------------------------------------------------------
+// ---- The plain path ----------------------------------------------------------------------------------------------
 
-template <Alignment alignment, class Operation, std::size_t length, class Count, class D, class... Sources>
+template <class Operation, std::size_t length, class Count, class D, class... Sources>
 VONKK3_INLINE VonkStatus combineInLanes(const Operation &operation, Fixed<length>, Count count, const D &d,
                                         const Sources &...sources) {
     const auto walk = [&](const auto &...lanes) VONKK3_INLINED {
         const auto combineObject = [&](std::size_t n) { combineLanes(operation, lanes(n)...).store(d.view(n).base); };
         return forEachLightObject(count, combineObject, sources..., d);
     };
-    return walk(lanesOf<length, alignment>(sources)...);
+    return walk(lanesOf<length>(sources)...);
 }
 
-// The same for arrays alone, which are equally spaced more often than not.
-template <Alignment alignment, class Operation, class Size, class D, class First, class... Others>
-VONKK3_INLINE VonkStatus combineArraysInLanes(const Operation &operation, Size size, Objects count, const D &d,
-                                              const First &first, const Others &...others) {
-    if (equallySpaced(first, others..., d))
-        return combineInLanes<alignment>(operation, size, count, d.spacedAs(first), first, others.spacedAs(first)...);
-    return combineInLanes<alignment>(operation, size, count, d, first, others...);
-}
-
-template <class Operation, std::size_t length, class Count, class D, class... Sources>
-VONKK3_INLINE VonkStatus combineHeld(const Operation &operation, Fixed<length> size, Count count, const D &d,
+template <class Operation, std::size_t length, class D, class... Sources>
+VONKK3_INLINE VonkStatus combineHeld(const Operation &operation, Fixed<length> size, Objects count, const D &d,
                                      const Sources &...sources) {
     const auto walk = [&](const auto &...vectors) VONKK3_INLINED {
         const auto combineObject = [&](std::size_t n) {
@@ -112,11 +99,68 @@ VONKK3_INLINE VonkStatus combineHeld(const Operation &operation, Fixed<length> s
 template <class Operation, class Length, class Count, class D, class... Sources>
 VONKK3_INLINE VonkStatus combineAnew(const Operation &operation, Length length, Count count, const D &d,
                                      const Sources &...sources) {
-    const auto combineObject = [&](std::size_t n) {
-        return combineElements<!Count::isArray>(operation, length, d.view(n), sources.view(n)...);
+    const auto walk = [&](auto fixedLength) VONKK3_INLINED {
+        const auto combineObject = [&](std::size_t n) {
+            return combineElements<!Count::isArray>(operation, fixedLength, d.view(n), sources.view(n)...);
+        };
+        return forEachObject(count, combineObject, sources..., d);
     };
-    return forEachObject(count, combineObject, sources..., d);
+    if constexpr (Count::isArray) return withFixedColumns<typename D::Element>(length, walk);
+    else return walk(length);
 }
+
+// ---- The fast paths -------------------------------------------------------------------------------------------------
+
+// Whether vector follows vector without a gap. A single one does.
+template <class... Operands> VONKK3_INLINE bool arePacked(std::size_t length, const Operands &...operands) {
+    const auto bytes = std::ptrdiff_t(length * sizeof(Real32));
+    return ((!Operands::isArray || operands.objectSpacing() == bytes) && ...);
+}
+
+// All vectors as one contiguous range, if they are one and nothing is written that is yet to be read; else false.
+template <class Operation, class D, class... Sources>
+VONKK3_INLINE bool combineAsOneRange(const Operation &operation, std::size_t length, std::size_t count, const D &d,
+                                     const Sources &...sources) {
+    const std::size_t elements = length * count;
+    std::byte *const to = d.view(0).base;
+    if (!arePacked(length, sources..., d) ||
+        (overwritesAhead(to, sources.view(0).base, elements * sizeof(Real32)) || ...))
+        return false;
+    return streamContiguous(operation, to, elements, ContiguousSource{sources.view(0).base}...), true;
+}
+
+// A single vector beside packed ones, if nothing overlaps it.
+template <std::size_t length, class Operation, class D, class A, class B>
+VONKK3_INLINE bool combineRepeated(const Operation &operation, std::size_t count, const D &d, const A &a, const B &b) {
+    if constexpr (!A::isArray) return combineRepeated<length>(Reversed<Operation>{operation}, count, d, b, a);
+    else {
+        const std::size_t bytes = count * length * sizeof(Real32);
+        const auto single = b.view(0);
+        const auto array = a.view(0);
+        const auto result = d.view(0);
+        if (!arePacked(length, a, d) || overwritesAhead(result.base, array.base, bytes) ||
+            !disjoint(extentOf(single, 1, length), extentOf(result.base, bytes)))
+            return false;
+        const RepeatedObject<length> repeated([&](std::size_t j) VONKK3_INLINED { return single.load(j); });
+        return repeated.stream(operation, result.base, array.base, count), true;
+    }
+}
+
+// Whether all objects are done.
+template <class Operation, class Length, class Count, class D, class... Sources>
+VONKK3_INLINE bool combineFast(const Operation &operation, Length length, Count count, const D &d,
+                               const Sources &...sources) {
+    using F = Form<Length, D, Sources...>;
+    if (F::isFixed && count < worthCollapsing) return false;
+    if constexpr (F::isReal32 && F::isStandard && !F::sharesOne && (F::isArray || !F::isFixed))
+        if (combineAsOneRange(operation, length, count, d, sources...)) return true;
+    if constexpr (F::isReal32 && F::isStandard && F::sharesOne && F::isFixed)
+        return combineRepeated<F::length>(operation, count, d, sources...);
+    else if constexpr (worksInLanes<F>) return false;
+    else return streamObjects(operation, 1, length, count, d, sources...);
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
 
 // What the checks say before any work: a failure, or vonkOk with `count` still to be tested.
 template <class Length, class Count, class D, class... Sources>
@@ -128,28 +172,14 @@ VONKK3_INLINE VonkStatus check(Length length, Count, const D &d, const Sources &
     return vonkOk;
 }
 
-// The blocks look at the alignment of the last source, and so get it first.
-template <class Operation, class D, class Source>
-inline VonkStatus combineInBlocks(const Operation &operation, std::size_t length, const D &d, const Source &source) {
-    return walkBlocks(operation, d.view(0).base, length, source.view(0).base), vonkOk;
-}
-
-template <class Operation, class D, class A, class B>
-inline VonkStatus combineInBlocks(const Operation &operation, std::size_t length, const D &d, const A &a, const B &b) {
-    return walkBlocks(operation, d.view(0).base, length, b.view(0).base, a.view(0).base), vonkOk;
-}
-
-// The work behind the checks, by the way that suits the form. Where vectors are moved four elements at once, alignment
-// says by which instructions; it changes no result.
-template <Alignment alignment = Alignment::any, class Operation, class Length, class Count, class D, class... Sources>
+// The work after the checks, by the path that suits the form.
+template <class Operation, class Length, class Count, class D, class... Sources>
 VONKK3_INLINE VonkStatus combineObjects(const Operation &operation, Length length, Count count, const D &d,
                                         const Sources &...sources) {
     using F = Form<Length, D, Sources...>;
     if (count == 0) return vonkOk; // nothing is read, not even a single vector
-    if constexpr (walksInBlocks<F>) return combineInBlocks(operation, length, d, sources...);
-    else if constexpr (worksInLanes<F> && F::isStandard && F::isArray && !F::sharesOne)
-        return combineArraysInLanes<alignment>(operation, length, count, d, sources...);
-    else if constexpr (worksInLanes<F>) return combineInLanes<alignment>(operation, length, count, d, sources...);
+    if (combineFast(operation, length, count, d, sources...)) return vonkOk;
+    if constexpr (worksInLanes<F>) return combineInLanes(operation, length, count, d, sources...);
     else if constexpr (holdsSingleVector<F>) return combineHeld(operation, length, count, d, sources...);
     else return combineAnew(operation, length, count, d, sources...);
 }

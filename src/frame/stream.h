@@ -1,0 +1,339 @@
+// The fast path of all that goes element by element, d(n, i, j) = operation(sources(n, i, j)...), for arrays of Real32.
+// Where no overlap shows the order of objects and elements, dimensions that are contiguous in all operands collapse
+// into long ranges, worked four elements at a time, and other loops are interchanged, so that the innermost is the long
+// one, over objects. Exactly the bytes of the elements are read and written.
+#pragma once
+
+#include "frame/aliasing.h"
+#include "frame/lanes.h"
+#include "frame/straight.h"
+
+#include <concepts>
+
+namespace vonkk3 {
+
+// What is done with the elements of the sources, as numbers and in lanes.
+template <class Operation, class... Sources>
+concept ElementOperation = requires(const Operation &operation, const Sources &...sources) {
+    { operation(sources.one(0)...) } -> std::convertible_to<Real32>;
+    { _mm_cvtss_f32(operation(sources.four(0)...)) } -> std::same_as<Real32>;
+};
+
+// A constant of a call: as it is worked with, and for Real32 in all lanes.
+template <class T> struct Constant {
+    T value;
+    explicit Constant(T value) : value(value) {}
+    operator Working<T>() const { return value; }
+};
+template <> struct Constant<Real32> {
+    __m128 lanes;
+    explicit Constant(Real32 value) : lanes(_mm_set1_ps(value)) {}
+    operator Real32() const { return _mm_cvtss_f32(lanes); }
+};
+
+// An operation with a constant as its second operand.
+template <class T, class Operation> struct WithConstant {
+    Constant<T> constant;
+    Working<T> operator()(Working<T> a) const { return Operation()(a, Working<T>(constant)); }
+    __m128 operator()(__m128 a) const { return Operation()(a, constant.lanes); }
+};
+
+struct Product {
+    template <class Real> Real operator()(Real a, Real b) const { return a * b; }
+    __m128 operator()(__m128 a, __m128 b) const { return _mm_mul_ps(a, b); }
+};
+
+// Every bit stays.
+struct Moved {
+    template <class Value> Value operator()(Value a) const { return a; }
+};
+
+// ---- One contiguous range -------------------------------------------------------------------------------------------
+
+// A source of a contiguous range of results: as long as they are, or one element beside all of them. `at` is in bytes.
+struct ContiguousSource {
+    const std::byte *base;
+    VONKK3_INLINE Real32 one(std::size_t at) const { return loadAt<Real32>(base + at); }
+    VONKK3_INLINE __m128 four(std::size_t at) const { return load4(base + at); }
+};
+
+struct BroadcastSource {
+    __m128 value;
+    VONKK3_INLINE explicit BroadcastSource(const std::byte *address) : value(_mm_set1_ps(loadAt<Real32>(address))) {}
+    VONKK3_INLINE Real32 one(std::size_t) const { return _mm_cvtss_f32(value); }
+    VONKK3_INLINE __m128 four(std::size_t) const { return value; }
+};
+
+// Whether results that are written in ascending order overwrite what is yet to be read: they begin after the source's
+// first byte and before its last.
+VONKK3_INLINE bool overwritesAhead(const std::byte *d, const std::byte *source, std::size_t bytes) {
+    return reinterpret_cast<std::uintptr_t>(d) - reinterpret_cast<std::uintptr_t>(source) - 1 < bytes - 1;
+}
+
+// Fewer objects of a fixed size are done before their range is set up, or a single one is repeated beside it.
+inline constexpr std::size_t worthCollapsing = 8;
+
+// In ascending order, nothing is read later than element by element: a destination may begin before a source. Stores
+// are kept between the loads: in bursts they take twice the time where the data is not in the first-level cache.
+template <class Operation, class... Sources>
+requires ElementOperation<Operation, Sources...> VONKK3_APART void
+streamContiguous(const Operation &shared, std::byte *d, std::size_t elements, Sources... sources) {
+    const Operation operation = shared; // a local copy stays in registers
+    const std::size_t bytes = elements * sizeof(Real32);
+    const auto four = [&](std::size_t at) VONKK3_INLINED {
+        store4(d + at, operation(sources.four(at)...));
+        keepLoopPlain();
+    };
+    std::size_t at = 0;
+    for (; bytes - at >= 4 * laneBytes; at += 4 * laneBytes)
+        four(at), four(at + laneBytes), four(at + 2 * laneBytes), four(at + 3 * laneBytes);
+    for (; bytes - at >= laneBytes; at += laneBytes) four(at);
+    for (; at < bytes; at += sizeof(Real32)) {
+        keepLoopPlain();
+        storeAt<Real32>(d + at, operation(sources.one(at)...));
+    }
+}
+
+// ---- A single object beside packed objects --------------------------------------------------------------------------
+
+// An operation whose sources are given the other way round.
+template <class Operation> struct Reversed {
+    Operation operation;
+    __m128 operator()(__m128 a, __m128 b) const { return operation(b, a); }
+};
+
+// So many copies of an object of `period` elements fill whole registers.
+template <std::size_t period>
+inline constexpr std::size_t copiesToRegister = period % 4 == 0   ? 1
+                                                : period % 2 == 0 ? 2
+                                                                  : 4;
+
+// A single object, repeated until its elements are back at the lanes where they began.
+template <std::size_t period> class RepeatedObject {
+public:
+    static constexpr std::size_t objects = copiesToRegister<period>;
+    static constexpr std::size_t fours = objects * period / 4;
+    static constexpr std::size_t bytes = fours * laneBytes;
+
+    // element(k) is element k of the object, in row-major order.
+    template <class Elements> VONKK3_INLINE explicit RepeatedObject(const Elements &element) {
+        forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED {
+            held[k] = _mm_setr_ps(element(4 * k % period), element((4 * k + 1) % period), element((4 * k + 2) % period),
+                                  element((4 * k + 3) % period));
+        });
+    }
+
+    // d = operation(a, object) for all objects, in ascending order.
+    template <class Operation>
+    VONKK3_INLINE void stream(const Operation &operation, std::byte *d, const std::byte *a, std::size_t count) const {
+        for (; count >= objects; count -= objects, a += bytes, d += bytes)
+            forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { four(operation, d, a, k); });
+        if constexpr (objects > 1)
+            for (; count > 0; --count, a += period * sizeof(Real32), d += period * sizeof(Real32)) one(operation, d, a);
+    }
+
+private:
+    __m128 held[fours];
+
+    template <class Operation>
+    VONKK3_INLINE void four(const Operation &operation, std::byte *d, const std::byte *a, std::size_t k) const {
+        store4(d + k * laneBytes, operation(load4(a + k * laneBytes), held[k]));
+    }
+    template <class Operation>
+    VONKK3_INLINE void one(const Operation &operation, std::byte *d, const std::byte *a) const {
+        constexpr std::size_t whole = period / 4, over = period % 4, at = whole * laneBytes;
+        forEachBelow<whole>([&](std::size_t k) VONKK3_INLINED { four(operation, d, a, k); });
+        if constexpr (over == 1) store1(d + at, operation(load1(a + at), held[whole]));
+        if constexpr (over == 2) store2(d + at, operation(load2(a + at), held[whole]));
+        if constexpr (over == 3) {
+            const __m128 result = operation(_mm_movelh_ps(load2(a + at), load1(a + at + 8)), held[whole]);
+            store2(d + at, result);
+            store1(d + at + 8, _mm_movehl_ps(result, result));
+        }
+    }
+};
+
+// ---- One position of many objects -----------------------------------------------------------------------------------
+
+// An element of object after object, a stride apart. The second stride is hidden from the compiler, which would take
+// care of a stride of one byte, and else step from element to element, one waiting for the other.
+template <class Byte> struct StridedElements {
+    Byte *first;
+    std::ptrdiff_t stride, twice;
+
+    VONKK3_INLINE StridedElements(Byte *first, std::ptrdiff_t stride)
+        : first(first), stride(stride), twice(2 * stride) {
+        __asm__("" : "+r"(twice));
+    }
+    VONKK3_INLINE Byte *second() const { return first + stride; }
+    VONKK3_INLINE void advanceByTwo() { first += twice; }
+};
+
+template <class Operation, class... Sources>
+VONKK3_INLINE void streamStrided(const Operation &operation, std::size_t objects, StridedElements<std::byte> d,
+                                 Sources... sources) {
+    for (; objects >= 2; objects -= 2) {
+        storeAt<Real32>(d.first, operation(loadAt<Real32>(sources.first)...));
+        keepLoopPlain();
+        storeAt<Real32>(d.second(), operation(loadAt<Real32>(sources.second())...));
+        keepLoopPlain();
+        d.advanceByTwo(), (sources.advanceByTwo(), ...);
+    }
+    if (objects != 0) storeAt<Real32>(d.first, operation(loadAt<Real32>(sources.first)...));
+}
+
+// A source at the position; contiguous over the objects, or single.
+struct PositionSource {
+    const std::byte *address;
+    bool isArray;
+};
+
+template <class Operation>
+VONKK3_INLINE void streamPosition(const Operation &operation, std::byte *d, std::size_t objects,
+                                  const PositionSource &a) {
+    streamContiguous(operation, d, objects, ContiguousSource{a.address});
+}
+
+template <class Operation>
+VONKK3_INLINE void streamPosition(const Operation &operation, std::byte *d, std::size_t objects,
+                                  const PositionSource &a, const PositionSource &b) {
+    const ContiguousSource first{a.address}, second{b.address};
+    if (!a.isArray) streamContiguous(operation, d, objects, BroadcastSource(a.address), second);
+    else if (!b.isArray) streamContiguous(operation, d, objects, first, BroadcastSource(b.address));
+    else streamContiguous(operation, d, objects, first, second);
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+// Where positions share cache lines, so many objects are worked at one of them before the next one's turn as stay in
+// the first-level cache.
+inline constexpr std::size_t bytesPerBlock = 1 << 13;
+inline std::size_t objectsPerBlock(const ObjectsView &d) {
+    const std::size_t objects = bytesPerBlock / (magnitudeOf(d.objectStride) | 1);
+    return objects < 16 ? 16 : objects;
+}
+
+// Ranges that are too short for a loop of their own.
+inline constexpr std::size_t leastRange = 12;
+
+inline const std::byte *sourceAt(const ObjectsView &view, std::size_t i, std::size_t j, std::size_t n) {
+    return reinterpret_cast<const std::byte *>(view.addressOf(i, j) + std::uintptr_t(strides(n, view.objectStride)));
+}
+inline std::byte *targetAt(const ObjectsView &view, std::size_t i, std::size_t j, std::size_t n) {
+    return const_cast<std::byte *>(sourceAt(view, i, j, n));
+}
+
+// The range that is contiguous in all operands: elements of a row, or of so many rows, or of all objects.
+struct CommonRange {
+    std::size_t elements, rows, objects;
+
+    template <class... Views> VONKK3_INLINE explicit CommonRange(const ObjectsView &d, const Views &...sources) {
+        const auto all = [&](const auto &test) VONKK3_INLINED { return test(d) && (test(sources) && ...); };
+        elements = rows = objects = 1;
+        if (!all([](const ObjectsView &view) { return view.hasContiguousRows(); })) return;
+        elements = d.columns;
+        const auto step = [&] { return std::ptrdiff_t(elements * sizeof(Real32)); };
+        if (d.rows > 1 && !all([&](const ObjectsView &view) { return view.rowStride == step(); })) return;
+        elements *= rows = d.rows;
+        if (!all([&](const ObjectsView &view) { return view.objectStride == step(); })) return;
+        elements *= objects = d.count;
+    }
+};
+
+template <class Operation, class... Views>
+VONKK3_INLINE void streamRanges(const Operation &operation, const CommonRange &range, const ObjectsView &d,
+                                const Views &...sources) {
+    for (std::size_t n = 0; n < d.count; n += range.objects)
+        for (std::size_t i = 0; i < d.rows; i += range.rows)
+            streamPosition(operation, targetAt(d, i, 0, n), range.elements,
+                           PositionSource{sourceAt(sources, i, 0, n), true}...);
+}
+
+template <class Operation, class... Views>
+VONKK3_INLINE void streamPositions(const Operation &operation, const ObjectsView &d, const Views &...sources) {
+    const auto isContiguous = [](const ObjectsView &view) {
+        return !view.isArray || view.objectStride == std::ptrdiff_t(sizeof(Real32));
+    };
+    const bool areContiguous = isContiguous(d) && (isContiguous(sources) && ...);
+    const std::size_t block = areContiguous ? d.count : objectsPerBlock(d);
+    for (std::size_t n = 0; n < d.count; n += block) {
+        const std::size_t objects = d.count - n < block ? d.count - n : block;
+        for (std::size_t i = 0; i < d.rows; ++i)
+            for (std::size_t j = 0; j < d.columns; ++j) {
+                std::byte *const target = targetAt(d, i, j, n);
+                if (areContiguous)
+                    streamPosition(operation, target, objects,
+                                   PositionSource{sourceAt(sources, i, j, n), sources.isArray}...);
+                else
+                    streamStrided(
+                        operation, objects, StridedElements<std::byte>{target, d.objectStride},
+                        StridedElements<const std::byte>{sourceAt(sources, i, j, n), sources.objectStride}...);
+            }
+    }
+}
+
+// All objects of arrays that are not lists; false, with nothing done, where overlap might show the order, or where
+// neither long ranges nor tables make it worth it.
+template <class Operation, class... Views>
+VONKK3_APART bool stream(const Operation &shared, const ObjectsView &d, const Views &...sources) {
+    const Operation operation = shared; // a local copy stays in registers
+    const CommonRange range(d, sources...);
+    if (range.elements < leastRange && !(d.isTable() || ... || sources.isTable())) return false;
+    const Aliasing aliasing(d.count, writes(d), readsInPlace(sources)...);
+    if (!aliasing.allowsBatch(0, d.count)) return false;
+    if (range.elements >= leastRange) streamRanges(operation, range, d, sources...);
+    else streamPositions(operation, d, sources...);
+    return true;
+}
+
+// Fewer objects are done before the alias test is answered and the first position is set up. Positions gain more where
+// they are contiguous.
+template <class Operand> VONKK3_INLINE bool isWorthStreaming(const Operand &operand, std::size_t count) {
+    if constexpr (!Operand::isTable) return count >= 16;
+    else return count >= (operand.objectSpacing() == std::ptrdiff_t(sizeof(Real32)) ? 24 : 128);
+}
+
+// Fixed sizes of strided layouts are unrolled on the plain path, which is as fast.
+template <class Columns, class D, class... Sources>
+inline constexpr bool mayStream = D::isArray &&std::is_same_v<typename D::Element, Real32> &&
+                                  !(D::isList || ... || Sources::isList) && !(D::isStrided && Columns::isFixed);
+
+// The same for the operands of a call, where it is worth it.
+template <class Operation, class Rows, class Columns, class D, class... Sources>
+VONKK3_INLINE bool streamObjects(const Operation &operation, Rows rows, Columns columns, std::size_t count, const D &d,
+                                 const Sources &...sources) {
+    if constexpr (mayStream<Columns, D, Sources...>)
+        return isWorthStreaming(d, count) &&
+               stream(operation, objectsOf(d, rows, columns, count), objectsOf(sources, rows, columns, count)...);
+    else return false;
+}
+
+// The same into packed objects.
+template <class Operation, class T, class Source>
+VONKK3_INLINE bool streamPacked(const Operation &operation, std::size_t rows, std::size_t columns, std::size_t count,
+                                T *dst, const Source &source) {
+    if constexpr (mayStream<RunTime, Source> && std::is_same_v<T, Real32>) {
+        if (!isWorthStreaming(source, count)) return false;
+        ObjectsView packed = packedBlocks(dst, rows * columns, count);
+        packed.rowStride = std::ptrdiff_t(columns * sizeof(T));
+        packed.rows = std::uint32_t(rows);
+        packed.columns = std::uint32_t(columns);
+        return stream(operation, packed, objectsOf(source, rows, columns, count));
+    } else return false;
+}
+
+// ---- The plain path of run-time sizes -------------------------------------------------------------------------------
+
+// work(columns), with the usual numbers of columns known to the compiler. Real64 is no faster for it.
+template <class T, class Columns, class Work> VONKK3_INLINE auto withFixedColumns(Columns columns, const Work &work) {
+    if constexpr (std::is_same_v<T, Real32> && !Columns::isFixed) switch (columns.extent) {
+        case 3: return work(fixed<3>);
+        case 4: return work(fixed<4>);
+        case 5: return work(fixed<5>);
+        case 6: return work(fixed<6>);
+        default: break;
+        }
+    return work(columns);
+}
+
+} // namespace vonkk3
