@@ -35,10 +35,15 @@ struct Item {
     std::uintptr_t origin = 0;
 };
 
+struct DoesNotFit : std::logic_error {
+    using std::logic_error::logic_error;
+};
+
 class Builder {
 public:
-    Builder(const Function &function, std::uint64_t seed, std::uint64_t index, const CallMixture &mixture)
-        : function(function), mixture(mixture), random(seed, function.name, index) {
+    Builder(const Function &function, std::uint64_t seed, std::uint64_t index, const CallMixture &mixture,
+            bool mayBeLong)
+        : function(function), mixture(mixture), random(seed, function.name, index), mayBeLong(mayBeLong) {
         call.function = &function;
         call.seed = seed;
         call.index = index;
@@ -96,6 +101,7 @@ private:
     const Function &function;
     const CallMixture &mixture;
     Random random;
+    bool mayBeLong;
     Fault scheduled = Fault::none;
     Call call;
     Sizes sizes;
@@ -124,6 +130,9 @@ void Builder::chooseSizes() {
         sizes.count = static_cast<std::uint32_t>(random.percent(85) ? random.between(1, 6) : random.between(7, 9));
     if (!mixture.fixedOutcomesOnly && families::turnsAtEightObjects(function) && random.percent(40))
         sizes.count = static_cast<std::uint32_t>(random.between(7, 14));
+    // Fast paths begin at up to 128 objects, where operands are disjoint; few calls are as long, for they take long.
+    if (mayBeLong && random.percent(5))
+        sizes.count = static_cast<std::uint32_t>(random.percent(70) ? random.between(15, 40) : random.between(41, 150));
 }
 
 // --- strides and relations
@@ -272,7 +281,7 @@ void Builder::placeItems(std::vector<Item> &items) {
         order.push_back(&item);
         spare -= item.reach.length() + 15;
     }
-    if (spare < 0) throw std::logic_error("the operands of a call do not fit the arena");
+    if (spare < 0) throw DoesNotFit("the operands of a call do not fit the arena");
     random.shuffle(order);
     std::uintptr_t at = Arena::address + Arena::margin;
     for (Item *item : order) {
@@ -600,7 +609,11 @@ Call Builder::build(const Arena &arena) {
 
 Call makeCall(const Function &function, const Arena &arena, std::uint64_t seed, std::uint64_t index,
               const CallMixture &mixture) {
-    return Builder(function, seed, index, mixture).build(arena);
+    if (function.array() && !mixture.fixedOutcomesOnly) try {
+            return Builder(function, seed, index, mixture, true).build(arena);
+        } catch (const DoesNotFit &) { // so many objects are too many, and the call is made anew with few
+        }
+    return Builder(function, seed, index, mixture, false).build(arena);
 }
 
 } // namespace support
