@@ -105,8 +105,8 @@ VONKK3_INLINE VonkStatus choleskyBackSubstitute(const Factor &src1, const RightS
         if (count >= packWidth)
             return withFixedOrder(
                 order, [&](auto size) VONKK3_INLINED { return solveInBatches(src1, src2, dst, size, count, one); },
-                [&]() VONKK3_INLINED { return forEachObject(count, one); });
-    return forEachObject(count, one);
+                [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
+    return forEachPlainly(count, one);
 }
 
 } // namespace vonkk3::cholqr

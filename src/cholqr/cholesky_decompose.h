@@ -185,7 +185,7 @@ VONKK3_INLINE VonkStatus factorInBatches(const Source &src, const Factor &dst, F
                                          const One &one) {
     if constexpr (!Factor::isTable)
         if (const RoundingControl control; !control.bothRoundToNearest() || !control.wideHas53Bits())
-            return forEachObject(count, one);
+            return forEachPlainly(count, one);
     using Matrices = MatricesOfBatch<order, true, Triangle::lower>;
     FactorBatch<order, Factor::isTable> batch{Matrices(matricesOf(src, size, count)),
                                               Matrices(matricesOf(dst, size, count))};
@@ -209,8 +209,8 @@ VONKK3_INLINE VonkStatus choleskyDecompose(const Source &src, const Factor &dst,
         if (count >= packWidth)
             return withFixedOrder(
                 order, [&](auto size) VONKK3_INLINED { return factorInBatches(src, dst, size, count, one); },
-                [&]() VONKK3_INLINED { return forEachObject(count, one); });
-    return forEachObject(count, one);
+                [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
+    return forEachPlainly(count, one);
 }
 
 } // namespace vonkk3::cholqr

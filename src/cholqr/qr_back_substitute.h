@@ -220,8 +220,8 @@ VONKK3_INLINE VonkStatus qrBackSubstitute(const Factors &src1, T *work, const Ri
                 columns,
                 [&](auto order)
                     VONKK3_INLINED { return leastSquaresInBatches(src1, work, src2, dst, order, count, one); },
-                [&]() VONKK3_INLINED { return forEachObject(count, one); });
-    return forEachObject(count, one);
+                [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
+    return forEachPlainly(count, one);
 }
 
 } // namespace vonkk3::cholqr

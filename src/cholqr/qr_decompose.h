@@ -139,7 +139,7 @@ template <std::size_t order> struct ReflectBatch {
 template <class Source, class Factors, std::size_t order, class One>
 VONKK3_INLINE VonkStatus reflectInBatches(const Source &src, Real32 *work, const Factors &dst, Fixed<order>,
                                           std::size_t count, const One &one) {
-    if (!RoundingControl().bothRoundToNearest()) return forEachObject(count, one);
+    if (!RoundingControl().bothRoundToNearest()) return forEachPlainly(count, one);
     ReflectBatch<order> batch{{src, count}, {dst, count}, packedBlocks(work, order, 1)};
     const Aliasing aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view), writes(batch.workspace));
     return forEachBatch(batch, aliasing, count, one);
@@ -162,8 +162,8 @@ VONKK3_INLINE VonkStatus qrDecompose(const Source &src, T *work, const Factors &
         if (count >= packWidth && columns == rows)
             return withFixedOrder(
                 columns, [&](auto order) VONKK3_INLINED { return reflectInBatches(src, work, dst, order, count, one); },
-                [&]() VONKK3_INLINED { return forEachObject(count, one); });
-    return forEachObject(count, one);
+                [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
+    return forEachPlainly(count, one);
 }
 
 } // namespace vonkk3::cholqr

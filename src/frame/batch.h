@@ -78,6 +78,18 @@ VONKK3_INLINE std::size_t workBatches(Access access, Batch &batch, const Aliasin
         }
 }
 
+// The plain path of the objects from `from` on: compiled once, for all orders and for whatever calls it.
+template <class One> VONKK3_APART VonkStatus workPlainly(const One &one, std::size_t from, std::size_t to) {
+    for (std::size_t n = from; n < to; ++n)
+        if (const VonkStatus status = one(n); status != vonkOk) return status;
+    return vonkOk;
+}
+
+template <class Count, class One> VONKK3_INLINE VonkStatus forEachPlainly(Count count, const One &one) {
+    if constexpr (std::is_same_v<Count, OneObject>) return one(0);
+    else return workPlainly(one, 0, count);
+}
+
 // `one` is the plain way of one object; it returns a status, which ends the call if it is a failure.
 template <BatchKernel Batch, class One, std::size_t operands>
 VONKK3_INLINE VonkStatus forEachBatch(Batch &batch, const Aliasing<operands> &aliasing, std::size_t count,
@@ -87,7 +99,7 @@ VONKK3_INLINE VonkStatus forEachBatch(Batch &batch, const Aliasing<operands> &al
     for (std::size_t n = 0; n < count; ++n) {
         if (mayWork && count - n >= objectsOfChain<Batch>) n = workBatches(access, batch, aliasing, n, count);
         if (n == count) break;
-        if (const VonkStatus status = one(n); status != vonkOk) return status;
+        if (const VonkStatus status = workPlainly(one, n, n + 1); status != vonkOk) return status;
     }
     return vonkOk;
 }

@@ -172,7 +172,7 @@ VONKK3_INLINE VonkStatus solveInBatches(const Factors &src1, const std::uint32_t
         const Aliasing aliasing(count, writes(batch.dst.view), reads(batch.src1.view), reads(batch.src2.view),
                                 reads(batch.pivots));
         return forEachBatch(batch, aliasing, count, one);
-    } else return forEachObject(count, one);
+    } else return forEachPlainly(count, one);
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
@@ -198,8 +198,8 @@ VONKK3_INLINE VonkStatus backSubstitute(const Factors &src1, const std::uint32_t
             return withFixedOrder(
                 order,
                 [&](auto size) VONKK3_INLINED { return solveInBatches(src1, pivots, src2, dst, size, count, one); },
-                [&]() VONKK3_INLINED { return forEachObject(count, one); });
-    return forEachObject(count, one);
+                [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
+    return forEachPlainly(count, one);
 }
 
 } // namespace vonkk3::lu

@@ -183,7 +183,7 @@ template <class Source, class Factors, std::size_t order, class One>
 VONKK3_INLINE VonkStatus decomposeInBatches(const Source &src, std::uint32_t *pivots, const Factors &dst, Fixed<order>,
                                             std::size_t count, const One &one) {
     DecomposeBatch<order> batch(src, pivots, dst, count);
-    if (count < leastToDecompose<order>(batch.dst.view, batch.access())) return forEachObject(count, one);
+    if (count < leastToDecompose<order>(batch.dst.view, batch.access())) return forEachPlainly(count, one);
     const Aliasing aliasing(count, writes(batch.dst.view), writes(batch.pivots.view), readsInPlace(batch.src.view));
     return forEachBatch(batch, aliasing, count, one);
 }
@@ -208,11 +208,11 @@ VONKK3_INLINE VonkStatus decompose(const Source &src, std::uint32_t *pivots, con
             return withFixedOrder(
                 order,
                 [&](auto size) VONKK3_INLINED {
-                    if constexpr (size < 4) return forEachObject(count, one);
+                    if constexpr (size < 4) return forEachPlainly(count, one);
                     else return decomposeInBatches(src, pivots, dst, size, count, one);
                 },
-                [&]() VONKK3_INLINED { return forEachObject(count, one); });
-    return forEachObject(count, one);
+                [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
+    return forEachPlainly(count, one);
 }
 
 } // namespace vonkk3::lu

@@ -98,7 +98,7 @@ template <class Source, std::size_t order, class One>
 VONKK3_INLINE VonkStatus determinantsInBatches(const Source &src, Fixed<order>, Real32 *dst, std::size_t count,
                                                const One &one) {
     DeterminantBatch<order> batch{{src, count}, packedBlocks(dst, 1, count)};
-    if (count < leastForDeterminants<order>(batch.src.view, batch.access())) return forEachObject(count, one);
+    if (count < leastForDeterminants<order>(batch.src.view, batch.access())) return forEachPlainly(count, one);
     const Aliasing aliasing(count, writes(batch.results), reads(batch.src.view));
     return forEachBatch(batch, aliasing, count, one);
 }
@@ -117,7 +117,7 @@ VONKK3_INLINE VonkStatus determinant(const Source &src, Fixed<order> size, T *ds
     };
     if constexpr (worksInBatches<Source> && !isWorkedWide<Source>)
         if (count >= packWidth) return determinantsInBatches(src, size, dst, count, one);
-    return forEachObject(count, one);
+    return forEachPlainly(count, one);
 }
 
 template <class Source, class T, class Count>

@@ -186,7 +186,7 @@ VONKK3_INLINE VonkStatus frobeniusNorm(const A &a, Columns columns, RowCount row
                 return withFixedOrder(
                     columns,
                     [&](auto order) VONKK3_INLINED { return normsInBatches<way>(a, results, order, count, one); },
-                    [&]() VONKK3_INLINED { return forEachObject(count, one); });
+                    [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
         return forEachObject(count, one, a);
     }
 }

@@ -97,7 +97,7 @@ VONKK3_INLINE VonkStatus trace(const A &a, Order order, T *results, Count count)
             if (count >= worthBatches)
                 return withFixedOrder(
                     order, [&](auto size) VONKK3_INLINED { return tracesInBatches(a, results, size, count, one); },
-                    [&]() VONKK3_INLINED { return forEachObject(count, one); });
+                    [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
         return forEachObject(count, one, a);
     }
 }

@@ -58,8 +58,9 @@ inline VonkStatus gaxpy(const A &src1, const V &src2, const W &src3, const D &ds
             return gaxpyObject<T, accumulatesInCell<T, D::layout>, !Count::isArray>(
                 src1.view(n, cols), src2.view(n), src3.view(n), dst.view(n), rows, cols);
         };
-        if constexpr (worksInBatches<D>)
-            if (count != 0 && cols == rows)
+        if constexpr (worksInBatches<D>) {
+            const auto tested = testingLists(one, src2, src3, dst);
+            if (count >= packWidth && cols == rows)
                 return withFixedOrder(
                     cols,
                     [&](auto order) VONKK3_INLINED {
@@ -67,11 +68,10 @@ inline VonkStatus gaxpy(const A &src1, const V &src2, const W &src3, const D &ds
                         if constexpr (multipliesPositions<D>)
                             return forEachObjectFrom(multiplyVectorsByPositions<extent>(src1, src2, dst, count, src3),
                                                      count, one);
-                        else
-                            return gaxpyInBatches<extent>(src1, src2, src3, dst, count,
-                                                          testingLists(one, src2, src3, dst));
+                        else return gaxpyInBatches<extent>(src1, src2, src3, dst, count, tested);
                     },
-                    [&]() VONKK3_INLINED { return forEachObject(count, one, src2, src3, dst); });
+                    [&]() VONKK3_INLINED { return forEachPlainly(count, tested); });
+        }
         return forEachObject(count, one, src2, src3, dst);
     }
 }

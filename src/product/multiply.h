@@ -133,20 +133,27 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
 
     if constexpr (scheme == Scheme::rowBroadcast) return multiplyInLanes<P>(src1, src2, dst, cols1, count);
     else {
-        const std::size_t rows = size.template rows<P>(), columns = size.template columns<P>();
-        const std::size_t terms = size.template terms<P>();
         const auto one = [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
+            const std::size_t rows = size.template rows<P>(), columns = size.template columns<P>();
+            const std::size_t terms = size.template terms<P>();
             const auto a = src1.view(n, P::firstTransposed ? rows1 : cols1);
             const auto b = src2.view(n, P::secondTransposed ? rows2 : cols2);
             const auto d = dst.view(n, columns);
             if constexpr (scheme == Scheme::pairSum) return multiplyByPairSums(a, b, d), vonkOk;
-            if constexpr (worksInBatches<D>) return sumIntoCellsPlainly<T>(a, b, d, rows, columns, terms), vonkOk;
             if constexpr (!accumulatesInCell<T, P::layout> && hasExtent<std::remove_const_t<decltype(d)>>)
                 if (sumOnceIfDisjoint<T>(a, b, d, rows, columns, terms)) return vonkOk;
             return sumIntoCells<T, accumulatesInCell<T, P::layout>, !P::isArray>(a, b, d, rows, columns, terms);
         };
-        if constexpr (worksInBatches<D>)
-            if (count != 0 && cols1 == rows1 && cols2 == rows2 && rows1 == rows2)
+        if constexpr (worksInBatches<D>) {
+            const auto fallBack = [&](std::size_t n) VONKK3_INLINED {
+                sumIntoCellsPlainly<T, Cols1::value, Cols1::value>(
+                    src1.view(n, P::firstTransposed ? rows1 : cols1), src2.view(n, P::secondTransposed ? rows2 : cols2),
+                    dst.view(n, size.template columns<P>()), size.template rows<P>(), size.template columns<P>(),
+                    size.template terms<P>());
+                return vonkOk;
+            };
+            const auto tested = testingLists(fallBack, src1, src2, dst);
+            if (count >= packWidth && cols1 == rows1 && cols2 == rows2 && rows1 == rows2)
                 return withFixedOrder(
                     cols1,
                     [&](auto order) VONKK3_INLINED {
@@ -154,10 +161,11 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
                         if constexpr (multipliesPositions<D>) {
                             const std::size_t done =
                                 multiplyMatricesByPositions<SumBegins::withZero, extent>(src1, src2, dst, count);
-                            return forEachObjectFrom(done, count, one);
-                        } else return sumMatrices<extent>(src1, src2, dst, count, testingLists(one, src1, src2, dst));
+                            return workPlainly(fallBack, done, count);
+                        } else return sumMatrices<extent>(src1, src2, dst, count, tested);
                     },
-                    [&]() VONKK3_INLINED { return forEachObject(count, one, src1, src2, dst); });
+                    [&]() VONKK3_INLINED { return forEachPlainly(count, tested); });
+        }
         return forEachObject(count, one, src1, src2, dst);
     }
 }

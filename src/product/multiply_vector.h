@@ -93,26 +93,32 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
             constexpr bool inCell = accumulatesInCell<T, D::layout>;
             if constexpr (leavesPosition8Untested<A, Count, Cols>)
                 return sumIntoCells<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
-            if constexpr (worksInBatches<D>) return sumIntoCellsPlainly<T>(a, v, d, rows, 1, cols), vonkOk;
             if constexpr (!inCell && hasExtent<std::remove_const_t<decltype(d.vector)>>)
                 if (sumOnceIfDisjoint<T>(a, asColumn(v.vector), asColumn(d.vector), rows, 1, cols)) return vonkOk;
             return sumIntoCells<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
         };
-        if constexpr (worksInBatches<D>)
-            if (count != 0 && cols == rows)
+        if constexpr (worksInBatches<D>) {
+            const auto fallBack = [&](std::size_t n) VONKK3_INLINED {
+                sumIntoCellsPlainly<T, Cols::value, 1>(
+                    src1.view(n, A::isTransposed ? std::size_t(rows) : std::size_t(cols)), ColumnView{src2.view(n)},
+                    ColumnView{dst.view(n)}, rows, 1, cols);
+                return vonkOk;
+            };
+            const auto tested = testingLists(fallBack, src1, src2, dst);
+            if (count >= packWidth && cols == rows)
                 return withFixedOrder(
                     cols,
                     [&](auto order) VONKK3_INLINED {
                         constexpr std::size_t extent = decltype(order)::value;
-                        const auto tested = testingLists(one, src1, src2, dst);
                         if constexpr (multipliesPositions<D>)
                             return forEachObjectFrom(multiplyVectorsByPositions<extent>(src1, src2, dst, count), count,
-                                                     one);
+                                                     fallBack);
                         else if constexpr (!A::isArray || D::layout == Layout::Standard || D::layout == Layout::L)
                             return multiplyInBatches<extent>(src1, src2, dst, count, tested);
                         else return sumVectors<extent>(src1, src2, dst, count, tested);
                     },
-                    [&]() VONKK3_INLINED { return forEachObject(count, one, src1, src2, dst); });
+                    [&]() VONKK3_INLINED { return forEachPlainly(count, tested); });
+        }
         return forEachObject(count, one, src1, src2, dst);
     }
 }

@@ -10,6 +10,9 @@ namespace vonkk3::product {
 // One factor of `order` products: ranges of all objects, or a single object's numbers, broadcast.
 template <std::size_t order, bool isArray> struct Factors {
     const std::byte *range[order];
+    VONKK3_INLINE void copy(const Factors &other) {
+        for (std::size_t k = 0; k < order; ++k) range[k] = other.range[k];
+    }
     VONKK3_INLINE void take(std::size_t k, std::uintptr_t address) {
         range[k] = reinterpret_cast<const std::byte *>(address);
     }
@@ -17,6 +20,9 @@ template <std::size_t order, bool isArray> struct Factors {
 };
 template <std::size_t order> struct Factors<order, false> {
     Pack number[order];
+    VONKK3_INLINE void copy(const Factors &other) {
+        for (std::size_t k = 0; k < order; ++k) number[k] = other.number[k];
+    }
     VONKK3_INLINE void take(std::size_t k, std::uintptr_t address) {
         number[k] = loadAt<Real32>(reinterpret_cast<const std::byte *>(address));
     }
@@ -35,6 +41,16 @@ template <std::size_t order, bool sharedIsArray, bool otherIsArray, bool hasAdde
     Factors<order, otherIsArray> other[width];
     const std::byte *addend[width];
     std::byte *target[width];
+
+    Cells() = default;
+    VONKK3_INLINE Cells(const Cells &memory) { // as a whole, some compilers would call for memcpy
+        shared.copy(memory.shared);
+        for (std::size_t w = 0; w < width; ++w) {
+            other[w].copy(memory.other[w]);
+            if constexpr (hasAddends) addend[w] = memory.addend[w];
+            target[w] = memory.target[w];
+        }
+    }
 
     // For the objects between two offsets. All is read before anything is stored.
     template <SumBegins begins> VONKK3_APART static void work(const Cells &memory, std::size_t from, std::size_t to) {

@@ -57,11 +57,16 @@ template <class View> inline constexpr bool hasExtent = false;
 template <class T> inline constexpr bool hasExtent<RowsView<T>> = true;
 template <class T> inline constexpr bool hasExtent<TransposedView<RowsView<T>>> = true;
 
-// The plain path of arrays that have a fast one: small, as it is for operands that overlap.
-template <class T, class A, class B, class D>
+// The plain path of arrays that have a fast one: few objects, and operands that overlap. A fixed order is none of the
+// arguments.
+template <class T, std::size_t order, std::size_t fixedColumns, class A, class B, class D>
 VONKK3_APART void sumIntoCellsPlainly(const A &a, const B &b, const D &d, std::size_t rows, std::size_t columns,
                                       std::size_t terms) {
-    sumIntoCells<T, false, false>(a, b, d, rows, columns, terms);
+    const A first = a; // what a view holds stays in registers only if no store may change it
+    const B second = b;
+    const D cells = d;
+    if constexpr (order == 0) sumIntoCells<T, false, false>(first, second, cells, rows, columns, terms);
+    else sumIntoCells<T, false, false>(first, second, cells, order, fixedColumns, order);
 }
 
 template <class T>

@@ -227,7 +227,7 @@ VONKK3_INLINE VonkStatus dotProduct(const A &a, const B &b, T *dst, Length lengt
             return withFixedOrder(
                 length,
                 [&](auto size) VONKK3_INLINED { return dotInBatches<!F::isFixed>(a, b, dst, size, count, work); },
-                [&]() VONKK3_INLINED { return forEachObject(count, work); });
+                [&]() VONKK3_INLINED { return forEachPlainly(count, work); });
     if constexpr (trustsEntries<F>) return forEachObjectFrom(done, count, work);
     else return forEachObjectFrom(done, count, work, a, b);
 }

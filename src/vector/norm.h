@@ -151,7 +151,7 @@ VONKK3_INLINE VonkStatus norm(const Source &source, T *dst, Length length, Count
         if (count >= worthBatches)
             return withFixedOrder(
                 length, [&](auto size) VONKK3_INLINED { return normsInBatches(source, dst, size, count, work); },
-                [&]() VONKK3_INLINED { return forEachObject(count, work); });
+                [&]() VONKK3_INLINED { return forEachPlainly(count, work); });
     if constexpr (testsEntries) return forEachObjectFrom(done, count, work, source);
     else return forEachObjectFrom(done, count, work);
 }
