@@ -106,7 +106,7 @@ VONKK3_INLINE VonkStatus choleskyBackSubstitute(const Factor &src1, const RightS
             return withFixedOrder(
                 order, [&](auto size) VONKK3_INLINED { return solveInBatches(src1, src2, dst, size, count, one); },
                 [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-    return forEachPlainly(count, one);
+    return forEachObject(count, one);
 }
 
 } // namespace vonkk3::cholqr

@@ -210,7 +210,7 @@ VONKK3_INLINE VonkStatus choleskyDecompose(const Source &src, const Factor &dst,
             return withFixedOrder(
                 order, [&](auto size) VONKK3_INLINED { return factorInBatches(src, dst, size, count, one); },
                 [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-    return forEachPlainly(count, one);
+    return forEachObject(count, one);
 }
 
 } // namespace vonkk3::cholqr

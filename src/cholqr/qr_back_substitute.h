@@ -221,7 +221,7 @@ VONKK3_INLINE VonkStatus qrBackSubstitute(const Factors &src1, T *work, const Ri
                 [&](auto order)
                     VONKK3_INLINED { return leastSquaresInBatches(src1, work, src2, dst, order, count, one); },
                 [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-    return forEachPlainly(count, one);
+    return forEachObject(count, one);
 }
 
 } // namespace vonkk3::cholqr

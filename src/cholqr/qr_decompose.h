@@ -163,7 +163,7 @@ VONKK3_INLINE VonkStatus qrDecompose(const Source &src, T *work, const Factors &
             return withFixedOrder(
                 columns, [&](auto order) VONKK3_INLINED { return reflectInBatches(src, work, dst, order, count, one); },
                 [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-    return forEachPlainly(count, one);
+    return forEachObject(count, one);
 }
 
 } // namespace vonkk3::cholqr

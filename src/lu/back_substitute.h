@@ -199,7 +199,7 @@ VONKK3_INLINE VonkStatus backSubstitute(const Factors &src1, const std::uint32_t
                 order,
                 [&](auto size) VONKK3_INLINED { return solveInBatches(src1, pivots, src2, dst, size, count, one); },
                 [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-    return forEachPlainly(count, one);
+    return forEachObject(count, one);
 }
 
 } // namespace vonkk3::lu

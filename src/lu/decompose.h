@@ -212,7 +212,7 @@ VONKK3_INLINE VonkStatus decompose(const Source &src, std::uint32_t *pivots, con
                     else return decomposeInBatches(src, pivots, dst, size, count, one);
                 },
                 [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-    return forEachPlainly(count, one);
+    return forEachObject(count, one);
 }
 
 } // namespace vonkk3::lu

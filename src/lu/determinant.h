@@ -117,7 +117,7 @@ VONKK3_INLINE VonkStatus determinant(const Source &src, Fixed<order> size, T *ds
     };
     if constexpr (worksInBatches<Source> && !isWorkedWide<Source>)
         if (count >= packWidth) return determinantsInBatches(src, size, dst, count, one);
-    return forEachPlainly(count, one);
+    return forEachObject(count, one);
 }
 
 template <class Source, class T, class Count>

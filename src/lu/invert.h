@@ -118,7 +118,7 @@ VONKK3_INLINE VonkStatus invert(const Source &src, Fixed<order> size, const Dest
     };
     if constexpr (worksInBatches<Destination> && isWorthInverting<Source, order>)
         if (count >= (order == 3 ? 2 : 1) * packWidth) return invertInBatches(src, dst, size, count, one);
-    return forEachPlainly(count, one);
+    return forEachObject(count, one);
 }
 
 template <class Source, class Destination, class Count>
