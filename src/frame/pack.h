@@ -72,7 +72,7 @@ inline Pack select(PackMask mask, Pack a, Pack b) {
     return _mm_or_ps(_mm_and_ps(mask.lanes, a.lanes), _mm_andnot_ps(mask.lanes, b.lanes));
 }
 
-// Several packs side by side: independent chains of operations, for work whose limit is latency.
+// Several packs, each a chain of operations that does not wait for the others, for work whose limit is latency.
 template <class Value, std::size_t chains> struct Chains {
     Value chain[chains];
 
