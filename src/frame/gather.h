@@ -15,7 +15,7 @@ using PackTargets = std::byte *[packWidth];
 
 // ---- Rows of contiguous elements, up to 6 ---------------------------------------------------------------------------
 
-inline Pack gatherElement(const PackSources &from, std::size_t offset) {
+inline Pack gatherElement(const PackSources &from, std::ptrdiff_t offset) {
     const __m128 ab = _mm_unpacklo_ps(load1(from[0] + offset), load1(from[1] + offset));
     const __m128 cd = _mm_unpacklo_ps(load1(from[2] + offset), load1(from[3] + offset));
     return _mm_movelh_ps(ab, cd);
@@ -304,8 +304,8 @@ VONKK3_INLINE void gatherRowsInOrder(const BatchOperand<rows, columns, true> &op
             else elements.findOwn(rowOfLane, view.rowStride, from);
             if constexpr (access == Access::rows) gatherRow(from, columns, row);
             else {
-                const std::size_t step = isPermutedLocally ? sizeof(Pack) : std::size_t(view.elementStride);
-                for (std::size_t j = 0; j < columns; ++j) row[j] = gatherElement(from, j * step);
+                const std::ptrdiff_t step = isPermutedLocally ? std::ptrdiff_t(sizeof(Pack)) : view.elementStride;
+                for (std::size_t j = 0; j < columns; ++j) row[j] = gatherElement(from, strides(j, step));
             }
             for (std::size_t j = 0; j < columns; ++j) block[i][j].chain[c] = row[j];
         });
