@@ -84,7 +84,7 @@ template <std::size_t length> struct DotProduct {
 };
 
 // The root of the sum of squares: column by column, from the top or, columns too, from the end; or as a sum of the
-// columns' sums, which are made side by side.
+// columns' sums, which are formed in the same registers.
 enum class Squares { forward, backward, byColumns };
 
 template <Shape shape, Squares squares> struct Norm {

@@ -1,4 +1,4 @@
-// The test of the last pivots of a batch, before anything of it is stored. In an array it looks at a displaced element,
+// The test of the last pivots of a batch, before anything of it is stored. In an array it reads a displaced element,
 // which is what it is only after the objects up to its own have been stored, and before any later one is.
 #pragma once
 
