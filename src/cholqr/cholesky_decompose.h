@@ -167,7 +167,7 @@ private:
             [](std::size_t, std::size_t, const Packs<chains> &) VONKK3_INLINED {});
     }
     template <Access access, std::size_t chains>
-    VONKK3_APART bool factorAnew(std::size_t n, Packs<chains> (&f)[order][order]) const {
+    VONKK3_NOINLINE bool factorAnew(std::size_t n, Packs<chains> (&f)[order][order]) const {
         return factorGathered<access>(n, f, LaneByLane());
     }
 };

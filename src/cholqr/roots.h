@@ -45,7 +45,7 @@ struct LaneByLane {
     }
 
 private:
-    VONKK3_APART static Pack ofPack(Pack s) {
+    VONKK3_NOINLINE static Pack ofPack(Pack s) {
         alignas(laneBytes) Real32 each[packWidth];
         _mm_store_ps(each, s.lanes);
         for (Real32 &number : each) number = reciprocalRoot(number);

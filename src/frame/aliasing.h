@@ -270,7 +270,7 @@ struct AscendingLists {
 
 // Entries are looked at object by object, none after the first that is null. A shift moves all objects of a list alike,
 // so entries are compared in place of objects; the objects ascend with them unless they wrap round at address 0.
-template <std::size_t lists> VONKK3_APART AscendingLists scanLists(AliasOperand *const *operands) {
+template <std::size_t lists> VONKK3_NOINLINE AscendingLists scanLists(AliasOperand *const *operands) {
     constexpr std::uintptr_t farthest = std::uintptr_t(1) << 62; // a step down is farther
     std::uintptr_t entries[lists], before[lists], leastStep[lists];
     for (std::size_t l = 0; l < lists; ++l) {
@@ -334,7 +334,7 @@ inline bool areAllIndependent(const AliasOperand *operands, std::size_t number) 
 
 // A table whose entries ascend, and all objects of a position lie before the next position's, or all positions of an
 // object before the next object. Whether it is one, and where it lies.
-VONKK3_APART inline bool isAscendingTable(const ObjectsView &view, Extent &whole) {
+VONKK3_NOINLINE inline bool isAscendingTable(const ObjectsView &view, Extent &whole) {
     const std::ptrdiff_t step = view.count > 1 ? view.objectStride : std::ptrdiff_t(view.elementBytes);
     if (step < std::ptrdiff_t(view.elementBytes)) return false;
     const std::uintptr_t ofPosition = std::uintptr_t(strides(view.count - 1, step)) + view.elementBytes;
@@ -367,7 +367,7 @@ VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
     if (view.isList()) return false;
     const std::ptrdiff_t ofRow = strides(view.columns - 1, view.elementStride) + std::ptrdiff_t(view.elementBytes);
     const std::ptrdiff_t ofObject = strides(view.rows - 1, view.rowStride) + ofRow;
-    if (view.elementStride < std::ptrdiff_t(view.elementBytes) || (view.rows > 1 && view.rowStride < ofRow) ||
+    if ((view.columns > 1 && view.elementStride < std::ptrdiff_t(view.elementBytes)) || (view.rows > 1 && view.rowStride < ofRow) ||
         (view.isArray && view.objectStride < ofObject))
         return false;
     whole = {view.begin, view.begin + std::uintptr_t(strides(view.count - 1, view.objectStride) + ofObject)};
@@ -406,7 +406,7 @@ template <std::size_t number> VONKK3_INLINE bool isPlainlyIndependent(const Alia
     return plain;
 }
 
-VONKK3_APART inline Answer askOnce(AliasOperand *operands, std::size_t number, std::size_t count) {
+VONKK3_NOINLINE inline Answer askOnce(AliasOperand *operands, std::size_t number, std::size_t count) {
     constexpr Answer no = {0, false};
     bool anyList = false;
     for (std::size_t k = 0; k < number; ++k) {
@@ -422,7 +422,7 @@ VONKK3_APART inline Answer askOnce(AliasOperand *operands, std::size_t number, s
 }
 
 // Of the objects from n on.
-VONKK3_APART inline bool askForBatch(const AliasOperand *operands, std::size_t number, std::size_t n,
+VONKK3_NOINLINE inline bool askForBatch(const AliasOperand *operands, std::size_t number, std::size_t n,
                                      std::size_t objects) {
     for (std::size_t k = n; k < n + objects; ++k)
         for (std::size_t l = 0; l < number; ++l) {

@@ -47,6 +47,16 @@ template <class Batch> inline constexpr std::size_t objectsOfChain = packWidth;
 template <class Batch>
 requires(Batch::lanesWithinObject) inline constexpr std::size_t objectsOfChain<Batch> = 1;
 
+// Kernels that are never given contiguous positions, or nothing but contiguous rows, say so.
+template <class Batch> inline constexpr bool takesPositions = true;
+template <class Batch>
+requires requires { Batch::takesPositions; }
+inline constexpr bool takesPositions<Batch> = Batch::takesPositions;
+template <class Batch> inline constexpr bool takesAny = true;
+template <class Batch>
+requires requires { Batch::takesAny; }
+inline constexpr bool takesAny<Batch> = Batch::takesAny;
+
 // Batches from object n on, as long as they can be had; the first object that they leave.
 template <Access access, std::size_t chains, BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
@@ -60,7 +70,7 @@ VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands
 }
 
 template <Access access, BatchKernel Batch, std::size_t operands>
-VONKK3_APART std::size_t workBatches(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
+VONKK3_NOINLINE std::size_t workBatches(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                      std::size_t count) {
     batch.template hoist<access>(); // anew behind every plain object, which may have written there
     if constexpr (Batch::chains > 1) n = workWhileAllowed<access, Batch::chains>(batch, aliasing, n, count);
@@ -71,15 +81,17 @@ template <BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workBatches(Access access, Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                       std::size_t count) {
     if constexpr (objectsOfChain<Batch> == 1) return workBatches<Access::any>(batch, aliasing, n, count);
-    else switch (access) {
-        case Access::rows: return workBatches<Access::rows>(batch, aliasing, n, count);
-        case Access::positions: return workBatches<Access::positions>(batch, aliasing, n, count);
-        default: return workBatches<Access::any>(batch, aliasing, n, count);
-        }
+    else {
+        if (!takesAny<Batch> || access == Access::rows)
+            return workBatches<Access::rows>(batch, aliasing, n, count);
+        if constexpr (takesPositions<Batch>)
+            if (access == Access::positions) return workBatches<Access::positions>(batch, aliasing, n, count);
+        if constexpr (takesAny<Batch>) return workBatches<Access::any>(batch, aliasing, n, count);
+    }
 }
 
 // The plain path of the objects from `from` on: compiled once, for all orders and for whatever calls it.
-template <class One> VONKK3_APART VonkStatus workPlainly(const One &one, std::size_t from, std::size_t to) {
+template <class One> VONKK3_NOINLINE VonkStatus workPlainly(const One &one, std::size_t from, std::size_t to) {
     for (std::size_t n = from; n < to; ++n)
         if (const VonkStatus status = one(n); status != vonkOk) return status;
     return vonkOk;

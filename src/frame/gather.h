@@ -138,7 +138,7 @@ template <class... Views> inline Access accessOf(const Views &...views) {
 
 // Element by element, for `step` packs between one element of the block and the next.
 template <std::size_t rows, std::size_t columns, Triangle triangle>
-VONKK3_APART void gatherElements(const ObjectsView &view, std::size_t n, Pack *block, std::size_t step) {
+VONKK3_NOINLINE void gatherElements(const ObjectsView &view, std::size_t n, Pack *block, std::size_t step) {
     const ElementsOfPack<const std::byte> elements(view, n);
     for (std::size_t i = 0; i < rows; ++i)
         for (std::size_t j = 0; j < rowLength(triangle, columns, i); ++j) {
@@ -149,7 +149,7 @@ VONKK3_APART void gatherElements(const ObjectsView &view, std::size_t n, Pack *b
 }
 
 template <std::size_t rows, std::size_t columns, Triangle triangle>
-VONKK3_APART void scatterElements(const ObjectsView &view, std::size_t n, const Pack *block, std::size_t step) {
+VONKK3_NOINLINE void scatterElements(const ObjectsView &view, std::size_t n, const Pack *block, std::size_t step) {
     const ElementsOfPack<std::byte> elements(view, n);
     for (std::size_t i = 0; i < rows; ++i)
         for (std::size_t j = 0; j < rowLength(triangle, columns, i); ++j) {

@@ -29,6 +29,8 @@ struct ObjectsView {
 
     std::uintptr_t listEntry(std::size_t n) const { return pointerAt(begin + n * sizeof(void *)); }
 
+    bool listHasNull(std::size_t n) const { return isList() && listEntry(n) == 0; }
+
     // Object n of a strided or list layout.
     std::uintptr_t object(std::size_t n) const {
         if (isList()) return listEntry(n) + std::uintptr_t(shift);
@@ -74,8 +76,14 @@ template <class T> struct EntriesView : ElementAccess<EntriesView<T>, T> {
 
     ByteOf<T> *at(std::size_t column) const { return at(0, column); }
     ByteOf<T> *at(std::size_t row, std::size_t column) const {
-        const std::uintptr_t entry = begin + std::uintptr_t(strides(row, rowStride) + strides(column, elementStride));
-        return reinterpret_cast<ByteOf<T> *>(ObjectsView::pointerAt(entry) + std::uintptr_t(offset));
+        return reinterpret_cast<ByteOf<T> *>(entry(row, column) + std::uintptr_t(offset));
+    }
+    bool hasNullEntry(std::size_t column) const { return hasNullEntry(0, column); }
+    bool hasNullEntry(std::size_t row, std::size_t column) const { return entry(row, column) == 0; }
+
+private:
+    std::uintptr_t entry(std::size_t row, std::size_t column) const {
+        return ObjectsView::pointerAt(begin + std::uintptr_t(strides(row, rowStride) + strides(column, elementStride)));
     }
 };
 
@@ -106,16 +114,48 @@ VONKK3_INLINE ObjectsView objectsOf(const Operand<T, layout, shape, isArray> &op
     return view;
 }
 
-// The same of a transposed operand: the matrix that is read, of `rows` rows and `columns` columns.
-template <class Stored>
-VONKK3_INLINE ObjectsView objectsOf(const Transposed<Stored> &operand, std::size_t rows, std::size_t columns,
-                                    std::size_t count) {
-    const ObjectsView stored = objectsOf(static_cast<const Stored &>(operand), columns, rows, count);
+// Rows and columns exchanged.
+VONKK3_INLINE ObjectsView transposedView(const ObjectsView &stored) {
     ObjectsView view = stored;
     view.rowStride = stored.elementStride;
     view.elementStride = stored.rowStride;
     view.rows = stored.columns;
     view.columns = stored.rows;
+    return view;
+}
+
+// A transposed operand: the matrix that is read, of `rows` rows and `columns` columns.
+template <class Stored>
+VONKK3_INLINE ObjectsView objectsOf(const Transposed<Stored> &operand, std::size_t rows, std::size_t columns,
+                                    std::size_t count) {
+    return transposedView(objectsOf(static_cast<const Stored &>(operand), columns, rows, count));
+}
+
+// The same from words; `rows` by `columns` is what is read, transposed or not.
+template <class T, bool throughTables>
+VONKK3_INLINE ObjectsView objectsOf(const OperandWords &words, std::size_t rows, std::size_t columns,
+                                    std::size_t count) {
+    ObjectsView view;
+    view.begin = words.begin;
+    view.rows = std::uint32_t(rows);
+    view.columns = std::uint32_t(columns);
+    view.count = words.isArray ? std::uint32_t(count) : 1;
+    view.elementBytes = sizeof(T);
+    view.isArray = words.isArray;
+    if constexpr (throughTables) {
+        const auto entries = std::ptrdiff_t(std::uint32_t(words.elementStride) * sizeof(void *));
+        view.indirection = ObjectsView::Indirection::table;
+        view.shift = words.rowStride;
+        view.objectStride = words.step;
+        view.rowStride = words.isTransposed ? std::ptrdiff_t(sizeof(void *)) : entries;
+        view.elementStride = words.isTransposed ? entries : std::ptrdiff_t(sizeof(void *));
+    } else {
+        view.indirection = words.isList ? ObjectsView::Indirection::list : ObjectsView::Indirection::none;
+        view.shift = words.isList ? words.step : 0;
+        view.objectStride = words.isList ? 0 : words.step;
+        view.rowStride = words.rowStride;
+        view.elementStride = words.elementStride;
+    }
     return view;
 }
 

@@ -7,12 +7,30 @@
 #include "frame/views.h"
 
 #include <concepts>
+#include <utility>
 
 namespace vonkk3 {
 
 enum class Layout { Standard, S2, P, PS2, L, LS2 };
 
 enum class Shape { vector, matrix };
+
+// The words of a call's operand in one form for all layouts, as small as they come, for code that is shared by several
+// layouts. Transposed operands have their strides exchanged here.
+struct OperandWords {
+    std::uintptr_t begin;       // object 0, or the list or table
+    std::int32_t step;          // from object to object; of a list the shift
+    std::int32_t rowStride;     // of a table the shift
+    std::int32_t elementStride; // of a table the entries to a row
+    bool isArray, isList, isTransposed;
+};
+
+// A vector as a matrix of one column.
+template <class Operand> inline OperandWords columnWords(const Operand &vector) {
+    OperandWords words = vector.words(1);
+    if constexpr (!Operand::isTable) std::swap(words.rowStride, words.elementStride);
+    return words;
+}
 
 template <class T, Layout memory, Shape shape, bool isArrayOperand> class Operand {
 public:
@@ -89,6 +107,16 @@ public:
     std::ptrdiff_t elementSpacing() const { return elementStride; }
     std::ptrdiff_t entryShift() const { return shift; }
 
+    // A table needs to know how many columns make a row of it.
+    OperandWords words(std::size_t columns) const {
+        if constexpr (isTable)
+            return {address(), std::int32_t(objectStride), std::int32_t(shift), std::int32_t(columns), isArray, false,
+                    false};
+        else
+            return {address(), std::int32_t(isList ? shift : objectStride), std::int32_t(rowStride),
+                    std::int32_t(elementStride), isArray, isList, false};
+    }
+
     // Of object 0, or of the list or table.
     std::uintptr_t address() const { return reinterpret_cast<std::uintptr_t>(pointer); }
 
@@ -121,6 +149,12 @@ public:
     static constexpr bool isTransposed = true;
     explicit Transposed(const Stored &stored) : Stored(stored) {}
     auto view(std::size_t n, std::size_t columns = 0) const { return TransposedView{Stored::view(n, columns)}; }
+    OperandWords words(std::size_t columns) const {
+        OperandWords words = Stored::words(columns);
+        words.isTransposed = true;
+        if constexpr (!Stored::isTable) std::swap(words.rowStride, words.elementStride);
+        return words;
+    }
 };
 
 template <class T, Layout layout> using Matrix = Operand<T, layout, Shape::matrix, false>;

@@ -76,7 +76,7 @@ inline constexpr std::size_t worthCollapsing = 8;
 // In ascending order, nothing is read later than element by element: a destination may begin before a source. Stores
 // are kept between the loads: in bursts they take twice the time where the data is not in the first-level cache.
 template <class Operation, class... Sources>
-requires ElementOperation<Operation, Sources...> VONKK3_APART void
+requires ElementOperation<Operation, Sources...> VONKK3_NOINLINE void
 streamContiguous(const Operation &shared, std::byte *d, std::size_t elements, Sources... sources) {
     const Operation operation = shared; // a local copy stays in registers
     const std::size_t bytes = elements * sizeof(Real32);
@@ -275,7 +275,7 @@ VONKK3_INLINE void streamPositions(const Operation &operation, const ObjectsView
 // All objects of arrays that are not lists; false, with nothing done, where overlap might show the order, or where
 // neither long ranges nor tables make it worth it.
 template <class Operation, class... Views>
-VONKK3_APART bool stream(const Operation &shared, const ObjectsView &d, const Views &...sources) {
+VONKK3_NOINLINE bool stream(const Operation &shared, const ObjectsView &d, const Views &...sources) {
     const Operation operation = shared; // a local copy stays in registers
     const CommonRange range(d, sources...);
     if (range.elements < leastRange && !(d.isTable() || ... || sources.isTable())) return false;

@@ -9,7 +9,7 @@
 #define VONKK3_INLINED __attribute__((always_inline)) // behind the parameters of a lambda
 
 // For a loop or a rare way out that must not cost its neighbours their registers.
-#define VONKK3_APART [[gnu::noinline]]
+#define VONKK3_NOINLINE [[gnu::noinline]]
 
 #ifdef __clang__
 #define VONKK3_UNROLL_WHOLE _Pragma("unroll")

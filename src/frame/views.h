@@ -98,6 +98,7 @@ template <class View> struct ColumnView {
     View vector;
 
     auto load(std::size_t row, std::size_t) const { return vector.load(row); }
+    auto at(std::size_t row, std::size_t) const { return vector.at(row); }
     template <class Element> void store(std::size_t row, std::size_t, Element value) const { vector.store(row, value); }
     bool hasNullEntry(std::size_t row, std::size_t) const { return vector.hasNullEntry(row); }
 };

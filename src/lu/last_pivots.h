@@ -74,7 +74,7 @@ private:
     }
 
     // The element of object n at an address, with its logical row; row `order` if there is none.
-    VONKK3_APART Position findOwn(std::uintptr_t address, std::size_t n, const std::uint32_t (&physical)[order]) const {
+    VONKK3_NOINLINE Position findOwn(std::uintptr_t address, std::size_t n, const std::uint32_t (&physical)[order]) const {
         for (std::size_t column = order; column-- > 0;)
             for (std::size_t row = 0; row < order; ++row)
                 if (address == addressOf(physical[row], column, n)) return {row, column};
@@ -87,7 +87,7 @@ private:
     }
 
     // Whether it overlaps an element of the objects n to n + k, whose extents have gaps.
-    VONKK3_APART bool isStored(std::uintptr_t address, std::size_t n, std::size_t k) const {
+    VONKK3_NOINLINE bool isStored(std::uintptr_t address, std::size_t n, std::size_t k) const {
         for (std::size_t m = n; m <= n + k; ++m) {
             if (!overlaps(address, factors.ofObject(m))) continue;
             for (std::size_t row = 0; row < order; ++row)

@@ -224,7 +224,7 @@ VONKK3_INLINE VonkStatus combineByObject(const A &a, const B &b, const D &d, Cou
 }
 
 template <class F, class A, class B, class D, class Count, class Operation>
-VONKK3_APART VonkStatus combineByObjectApart(A a, B b, D d, Count count, Operation operation) {
+VONKK3_NOINLINE VonkStatus combineByObjectApart(A a, B b, D d, Count count, Operation operation) {
     return combineByObject<F>(a, b, d, count, operation);
 }
 

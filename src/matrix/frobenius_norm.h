@@ -117,7 +117,7 @@ VONKK3_INLINE VonkStatus normsByFour(const A &a, Fixed<order> size, std::byte *r
 // 6x6 gives the same results one by one or four at a time, but four at a time must not be seen: no result may lie where
 // a later object is read, and objects ahead of a null list entry are complete.
 template <class A>
-VONKK3_APART VonkStatus normsOfSixOneByOne(const A &a, std::size_t from, std::size_t to, std::byte *results) {
+VONKK3_NOINLINE VonkStatus normsOfSixOneByOne(const A &a, std::size_t from, std::size_t to, std::byte *results) {
     for (std::size_t n = from; n < to; ++n) {
         if (a.listHasNull(n)) return vonkErrNullPtr;
         normOfOne(a, n, fixed<6>, results);

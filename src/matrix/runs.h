@@ -84,7 +84,7 @@ VONKK3_INLINE void workRun(std::byte *d, const Operation &operation, const Sourc
 
 // The same row by row.
 template <std::size_t order, class Operation>
-VONKK3_APART void workRunByRows(std::byte *d, Operation operation, StoredRun<order> a, StoredRun<order> b) {
+VONKK3_NOINLINE void workRunByRows(std::byte *d, Operation operation, StoredRun<order> a, StoredRun<order> b) {
     workRows<order>(RowsView<Real32>(d, rowBytes<order>), operation, a, b);
 }
 

@@ -39,7 +39,7 @@ VONKK3_INLINE VonkStatus transposeElements(const A &a, const D &d, Columns colum
 }
 
 // The same for rows of adjacent elements that something keeps from being turned round in registers.
-template <std::size_t order> VONKK3_APART void transposeInMemory(RowsView<const Real32> a, RowsView<Real32> d) {
+template <std::size_t order> VONKK3_NOINLINE void transposeInMemory(RowsView<const Real32> a, RowsView<Real32> d) {
     transposeElements<false>(a, d, fixed<order>, order);
 }
 

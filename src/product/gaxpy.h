@@ -27,15 +27,15 @@ VONKK3_INLINE VonkStatus gaxpyInLanes(const A &src1, const V &src2, const W &src
     return walk([&](auto work) VONKK3_INLINED { return forEachObject(count, work, src2, src3, dst); }, src3, dst);
 }
 
-// One object element by element. Of a single object in tables, an element's entries of src3 and dst are tested ahead of
-// its zero store, those of its terms as they come.
-template <class T, bool inCell, bool testsEntries, class A, class V, class W, class D>
-VONKK3_INLINE VonkStatus gaxpyObject(const A &a, const V &v, const W &w, const D &d, std::size_t rows,
+// A single object element by element. In tables an element's entries of src3 and dst are tested before it is set to
+// zero, those of its terms as they come.
+template <class T, bool inCell, class A, class V, class W, class D>
+VONKK3_INLINE VonkStatus gaxpySingle(const A &a, const V &v, const W &w, const D &d, std::size_t rows,
                                      std::size_t cols) {
     for (std::size_t i = 0; i < rows; ++i) {
-        if (testsEntries && w.hasNullEntry(i)) return vonkErrNullPtr;
+        if (w.hasNullEntry(i)) return vonkErrNullPtr;
         Working<T> sum;
-        if (!sumIntoCell<T, inCell, testsEntries>(a, ColumnView<V>{v}, ColumnView<D>{d}, i, 0, cols, sum))
+        if (!sumIntoCell<T, inCell, true>(a, ColumnView<V>{v}, ColumnView<D>{d}, i, 0, cols, sum))
             return vonkErrNullPtr;
         d.store(i, round<T>(sum + Working<T>(w.load(i))));
     }
@@ -53,27 +53,13 @@ inline VonkStatus gaxpy(const A &src1, const V &src2, const W &src3, const D &ds
             return vonkErrNullPtr;
 
     if constexpr (multipliesVectorInLanes<T, D::layout, Cols>) return gaxpyInLanes(src1, src2, src3, dst, cols, count);
-    else {
-        const auto one = [&](std::size_t n) VONKK3_INLINED {
-            return gaxpyObject<T, accumulatesInCell<T, D::layout>, !Count::isArray>(
-                src1.view(n, cols), src2.view(n), src3.view(n), dst.view(n), rows, cols);
-        };
-        if constexpr (worksInBatches<D>) {
-            const auto tested = testingLists(one, src2, src3, dst);
-            if (count >= packWidth && cols == rows)
-                return withFixedOrder(
-                    cols,
-                    [&](auto order) VONKK3_INLINED {
-                        constexpr std::size_t extent = decltype(order)::value;
-                        if constexpr (multipliesPositions<D>)
-                            return forEachObjectFrom(multiplyVectorsByPositions<extent>(src1, src2, dst, count, src3),
-                                                     count, one);
-                        else return gaxpyInBatches<extent>(src1, src2, src3, dst, count, tested);
-                    },
-                    [&]() VONKK3_INLINED { return forEachPlainly(count, tested); });
-        }
-        return forEachObject(count, one, src2, src3, dst);
-    }
+    else if constexpr (Count::isArray) {
+        const GaxpyWords words{{src1.words(cols), columnWords(src2), columnWords(dst)}, columnWords(src3)};
+        return sumProducts<T, accumulatesInCell<T, D::layout>, D::isTable>(
+            words, SumShape<Cols::value, true>{rows, 1, cols}, count);
+    } else
+        return gaxpySingle<T, accumulatesInCell<T, D::layout>>(src1.view(0, cols), src2.view(0), src3.view(0),
+                                                               dst.view(0), rows, cols);
 }
 
 } // namespace vonkk3::product

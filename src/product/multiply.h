@@ -4,10 +4,8 @@
 #include "product/four_rows.h"
 #include "product/kernels.h"
 #include "product/packed_triples.h"
-#include "product/position_products.h"
-#include "product/register_sums.h"
 #include "product/row_pairs.h"
-#include "product/schemes.h"
+#include "product/running_sums.h"
 #include "product/shape.h"
 
 namespace vonkk3::product {
@@ -75,14 +73,28 @@ VONKK3_INLINE void multiplyHeld(const A &a, const B &b, HeldRows<order> &held, c
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-// Ways that take another order of reads and stores, or several objects at a time, and look first whether the operands
-// lie so that nobody can tell. How many objects were done, from the first on.
+struct PositionOperands {
+    ObjectsView a, b, d;
+};
+
+// Fast paths that take another order of reads and stores, or several objects at a time, where operands are disjoint.
+// How many objects were done, from the first on.
 template <class P, std::size_t order, class A, class B, class D>
-VONKK3_INLINE std::size_t multiplyUnseen(const A &src1, const B &src2, const D &dst, std::size_t objects) {
-    if constexpr (multipliesPositions<D>)
-        return multiplyMatricesByPositions<SumBegins::withFirstProduct, order>(src1, src2, dst, objects);
+VONKK3_INLINE std::size_t multiplyBatches(const A &src1, const B &src2, const D &dst, std::size_t objects) {
     constexpr bool isOfRows = P::layout == Layout::Standard && P::firstArray && !P::firstTransposed;
-    if constexpr (isOfRows && order == 3 && !P::secondArray) return multiplyTriplesByOne(src1, src2, dst, objects);
+    if constexpr (D::isTable) {
+        if (objects < worthBatches) return 0;
+        if (!arePositionsContiguous(ProductWords{src1.words(), src2.words(), dst.words()})) return 0;
+        const PositionOperands operands{objectsOf<Real32, true>(src1.words(), order, order, objects),
+                                        objectsOf<Real32, true>(src2.words(), order, order, objects),
+                                        objectsOf<Real32, true>(dst.words(), order, order, objects)};
+        // The kernel of order 3 has a row of the first operand in registers before it stores there.
+        const Aliasing aliasing(objects, writes(operands.d), readsInPlace(operands.a), reads(operands.b));
+        const std::size_t done = inWholePacks(objects);
+        if (!aliasing.allowsBatch(0, done)) return 0;
+        return multiplyMatrices<SumBegins::withFirstProduct, order>(operands, done), done;
+    } else if constexpr (isOfRows && order == 3 && !P::secondArray)
+        return multiplyTriplesByOne(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 5 && !P::secondArray && !P::secondTransposed)
         return multiplyFourRows(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 6 && !P::secondTransposed)
@@ -103,17 +115,42 @@ VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &
         else return forEachObjectFrom(first, count, multiplyObject);
     };
     if constexpr (P::secondArray) {
-        const std::size_t done = multiplyUnseen<P, order>(src1, src2, dst, count);
+        const std::size_t done = multiplyBatches<P, order>(src1, src2, dst, count);
         return multiplyFrom(done, [](const auto &a, const auto &b, const auto &d) VONKK3_INLINED {
             HeldRows<order> held = hold<P, order>(b);
             multiplyHeld<P>(a, b, held, d);
         });
     } else {
         HeldRows<order> held = hold<P, order>(src2.view(0, order)); // before any result may be stored on it
-        const std::size_t done = multiplyUnseen<P, order>(src1, src2, dst, count);
+        const std::size_t done = multiplyBatches<P, order>(src1, src2, dst, count);
         return multiplyFrom(done, [&](const auto &a, const auto &b, const auto &d)
                                       VONKK3_INLINED { multiplyHeld<P>(a, b, held, d); });
     }
+}
+
+// The strided and pointer layouts of arrays.
+template <class P, std::size_t order, bool throughTables>
+VONKK3_NOINLINE VonkStatus multiplyInLanes(const ProductWords &words, Objects count) {
+    const SharedOperand<const Real32, throughTables, P::firstTransposed> a(words.a);
+    const SharedOperand<const Real32, throughTables, P::secondTransposed> b(words.b);
+    return multiplyInLanes<P>(a, b, SharedOperand<Real32, throughTables>(words.d), fixed<order>, count);
+}
+
+// One object, element by element.
+template <class P, class A, class B, class D, class T = typename D::Element>
+VONKK3_INLINE VonkStatus sumSingle(const A &src1, std::size_t cols1, std::size_t rows1, const B &src2,
+                                   std::size_t cols2, std::size_t rows2, const D &dst, std::size_t rows,
+                                   std::size_t columns, std::size_t terms) {
+    const auto a = src1.view(0, P::firstTransposed ? rows1 : cols1);
+    const auto b = src2.view(0, P::secondTransposed ? rows2 : cols2);
+    const auto d = dst.view(0, columns);
+    if constexpr (P::layout == Layout::Standard) {
+        const ObjectsView first = objectsOf(src1, rows, terms, 1), second = objectsOf(src2, terms, columns, 1);
+        const ObjectsView result = objectsOf(dst, rows, columns, 1);
+        if (!Aliasing(1, writes(result), reads(first), reads(second)).rulesOutBatches())
+            return sumOnce<T>(a, b, d, rows, columns, terms), vonkOk;
+    }
+    return sumIntoCells<T, accumulatesInCell<T, P::layout>, true>(a, b, d, rows, columns, terms);
 }
 
 template <class A, class Cols1, class Rows1, class B, class Cols2, class Rows2, class D, class Count>
@@ -121,52 +158,35 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
                            const D &dst, Count count) {
     using P = Pattern<A, B>;
     using T = typename D::Element;
-    constexpr Scheme scheme = schemeOf<T, P, Cols1::value>();
+    constexpr std::size_t order = Cols1::value;
+    constexpr Scheme scheme = schemeOf<T, P, order>();
     if (anyNull(src1, src2, dst)) return vonkErrNullPtr;
     const Dimensions<Cols1, Rows1, Cols2, Rows2> size{cols1, rows1, cols2, rows2};
     if constexpr (!Cols1::isFixed)
         if (size.template anyZero<P>() || !size.template agree<P>()) return vonkErrSize;
-    if constexpr (P::isArray && testsEntries<T, P, Cols1::value>)
+    if constexpr (P::isArray && testsEntries<T, P, order>)
         if (anyTableEntryNull(cols1 * rows1, src1) || anyTableEntryNull(cols2 * rows2, src2) ||
             anyTableEntryNull(size.template testedCells<P>(), dst))
             return vonkErrNullPtr;
 
-    if constexpr (scheme == Scheme::rowBroadcast) return multiplyInLanes<P>(src1, src2, dst, cols1, count);
+    constexpr bool isAdjacent = P::layout == Layout::Standard || P::layout == Layout::L;
+    if constexpr (scheme == Scheme::rowBroadcast && (isAdjacent || !P::isArray))
+        return multiplyInLanes<P>(src1, src2, dst, cols1, count);
+    else if constexpr (scheme == Scheme::pairSum)
+        return multiplyByPairSums(src1.view(0), src2.view(0), dst.view(0)), vonkOk;
     else {
-        const auto one = [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
-            const std::size_t rows = size.template rows<P>(), columns = size.template columns<P>();
-            const std::size_t terms = size.template terms<P>();
-            const auto a = src1.view(n, P::firstTransposed ? rows1 : cols1);
-            const auto b = src2.view(n, P::secondTransposed ? rows2 : cols2);
-            const auto d = dst.view(n, columns);
-            if constexpr (scheme == Scheme::pairSum) return multiplyByPairSums(a, b, d), vonkOk;
-            if constexpr (!accumulatesInCell<T, P::layout> && hasExtent<std::remove_const_t<decltype(d)>>)
-                if (sumOnceIfDisjoint<T>(a, b, d, rows, columns, terms)) return vonkOk;
-            return sumIntoCells<T, accumulatesInCell<T, P::layout>, !P::isArray>(a, b, d, rows, columns, terms);
-        };
-        if constexpr (worksInBatches<D>) {
-            const auto fallBack = [&](std::size_t n) VONKK3_INLINED {
-                sumIntoCellsPlainly<T, Cols1::value, Cols1::value>(
-                    src1.view(n, P::firstTransposed ? rows1 : cols1), src2.view(n, P::secondTransposed ? rows2 : cols2),
-                    dst.view(n, size.template columns<P>()), size.template rows<P>(), size.template columns<P>(),
-                    size.template terms<P>());
-                return vonkOk;
-            };
-            const auto tested = testingLists(fallBack, src1, src2, dst);
-            if (count >= packWidth && cols1 == rows1 && cols2 == rows2 && rows1 == rows2)
-                return withFixedOrder(
-                    cols1,
-                    [&](auto order) VONKK3_INLINED {
-                        constexpr std::size_t extent = decltype(order)::value;
-                        if constexpr (multipliesPositions<D>) {
-                            const std::size_t done =
-                                multiplyMatricesByPositions<SumBegins::withZero, extent>(src1, src2, dst, count);
-                            return workPlainly(fallBack, done, count);
-                        } else return sumMatrices<extent>(src1, src2, dst, count, tested);
-                    },
-                    [&]() VONKK3_INLINED { return forEachPlainly(count, tested); });
+        const std::size_t rows = size.template rows<P>(), columns = size.template columns<P>();
+        const std::size_t terms = size.template terms<P>();
+        if constexpr (!P::isArray)
+            return sumSingle<P>(src1, cols1, rows1, src2, cols2, rows2, dst, rows, columns, terms);
+        else {
+            const ProductWords words{src1.words(P::firstTransposed ? rows1 : cols1),
+                                     src2.words(P::secondTransposed ? rows2 : cols2), dst.words(columns)};
+            if constexpr (scheme == Scheme::rowBroadcast) return multiplyInLanes<P, order, D::isTable>(words, count);
+            else
+                return sumProducts<T, accumulatesInCell<T, P::layout>, D::isTable>(
+                    words, SumShape<order, false>{rows, columns, terms}, count);
         }
-        return forEachObject(count, one, src1, src2, dst);
     }
 }
 

@@ -3,10 +3,7 @@
 
 #include "frame/untested_position.h"
 #include "product/packed_triples.h"
-#include "product/position_products.h"
-#include "product/register_sums.h"
-#include "product/schemes.h"
-#include "product/vector_batches.h"
+#include "product/running_sums.h"
 #include "product/vector_kernels.h"
 
 namespace vonkk3::product {
@@ -85,41 +82,25 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
 
     if constexpr (multipliesVectorInLanes<T, D::layout, Cols>)
         return multiplyVectorInLanes(src1, src2, dst, cols, count);
-    else {
-        const auto one = [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
-            const auto a = src1.view(n, A::isTransposed ? std::size_t(rows) : std::size_t(cols));
-            const ColumnView v{src2.view(n)};
-            const ColumnView d{dst.view(n)};
-            constexpr bool inCell = accumulatesInCell<T, D::layout>;
-            if constexpr (leavesPosition8Untested<A, Count, Cols>)
-                return sumIntoCells<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
-            if constexpr (!inCell && hasExtent<std::remove_const_t<decltype(d.vector)>>)
-                if (sumOnceIfDisjoint<T>(a, asColumn(v.vector), asColumn(d.vector), rows, 1, cols)) return vonkOk;
-            return sumIntoCells<T, inCell, !Count::isArray>(a, v, d, rows, 1, cols);
-        };
-        if constexpr (worksInBatches<D>) {
-            const auto fallBack = [&](std::size_t n) VONKK3_INLINED {
-                sumIntoCellsPlainly<T, Cols::value, 1>(
-                    src1.view(n, A::isTransposed ? std::size_t(rows) : std::size_t(cols)), ColumnView{src2.view(n)},
-                    ColumnView{dst.view(n)}, rows, 1, cols);
-                return vonkOk;
-            };
-            const auto tested = testingLists(fallBack, src1, src2, dst);
-            if (count >= packWidth && cols == rows)
-                return withFixedOrder(
-                    cols,
-                    [&](auto order) VONKK3_INLINED {
-                        constexpr std::size_t extent = decltype(order)::value;
-                        if constexpr (multipliesPositions<D>)
-                            return forEachObjectFrom(multiplyVectorsByPositions<extent>(src1, src2, dst, count), count,
-                                                     fallBack);
-                        else if constexpr (!A::isArray || D::layout == Layout::Standard || D::layout == Layout::L)
-                            return multiplyInBatches<extent>(src1, src2, dst, count, tested);
-                        else return sumVectors<extent>(src1, src2, dst, count, tested);
-                    },
-                    [&]() VONKK3_INLINED { return forEachPlainly(count, tested); });
+    else if constexpr (Count::isArray) {
+        const ProductWords words{src1.words(A::isTransposed ? std::size_t(rows) : std::size_t(cols)), columnWords(src2),
+                                 columnWords(dst)};
+        return sumProducts<T, accumulatesInCell<T, D::layout>, D::isTable>(
+            words, SumShape<Cols::value, true>{rows, 1, cols}, count);
+    } else {
+        const auto a = src1.view(0, A::isTransposed ? std::size_t(rows) : std::size_t(cols));
+        const ColumnView v{src2.view(0)};
+        const ColumnView d{dst.view(0)};
+        constexpr bool inCell = accumulatesInCell<T, D::layout>;
+        if constexpr (D::layout == Layout::Standard) {
+            const ObjectsView matrix = objectsOf(src1, rows, cols, 1), vector = objectsOf(src2, 1, cols, 1);
+            const ObjectsView result = objectsOf(dst, 1, rows, 1);
+            if (!Aliasing(1, writes(result), reads(matrix), reads(vector)).rulesOutBatches())
+                return sumOnce<T>(a, v, d, rows, 1, cols), vonkOk;
         }
-        return forEachObject(count, one, src1, src2, dst);
+        if constexpr (leavesPosition8Untested<A, Count, Cols>)
+            return sumIntoCells<T, inCell, true>(Position8Untested{a}, v, d, rows, 1, cols);
+        else return sumIntoCells<T, inCell, true>(a, v, d, rows, 1, cols);
     }
 }
 

@@ -53,7 +53,7 @@ template <std::size_t order, bool sharedIsArray, bool otherIsArray, bool hasAdde
     }
 
     // For the objects between two offsets. All is read before anything is stored.
-    template <SumBegins begins> VONKK3_APART static void work(const Cells &memory, std::size_t from, std::size_t to) {
+    template <SumBegins begins> VONKK3_NOINLINE static void work(const Cells &memory, std::size_t from, std::size_t to) {
         const Cells cells = memory; // pointers and numbers in registers
         for (std::size_t at = from; at < to; at += packWidth * sizeof(Real32)) {
             Pack sum[width];
@@ -84,14 +84,10 @@ template <class Work> VONKK3_INLINE void forEachRange(std::size_t objects, const
     }
 }
 
-// Views of the first operand, the second one, the addend (else any) and the result.
-struct PositionOperands {
-    const ObjectsView &a, &b, &addend, &d;
-};
-
 // d(i, j) = sum of a(i, k) b(k, j), for so many objects, a multiple of packWidth.
-template <SumBegins begins, std::size_t order, bool firstIsArray, bool secondIsArray>
-VONKK3_APART void multiplyMatrices(const PositionOperands &p, std::size_t objects) {
+// `p` has the views a, b and d.
+template <SumBegins begins, std::size_t order, bool firstIsArray, bool secondIsArray, class Operands>
+VONKK3_NOINLINE void multiplyMatrices(const Operands &p, std::size_t objects) {
     using Strip = Cells<order, firstIsArray, secondIsArray, false>;
     forEachRange(objects, [&](std::size_t from, std::size_t to) VONKK3_INLINED {
         for (std::size_t i = 0; i < order; ++i)
@@ -109,64 +105,40 @@ VONKK3_APART void multiplyMatrices(const PositionOperands &p, std::size_t object
     });
 }
 
-// d(i) = sum of a(i, k) b(k), plus the addend's element.
-template <std::size_t order, bool firstIsArray, bool secondIsArray, bool hasAddends>
-VONKK3_APART void multiplyVectors(const PositionOperands &p, std::size_t objects) {
+template <SumBegins begins, std::size_t order, class Operands>
+void multiplyMatrices(const Operands &p, std::size_t objects) {
+    if (!p.a.isArray) multiplyMatrices<begins, order, false, true>(p, objects);
+    else if (!p.b.isArray) multiplyMatrices<begins, order, true, false>(p, objects);
+    else multiplyMatrices<begins, order, true, true>(p, objects);
+}
+
+// d(i) = sum of a(i, k) b(k), plus the addend's element; vectors are columns.
+template <std::size_t order, bool firstIsArray, bool secondIsArray, bool hasAddends, class Operands>
+VONKK3_NOINLINE void multiplyVectors(const Operands &p, std::size_t objects) {
     using Strip = Cells<order, secondIsArray, firstIsArray, hasAddends>;
     forEachRange(objects, [&](std::size_t from, std::size_t to) VONKK3_INLINED {
         for (std::size_t next = 0; next < order; next += Strip::width) {
             const std::size_t i = next + Strip::width <= order ? next : order - Strip::width;
             Strip cells;
             for (std::size_t k = 0; k < order; ++k) {
-                cells.shared.take(k, p.b.position(0, k));
+                cells.shared.take(k, p.b.position(k, 0));
                 for (std::size_t w = 0; w < Strip::width; ++w) cells.other[w].take(k, p.a.position(i + w, k));
             }
             for (std::size_t w = 0; w < Strip::width; ++w) {
-                cells.addend[w] = reinterpret_cast<const std::byte *>(p.addend.position(0, i + w));
-                cells.target[w] = reinterpret_cast<std::byte *>(p.d.position(0, i + w));
+                if constexpr (hasAddends) cells.addend[w] = reinterpret_cast<const std::byte *>(p.addend.position(i + w, 0));
+                cells.target[w] = reinterpret_cast<std::byte *>(p.d.position(i + w, 0));
             }
             Strip::template work<SumBegins::withZero>(cells, from, to);
         }
     });
 }
 
-// Arrays in the pointer layout with packed objects.
-template <class D>
-inline constexpr bool multipliesPositions =
-    D::isArray &&D::layout == Layout::P &&std::is_same_v<typename D::Element, Real32>;
-
-// How many objects were done: all that fill packs, or none.
-template <SumBegins begins, std::size_t order, class A, class B, class D>
-VONKK3_INLINE std::size_t multiplyMatricesByPositions(const A &src1, const B &src2, const D &dst, std::size_t count) {
-    if (count < worthBatches) return 0;
-    const std::size_t objects = inWholePacks(count);
-    const ObjectsView a = objectsOf(src1, order, order, objects), b = objectsOf(src2, order, order, objects);
-    const ObjectsView d = objectsOf(dst, order, order, objects);
-    // The kernel of order 3 has a row of the first operand in registers before it stores there.
-    const Aliasing aliasing(objects, writes(d), begins == SumBegins::withFirstProduct ? readsInPlace(a) : reads(a),
-                            reads(b));
-    if (!aliasing.allowsBatch(0, objects)) return 0;
-    multiplyMatrices<begins, order, A::isArray, B::isArray>({a, b, b, d}, objects);
-    return objects;
-}
-
-template <std::size_t order, class A, class V, class D, class... Addend>
-VONKK3_INLINE std::size_t multiplyVectorsByPositions(const A &src1, const V &src2, const D &dst, std::size_t count,
-                                                     const Addend &...src3) {
-    static_assert(sizeof...(src3) <= 1);
-    if (count < worthBatches) return 0;
-    const std::size_t objects = inWholePacks(count);
-    const ObjectsView a = objectsOf(src1, order, order, objects), b = objectsOf(src2, 1, order, objects);
-    const ObjectsView d = objectsOf(dst, 1, order, objects);
-    if constexpr (sizeof...(src3) == 1) {
-        const ObjectsView addend = objectsOf(src3..., 1, order, objects);
-        if (!Aliasing(objects, writes(d), reads(a), reads(b), reads(addend)).allowsBatch(0, objects)) return 0;
-        multiplyVectors<order, A::isArray, V::isArray, true>({a, b, addend, d}, objects);
-    } else {
-        if (!Aliasing(objects, writes(d), reads(a), reads(b)).allowsBatch(0, objects)) return 0;
-        multiplyVectors<order, A::isArray, V::isArray, false>({a, b, b, d}, objects);
-    }
-    return objects;
+template <std::size_t order, bool hasAddends, class Operands>
+void multiplyVectors(const Operands &p, std::size_t objects) {
+    if (!p.a.isArray) multiplyVectors<order, false, true, hasAddends>(p, objects);
+    else if constexpr (!hasAddends)
+        p.b.isArray ? multiplyVectors<order, true, true, false>(p, objects)
+                    : multiplyVectors<order, true, false, false>(p, objects);
 }
 
 } // namespace vonkk3::product

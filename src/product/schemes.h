@@ -32,70 +32,55 @@ VONKK3_INLINE bool sumIntoCell(const A &a, const B &b, const D &d, std::size_t i
     return true;
 }
 
+// What is added to element (i, j) when its sum is finished; nothing, but in Gaxpy.
+struct NoAddend {
+    static constexpr bool isNone = true;
+};
+template <class View> struct Addend {
+    static constexpr bool isNone = false;
+    View view;
+};
+template <class View> Addend(View) -> Addend<View>;
+
 // The whole product, rows outermost.
-template <class T, bool inCell, bool testsEntries, class A, class B, class D>
+template <class T, bool inCell, bool testsEntries, class A, class B, class D, class W = NoAddend>
 VONKK3_INLINE VonkStatus sumIntoCells(const A &a, const B &b, const D &d, std::size_t rows, std::size_t columns,
-                                      std::size_t terms) {
+                                      std::size_t terms, const W &addend = {}) {
     Working<T> sum;
     for (std::size_t i = 0; i < rows; ++i)
-        for (std::size_t j = 0; j < columns; ++j)
+        for (std::size_t j = 0; j < columns; ++j) {
             if (!sumIntoCell<T, inCell, testsEntries>(a, b, d, i, j, terms, sum)) return vonkErrNullPtr;
+            if constexpr (!W::isNone) d.store(i, j, round<T>(sum + Working<T>(addend.view.load(i, j))));
+        }
     return vonkOk;
 }
 
-// ---- The same sums where no cell lies on a factor -------------------------------------------------------------------
-// What happens to a cell on the way to its sum cannot be seen then, and it is stored once.
+// ---- The same sums where d is disjoint from all that is read: every element is stored once --------------------------
 
 // The 80-bit unit is busy with nothing but the operations, so Real64 leaves out the first addition: a sum that begins
-// at its first product comes out the same as one from +0 unless all terms are zeros. A -0 is found out by its bits and
-// summed anew.
+// at its first product comes out the same as one from +0 unless all terms are zeros. A -0 is recognised by its bits and
+// summed again.
 template <class T> inline constexpr bool beginsAtFirstProduct = std::is_same_v<T, Real64>;
 
 inline bool isNegativeZero(const std::byte *real64) { return loadAt<std::uint64_t>(real64) == std::uint64_t(1) << 63; }
 
-template <class View> inline constexpr bool hasExtent = false;
-template <class T> inline constexpr bool hasExtent<RowsView<T>> = true;
-template <class T> inline constexpr bool hasExtent<TransposedView<RowsView<T>>> = true;
-
-// The plain path of arrays that have a fast one: few objects, and operands that overlap. A fixed order is none of the
-// arguments.
-template <class T, std::size_t order, std::size_t fixedColumns, class A, class B, class D>
-VONKK3_APART void sumIntoCellsPlainly(const A &a, const B &b, const D &d, std::size_t rows, std::size_t columns,
-                                      std::size_t terms) {
-    const A first = a; // what a view holds stays in registers only if no store may change it
-    const B second = b;
-    const D cells = d;
-    if constexpr (order == 0) sumIntoCells<T, false, false>(first, second, cells, rows, columns, terms);
-    else sumIntoCells<T, false, false>(first, second, cells, order, fixedColumns, order);
-}
-
-template <class T>
-VONKK3_INLINE Extent extentOf(const TransposedView<RowsView<T>> &view, std::size_t rows, std::size_t columns) {
-    return extentOf(view.stored, columns, rows);
-}
-
-// A vector of adjacent elements as a matrix of one column.
-template <class T> VONKK3_INLINE RowsView<T> asColumn(const RowsView<T> &vector) {
-    return RowsView<T>(vector.base, sizeof(T));
-}
-
-// Looks first, and is false, and nothing done, where cells lie on factors.
-template <class T, class A, class B>
-VONKK3_INLINE bool sumOnceIfDisjoint(const A &a, const B &b, const RowsView<T> &d, std::size_t rows,
-                                     std::size_t columns, std::size_t terms) {
-    const Extent cells = extentOf(d, rows, columns);
-    if (!disjoint(cells, extentOf(a, rows, terms)) || !disjoint(cells, extentOf(b, terms, columns))) return false;
-    using W = Working<T>;
+template <class T, class A, class B, class D, class W = NoAddend>
+VONKK3_INLINE void sumOnce(const A &a, const B &b, const D &d, std::size_t rows, std::size_t columns, std::size_t terms,
+                           const W &addend = {}) {
+    const auto sumFrom = [&](std::size_t first, std::size_t i, std::size_t j) VONKK3_INLINED {
+        const auto term = [&](std::size_t k)
+                              VONKK3_INLINED { return Working<T>(a.load(i, k)) * Working<T>(b.load(k, j)); };
+        Working<T> sum = first == 0 ? Working<T>(0) : term(0);
+        for (std::size_t k = first; k < terms; ++k) sum = sum + term(k);
+        if constexpr (!W::isNone) sum = sum + Working<T>(addend.view.load(i, j));
+        d.store(i, j, round<T>(sum));
+    };
     for (std::size_t i = 0; i < rows; ++i)
         for (std::size_t j = 0; j < columns; ++j) {
-            const auto term = [&](std::size_t k) VONKK3_INLINED { return W(a.load(i, k)) * W(b.load(k, j)); };
-            W total = beginsAtFirstProduct<T> ? term(0) : W(0);
-            for (std::size_t k = beginsAtFirstProduct<T>; k < terms; ++k) total = total + term(k);
-            d.store(i, j, round<T>(total));
+            sumFrom(beginsAtFirstProduct<T>, i, j);
             if (beginsAtFirstProduct<T> && isNegativeZero(d.at(i, j))) [[unlikely]]
-                sumIntoCell<T, false, false>(a, b, d, i, j, terms, total);
+                sumFrom(0, i, j);
         }
-    return true;
 }
 
 } // namespace vonkk3::product

@@ -6,11 +6,24 @@
 
 namespace vonkk3::product {
 
-template <std::size_t order, bool firstIsArray, bool secondIsArray, bool hasAddend> struct VectorBatch {
+template <std::size_t order, bool throughTables, bool firstIsArray, bool secondIsArray, bool hasAddend>
+struct VectorBatch {
     static constexpr std::size_t chains = 1;
+    static constexpr bool takesPositions = false; // products through tables have a faster path
+    static constexpr bool takesAny = !firstIsArray;
     MatricesOfBatch<order, firstIsArray> a;
     VectorsOfBatch<order, secondIsArray> v;
     VectorsOfBatch<order> w, d;
+
+    template <class Words>
+    VONKK3_INLINE VectorBatch(const Words &words, std::size_t count)
+        : a(objectsOf<Real32, throughTables>(words.a, order, order, count)), v(vectorOf(words.b, count)),
+          w(vectorOf(addendOf(words), count)), d(vectorOf(words.d, count)) {}
+
+    auto aliasing(std::size_t count) const {
+        if constexpr (hasAddend) return Aliasing(count, writes(d.view), reads(a.view), reads(v.view), reads(w.view));
+        else return Aliasing(count, writes(d.view), reads(a.view), reads(v.view));
+    }
 
     Access access() const { return accessOf(a.view, v.view, w.view, d.view); }
     template <Access access> VONKK3_INLINE void hoist() {
@@ -40,22 +53,16 @@ template <std::size_t order, bool firstIsArray, bool secondIsArray, bool hasAdde
         d.template scatter<access>(n, result);
         return true;
     }
+
+private:
+    // A column.
+    VONKK3_INLINE static ObjectsView vectorOf(const OperandWords &words, std::size_t count) {
+        return transposedView(objectsOf<Real32, throughTables>(words, order, 1, count));
+    }
+    template <class Words> VONKK3_INLINE static const OperandWords &addendOf(const Words &words) {
+        if constexpr (hasAddend) return words.addend;
+        else return words.d;
+    }
 };
-
-template <std::size_t order, class A, class V, class D, class One>
-VONKK3_INLINE VonkStatus multiplyInBatches(const A &src1, const V &src2, const D &dst, std::size_t count,
-                                           const One &one) {
-    VectorBatch<order, A::isArray, V::isArray, false> batch{{src1, count}, {src2, count}, {dst, count}, {dst, count}};
-    return forEachBatch(batch, Aliasing(count, writes(batch.d.view), reads(batch.a.view), reads(batch.v.view)), count,
-                        one);
-}
-
-template <std::size_t order, class A, class V, class W, class D, class One>
-VONKK3_INLINE VonkStatus gaxpyInBatches(const A &src1, const V &src2, const W &src3, const D &dst, std::size_t count,
-                                        const One &one) {
-    VectorBatch<order, false, true, true> batch{{src1, count}, {src2, count}, {src3, count}, {dst, count}};
-    const Aliasing aliasing(count, writes(batch.d.view), reads(batch.a.view), reads(batch.v.view), reads(batch.w.view));
-    return forEachBatch(batch, aliasing, count, one);
-}
 
 } // namespace vonkk3::product

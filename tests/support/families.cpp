@@ -545,13 +545,6 @@ double nextTo(double value, double side, catalogue::Type type) {
 
 // --- positive definite matrices and others
 
-// Random values hold infinities and NaNs, of which one spoils a whole array for Cholesky.
-void makeFinite(const MatrixObject &matrix) {
-    for (std::uint32_t i = 0; i < matrix.order(); ++i)
-        for (std::uint32_t j = 0; j < matrix.order(); ++j)
-            if (!std::isfinite(matrix.get(i, j))) matrix.set(i, j, 1.0);
-}
-
 // As large as the rest of its row together and more. Where the row is no number the diagonal stays.
 void makeDominant(const MatrixObject &matrix) {
     for (std::uint32_t i = 0; i < matrix.order(); ++i) {
@@ -648,10 +641,8 @@ void makeQrTrouble(const MatrixObject &matrix, Random &random) {
 void shapeValues(const Function &function, std::span<const Placement> operands, Random &random) {
     if (!in(function, {"cholesky-decomposition"}) || random.percent(10)) return;
     const bool bySquares = random.percent(60);
-    const bool finite = random.percent(60);
     for (std::uint32_t n = 0; n < operands.front().objects; ++n) {
         const MatrixObject matrix{operands.front(), function.type, n};
-        if (finite) makeFinite(matrix);
         bySquares &&isTame(matrix) ? squareTriangle(matrix) : makeDominant(matrix);
     }
 }
