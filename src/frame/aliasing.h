@@ -367,8 +367,8 @@ VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
     if (view.isList()) return false;
     const std::ptrdiff_t ofRow = strides(view.columns - 1, view.elementStride) + std::ptrdiff_t(view.elementBytes);
     const std::ptrdiff_t ofObject = strides(view.rows - 1, view.rowStride) + ofRow;
-    if ((view.columns > 1 && view.elementStride < std::ptrdiff_t(view.elementBytes)) || (view.rows > 1 && view.rowStride < ofRow) ||
-        (view.isArray && view.objectStride < ofObject))
+    if ((view.columns > 1 && view.elementStride < std::ptrdiff_t(view.elementBytes)) ||
+        (view.rows > 1 && view.rowStride < ofRow) || (view.isArray && view.objectStride < ofObject))
         return false;
     whole = {view.begin, view.begin + std::uintptr_t(strides(view.count - 1, view.objectStride) + ofObject)};
     return whole.begin < whole.end;
@@ -423,7 +423,7 @@ VONKK3_NOINLINE inline Answer askOnce(AliasOperand *operands, std::size_t number
 
 // Of the objects from n on.
 VONKK3_NOINLINE inline bool askForBatch(const AliasOperand *operands, std::size_t number, std::size_t n,
-                                     std::size_t objects) {
+                                        std::size_t objects) {
     for (std::size_t k = n; k < n + objects; ++k)
         for (std::size_t l = 0; l < number; ++l) {
             const ObjectsView &view = operands[l].view;

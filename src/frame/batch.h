@@ -71,7 +71,7 @@ VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands
 
 template <Access access, BatchKernel Batch, std::size_t operands>
 VONKK3_NOINLINE std::size_t workBatches(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
-                                     std::size_t count) {
+                                        std::size_t count) {
     batch.template hoist<access>(); // anew behind every plain object, which may have written there
     if constexpr (Batch::chains > 1) n = workWhileAllowed<access, Batch::chains>(batch, aliasing, n, count);
     return workWhileAllowed<access, 1>(batch, aliasing, n, count);
@@ -82,8 +82,7 @@ VONKK3_INLINE std::size_t workBatches(Access access, Batch &batch, const Aliasin
                                       std::size_t count) {
     if constexpr (objectsOfChain<Batch> == 1) return workBatches<Access::any>(batch, aliasing, n, count);
     else {
-        if (!takesAny<Batch> || access == Access::rows)
-            return workBatches<Access::rows>(batch, aliasing, n, count);
+        if (!takesAny<Batch> || access == Access::rows) return workBatches<Access::rows>(batch, aliasing, n, count);
         if constexpr (takesPositions<Batch>)
             if (access == Access::positions) return workBatches<Access::positions>(batch, aliasing, n, count);
         if constexpr (takesAny<Batch>) return workBatches<Access::any>(batch, aliasing, n, count);

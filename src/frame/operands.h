@@ -113,8 +113,13 @@ public:
             return {address(), std::int32_t(objectStride), std::int32_t(shift), std::int32_t(columns), isArray, false,
                     false};
         else
-            return {address(), std::int32_t(isList ? shift : objectStride), std::int32_t(rowStride),
-                    std::int32_t(elementStride), isArray, isList, false};
+            return {address(),
+                    std::int32_t(isList ? shift : objectStride),
+                    std::int32_t(rowStride),
+                    std::int32_t(elementStride),
+                    isArray,
+                    isList,
+                    false};
     }
 
     // Of object 0, or of the list or table.

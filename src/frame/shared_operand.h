@@ -24,16 +24,15 @@ template <class T, bool throughTables, bool isTransposed = false> struct SharedO
     // `columns` are those of the table.
     auto view(std::size_t n, std::size_t columns) const {
         if constexpr (throughTables) {
-            const TableView<T> table(reinterpret_cast<T *const *>(begin), columns,
-                                     rowStride + strides(n, step));
+            const TableView<T> table(reinterpret_cast<T *const *>(begin), columns, rowStride + strides(n, step));
             if constexpr (isTransposed) return TransposedView{table};
             else return table;
         } else return StridedView<T>(object(n), rowStride, elementStride);
     }
     auto view(std::size_t n) const { return view(n, std::uint32_t(elementStride)); }
     OperandWords words() const {
-        return {begin,   std::int32_t(step), std::int32_t(rowStride), std::int32_t(elementStride),
-                isArray, isList,             isTransposed};
+        return {begin,  std::int32_t(step), std::int32_t(rowStride), std::int32_t(elementStride), isArray,
+                isList, isTransposed};
     }
     bool listHasNull(std::size_t n) const { return !throughTables && isList && listEntry(n) == 0; }
 

@@ -74,7 +74,8 @@ private:
     }
 
     // The element of object n at an address, with its logical row; row `order` if there is none.
-    VONKK3_NOINLINE Position findOwn(std::uintptr_t address, std::size_t n, const std::uint32_t (&physical)[order]) const {
+    VONKK3_NOINLINE Position findOwn(std::uintptr_t address, std::size_t n,
+                                     const std::uint32_t (&physical)[order]) const {
         for (std::size_t column = order; column-- > 0;)
             for (std::size_t row = 0; row < order; ++row)
                 if (address == addressOf(physical[row], column, n)) return {row, column};

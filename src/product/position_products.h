@@ -53,7 +53,8 @@ template <std::size_t order, bool sharedIsArray, bool otherIsArray, bool hasAdde
     }
 
     // For the objects between two offsets. All is read before anything is stored.
-    template <SumBegins begins> VONKK3_NOINLINE static void work(const Cells &memory, std::size_t from, std::size_t to) {
+    template <SumBegins begins>
+    VONKK3_NOINLINE static void work(const Cells &memory, std::size_t from, std::size_t to) {
         const Cells cells = memory; // pointers and numbers in registers
         for (std::size_t at = from; at < to; at += packWidth * sizeof(Real32)) {
             Pack sum[width];
@@ -125,7 +126,8 @@ VONKK3_NOINLINE void multiplyVectors(const Operands &p, std::size_t objects) {
                 for (std::size_t w = 0; w < Strip::width; ++w) cells.other[w].take(k, p.a.position(i + w, k));
             }
             for (std::size_t w = 0; w < Strip::width; ++w) {
-                if constexpr (hasAddends) cells.addend[w] = reinterpret_cast<const std::byte *>(p.addend.position(i + w, 0));
+                if constexpr (hasAddends)
+                    cells.addend[w] = reinterpret_cast<const std::byte *>(p.addend.position(i + w, 0));
                 cells.target[w] = reinterpret_cast<std::byte *>(p.d.position(i + w, 0));
             }
             Strip::template work<SumBegins::withZero>(cells, from, to);

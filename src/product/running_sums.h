@@ -234,8 +234,8 @@ VONKK3_NOINLINE VonkStatus sumArrays(const Words &words, const Shape &sizes, std
     }
 }
 
-// Where disjoint operands gain: arrays of packs, and Real64 whose sums stay wide. Square Real32 matrices of order 3 to 6
-// whose sizes come at run time are worked as those of fixed order.
+// Where disjoint operands gain: arrays of packs, and Real64 whose sums stay wide. Square Real32 matrices of order 3 to
+// 6 whose sizes come at run time are worked as those of fixed order.
 template <class T, bool inCell, bool throughTables, class Words, std::size_t order, bool isVector>
 VONKK3_INLINE VonkStatus sumProducts(const Words &words, const SumShape<order, isVector> &shape, std::size_t count) {
     if constexpr (std::is_same_v<T, Real64>) {
