@@ -24,10 +24,17 @@ struct OperandWords {
     std::int32_t elementStride; // of a table the entries to a row
     bool isArray, isList, isTransposed;
 };
+struct ListWords : OperandWords {};
+struct TableWords : OperandWords {};
+struct TransposedTableWords : TableWords {};
+
+template <class Words> inline constexpr bool areOfList = std::is_same_v<Words, ListWords>;
+template <class Words> inline constexpr bool areOfTable = std::is_base_of_v<TableWords, Words>;
+template <class Words> inline constexpr bool areOfTransposedTable = std::is_same_v<Words, TransposedTableWords>;
 
 // A vector as a matrix of one column.
-template <class Operand> inline OperandWords columnWords(const Operand &vector) {
-    OperandWords words = vector.words(1);
+template <class Operand> inline auto columnWords(const Operand &vector) {
+    auto words = vector.words(1);
     if constexpr (!Operand::isTable) std::swap(words.rowStride, words.elementStride);
     return words;
 }
@@ -108,18 +115,17 @@ public:
     std::ptrdiff_t entryShift() const { return shift; }
 
     // A table needs to know how many columns make a row of it.
-    OperandWords words(std::size_t columns) const {
-        if constexpr (isTable)
-            return {address(), std::int32_t(objectStride), std::int32_t(shift), std::int32_t(columns), isArray, false,
-                    false};
-        else
-            return {address(),
-                    std::int32_t(isList ? shift : objectStride),
-                    std::int32_t(rowStride),
-                    std::int32_t(elementStride),
-                    isArray,
-                    isList,
-                    false};
+    auto words(std::size_t columns) const {
+        const OperandWords words{address(),
+                                 std::int32_t(isList ? shift : objectStride),
+                                 std::int32_t(isTable ? shift : rowStride),
+                                 std::int32_t(isTable ? std::ptrdiff_t(columns) : elementStride),
+                                 isArray,
+                                 isList,
+                                 false};
+        if constexpr (isTable) return TableWords{words};
+        else if constexpr (isList) return ListWords{words};
+        else return words;
     }
 
     // Of object 0, or of the list or table.
@@ -154,11 +160,11 @@ public:
     static constexpr bool isTransposed = true;
     explicit Transposed(const Stored &stored) : Stored(stored) {}
     auto view(std::size_t n, std::size_t columns = 0) const { return TransposedView{Stored::view(n, columns)}; }
-    OperandWords words(std::size_t columns) const {
-        OperandWords words = Stored::words(columns);
+    auto words(std::size_t columns) const {
+        auto words = Stored::words(columns);
         words.isTransposed = true;
-        if constexpr (!Stored::isTable) std::swap(words.rowStride, words.elementStride);
-        return words;
+        if constexpr (Stored::isTable) return TransposedTableWords{words};
+        else return std::swap(words.rowStride, words.elementStride), words;
     }
 };
 

@@ -45,6 +45,7 @@ struct Product {
 
 // Every bit stays.
 struct Moved {
+    static constexpr bool isMove = true;
     template <class Value> Value operator()(Value a) const { return a; }
 };
 
@@ -288,32 +289,17 @@ VONKK3_NOINLINE bool stream(const Operation &shared, const ObjectsView &d, const
 
 // Fewer objects are done before the alias test is answered and the first position is set up. Positions gain more where
 // they are contiguous.
-template <class Operand> VONKK3_INLINE bool isWorthStreaming(const Operand &operand, std::size_t count) {
-    if constexpr (!Operand::isTable) return count >= 16;
-    else return count >= (operand.objectSpacing() == std::ptrdiff_t(sizeof(Real32)) ? 24 : 128);
+template <bool throughTable> VONKK3_INLINE bool isWorthStreaming(std::ptrdiff_t objectStride, std::size_t count) {
+    if constexpr (!throughTable) return count >= 16;
+    else return count >= (objectStride == std::ptrdiff_t(sizeof(Real32)) ? 24 : 128);
 }
 
-// Fixed sizes of strided layouts are unrolled on the plain path, which is as fast.
-template <class Columns, class D, class... Sources>
-inline constexpr bool mayStream = D::isArray &&std::is_same_v<typename D::Element, Real32> &&
-                                  !(D::isList || ... || Sources::isList) && !(D::isStrided && Columns::isFixed);
-
-// The same for the operands of a call, where it is worth it.
-template <class Operation, class Rows, class Columns, class D, class... Sources>
-VONKK3_INLINE bool streamObjects(const Operation &operation, Rows rows, Columns columns, std::size_t count, const D &d,
-                                 const Sources &...sources) {
-    if constexpr (mayStream<Columns, D, Sources...>)
-        return isWorthStreaming(d, count) &&
-               stream(operation, objectsOf(d, rows, columns, count), objectsOf(sources, rows, columns, count)...);
-    else return false;
-}
-
-// The same into packed objects.
+// Into packed objects, where it is worth it.
 template <class Operation, class T, class Source>
 VONKK3_INLINE bool streamPacked(const Operation &operation, std::size_t rows, std::size_t columns, std::size_t count,
                                 T *dst, const Source &source) {
-    if constexpr (mayStream<RunTime, Source> && std::is_same_v<T, Real32>) {
-        if (!isWorthStreaming(source, count)) return false;
+    if constexpr (Source::isArray && !Source::isList && std::is_same_v<T, Real32>) {
+        if (!isWorthStreaming<Source::isTable>(source.objectSpacing(), count)) return false;
         ObjectsView packed = packedBlocks(dst, rows * columns, count);
         packed.rowStride = std::ptrdiff_t(columns * sizeof(T));
         packed.rows = std::uint32_t(rows);

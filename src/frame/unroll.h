@@ -8,8 +8,15 @@
 #define VONKK3_INLINE [[gnu::always_inline]] inline   // before a function
 #define VONKK3_INLINED __attribute__((always_inline)) // behind the parameters of a lambda
 
-// For a loop or a rare way out that must not cost its neighbours their registers.
+// For a loop or a rare path that must not cost its neighbours their registers.
 #define VONKK3_NOINLINE [[gnu::noinline]]
+
+// For a body that many calls share, whatever constants some of them give it.
+#ifdef __clang__
+#define VONKK3_SHARED [[gnu::noinline]]
+#else
+#define VONKK3_SHARED [[gnu::noinline, gnu::noclone]]
+#endif
 
 #ifdef __clang__
 #define VONKK3_UNROLL_WHOLE _Pragma("unroll")

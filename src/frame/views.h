@@ -85,9 +85,11 @@ private:
 
 // A matrix with rows and columns exchanged.
 template <class View> struct TransposedView {
+    using Element = typename View::Element;
     View stored;
 
     auto load(std::size_t row, std::size_t column) const { return stored.load(column, row); }
+    void store(std::size_t row, std::size_t column, Element value) const { stored.store(column, row, value); }
     bool hasNullEntry(std::size_t row, std::size_t column) const { return stored.hasNullEntry(column, row); }
 };
 

@@ -2,12 +2,11 @@
 // rounded operation per element; objects, rows and columns in ascending order.
 #pragma once
 
+#include "frame/elementwise.h"
 #include "frame/operations.h"
-#include "frame/stream.h"
 #include "frame/untested_position.h"
 #include "frame/walk.h"
 #include "matrix/crossed_rows.h"
-#include "matrix/elements.h"
 #include "matrix/rows.h"
 #include "matrix/runs.h"
 
@@ -268,16 +267,13 @@ VONKK3_INLINE VonkStatus combine(const A &a, const B &b, const D &d, Columns col
     } else if constexpr (borrowsRowStride<F>)
         return combineInLanes<F>(a, Transposed{b.walkedBy(a.rowSpacing())}, d, count, operation);
     else if constexpr (worksInLanes<F>) return combineInLanes<F>(a, b, d, count, operation);
-    else {
-        if (streamObjects(operation, rows, columns, count, d, a, b)) return vonkOk;
-        return withColumns<Count, D>(columns, [&](auto fixedColumns) VONKK3_INLINED {
-            const auto combineObject = [&](std::size_t n) VONKK3_INLINED {
-                return workElements<!Count::isArray>(d.view(n, columns), rows, fixedColumns, operation,
-                                                     viewAs<F>(a, n, rows, columns), viewAs<F>(b, n, rows, columns));
-            };
-            return forEachObject(count, combineObject, a, b, d);
-        });
-    }
+    else if constexpr (Count::isArray)
+        return workArrays<typename D::Element>(operation, rows, columns, count, d.words(columns),
+                                               a.words(A::isTransposed ? std::size_t(rows) : std::size_t(columns)),
+                                               b.words(B::isTransposed ? std::size_t(rows) : std::size_t(columns)));
+    else
+        return workSingle<D>(d.view(0, columns), rows, columns, operation, viewAs<F>(a, 0, rows, columns),
+                             viewAs<F>(b, 0, rows, columns));
 }
 
 } // namespace vonkk3::matrix

@@ -2,9 +2,9 @@
 // rows and columns in ascending order.
 #pragma once
 
+#include "frame/elementwise.h"
 #include "frame/untested_position.h"
 #include "frame/walk.h"
-#include "matrix/elements.h"
 #include "matrix/rows.h"
 #include "matrix/runs.h"
 
@@ -68,18 +68,15 @@ VONKK3_INLINE VonkStatus scale(const A &a, typename D::Element value, const D &d
         if (anyTableEntryNull(std::size_t(columns) * rows, a, d)) return vonkErrNullPtr;
 
     if constexpr (scalesInLanes<D, Columns>) return scaleInLanes<Columns::value>(a, times, d, count);
+    else if constexpr (Count::isArray)
+        return workArrays<T>(times, rows, columns, count, d.words(columns),
+                             a.words(A::isTransposed ? std::size_t(rows) : std::size_t(columns)));
     else {
-        if (streamObjects(times, rows, columns, count, d, a)) return vonkOk;
-        return withColumns<Count, D>(columns, [&](auto fixedColumns) VONKK3_INLINED {
-            const auto scaleObject = [&](std::size_t n) VONKK3_INLINED {
-                const auto source = a.view(n, A::isTransposed ? rows : columns);
-                const auto view = d.view(n, columns);
-                if constexpr (scalesPosition8Untested<A, Columns>)
-                    return workElements<true>(view, rows, fixedColumns, times, Position8Untested{source});
-                else return workElements<!Count::isArray>(view, rows, fixedColumns, times, source);
-            };
-            return forEachObject(count, scaleObject, a, d);
-        });
+        const auto source = a.view(0, A::isTransposed ? rows : columns);
+        const auto view = d.view(0, columns);
+        if constexpr (scalesPosition8Untested<A, Columns>)
+            return workSingle<D>(view, rows, columns, times, Position8Untested{source});
+        else return workSingle<D>(view, rows, columns, times, source);
     }
 }
 

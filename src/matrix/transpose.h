@@ -1,8 +1,8 @@
 // Rows and columns exchanged, single matrices and arrays. Elements are moved and not worked: every bit stays.
 #pragma once
 
+#include "frame/elementwise.h"
 #include "frame/walk.h"
-#include "matrix/elements.h"
 #include "matrix/rows.h"
 #include "matrix/runs.h"
 
@@ -153,16 +153,14 @@ VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, RowCount rows, c
                                                     count);
         return transposeInLanes<Rows::anywhere>(a, d, columns, count);
     } else {
-        if (!D::isTable || columns == rows)
-            if (streamObjects(Moved(), columns, rows, count, d, Transposed{a})) return vonkOk;
         const TableRowLengths lengths(columns, rows);
-        return withColumns<Count, D>(columns, [&](auto fixedColumns) VONKK3_INLINED {
-            const auto transposeObject = [&](std::size_t n) VONKK3_INLINED {
-                return transposeElements<!Count::isArray>(a.view(n, lengths.source), d.view(n, lengths.destination),
-                                                          fixedColumns, rows);
-            };
-            return forEachObject(count, transposeObject, a, d);
-        });
+        if constexpr (Count::isArray)
+            return workArrays<typename D::Element>(Moved(), rows, columns, count,
+                                                   Transposed{d}.words(lengths.destination), a.words(lengths.source));
+        else if constexpr (D::isTable)
+            return transposeElements<true>(a.view(0, lengths.source), d.view(0, lengths.destination),
+                                           atRunTime(columns), rows);
+        else return transposeElements<true>(a.view(0), d.view(0), columns, rows);
     }
 }
 

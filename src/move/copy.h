@@ -2,7 +2,7 @@
 // tested: objects, rows and elements ascend, as far as overlap shows it.
 #pragma once
 
-#include "frame/stream.h"
+#include "frame/elementwise.h"
 #include "frame/walk.h"
 #include "move/moved.h"
 
@@ -15,37 +15,22 @@ namespace vonkk3::move {
 template <class Source, class Destination>
 inline constexpr bool readsThroughDestination = Source::isTable &&Destination::isTable;
 
-template <class Source, class Destination> inline Source vectorSource(const Source &src, const Destination &dst) {
-    if constexpr (readsThroughDestination<Source, Destination>)
-        return Source(reinterpret_cast<typename Source::Pointer>(dst.address()), std::int32_t(src.entryShift()),
-                      std::int32_t(src.objectSpacing()));
-    else return src;
+template <class Source, class Destination>
+inline auto vectorSource(const Source &src, const Destination &dst, std::size_t length) {
+    auto words = src.words(length);
+    if constexpr (readsThroughDestination<Source, Destination>) words.begin = dst.address();
+    return words;
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
-
-template <class Source, class Destination>
-VONKK3_INLINE VonkStatus copyObjects(const Source &src, const Destination &dst, RunTime rows, RunTime cols,
-                                     Objects count) {
-    if (streamObjects(Moved(), rows, cols, count, dst, src)) return vonkOk;
-    withFixedColumns<typename Source::Element>(cols, [&](auto columns) {
-        for (std::size_t n = 0; n < count; ++n) {
-            const auto source = src.view(n, cols);
-            const auto destination = dst.view(n, cols);
-            for (std::size_t i = 0; i < rows; ++i)
-                forIndices(0, columns, columns,
-                           [&](std::size_t j) VONKK3_INLINED { destination.store(i, j, moved(source.load(i, j))); });
-        }
-    });
-    return vonkOk;
-}
 
 // Vectors: an empty one is an error.
 template <class Source, class Destination>
 VONKK3_INLINE VonkStatus copy(const Source &src, const Destination &dst, RunTime len, Objects count) {
     if (anyNull(src, dst)) return vonkErrNullPtr;
     if (len.isZero()) return vonkErrSize;
-    return copyObjects(vectorSource(src, dst), dst, RunTime{1}, len, count);
+    return workArrays<typename Destination::Element, Entries::trusted>(Moved(), fixed<1>, len, count, dst.words(len),
+                                                                       vectorSource(src, dst, len));
 }
 
 // Matrices: an empty one is copied like any other, and there is nothing to do.
@@ -53,7 +38,8 @@ template <class Source, class Destination>
 VONKK3_INLINE VonkStatus copy(const Source &src, const Destination &dst, RunTime cols, RunTime rows, Objects count) {
     if (anyNull(src, dst)) return vonkErrNullPtr;
     if (cols.isZero() || rows.isZero()) return vonkOk; // or else the entries of a list would be read
-    return copyObjects(src, dst, rows, cols, count);
+    return workArrays<typename Destination::Element, Entries::trusted>(Moved(), rows, cols, count, dst.words(cols),
+                                                                       src.words(cols));
 }
 
 } // namespace vonkk3::move

@@ -42,7 +42,7 @@ VONKK3_INLINE VonkStatus extractObjects(const Source &src, T *dst, RunTime rows,
             if constexpr (isTransposedTable<Source>) object.stored.offset = 0;
             for (std::size_t i = 0; i < rows; ++i, row += columns * sizeof(T))
                 forIndices(0, fixedColumns, fixedColumns, [&](std::size_t j) VONKK3_INLINED {
-                    storeAt(row + j * sizeof(T), moved(object.load(i, j)));
+                    storeAt(row + j * sizeof(T), Moved()(object.load(i, j)));
                 });
         }
     });

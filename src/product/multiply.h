@@ -130,7 +130,7 @@ VONKK3_INLINE VonkStatus multiplyInLanes(const A &src1, const B &src2, const D &
 
 // The strided and pointer layouts of arrays.
 template <class P, std::size_t order, bool throughTables>
-VONKK3_NOINLINE VonkStatus multiplyInLanes(const ProductWords &words, Objects count) {
+VONKK3_SHARED VonkStatus multiplyInLanes(const ProductWords &words, Objects count) {
     const SharedOperand<const Real32, throughTables, P::firstTransposed> a(words.a);
     const SharedOperand<const Real32, throughTables, P::secondTransposed> b(words.b);
     return multiplyInLanes<P>(a, b, SharedOperand<Real32, throughTables>(words.d), fixed<order>, count);

@@ -152,7 +152,7 @@ template <class T, class Shape, class Operands> struct SumsByElement {
 
 // One object after the other, from words in registers.
 template <class T, bool inCell, class A, class B, class D, class Words, class Shape>
-VONKK3_NOINLINE VonkStatus sumPlainly(const Words &words, const Shape &sizes, std::size_t n, std::size_t to) {
+VONKK3_SHARED VonkStatus sumPlainly(const Words &words, const Shape &sizes, std::size_t n, std::size_t to) {
     const Shape shape = sizes;
     const A a(words.a);
     const B b(words.b);
@@ -193,7 +193,7 @@ VONKK3_INLINE VonkStatus sumPlainly(const Words &words, const Shape &shape, std:
 }
 
 template <class T, bool inCell, bool throughTables, class Words, class Shape>
-VONKK3_NOINLINE VonkStatus sumArrays(const Words &words, const Shape &sizes, std::size_t count) {
+VONKK3_SHARED VonkStatus sumArrays(const Words &words, const Shape &sizes, std::size_t count) {
     constexpr std::size_t order = Shape::fixedOrder;
     const Shape shape = sizes;
     const auto plainly = [&](std::size_t from, std::size_t to)

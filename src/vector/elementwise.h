@@ -2,7 +2,7 @@
 // two, each a single vector or an array. One store per element, objects and elements in ascending order.
 #pragma once
 
-#include "frame/stream.h"
+#include "frame/elementwise.h"
 #include "frame/walk.h"
 
 namespace vonkk3::vector {
@@ -29,19 +29,6 @@ template <class F> inline constexpr bool holdsSingleVector = F::isReal32 &&F::is
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
-// Element by element. A single object in a pointer layout has its entries tested just before each element.
-template <bool testsEntries, class Operation, class Length, class D, class... Sources>
-inline VonkStatus combineElements(const Operation &operation, Length length, const D &d, const Sources &...sources) {
-    using T = typename D::Element;
-    const bool noneIsNull = everyIndex(0, length, length, [&](std::size_t j) VONKK3_INLINED {
-        if constexpr (testsEntries)
-            if ((sources.hasNullEntry(j) || ...) || d.hasNullEntry(j)) return false;
-        d.store(j, round<T>(operation(Working<T>(sources.load(j))...)));
-        return true;
-    });
-    return noneIsNull ? vonkOk : vonkErrNullPtr;
-}
-
 // A vector of 3 to 6 elements is loaded whole before any of it is stored.
 template <class Operation, std::size_t length, class... Others>
 inline Lanes<length> combineLanes(const Operation &operation, const Lanes<length> &first, const Others &...others) {
@@ -63,7 +50,7 @@ template <std::size_t length> struct HeldElements {
     template <class View> explicit HeldElements(const View &view) {
         for (std::size_t j = 0; j < length; ++j) elements[j] = view.load(j);
     }
-    Real32 load(std::size_t j) const { return elements[j]; }
+    Real32 load(std::size_t, std::size_t j) const { return elements[j]; }
 };
 
 template <std::size_t length, class Source> inline auto elementsOf(const Source &source) {
@@ -88,25 +75,21 @@ VONKK3_INLINE VonkStatus combineHeld(const Operation &operation, Fixed<length> s
                                      const Sources &...sources) {
     const auto walk = [&](const auto &...vectors) VONKK3_INLINED {
         const auto combineObject = [&](std::size_t n) {
-            return combineElements<false>(operation, size, d.view(n), vectors(n)...);
+            return workElements<false>(d.view(n), fixed<1>, size, operation, vectors(n)...);
         };
         return forEachObject(count, combineObject, sources..., d);
     };
     return walk(elementsOf<length>(sources)...);
 }
 
-// Element by element, everything read anew.
+// Element by element; a single vector is read again for each object.
 template <class Operation, class Length, class Count, class D, class... Sources>
-VONKK3_INLINE VonkStatus combineAnew(const Operation &operation, Length length, Count count, const D &d,
-                                     const Sources &...sources) {
-    const auto walk = [&](auto fixedLength) VONKK3_INLINED {
-        const auto combineObject = [&](std::size_t n) {
-            return combineElements<!Count::isArray>(operation, fixedLength, d.view(n), sources.view(n)...);
-        };
-        return forEachObject(count, combineObject, sources..., d);
-    };
-    if constexpr (Count::isArray) return withFixedColumns<typename D::Element>(length, walk);
-    else return walk(length);
+VONKK3_INLINE VonkStatus combineByElement(const Operation &operation, Length length, Count count, const D &d,
+                                          const Sources &...sources) {
+    if constexpr (Count::isArray)
+        return workArrays<typename D::Element>(operation, fixed<1>, length, count, d.words(length),
+                                               sources.words(length)...);
+    else return workElements<true>(d.view(0), fixed<1>, length, operation, sources.view(0)...);
 }
 
 // ---- The fast paths -------------------------------------------------------------------------------------------------
@@ -156,8 +139,7 @@ VONKK3_INLINE bool combineFast(const Operation &operation, Length length, Count 
         if (combineAsOneRange(operation, length, count, d, sources...)) return true;
     if constexpr (F::isReal32 && F::isStandard && F::sharesOne && F::isFixed)
         return combineRepeated<F::length>(operation, count, d, sources...);
-    else if constexpr (worksInLanes<F>) return false;
-    else return streamObjects(operation, 1, length, count, d, sources...);
+    return false;
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
@@ -181,7 +163,7 @@ VONKK3_INLINE VonkStatus combineObjects(const Operation &operation, Length lengt
     if (combineFast(operation, length, count, d, sources...)) return vonkOk;
     if constexpr (worksInLanes<F>) return combineInLanes(operation, length, count, d, sources...);
     else if constexpr (holdsSingleVector<F>) return combineHeld(operation, length, count, d, sources...);
-    else return combineAnew(operation, length, count, d, sources...);
+    else return combineByElement(operation, length, count, d, sources...);
 }
 
 } // namespace vonkk3::vector

@@ -32,7 +32,7 @@ VONKK3_INLINE VonkStatus saxpy(const A &a, T factor, const B &b, const D &d, Len
     if (combineFast(operation, length, count, d, a, b)) return vonkOk;
     if constexpr (mayHoldSingleVector<F, A>)
         if (allAligned(a, b, d)) return combineHeld(operation, length, count, d, a, b);
-    return combineAnew(operation, length, count, d, a, b);
+    return combineByElement(operation, length, count, d, a, b);
 }
 
 } // namespace vonkk3::vector
