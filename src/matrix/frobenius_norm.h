@@ -2,8 +2,8 @@
 // layout.
 #pragma once
 
-#include "frame/batch.h"
 #include "frame/operations.h"
+#include "frame/reduce.h"
 #include "matrix/norm_kernels.h"
 
 namespace vonkk3::matrix {
@@ -38,7 +38,7 @@ inline constexpr bool roundsSum = std::is_same_v<T, Real64> && !Columns::isFixed
 // From +0; `element(i, j)` is a number or a pack.
 template <NormOrder way, class Number, class Element>
 VONKK3_INLINE Number sumOfSquares(const Element &element, std::size_t columns, std::size_t rows) {
-    Number sum = 0;
+    Number sum = 0.0F;
     const auto addSquare = [&](std::size_t i, std::size_t j) VONKK3_INLINED {
         const Number a = element(i, j);
         sum = sum + a * a;
@@ -55,30 +55,14 @@ VONKK3_INLINE Number sumOfSquares(const Element &element, std::size_t columns, s
     return sum;
 }
 
-// ---- Batches: the pointer layout with packed objects ----------------------------------------------------------------
-
-template <NormOrder way, std::size_t order> struct FrobeniusBatch {
-    static constexpr std::size_t chains = 2; // a sum waits for the term before
-    MatricesOfBatch<order> src;
-    ObjectsView dst;
-
-    Access access() const { return accessOf(src.view); }
-    template <Access access> VONKK3_INLINE void hoist() { src.template hoist<access>(); }
-    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
-        Packs<chains> a[order][order];
-        src.template gather<access>(n, a);
-        const auto sum = sumOfSquares<way, Packs<chains>>(
-            [&](std::size_t i, std::size_t j) VONKK3_INLINED { return a[i][j]; }, order, order);
-        storeResults(dst, n, squareRoot(sum));
-        return true;
+// Of arrays in the pointer layout.
+template <NormOrder way> struct FrobeniusOfPacks {
+    template <class Number, class A>
+    VONKK3_INLINE Number operator()(std::size_t rows, std::size_t columns, const A &a) const {
+        return squareRoot(sumOfSquares<way, Number>(
+            [&](std::size_t i, std::size_t j) VONKK3_INLINED { return a.load(i, j); }, columns, rows));
     }
 };
-
-template <NormOrder way, class A, std::size_t order, class One>
-VONKK3_INLINE VonkStatus normsInBatches(const A &a, Real32 *results, Fixed<order>, std::size_t count, const One &one) {
-    FrobeniusBatch<way, order> batch{{a, count}, packedBlocks(results, 1, count)};
-    return forEachBatch(batch, Aliasing(count, writes(batch.dst), reads(batch.src.view)), count, one);
-}
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -181,13 +165,10 @@ VONKK3_INLINE VonkStatus frobeniusNorm(const A &a, Columns columns, RowCount row
             storeAt<T>(cells + n * sizeof(T), round<T>(squareRoot(sum)));
             return VonkStatus(vonkOk);
         };
-        if constexpr (worksInBatches<A> && A::layout == Layout::P)
-            if (count >= worthBatches && columns == rows)
-                return withFixedOrder(
-                    columns,
-                    [&](auto order) VONKK3_INLINED { return normsInBatches<way>(a, results, order, count, one); },
-                    [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-        return forEachObject(count, one, a);
+        std::size_t done = 0;
+        if constexpr (std::is_same_v<T, Real32> && A::isArray && A::layout == Layout::P)
+            done = reduceArrays(FrobeniusOfPacks<way>(), cells, rows, columns, count, a.words(columns));
+        return forEachObjectFrom(done, count, one, a);
     }
 }
 

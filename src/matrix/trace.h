@@ -1,7 +1,7 @@
 // The sum of a diagonal, of single matrices and arrays. Results are packed in every layout.
 #pragma once
 
-#include "frame/batch.h"
+#include "frame/reduce.h"
 #include "frame/straight.h"
 
 namespace vonkk3::matrix {
@@ -47,31 +47,17 @@ template <class View, std::size_t order> VONKK3_INLINE Real32 diagonalSum(const 
     return sum;
 }
 
-// ---- Batches: the pointer layout with packed objects ----------------------------------------------------------------
+// ---- Arrays in the pointer layout -----------------------------------------------------------------------------------
 
-template <std::size_t order> struct TraceBatch {
-    static constexpr std::size_t chains = 2;
-    VectorsOfBatch<order> diagonal;
-    ObjectsView dst;
-
-    Access access() const { return accessOf(diagonal.view); }
-    template <Access access> VONKK3_INLINE void hoist() { diagonal.template hoist<access>(); }
-    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
-        Packs<chains> a[1][order];
-        diagonal.template gather<access>(n, a);
-        Packs<chains> sum = Packs<chains>(0.0F) + a[0][0];
-        forIndices(1, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { sum = sum + a[0][i]; });
-        storeResults(dst, n, sum);
-        return true;
+// A diagonal is a column of its own.
+struct TraceOfPacks {
+    template <class Number, class A>
+    VONKK3_INLINE Number operator()(std::size_t order, std::size_t, const A &diagonal) const {
+        Number sum = Number(0.0F) + diagonal.load(0, 0);
+        for (std::size_t i = 1; i < order; ++i) sum = sum + diagonal.load(i, 0);
+        return sum;
     }
 };
-
-template <class A, std::size_t order, class One>
-VONKK3_INLINE VonkStatus tracesInBatches(const A &a, Real32 *results, Fixed<order>, std::size_t count, const One &one) {
-    const ObjectsView matrices = objectsOf(a, order, order, count);
-    TraceBatch<order> batch{VectorsOfBatch<order>(diagonalOf(matrices)), packedBlocks(results, 1, count)};
-    return forEachBatch(batch, Aliasing(count, writes(batch.dst), reads(matrices)), count, one);
-}
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -93,12 +79,11 @@ VONKK3_INLINE VonkStatus trace(const A &a, Order order, T *results, Count count)
         const auto one = [&](std::size_t n) VONKK3_INLINED {
             return sumDiagonal<goesInPairs<T, A, Order>, !Count::isArray>(a.view(n, order), order, results + n);
         };
-        if constexpr (worksInBatches<A> && A::layout == Layout::P)
-            if (count >= worthBatches)
-                return withFixedOrder(
-                    order, [&](auto size) VONKK3_INLINED { return tracesInBatches(a, results, size, count, one); },
-                    [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-        return forEachObject(count, one, a);
+        std::size_t done = 0;
+        if constexpr (std::is_same_v<T, Real32> && A::isArray && A::layout == Layout::P)
+            done = reduceArrays(TraceOfPacks(), reinterpret_cast<std::byte *>(results), order, 1, count,
+                                a.words(order + 1)); // from one diagonal element to the next
+        return forEachObjectFrom(done, count, one, a);
     }
 }
 

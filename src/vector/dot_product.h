@@ -1,8 +1,8 @@
 // Dot product: of two vectors, of an array and one vector, or of two arrays pairwise. Results are a dense block.
 #pragma once
 
-#include "frame/batch.h"
 #include "frame/four_objects.h"
+#include "frame/reduce.h"
 #include "vector/block_walk.h"
 
 namespace vonkk3::vector {
@@ -163,43 +163,17 @@ inline std::size_t dotInBlocks(const A &a, const B &b, Real32 *dst, Objects coun
     else return withKnownSpacing<F::length>([&](const auto &p) VONKK3_INLINED { return work(p, b); }, a);
 }
 
-// ---- Batches: the pointer layout with packed objects ----------------------------------------------------------------
+// ---- Arrays in the pointer layout: left to right; run-time lengths begin with +0 ------------------------------------
 
-// Left to right; run-time lengths begin with +0, like the plain path. In the other layouts gathering takes longer than
-// the sums of one object.
-template <class A> inline constexpr bool sumsPositions = worksInBatches<A> &&A::layout == Layout::P;
-
-template <std::size_t length, bool isArray, bool beginsWithZero> struct DotBatch {
-    static constexpr std::size_t chains = 2;
-    VectorsOfBatch<length> src1;
-    VectorsOfBatch<length, isArray> src2;
-    ObjectsView dst;
-
-    Access access() const { return accessOf(src1.view, src2.view); }
-    template <Access access> VONKK3_INLINE void hoist() {
-        src1.template hoist<access>();
-        src2.template hoist<access>();
-    }
-    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
-        Packs<chains> a[1][length];
-        src1.template gather<access>(n, a);
-        src2.template with<access, chains>(n, [&](const auto &b) VONKK3_INLINED {
-            Packs<chains> sum = a[0][0] * b[0][0];
-            if constexpr (beginsWithZero) sum = Packs<chains>(0.0F) + sum;
-            forIndices(1, length, fixed<length>, [&](std::size_t j) VONKK3_INLINED { sum = sum + a[0][j] * b[0][j]; });
-            storeResults(dst, n, sum);
-        });
-        return true;
+template <bool beginsWithZero> struct DotOfPacks {
+    template <class Number, class A, class B>
+    VONKK3_INLINE Number operator()(std::size_t, std::size_t length, const A &a, const B &b) const {
+        Number sum = a.load(0, 0) * b.load(0, 0);
+        if constexpr (beginsWithZero) sum = Number(0.0F) + sum;
+        for (std::size_t j = 1; j < length; ++j) sum = sum + a.load(0, j) * b.load(0, j);
+        return sum;
     }
 };
-
-template <bool beginsWithZero, class A, class B, std::size_t length, class One>
-VONKK3_INLINE VonkStatus dotInBatches(const A &a, const B &b, Real32 *dst, Fixed<length>, std::size_t count,
-                                      const One &one) {
-    DotBatch<length, B::isArray, beginsWithZero> batch{{a, count}, {b, count}, packedBlocks(dst, 1, count)};
-    const Aliasing aliasing(count, writes(batch.dst), reads(batch.src1.view), reads(batch.src2.view));
-    return forEachBatch(batch, aliasing, count, one);
-}
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -215,19 +189,15 @@ VONKK3_INLINE VonkStatus dotProduct(const A &a, const B &b, T *dst, Length lengt
     std::byte *results = reinterpret_cast<std::byte *>(dst);
     std::size_t done = 0;
     if constexpr (takesFourAgainstOne<F> || mayTakeBlocks<F>) done = dotInBlocks<F>(a, b, dst, count);
+    if constexpr (F::isReal32 && F::isArray && F::layout == Layout::P)
+        done = reduceArrays(DotOfPacks<!F::isFixed>(), results, 1, length, count, a.words(length), b.words(length));
     const auto work = [&](std::size_t n) VONKK3_INLINED {
         Working<T> sum;
         if constexpr (sumsInBlocks<F>) sum = sumInBlocks(ProductTerm{}, length, b.view(0).base, a.view(0).base);
         else sum = sumProducts<F>(a.view(n), b.view(n), length);
         storeAt<T>(results + n * sizeof(T), round<T>(sum));
-        return VonkStatus(vonkOk);
+        return vonkOk;
     };
-    if constexpr (sumsPositions<A>)
-        if (count >= worthBatches)
-            return withFixedOrder(
-                length,
-                [&](auto size) VONKK3_INLINED { return dotInBatches<!F::isFixed>(a, b, dst, size, count, work); },
-                [&]() VONKK3_INLINED { return forEachPlainly(count, work); });
     if constexpr (trustsEntries<F>) return forEachObjectFrom(done, count, work);
     else return forEachObjectFrom(done, count, work, a, b);
 }

@@ -1,10 +1,10 @@
 // Euclidean norm of a vector or of each vector of an array: the root of the sum of squares. Results are a dense block.
 #pragma once
 
-#include "frame/batch.h"
 #include "frame/estimate.h"
 #include "frame/four_objects.h"
 #include "frame/operations.h"
+#include "frame/reduce.h"
 #include "vector/block_walk.h"
 
 namespace vonkk3::vector {
@@ -97,32 +97,21 @@ inline std::size_t normInBlocks(const Source &source, std::byte *results, Object
     return withKnownSpacing<length>(work, source);
 }
 
-// ---- Batches: the pointer layout with packed objects ----------------------------------------------------------------
+// ---- Arrays in the pointer layout -----------------------------------------------------------------------------------
 
 // A square is never -0, so a sum from +0 may as well begin with the first.
-template <std::size_t length> struct NormBatch {
-    static constexpr std::size_t chains = 2;
-    VectorsOfBatch<length> src;
-    ObjectsView dst;
-
-    Access access() const { return accessOf(src.view); }
-    template <Access access> VONKK3_INLINE void hoist() { src.template hoist<access>(); }
-    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
-        Packs<chains> a[1][length];
-        src.template gather<access>(n, a);
-        Packs<chains> sum = a[0][0] * a[0][0];
-        forIndices(1, length, fixed<length>, [&](std::size_t j) VONKK3_INLINED { sum = sum + a[0][j] * a[0][j]; });
-        storeResults(dst, n, squareRoot(sum));
-        return true;
+struct NormOfPacks {
+    template <class Number, class A>
+    VONKK3_INLINE Number operator()(std::size_t, std::size_t length, const A &a) const {
+        const auto square = [&](std::size_t j) VONKK3_INLINED {
+            const Number element = a.load(0, j);
+            return element * element;
+        };
+        Number sum = square(0);
+        for (std::size_t j = 1; j < length; ++j) sum = sum + square(j);
+        return squareRoot(sum);
     }
 };
-
-template <class Source, std::size_t length, class One>
-VONKK3_INLINE VonkStatus normsInBatches(const Source &source, Real32 *dst, Fixed<length>, std::size_t count,
-                                        const One &one) {
-    NormBatch<length> batch{{source, count}, packedBlocks(dst, 1, count)};
-    return forEachBatch(batch, Aliasing(count, writes(batch.dst), reads(batch.src.view)), count, one);
-}
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -138,6 +127,8 @@ VONKK3_INLINE VonkStatus norm(const Source &source, T *dst, Length length, Count
     std::size_t done = 0;
     if constexpr (rootsByEstimate<Source, Length> && Count::isArray)
         done = normInBlocks<Length::value, testsEntries>(source, results, count);
+    if constexpr (std::is_same_v<T, Real32> && Source::isArray && Source::layout == Layout::P)
+        done = reduceArrays(NormOfPacks(), results, 1, length, count, source.words(length));
     const auto work = [&](std::size_t n) VONKK3_INLINED {
         T result;
         if constexpr (rootsByEstimate<Source, Length>) result = normByEstimate<Length::value>(source.view(n));
@@ -147,11 +138,6 @@ VONKK3_INLINE VonkStatus norm(const Source &source, T *dst, Length length, Count
         storeAt<T>(results + n * sizeof(T), result);
         return VonkStatus(vonkOk);
     };
-    if constexpr (worksInBatches<Source> && Source::layout == Layout::P)
-        if (count >= worthBatches)
-            return withFixedOrder(
-                length, [&](auto size) VONKK3_INLINED { return normsInBatches(source, dst, size, count, work); },
-                [&]() VONKK3_INLINED { return forEachPlainly(count, work); });
     if constexpr (testsEntries) return forEachObjectFrom(done, count, work, source);
     else return forEachObjectFrom(done, count, work);
 }
