@@ -8,6 +8,8 @@
 
 #include "frame/objects_view.h"
 
+#include <limits>
+
 namespace vonkk3 {
 
 // From the first byte to past the last.
@@ -343,21 +345,21 @@ VONKK3_NOINLINE inline bool isAscendingTable(const ObjectsView &view, Extent &wh
     const std::ptrdiff_t rowStride = isTransposed ? view.elementStride : view.rowStride;
     const std::ptrdiff_t elementStride = isTransposed ? view.rowStride : view.elementStride;
     const std::uintptr_t first = ObjectsView::pointerAt(view.begin);
-    std::uintptr_t before = first, least = ~std::uintptr_t(0);
-    for (std::size_t i = 0; i < rows; ++i) {
-        std::uintptr_t entry = view.begin + std::uintptr_t(strides(i, rowStride));
-        for (std::size_t j = 0; j < columns; ++j, entry += std::uintptr_t(elementStride)) {
-            if (entry == view.begin) continue;
-            const std::uintptr_t address = ObjectsView::pointerAt(entry);
-            if (address < before) return false;
-            least = address - before < least ? address - before : least;
-            before = address;
-        }
-    }
+    std::uintptr_t before = first;
+    std::ptrdiff_t least = std::numeric_limits<std::ptrdiff_t>::max(); // below 0 where entries descend
+    const auto compare = [&](std::uintptr_t entry) VONKK3_INLINED {
+        const std::uintptr_t address = ObjectsView::pointerAt(entry);
+        const auto distance = std::ptrdiff_t(address - before);
+        least = distance < least ? distance : least;
+        before = address;
+    };
+    for (std::size_t j = 1; j < columns; ++j) compare(view.begin + std::uintptr_t(strides(j, elementStride)));
+    for (std::size_t i = 1; i < rows; ++i)
+        for (std::size_t j = 0; j < columns; ++j)
+            compare(view.begin + std::uintptr_t(strides(i, rowStride) + strides(j, elementStride)));
     whole = Extent{first, before + ofPosition}.movedBy(std::uintptr_t(view.shift));
-    const bool positionsFollow = least >= ofPosition;
-    const bool objectsFollow = least >= view.elementBytes && before + view.elementBytes - first <= std::uintptr_t(step);
-    return whole.begin < whole.end && (positionsFollow || objectsFollow);
+    if (least < std::ptrdiff_t(view.elementBytes) || whole.begin >= whole.end) return false;
+    return std::uintptr_t(least) >= ofPosition || before + view.elementBytes - first <= std::uintptr_t(step);
 }
 
 // The usual case at a glance: arrays in ascending order, rows within objects and elements within rows; and tables, see
@@ -445,7 +447,72 @@ VONKK3_NOINLINE inline bool askForBatch(const AliasOperand *operands, std::size_
     return true;
 }
 
+// ---- Tables whose objects are packed, from the words of a call ------------------------------------------------------
+
+// The entries that are read for an object: `positions` of them, so many bytes apart.
+struct EntriesRead {
+    std::size_t positions, step;
+};
+
+// Of `rows` by `columns`, transposed or not; false where they are not equally spaced.
+VONKK3_INLINE bool areEquallySpaced(const OperandWords &table, std::size_t rows, std::size_t columns,
+                                    EntriesRead &entries) {
+    const std::size_t entriesToRow = std::uint32_t(table.elementStride);
+    entries = {rows * columns, columns == 1 ? entriesToRow * sizeof(void *) : sizeof(void *)};
+    return columns == 1 || entriesToRow == (table.isTransposed ? rows : columns);
+}
+
+// Where the positions lie, each of so many bytes, if they ascend; else nothing.
+VONKK3_INLINE Extent extentOfAscending(const OperandWords &table, const EntriesRead &entries, std::size_t bytes) {
+    const std::uintptr_t first = ObjectsView::pointerAt(table.begin);
+    std::uintptr_t last = first;
+    bool ascends = true;
+    for (std::size_t k = 1; k < entries.positions; ++k) {
+        const std::uintptr_t next = ObjectsView::pointerAt(table.begin + k * entries.step);
+        ascends &= std::ptrdiff_t(next - last) >= std::ptrdiff_t(bytes);
+        last = next;
+    }
+    return ascends ? Extent{first, last + bytes}.movedBy(std::uintptr_t(std::ptrdiff_t(table.rowStride))) : Extent{1, 0};
+}
+
+inline bool isEmpty(const Extent &extent) { return extent.begin >= extent.end; }
+inline Extent extentOfEntries(const OperandWords &table, const EntriesRead &entries) {
+    return {table.begin, table.begin + entries.positions * entries.step};
+}
+
 } // namespace aliasing
+
+// Whether the objects of an array lie packed behind each position.
+inline bool arePacked(const OperandWords &table) {
+    return !table.isArray || table.step == std::int32_t(sizeof(Real32));
+}
+
+// The usual case: positions ascend, and what is written is disjoint from all else. Where it is not told by these two,
+// Aliasing tells. First where the positions of the result lie; nothing, if it is not that.
+VONKK3_INLINE Extent plainlyWritten(const OperandWords &d, std::size_t rows, std::size_t columns, std::size_t count) {
+    aliasing::EntriesRead entries;
+    if (!arePacked(d) || !aliasing::areEquallySpaced(d, rows, columns, entries)) return {1, 0};
+    const Extent written = aliasing::extentOfAscending(d, entries, count * sizeof(Real32));
+    return disjoint(written, aliasing::extentOfEntries(d, entries)) ? written : Extent{1, 0};
+}
+
+// Then whether a source is disjoint from that.
+VONKK3_INLINE bool isPlainlyDisjoint(const Extent &written, const OperandWords &source, std::size_t rows,
+                                     std::size_t columns, std::size_t count) {
+    aliasing::EntriesRead entries;
+    if (aliasing::isEmpty(written) || !arePacked(source) ||
+        !aliasing::areEquallySpaced(source, rows, columns, entries) ||
+        !disjoint(written, aliasing::extentOfEntries(source, entries)))
+        return false;
+    const Extent read = aliasing::extentOfAscending(source, entries, (source.isArray ? count : 1) * sizeof(Real32));
+    return !aliasing::isEmpty(read) && disjoint(written, read);
+}
+
+// Or the same table.
+inline bool isInPlace(const OperandWords &d, const OperandWords &source) {
+    return source.begin == d.begin && source.rowStride == d.rowStride && source.step == d.step && source.isArray &&
+           source.isTransposed == d.isTransposed;
+}
 
 // The operands of a call, and whether its objects may be worked in batches. Entries of lists are looked at object by
 // object, and none after the first that is null.

@@ -74,12 +74,11 @@ VONKK3_INLINE bool overwritesAhead(const std::byte *d, const std::byte *source, 
 // Fewer objects of a fixed size are done before their range is set up, or a single one is repeated beside it.
 inline constexpr std::size_t worthCollapsing = 8;
 
-// In ascending order, nothing is read later than element by element: a destination may begin before a source. Stores
-// are kept between the loads: in bursts they take twice the time where the data is not in the first-level cache.
+// In ascending order, nothing is read later than element by element: a destination may begin before a source.
+// Stores are kept between the loads: in bursts they take twice the time where the data is not in the first-level cache.
 template <class Operation, class... Sources>
-requires ElementOperation<Operation, Sources...> VONKK3_NOINLINE void
-streamContiguous(const Operation &shared, std::byte *d, std::size_t elements, Sources... sources) {
-    const Operation operation = shared; // a local copy stays in registers
+requires ElementOperation<Operation, Sources...> VONKK3_INLINE void
+streamInLanes(const Operation &operation, std::byte *d, std::size_t elements, const Sources &...sources) {
     const std::size_t bytes = elements * sizeof(Real32);
     const auto four = [&](std::size_t at) VONKK3_INLINED {
         store4(d + at, operation(sources.four(at)...));
@@ -93,6 +92,12 @@ streamContiguous(const Operation &shared, std::byte *d, std::size_t elements, So
         keepLoopPlain();
         storeAt<Real32>(d + at, operation(sources.one(at)...));
     }
+}
+
+template <class Operation, class... Sources>
+VONKK3_NOINLINE void streamContiguous(const Operation &shared, std::byte *d, std::size_t elements, Sources... sources) {
+    const Operation operation = shared; // a local copy stays in registers
+    streamInLanes(operation, d, elements, sources...);
 }
 
 // ---- A single object beside packed objects --------------------------------------------------------------------------
@@ -192,16 +197,16 @@ struct PositionSource {
 template <class Operation>
 VONKK3_INLINE void streamPosition(const Operation &operation, std::byte *d, std::size_t objects,
                                   const PositionSource &a) {
-    streamContiguous(operation, d, objects, ContiguousSource{a.address});
+    streamInLanes(operation, d, objects, ContiguousSource{a.address});
 }
 
 template <class Operation>
 VONKK3_INLINE void streamPosition(const Operation &operation, std::byte *d, std::size_t objects,
                                   const PositionSource &a, const PositionSource &b) {
     const ContiguousSource first{a.address}, second{b.address};
-    if (!a.isArray) streamContiguous(operation, d, objects, BroadcastSource(a.address), second);
-    else if (!b.isArray) streamContiguous(operation, d, objects, first, BroadcastSource(b.address));
-    else streamContiguous(operation, d, objects, first, second);
+    if (!a.isArray) streamInLanes(operation, d, objects, BroadcastSource(a.address), second);
+    else if (!b.isArray) streamInLanes(operation, d, objects, first, BroadcastSource(b.address));
+    else streamInLanes(operation, d, objects, first, second);
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
@@ -241,24 +246,36 @@ struct CommonRange {
     }
 };
 
+template <class... Views> VONKK3_INLINE bool mayStream(const ObjectsView &d, const Views &...sources) {
+    return Aliasing(d.count, writes(d), readsInPlace(sources)...).allowsBatch(0, d.count);
+}
+
+// All objects of arrays that are neither lists nor tables; false, with nothing done, where overlap might show the order,
+// or where ranges are not long enough to make it worth it.
 template <class Operation, class... Views>
-VONKK3_INLINE void streamRanges(const Operation &operation, const CommonRange &range, const ObjectsView &d,
-                                const Views &...sources) {
+VONKK3_SHARED bool streamRanges(const Operation &shared, const ObjectsView &d, const Views &...sources) {
+    const Operation operation = shared; // a local copy stays in registers
+    const CommonRange range(d, sources...);
+    if (range.elements < leastRange || !mayStream(d, sources...)) return false;
     for (std::size_t n = 0; n < d.count; n += range.objects)
         for (std::size_t i = 0; i < d.rows; i += range.rows)
             streamPosition(operation, targetAt(d, i, 0, n), range.elements,
                            PositionSource{sourceAt(sources, i, 0, n), true}...);
+    return true;
 }
 
+// The same where one of them is a table: position by position.
 template <class Operation, class... Views>
-VONKK3_INLINE void streamPositions(const Operation &operation, const ObjectsView &d, const Views &...sources) {
+VONKK3_SHARED bool streamPositions(const Operation &shared, const ObjectsView &d, const Views &...sources) {
+    if (!mayStream(d, sources...)) return false;
+    const Operation operation = shared;
     const auto isContiguous = [](const ObjectsView &view) {
         return !view.isArray || view.objectStride == std::ptrdiff_t(sizeof(Real32));
     };
     const bool areContiguous = isContiguous(d) && (isContiguous(sources) && ...);
-    const std::size_t block = areContiguous ? d.count : objectsPerBlock(d);
-    for (std::size_t n = 0; n < d.count; n += block) {
-        const std::size_t objects = d.count - n < block ? d.count - n : block;
+    const std::size_t count = d.count, block = areContiguous ? count : objectsPerBlock(d);
+    for (std::size_t n = 0; n < count; n += block) {
+        const std::size_t objects = count - n < block ? count - n : block;
         for (std::size_t i = 0; i < d.rows; ++i)
             for (std::size_t j = 0; j < d.columns; ++j) {
                 std::byte *const target = targetAt(d, i, j, n);
@@ -271,21 +288,35 @@ VONKK3_INLINE void streamPositions(const Operation &operation, const ObjectsView
                         StridedElements<const std::byte>{sourceAt(sources, i, j, n), sources.objectStride}...);
             }
     }
-}
-
-// All objects of arrays that are not lists; false, with nothing done, where overlap might show the order, or where
-// neither long ranges nor tables make it worth it.
-template <class Operation, class... Views>
-VONKK3_NOINLINE bool stream(const Operation &shared, const ObjectsView &d, const Views &...sources) {
-    const Operation operation = shared; // a local copy stays in registers
-    const CommonRange range(d, sources...);
-    if (range.elements < leastRange && !(d.isTable() || ... || sources.isTable())) return false;
-    const Aliasing aliasing(d.count, writes(d), readsInPlace(sources)...);
-    if (!aliasing.allowsBatch(0, d.count)) return false;
-    if (range.elements >= leastRange) streamRanges(operation, range, d, sources...);
-    else streamPositions(operation, d, sources...);
     return true;
 }
+
+// The usual case of it, tables of packed objects. False, with nothing done, where a look at the words does not show that
+// they are independent.
+template <class Operation, class Destination, class... Sources>
+VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::size_t columns, std::size_t count,
+                                const Destination &d, const Sources &...sources) {
+    const Extent written = plainlyWritten(d, rows, columns, count);
+    if (!((isPlainlyDisjoint(written, sources, rows, columns, count) ||
+           (isInPlace(d, sources) && !aliasing::isEmpty(written))) &&
+          ...))
+        return false;
+    const Operation operation = shared;
+    for (std::size_t i = 0; i < rows; ++i)
+        for (std::size_t j = 0; j < columns; ++j) {
+            const auto address = [&](const auto &table) VONKK3_INLINED {
+                constexpr bool isTransposed = areOfTransposedTable<std::remove_cvref_t<decltype(table)>>;
+                const std::size_t entriesToRow = std::uint32_t(table.elementStride);
+                const std::size_t entry = isTransposed ? j * entriesToRow + i : i * entriesToRow + j;
+                return ObjectsView::pointerAt(table.begin + entry * sizeof(void *)) +
+                       std::uintptr_t(std::ptrdiff_t(table.rowStride));
+            };
+            streamPosition(operation, reinterpret_cast<std::byte *>(address(d)), count,
+                           PositionSource{reinterpret_cast<const std::byte *>(address(sources)), sources.isArray}...);
+        }
+    return true;
+}
+inline constexpr std::size_t worthStreamingTables = 12; // objects
 
 // Fewer objects are done before the alias test is answered and the first position is set up. Positions gain more where
 // they are contiguous.
@@ -304,7 +335,9 @@ VONKK3_INLINE bool streamPacked(const Operation &operation, std::size_t rows, st
         packed.rowStride = std::ptrdiff_t(columns * sizeof(T));
         packed.rows = std::uint32_t(rows);
         packed.columns = std::uint32_t(columns);
-        return stream(operation, packed, objectsOf(source, rows, columns, count));
+        const ObjectsView objects = objectsOf(source, rows, columns, count);
+        if constexpr (Source::isTable) return streamPositions(operation, packed, objects);
+        else return streamRanges(operation, packed, objects);
     } else return false;
 }
 
