@@ -472,7 +472,8 @@ VONKK3_INLINE Extent extentOfAscending(const OperandWords &table, const EntriesR
         ascends &= std::ptrdiff_t(next - last) >= std::ptrdiff_t(bytes);
         last = next;
     }
-    return ascends ? Extent{first, last + bytes}.movedBy(std::uintptr_t(std::ptrdiff_t(table.rowStride))) : Extent{1, 0};
+    return ascends ? Extent{first, last + bytes}.movedBy(std::uintptr_t(std::ptrdiff_t(table.rowStride)))
+                   : Extent{1, 0};
 }
 
 inline bool isEmpty(const Extent &extent) { return extent.begin >= extent.end; }

@@ -57,6 +57,11 @@ template <class Batch>
 requires requires { Batch::takesAny; }
 inline constexpr bool takesAny<Batch> = Batch::takesAny;
 
+template <class Batch> inline constexpr bool takesRows = true;
+template <class Batch>
+requires requires { Batch::takesRows; }
+inline constexpr bool takesRows<Batch> = Batch::takesRows;
+
 // Batches from object n on, as long as they can be had; the first object that they leave.
 template <Access access, std::size_t chains, BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
@@ -82,7 +87,8 @@ VONKK3_INLINE std::size_t workBatches(Access access, Batch &batch, const Aliasin
                                       std::size_t count) {
     if constexpr (objectsOfChain<Batch> == 1) return workBatches<Access::any>(batch, aliasing, n, count);
     else {
-        if (!takesAny<Batch> || access == Access::rows) return workBatches<Access::rows>(batch, aliasing, n, count);
+        if constexpr (takesRows<Batch>)
+            if (!takesAny<Batch> || access == Access::rows) return workBatches<Access::rows>(batch, aliasing, n, count);
         if constexpr (takesPositions<Batch>)
             if (access == Access::positions) return workBatches<Access::positions>(batch, aliasing, n, count);
         if constexpr (takesAny<Batch>) return workBatches<Access::any>(batch, aliasing, n, count);

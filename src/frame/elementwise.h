@@ -113,18 +113,18 @@ VONKK3_SHARED VonkStatus streamOrWorkObjects(const Operation &operation, Rows ro
                                              const Destination &dst, const Sources &...src) {
     constexpr bool anyTable = (areOfTable<Destination> || ... || areOfTable<Sources>);
     if constexpr (!(areOfList<Destination> || ... || areOfList<Sources>)) {
-            if constexpr (areOfTable<Destination> && (areOfTable<Sources> && ...))
-                if (count >= worthStreamingTables && streamTables(operation, rows, columns, count, dst, src...))
-                    return vonkOk;
-            const auto stream = [&](const auto &...views) VONKK3_INLINED {
-                if constexpr (anyTable) return streamPositions(operation, views...);
-                else return streamRanges(operation, views...);
-            };
-            if (isWorthStreaming<areOfTable<Destination>>(dst.step, count) &&
-                stream(objectsOf<T, areOfTable<Destination>>(dst, rows, columns, count),
-                       objectsOf<T, areOfTable<Sources>>(src, rows, columns, count)...))
+        if constexpr (areOfTable<Destination> && (areOfTable<Sources> && ...))
+            if (count >= worthStreamingTables && streamTables(operation, rows, columns, count, dst, src...))
                 return vonkOk;
-        }
+        const auto stream = [&](const auto &...views) VONKK3_INLINED {
+            if constexpr (anyTable) return streamPositions(operation, views...);
+            else return streamRanges(operation, views...);
+        };
+        if (isWorthStreaming<areOfTable<Destination>>(dst.step, count) &&
+            stream(objectsOf<T, areOfTable<Destination>>(dst, rows, columns, count),
+                   objectsOf<T, areOfTable<Sources>>(src, rows, columns, count)...))
+            return vonkOk;
+    }
     const auto work = [&](auto fixedColumns) VONKK3_INLINED {
         return workObjects<T, entries>(operation, rows, fixedColumns, count, dst, src...);
     };

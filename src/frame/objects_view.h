@@ -87,6 +87,24 @@ private:
     }
 };
 
+// Where the positions of a table lead, for objects that are packed behind them.
+struct TablePositions {
+    std::uintptr_t begin;
+    std::ptrdiff_t rowStride, elementStride, shift;
+    bool isArray;
+
+    VONKK3_INLINE explicit TablePositions(const OperandWords &words)
+        : begin(words.begin), shift(words.rowStride), isArray(words.isArray) {
+        const auto entries = std::ptrdiff_t(std::uint32_t(words.elementStride) * sizeof(void *));
+        rowStride = words.isTransposed ? std::ptrdiff_t(sizeof(void *)) : entries;
+        elementStride = words.isTransposed ? entries : std::ptrdiff_t(sizeof(void *));
+    }
+    std::uintptr_t position(std::size_t i, std::size_t j) const {
+        const std::uintptr_t entry = begin + std::uintptr_t(strides(i, rowStride) + strides(j, elementStride));
+        return ObjectsView::pointerAt(entry) + std::uintptr_t(shift);
+    }
+};
+
 template <bool throughTable, class T> VONKK3_INLINE auto objectAt(const ObjectsView &view, std::size_t n) {
     if constexpr (throughTable) return EntriesView<T>(view, n);
     else return stridedObject<T>(view, n);

@@ -11,32 +11,20 @@ namespace vonkk3 {
 
 // The elements of the objects from n on, as packs; a single object is broadcast.
 template <std::size_t chains> struct PackedPositions {
-    const OperandWords &table;
+    const TablePositions &table;
     std::size_t n;
 
     VONKK3_INLINE Packs<chains> load(std::size_t i, std::size_t j) const {
-        const std::size_t entry = i * std::uint32_t(table.elementStride) + j;
-        const auto address = reinterpret_cast<const std::byte *>(
-            ObjectsView::pointerAt(table.begin + entry * sizeof(void *)) +
-            std::uintptr_t(std::ptrdiff_t(table.rowStride)));
+        const auto address = reinterpret_cast<const std::byte *>(table.position(i, j));
         if (!table.isArray) return loadAt<Real32>(address);
         const std::byte *const first = address + n * sizeof(Real32);
         return Packs<chains>::each([&](std::size_t c) VONKK3_INLINED { return load4(first + c * laneBytes); });
     }
 };
 
-// How many objects were done. A family gives kernel<Number>(rows, columns, sources...) of sources that are asked for
-// load(i, j).
-template <class Kernel, class... Words>
-VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results, std::size_t rows, std::size_t columns,
-                                       std::size_t count, const Words &...src) {
-    if (count < 3 * packWidth) return 0; // not worth the alias test
-    if (!(isPlainlyDisjoint(extentOf(results, count * sizeof(Real32)), src, rows, columns, count) && ...)) {
-        const ObjectsView packed = packedBlocks(reinterpret_cast<Real32 *>(results), 1, count);
-        const auto mayWork = [&](const auto &...views)
-                                 VONKK3_INLINED { return Aliasing(count, writes(packed), reads(views)...).allowsBatch(0, count); };
-        if (!(arePacked(src) && ...) || !mayWork(objectsOf<Real32, true>(src, rows, columns, count)...)) return 0;
-    }
+template <class Kernel, class... Tables>
+VONKK3_INLINE std::size_t reduceTables(const Kernel &kernel, std::byte *results, std::size_t rows, std::size_t columns,
+                                       std::size_t count, const Tables &...src) {
     std::size_t n = 0;
     const auto work = [&]<std::size_t chains>() VONKK3_INLINED {
         constexpr std::size_t objects = chains * packWidth;
@@ -50,6 +38,22 @@ VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results,
     work.template operator()<4>(); // sums wait for their last term
     work.template operator()<1>();
     return n;
+}
+
+// How many objects were done. A family gives kernel<Number>(rows, columns, sources...) of sources that are asked for
+// load(i, j).
+template <class Kernel, class... Words>
+VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results, std::size_t rows, std::size_t columns,
+                                       std::size_t count, const Words &...src) {
+    if (count < 3 * packWidth) return 0; // not worth the alias test
+    if (!(isPlainlyDisjoint(extentOf(results, count * sizeof(Real32)), src, rows, columns, count) && ...)) {
+        const ObjectsView packed = packedBlocks(reinterpret_cast<Real32 *>(results), 1, count);
+        const auto mayWork = [&](const auto &...views) VONKK3_INLINED {
+            return Aliasing(count, writes(packed), reads(views)...).allowsBatch(0, count);
+        };
+        if (!(arePacked(src) && ...) || !mayWork(objectsOf<Real32, true>(src, rows, columns, count)...)) return 0;
+    }
+    return reduceTables(kernel, results, rows, columns, count, TablePositions(src)...);
 }
 
 } // namespace vonkk3

@@ -250,8 +250,8 @@ template <class... Views> VONKK3_INLINE bool mayStream(const ObjectsView &d, con
     return Aliasing(d.count, writes(d), readsInPlace(sources)...).allowsBatch(0, d.count);
 }
 
-// All objects of arrays that are neither lists nor tables; false, with nothing done, where overlap might show the order,
-// or where ranges are not long enough to make it worth it.
+// All objects of arrays that are neither lists nor tables; false, with nothing done, where overlap might show the
+// order, or where ranges are not long enough to make it worth it.
 template <class Operation, class... Views>
 VONKK3_SHARED bool streamRanges(const Operation &shared, const ObjectsView &d, const Views &...sources) {
     const Operation operation = shared; // a local copy stays in registers
@@ -291,8 +291,8 @@ VONKK3_SHARED bool streamPositions(const Operation &shared, const ObjectsView &d
     return true;
 }
 
-// The usual case of it, tables of packed objects. False, with nothing done, where a look at the words does not show that
-// they are independent.
+// The usual case of it, tables of packed objects. False, with nothing done, where a look at the words does not show
+// that they are independent.
 template <class Operation, class Destination, class... Sources>
 VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::size_t columns, std::size_t count,
                                 const Destination &d, const Sources &...sources) {

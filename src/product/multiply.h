@@ -73,10 +73,6 @@ VONKK3_INLINE void multiplyHeld(const A &a, const B &b, HeldRows<order> &held, c
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-struct PositionOperands {
-    ObjectsView a, b, d;
-};
-
 // Fast paths that take another order of reads and stores, or several objects at a time, where operands are disjoint.
 // How many objects were done, from the first on.
 template <class P, std::size_t order, class A, class B, class D>
@@ -84,15 +80,16 @@ VONKK3_INLINE std::size_t multiplyBatches(const A &src1, const B &src2, const D 
     constexpr bool isOfRows = P::layout == Layout::Standard && P::firstArray && !P::firstTransposed;
     if constexpr (D::isTable) {
         if (objects < worthBatches) return 0;
-        if (!arePositionsContiguous(ProductWords{src1.words(), src2.words(), dst.words()})) return 0;
-        const PositionOperands operands{objectsOf<Real32, true>(src1.words(), order, order, objects),
-                                        objectsOf<Real32, true>(src2.words(), order, order, objects),
-                                        objectsOf<Real32, true>(dst.words(), order, order, objects)};
-        // The kernel of order 3 has a row of the first operand in registers before it stores there.
-        const Aliasing aliasing(objects, writes(operands.d), readsInPlace(operands.a), reads(operands.b));
+        const ProductWords words{src1.words(), src2.words(), dst.words()};
+        if (!arePositionsContiguous(words)) return 0;
         const std::size_t done = inWholePacks(objects);
-        if (!aliasing.allowsBatch(0, done)) return 0;
-        return multiplyMatrices<SumBegins::withFirstProduct, order>(operands, done), done;
+        if (!arePlainlyIndependent(words, SumShape<order, false>{}, objects)) {
+            using Shape = SumShape<order, false>;
+            const ProductOperands<Real32, true, ProductWords, Shape> p(words, Shape{}, objects);
+            // The kernel of order 3 has a row of the first operand in registers before it stores there.
+            if (!Aliasing(objects, writes(p.d), readsInPlace(p.a), reads(p.b)).allowsBatch(0, done)) return 0;
+        }
+        return multiplyMatrices<SumBegins::withFirstProduct, order>(TableOperands(words), done), done;
     } else if constexpr (isOfRows && order == 3 && !P::secondArray)
         return multiplyTriplesByOne(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 5 && !P::secondArray && !P::secondTransposed)
@@ -156,7 +153,7 @@ VONKK3_INLINE VonkStatus sumSingle(const A &src1, std::size_t cols1, std::size_t
 template <class A, class Cols1, class Rows1, class B, class Cols2, class Rows2, class D, class Count>
 inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src2, Cols2 cols2, Rows2 rows2,
                            const D &dst, Count count) {
-    using P = Pattern<A, B>;
+    using P = PatternOf<A, B>;
     using T = typename D::Element;
     constexpr std::size_t order = Cols1::value;
     constexpr Scheme scheme = schemeOf<T, P, order>();
@@ -182,8 +179,12 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
         else {
             const ProductWords words{src1.words(P::firstTransposed ? rows1 : cols1),
                                      src2.words(P::secondTransposed ? rows2 : cols2), dst.words(columns)};
-            if constexpr (scheme == Scheme::rowBroadcast) return multiplyInLanes<P, order, D::isTable>(words, count);
-            else
+            if constexpr (scheme == Scheme::rowBroadcast) {
+                using Shared =
+                    Pattern<P::firstArray, P::firstTransposed, P::secondArray, P::secondTransposed,
+                            D::isTable ? Layout::P : Layout::S2>; // the other layouts of their views are alike
+                return multiplyInLanes<Shared, order, D::isTable>(words, count);
+            } else
                 return sumProducts<T, accumulatesInCell<T, P::layout>, D::isTable>(
                     words, SumShape<order, false>{rows, columns, terms}, count);
         }

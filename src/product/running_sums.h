@@ -32,12 +32,42 @@ template <std::size_t order, bool isVector> struct SumShape {
     bool isSquare() const { return rows() == terms() && (isVector || rows() == columns()); }
 };
 
-// The operands as views.
-template <class T, bool throughTables, class Words> struct ProductOperands {
-    static constexpr bool hasAddend = std::is_same_v<Words, GaxpyWords>;
-    ObjectsView a, b, d, addend;
+// The positions of a table, read once for all objects of a batch: what is written overlaps no table.
+template <class T, std::size_t rows, std::size_t columns> struct HoistedTable {
+    ByteOf<T> *position[rows][columns];
 
-    template <class Shape>
+    struct Object : ElementAccess<Object, T> {
+        ByteOf<T> *const (&position)[rows][columns];
+        std::ptrdiff_t offset;
+        Object(ByteOf<T> *const (&position)[rows][columns], std::ptrdiff_t offset)
+            : position(position), offset(offset) {}
+        ByteOf<T> *at(std::size_t i, std::size_t j) const { return position[i][j] + offset; }
+    };
+    VONKK3_INLINE void hoist(const ObjectsView &objects) {
+        for (std::size_t i = 0; i < rows; ++i)
+            for (std::size_t j = 0; j < columns; ++j)
+                position[i][j] = reinterpret_cast<ByteOf<T> *>(objects.position(i, j));
+    }
+    Object object(const ObjectsView &objects, std::size_t n) const {
+        return {position, strides(n, objects.objectStride)};
+    }
+};
+struct NotHoisted {};
+
+// The operands as views.
+template <class T, bool throughTables, class Words, class Shape> struct ProductOperands {
+    static constexpr bool hasAddend = std::is_same_v<Words, GaxpyWords>;
+    static constexpr std::size_t order = Shape::fixedOrder;
+    static constexpr bool isHoisted = throughTables && order != 0;
+    template <class E, std::size_t columns>
+    using Table =
+        std::conditional_t<isHoisted, HoistedTable<E, isHoisted ? order : 1, isHoisted ? columns : 1>, NotHoisted>;
+
+    ObjectsView a, b, d, addend;
+    Table<const T, order> aTable;
+    Table<const T, Shape::ofVector ? 1 : order> bTable;
+    Table<T, Shape::ofVector ? 1 : order> dTable;
+
     VONKK3_INLINE ProductOperands(const Words &words, const Shape &shape, std::size_t count)
         : a(objectsOf<T, throughTables>(words.a, shape.rows(), shape.terms(), count)),
           b(objectsOf<T, throughTables>(words.b, shape.terms(), shape.columns(), count)),
@@ -46,9 +76,17 @@ template <class T, bool throughTables, class Words> struct ProductOperands {
             addend = objectsOf<T, throughTables>(words.addend, shape.rows(), shape.columns(), count);
     }
 
-    auto first(std::size_t n) const { return objectAt<throughTables, const T>(a, n); }
-    auto second(std::size_t n) const { return objectAt<throughTables, const T>(b, n); }
-    auto result(std::size_t n) const { return objectAt<throughTables, T>(d, n); }
+    VONKK3_INLINE void hoist() {
+        if constexpr (isHoisted) aTable.hoist(a), bTable.hoist(b), dTable.hoist(d);
+    }
+    template <class E, class Held>
+    VONKK3_INLINE auto object(const ObjectsView &view, const Held &table, std::size_t n) const {
+        if constexpr (isHoisted) return table.object(view, n);
+        else return objectAt<throughTables, E>(view, n);
+    }
+    auto first(std::size_t n) const { return object<const T>(a, aTable, n); }
+    auto second(std::size_t n) const { return object<const T>(b, bTable, n); }
+    auto result(std::size_t n) const { return object<T>(d, dTable, n); }
     auto added(std::size_t n) const {
         if constexpr (hasAddend) return Addend{objectAt<throughTables, const T>(addend, n)};
         else return NoAddend{};
@@ -63,14 +101,29 @@ template <class T, bool throughTables, class Words> struct ProductOperands {
 
 // Of arrays through tables.
 inline bool arePositionsContiguous(const ProductWords &words) {
-    const auto isContiguous = [](const OperandWords &operand) {
-        return !operand.isArray || operand.step == std::int32_t(sizeof(Real32));
-    };
-    return isContiguous(words.a) && isContiguous(words.b) && isContiguous(words.d);
+    return arePacked(words.a) && arePacked(words.b) && arePacked(words.d);
 }
 inline bool arePositionsContiguous(const GaxpyWords &words) {
-    return arePositionsContiguous(static_cast<const ProductWords &>(words)) &&
-           words.addend.step == std::int32_t(sizeof(Real32));
+    return arePositionsContiguous(static_cast<const ProductWords &>(words)) && arePacked(words.addend);
+}
+
+struct TableOperands {
+    TablePositions a, b, d, addend;
+    VONKK3_INLINE explicit TableOperands(const ProductWords &words)
+        : a(words.a), b(words.b), d(words.d), addend(words.d) {}
+    VONKK3_INLINE explicit TableOperands(const GaxpyWords &words)
+        : a(words.a), b(words.b), d(words.d), addend(words.addend) {}
+};
+
+// The usual alias test of those.
+template <class Words, class Shape>
+VONKK3_INLINE bool arePlainlyIndependent(const Words &words, const Shape &shape, std::size_t count) {
+    const std::size_t rows = shape.rows(), columns = shape.columns(), terms = shape.terms();
+    const Extent written = plainlyWritten(words.d, rows, columns, count);
+    if constexpr (std::is_same_v<Words, GaxpyWords>)
+        if (!isPlainlyDisjoint(written, words.addend, rows, columns, count)) return false;
+    return isPlainlyDisjoint(written, words.a, rows, terms, count) &&
+           isPlainlyDisjoint(written, words.b, terms, columns, count);
 }
 
 // Of arrays that are not.
@@ -109,6 +162,7 @@ template <std::size_t order, class Operands> struct MatrixSums {
     auto aliasing(std::size_t count) const { return operands.aliasing(count); }
     Access access() const { return Access::any; }
     template <Access> VONKK3_INLINE void hoist() {
+        operands.hoist();
         if (!operands.b.isArray) holdRows(held, operands.second(0));
     }
     template <Access, std::size_t> VONKK3_INLINE bool work(std::size_t n) {
@@ -127,7 +181,7 @@ template <class T, class Shape, class Operands> struct SumsByElement {
 
     auto aliasing(std::size_t count) const { return operands.aliasing(count); }
     Access access() const { return Access::any; }
-    template <Access> void hoist() {}
+    template <Access> VONKK3_INLINE void hoist() { operands.hoist(); }
     template <Access, std::size_t> VONKK3_INLINE bool work(std::size_t n) const {
         if constexpr (std::is_same_v<T, Real32> && Shape::ofVector) {
             constexpr std::size_t order = Shape::fixedOrder;
@@ -201,15 +255,15 @@ VONKK3_SHARED VonkStatus sumArrays(const Words &words, const Shape &sizes, std::
     const auto inBatches = [&](auto &batch) VONKK3_INLINED {
         return forEachBatch(batch, batch.aliasing(count), count, [&](std::size_t n) { return plainly(n, n + 1); });
     };
-    using Operands = ProductOperands<T, throughTables, Words>;
+    using Operands = ProductOperands<T, throughTables, Words, Shape>;
     constexpr bool hasAddend = Operands::hasAddend;
     if constexpr (std::is_same_v<T, Real32> && throughTables)
         if (count >= worthBatches && arePositionsContiguous(words)) {
-            const Operands p(words, shape, count);
-            std::size_t done = inWholePacks(count);
-            if (!p.aliasing(count).allowsBatch(0, done)) done = 0;
-            else if constexpr (Shape::ofVector) multiplyVectors<order, hasAddend>(p, done);
-            else multiplyMatrices<SumBegins::withZero, order>(p, done);
+            const bool mayWork = arePlainlyIndependent(words, shape, count) ||
+                                 Operands(words, shape, count).aliasing(count).allowsBatch(0, count);
+            const std::size_t done = mayWork ? inWholePacks(count) : 0;
+            if constexpr (Shape::ofVector) multiplyVectors<order, hasAddend>(TableOperands(words), done);
+            else multiplyMatrices<SumBegins::withZero, order>(TableOperands(words), done);
             return plainly(done, count);
         }
     if constexpr (std::is_same_v<T, Real32> && Shape::ofVector) {
@@ -217,19 +271,19 @@ VONKK3_SHARED VonkStatus sumArrays(const Words &words, const Shape &sizes, std::
             VectorBatch<order, throughTables, firstIsArray, secondIsArray, hasAddend> batch(words, count);
             return inBatches(batch);
         };
-        if (!words.a.isArray) return inVectorBatches.template operator()<false, true>();
+        if (hasAddend || !words.a.isArray) return inVectorBatches.template operator()<false, true>();
         if constexpr (!throughTables && !hasAddend)
             if (hasContiguousRows(words.a) && isContiguousColumn(words.d) &&
                 (!words.b.isArray || isContiguousColumn(words.b)))
                 return words.b.isArray ? inVectorBatches.template operator()<true, true>()
                                        : inVectorBatches.template operator()<true, false>();
-        SumsByElement<T, Shape, Operands> sums{Operands(words, shape, count), shape};
+        SumsByElement<T, Shape, Operands> sums{{words, shape, count}, shape};
         return inBatches(sums);
     } else if constexpr (std::is_same_v<T, Real32>) {
         MatrixSums<order, Operands> sums(words, shape, count);
         return inBatches(sums);
     } else {
-        SumsByElement<T, Shape, Operands> sums{Operands(words, shape, count), shape};
+        SumsByElement<T, Shape, Operands> sums{{words, shape, count}, shape};
         return inBatches(sums);
     }
 }

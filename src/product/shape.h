@@ -7,15 +7,18 @@
 
 namespace vonkk3::product {
 
-// A product is told by which operands are arrays and which are transposed.
-template <class A, class B> struct Pattern {
-    static constexpr bool firstArray = A::isArray;
-    static constexpr bool firstTransposed = A::isTransposed;
-    static constexpr bool secondArray = B::isArray;
-    static constexpr bool secondTransposed = B::isTransposed;
+// A product is told by which operands are arrays and which are transposed, and by the layout.
+template <bool firstIsArray, bool firstIsTransposed, bool secondIsArray, bool secondIsTransposed, Layout memory>
+struct Pattern {
+    static constexpr bool firstArray = firstIsArray;
+    static constexpr bool firstTransposed = firstIsTransposed;
+    static constexpr bool secondArray = secondIsArray;
+    static constexpr bool secondTransposed = secondIsTransposed;
     static constexpr bool isArray = firstArray || secondArray;
-    static constexpr Layout layout = A::layout;
+    static constexpr Layout layout = memory;
 };
+template <class A, class B>
+using PatternOf = Pattern<A::isArray, A::isTransposed, B::isArray, B::isTransposed, A::layout>;
 
 // vonkMul_mmT of run-time size in the standard layout alone loops over the shape as it is stored, and so gives the true
 // product of matrices that are not square.

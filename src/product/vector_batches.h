@@ -11,6 +11,7 @@ struct VectorBatch {
     static constexpr std::size_t chains = 1;
     static constexpr bool takesPositions = false; // products through tables have a faster path
     static constexpr bool takesAny = !firstIsArray;
+    static constexpr bool takesRows = !throughTables;
     MatricesOfBatch<order, firstIsArray> a;
     VectorsOfBatch<order, secondIsArray> v;
     VectorsOfBatch<order> w, d;
