@@ -40,6 +40,13 @@ template <class T> VONKK3_INLINE Extent extentOf(const RowsView<T> &view, std::s
     return extentOf(view.base, columns * sizeof(T)).extendedBy(strides(rows - 1, view.rowStride));
 }
 
+// Of all objects of an operand with contiguous rows.
+template <class Operand>
+VONKK3_INLINE Extent extentOfAll(const Operand &operand, std::size_t rows, std::size_t columns, std::size_t count) {
+    const Extent first = extentOf(operand.view(0), rows, columns);
+    return Operand::isArray ? first.extendedBy(strides(count - 1, operand.objectSpacing())) : first;
+}
+
 // Whether the rows of a matrix are disjoint.
 template <class T> inline bool areRowsDisjoint(const RowsView<T> &view, std::size_t columns) {
     const auto rowBytes = std::ptrdiff_t(columns * sizeof(T));
@@ -47,6 +54,10 @@ template <class T> inline bool areRowsDisjoint(const RowsView<T> &view, std::siz
 }
 
 VONKK3_INLINE bool disjoint(const Extent &a, const Extent &b) { return a.end <= b.begin || b.end <= a.begin; }
+
+template <class... Extents> VONKK3_INLINE bool disjointFromAll(const Extent &written, const Extents &...read) {
+    return (disjoint(written, read) && ...);
+}
 
 inline std::uintptr_t magnitudeOf(std::ptrdiff_t stride) {
     return stride < 0 ? -std::uintptr_t(stride) : std::uintptr_t(stride);

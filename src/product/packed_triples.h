@@ -8,12 +8,6 @@
 
 namespace vonkk3::product {
 
-// Blocks are for results that lie apart from the vectors or exactly on them: each depends on the vector of its place
-// alone, so nobody can tell the difference.
-inline bool mayWorkInBlocks(const std::byte *vectors, const std::byte *results, std::size_t bytes) {
-    return vectors == results || disjoint(extentOf(vectors, bytes), extentOf(results, bytes));
-}
-
 // The elements of a matrix in all lanes: element (i, j) of the result's vector i takes factor j of it.
 struct SpreadMatrix {
     __m128 element[3][3];
@@ -29,37 +23,45 @@ struct SpreadMatrix {
     }
 };
 
-// Multiplies each vector by the matrix with these elements; how many of them were done.
+// Multiplies each vector by the matrix with these elements; they fill packs.
 template <class Element>
-inline std::size_t multiplyPackedTriples(const Element &elementAt, const std::byte *vectors, std::byte *results,
-                                         std::size_t count) {
+inline void multiplyPackedTriples(const Element &elementAt, const std::byte *vectors, std::byte *results,
+                                  std::size_t count) {
     constexpr std::ptrdiff_t packed = 3 * sizeof(Real32);
-    const std::size_t end = inFours(count);
-    if (end == 0 || !mayWorkInBlocks(vectors, results, end * packed)) return 0;
     const SpreadMatrix held(elementAt);
     const SpacedVectors<const Real32, packed> from{vectors};
     const SpacedVectors<Real32, packed> to{results};
-    for (std::size_t n = 0; n < end; n += four) held.times(FourTriples::load(from, n)).store(to, n);
-    return end;
+    for (std::size_t n = 0; n < count; n += four) held.times(FourTriples::load(from, n)).store(to, n);
 }
 
-// The two products that are made of that, and how many objects were done: all that make fours, or none.
+// Packed results that are disjoint from the vectors, or lie exactly on them. The matrix is read before any is stored.
+inline bool mayWorkPacked(const Extent &results, const Extent &vectors) {
+    return results.begin == vectors.begin || disjoint(results, vectors);
+}
+
+// The two products that are made of that, and how many objects were done: all that fill packs, or none. Each result
+// depends on the vector of its place alone, so it may be written in place.
 template <class A, class V, class D>
 VONKK3_INLINE std::size_t multiplyOneByTriples(const A &src1, const V &src2, const D &dst, std::size_t objects) {
-    if (!equallySpaced(src2, dst) || dst.objectSpacing() != 3 * sizeof(Real32)) return 0;
-    return multiplyPackedTriples([a = src1.view(0)](auto i, auto k) { return a.load(i, k); }, src2.view(0).base,
-                                 dst.view(0).base, objects);
+    const std::size_t done = inFours(objects);
+    if (done == 0 || !equallySpaced(src2, dst) || dst.objectSpacing() != 3 * sizeof(Real32)) return 0;
+    if (!mayWorkPacked(extentOfAll(dst, 1, 3, done), extentOfAll(src2, 1, 3, done))) return 0;
+    multiplyPackedTriples([a = src1.view(0)](std::size_t i, std::size_t k) { return a.load(i, k); }, src2.view(0).base,
+                          dst.view(0).base, done);
+    return done;
 }
 
 // The rows of packed matrices are vectors, multiplied by the single matrix transposed.
 template <class A, class B, class D>
 VONKK3_INLINE std::size_t multiplyTriplesByOne(const A &src1, const B &src2, const D &dst, std::size_t objects) {
-    if (!equallySpaced(src1, dst) || dst.objectSpacing() != 9 * sizeof(Real32) || !src1.hasPackedRows(3) ||
-        !dst.hasPackedRows(3))
+    const std::size_t done = inFours(objects);
+    if (done == 0 || !equallySpaced(src1, dst) || dst.objectSpacing() != 9 * sizeof(Real32) ||
+        !src1.hasPackedRows(3) || !dst.hasPackedRows(3))
         return 0;
-    return multiplyPackedTriples([b = src2.view(0)](auto i, auto k) { return b.load(k, i); }, src1.view(0).base,
-                                 dst.view(0).base, 3 * inFours(objects)) /
-           3;
+    if (!mayWorkPacked(extentOfAll(dst, 3, 3, done), extentOfAll(src1, 3, 3, done))) return 0;
+    multiplyPackedTriples([b = src2.view(0)](std::size_t i, std::size_t k) { return b.load(k, i); }, src1.view(0).base,
+                          dst.view(0).base, 3 * done);
+    return done;
 }
 
 } // namespace vonkk3::product

@@ -70,17 +70,19 @@ VONKK3_INLINE void multiplyTwoRowsAtOnce(const RowsView<const Real32> &a, const 
     });
 }
 
-// Whether each result is apart from the matrix of its own object.
-template <class Matrices, class D> VONKK3_INLINE bool areApartObjectByObject(const Matrices &matrices, const D &dst) {
-    return equallySpaced(matrices, dst) && disjoint(extentOf(dst.view(0), 6, 6), extentOf(matrices.view(0), 6, 6));
-}
-
 // How many objects were done: all or none.
 template <class A, class B, class D>
 VONKK3_INLINE std::size_t multiplyByRowPairs(const A &src1, const B &src2, const D &dst, std::size_t objects) {
-    if (!dst.hasPackedRows(6) || !areApartObjectByObject(src1, dst)) return 0;
+    if (!dst.hasPackedRows(6)) return 0;
+    const auto mayWork = [&](const auto &matrices) { // a single matrix is read before any result is stored
+        if (disjoint(extentOfAll(dst, 6, 6, objects), extentOfAll(matrices, 6, 6, objects))) return true;
+        const ObjectsView source = objectsOf(matrices, 6, 6, objects), d = objectsOf(dst, 6, 6, objects);
+        return Aliasing(objects, writes(d), reads(source)).allowsBatch(0, objects);
+    };
+    if (!mayWork(src1)) return 0;
+    if constexpr (B::isArray)
+        if (!mayWork(src2)) return 0;
     if constexpr (B::isArray) {
-        if (!areApartObjectByObject(src2, dst)) return 0;
         for (std::size_t n = 0; n < objects; ++n)
             multiplyTwoRowsAtOnce(src1.view(n), RowPairsInMemory(src2.view(n)), dst.view(n).base);
     } else {

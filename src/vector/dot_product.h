@@ -47,8 +47,8 @@ template <class F>
 inline constexpr bool takesAlignedTriples =
     F::isReal32 &&F::isArray && !F::sharesOne && F::length == 3 && F::layout == Layout::Standard;
 
-// All arrays of fixed size and adjacent elements in the standard layout go in blocks where results lie apart from
-// operands: nobody can tell then.
+// All arrays of fixed size and adjacent elements in the standard layout go in blocks where results are disjoint from
+// operands.
 template <class F>
 inline constexpr bool mayTakeBlocks = F::isReal32 &&F::isArray &&F::isFixed &&F::layout == Layout::Standard;
 
@@ -77,18 +77,6 @@ VONKK3_INLINE Working<typename F::T> sumProducts(const A &a, const B &b, Length 
 }
 
 // ---- Blocks of four objects -----------------------------------------------------------------------------------------
-
-// The products of a block are all there before its results are stored. In that it differs from one object after the
-// other only if results overlap operands.
-template <class F, class A, class B>
-inline bool resultsLieApart(const Real32 *dst, const A &a, const B &b, Objects count) {
-    const Extent results = extentOf(dst, count);
-    const auto isApart = [&](const auto &operand) {
-        const RowsView<const Real32> objects(operand.view(0).base, operand.objectSpacing());
-        return disjoint(results, extentOf(objects, count, F::length));
-    };
-    return isApart(a) && isApart(b);
-}
 
 template <class... Operands> inline bool allAligned(const Real32 *dst, const Operands &...operands) {
     const std::uintptr_t words =
@@ -154,7 +142,9 @@ inline std::size_t dotInBlocks(const A &a, const B &b, Real32 *dst, Objects coun
                                 [&](std::size_t n) VONKK3_INLINED { return dotAlignedTriples(a, b, n); });
     if constexpr (mayTakeBlocks<F>) {
         const bool must = takesFourAgainstOne<F> && (F::length == 4 || allAligned(dst, a));
-        if (!must && !resultsLieApart<F>(dst, a, b, count)) return 0;
+        if (!must && !disjointFromAll(extentOf(dst, count), extentOfAll(a, 1, F::length, count),
+                                      extentOfAll(b, 1, F::length, count)))
+            return 0;
     }
     const auto work = [&](const auto &p, const auto &q) VONKK3_INLINED {
         return forEachBlock(count, results, [&](std::size_t n) VONKK3_INLINED { return dotBlock<F>(p, q, n); });
