@@ -1,5 +1,6 @@
 // The table of exceptions: that its patterns mean the functions that they should, that a row at odds with the catalogue
-// is refused.
+// is refused, and that header, pages and functions.json say what the table says.
+#include "emit.h"
 #include "exceptions.h"
 #include "patterns.h"
 
@@ -255,6 +256,73 @@ TEST(Exceptions, AgreeWithTheCatalogueOnSignedSizes) {
             ASSERT_NE(parameter, function->parameters.end()) << function->name;
             EXPECT_EQ(parameter->type, "int32_t") << function->name;
         }
+}
+
+// ---- What is written from it ----------------------------------------------------------------------------------------
+
+// The ids in the comment after each prototype.
+std::map<std::string, std::vector<std::string>> marksOf(const std::string &header) {
+    const std::regex prototype(R"(VonkStatus (vonk\w+)\([^;]*;(?:\s*/\* exceptions?: ([^*]*?) \*/)?)");
+    const std::regex id("[a-z0-9-]+");
+    std::map<std::string, std::vector<std::string>> marks;
+    for (auto at = std::sregex_iterator(header.begin(), header.end(), prototype); at != std::sregex_iterator(); ++at) {
+        const std::string list = (*at)[2];
+        auto &ids = marks[(*at)[1]];
+        for (auto word = std::sregex_iterator(list.begin(), list.end(), id); word != std::sregex_iterator(); ++word)
+            ids.push_back(word->str());
+    }
+    return marks;
+}
+
+TEST(Exceptions, AreMarkedAtThePrototypes) {
+    const auto marks = marksOf(emit::header());
+    EXPECT_EQ(marks.size(), all().size());
+    for (const Function &function : all()) EXPECT_EQ(marks.at(function.name), idsOf(function)) << function.name;
+}
+
+TEST(Exceptions, AreListedInTheSectionsOfTheHeader) {
+    const std::string header = emit::header();
+    std::size_t at = 0;
+    for (const Exception &row : catalogue::exceptions()) {
+        at = header.find(" * - " + std::string(row.id) + " (" + std::string(name(row.what)) + "):", at);
+        ASSERT_NE(at, std::string::npos) << row.id;
+    }
+}
+
+TEST(Exceptions, AreListedInTheReferencePages) {
+    const auto pages = emit::reference();
+    for (const Exception &row : catalogue::exceptions()) {
+        const std::string line = "| " + std::string(row.id) + " | " + std::string(name(row.what)) + " | " +
+                                 std::to_string(functionsOf(row.id).size()) + ": ";
+        EXPECT_NE(pages.at(std::string(row.section) + ".md").find(line), std::string::npos) << row.id;
+        EXPECT_NE(pages.at("exceptions.md").find(line), std::string::npos) << row.id;
+        EXPECT_NE(pages.at("exceptions.md").find("[" + std::string(row.id) + "](" + std::string(row.section) + ".md#"),
+                  std::string::npos)
+            << row.id;
+    }
+}
+
+// Each function's list, and the number of functions of each row.
+TEST(Exceptions, AreInFunctionsJson) {
+    const std::string json = emit::functionsJson();
+    std::size_t at = 0;
+    for (const Function &function : all()) {
+        std::string ids;
+        for (const std::string &id : idsOf(function)) ids += (ids.empty() ? "\"" : ", \"") + id + "\"";
+        at = json.find(R"({"name": ")" + function.name + "\",", at);
+        ASSERT_NE(at, std::string::npos) << function.name;
+        const std::size_t list = json.find("\"exceptions\": [", at);
+        EXPECT_EQ(json.substr(list, json.find(']', list) + 1 - list), "\"exceptions\": [" + ids + "]") << function.name;
+    }
+    for (const Exception &row : catalogue::exceptions())
+        EXPECT_NE(json.find("{\"id\": \"" + std::string(row.id) + "\", \"family\": \"" + std::string(row.section) +
+                            "\", \"class\": \"" + std::string(name(row.what)) +
+                            "\", \"count\": " + std::to_string(functionsOf(row.id).size()) + ","),
+                  std::string::npos)
+            << row.id;
+    for (const ExceptionClass exceptionClass : catalogue::exceptionClasses)
+        EXPECT_NE(json.find("{\"name\": \"" + std::string(name(exceptionClass)) + "\", \"meaning\": "),
+                  std::string::npos);
 }
 
 } // namespace
