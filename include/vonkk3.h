@@ -67,7 +67,7 @@ enum {
     vonkOk = 0,               /* done */
     vonkErrSize = -6,         /* a size is zero, or sizes do not fit each other */
     vonkErrNullPtr = -8,      /* a null pointer among the operands */
-    vonkErrSingular = -10,    /* a pivot or divisor is below the family's tolerance */
+    vonkErrSingular = -10,    /* below the family's singularity tolerance */
     vonkErrNotPosDef = -179   /* the matrix is not positive definite */
 };
 
@@ -814,7 +814,7 @@ VonkStatus vonkMul_vac_64f_6x1_LS2(const double *const *src, int32_t srcShift, i
  * Exceptions:
  * - vv-single-loaded-once (overlap): vonk{Add_vav,Sub_vav,Sub_vva}_32f_?x1{,_L}
  *   The single vector is loaded once, before all objects; a `dst` that overlaps it changes nothing for later objects.
- *   All other forms load it anew for each object.
+ *   All other forms load it again for each object.
  * - vv-whole-object (overlap): vonk{Add,Sub}_{vv,vava}_32f_?x1 vonk{Add,Sub}_vava_32f_?x1_L
  *     vonk{Add_vav,Sub_vav,Sub_vva}_32f_{4x1,5x1,6x1}{,_L}
  *   An object is loaded whole before it is stored. Of 5 and 6 elements, what a partial overlap shows is not promised.
@@ -1675,7 +1675,7 @@ VonkStatus vonkSub_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift
  *   too. This is not checked.
  * - saxpy-single-loaded-once (overlap): vonkSaxpy_vav_32f_{4x1,6x1}
  *   If `src1`, `src2`, `dst`, `src1ObjStride` and `dstObjStride` are all multiples of 16, the single vector is loaded
- *   once, before all objects. Otherwise, and in all other forms, it is loaded anew for each object.
+ *   once, before all objects. Otherwise, and in all other forms, it is loaded again for each object.
  */
 
 VonkStatus vonkSaxpy_vv_32f(const float *src1, float val, const float *src2, float *dst, uint32_t len);
@@ -2204,7 +2204,7 @@ VonkStatus vonkSaxpy_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shi
  * Exceptions:
  * - lcomb-single-loaded-once (overlap): vonkLComb_vav_32f_?x1{,_L}
  *   The single vector is loaded once, before all objects; a `dst` that overlaps it changes nothing for later objects.
- *   All other forms load it anew for each object.
+ *   All other forms load it again for each object.
  * - lcomb-whole-object (overlap): vonkLComb_{vv,vava}_32f_?x1 vonkLComb_vava_32f_?x1_L
  *     vonkLComb_vav_32f_{4x1,5x1,6x1}{,_L}
  *   An object is loaded whole before it is stored. Of 5 and 6 elements, what a partial overlap shows is not promised.
@@ -3262,7 +3262,7 @@ VonkStatus vonkCrossProduct_vava_64f_3x1_LS2(const double *const *src1, int32_t 
  * - sum-ignored-stride (arguments): vonk{Add,Sub}_mamT_32f_3x3{,_L}
  *   `src2RowStride` is ignored: the rows of `src2` lie `src1RowStride` apart.
  * - sum-count-zero (checks): vonk{Add,Sub}_{mam,mamT}_32f_3x3{,_L}
- *   `count` 0 is not checked: one object is worked, as at `count` 1.
+ *   `count` 0 is not checked: one object is computed and stored, as at `count` 1.
  * - sum-pipelined-entries (checks): vonk{Add,Sub}_{mam,mamT}_32f_3x3_L
  *   List entries are checked in another order: entry 0 of `src1` and entry `count` - 1 of `dst` before anything else,
  *   then the entries of object n + 1 before object n is stored. A null entry k leaves the objects below k - 1 complete.
@@ -3274,7 +3274,7 @@ VonkStatus vonkCrossProduct_vava_64f_3x1_LS2(const double *const *src1, int32_t 
  * - sum-single-loaded-once (overlap): vonk{Add,Sub}_{mam,mamT,maTm,maTmT}_32f_{3x3,4x4}{,_L}
  *     vonkSub_{mma,mmaT,mTma,mTmaT}_32f_{3x3,4x4}{,_L}
  *   The single operand is loaded once, before all objects; a `dst` that overlaps it changes nothing for later objects.
- *   All other forms load it anew for each object.
+ *   All other forms load it again for each object.
  * - sum-rows-loaded-first (overlap): vonk{Add,Sub}_m*_32f_?x?{,_L}
  *   A row or more of an object is loaded before it is stored; how much is not promised.
  * - sum-reads-next-element (reads): vonk{Add,Sub}_{maTm,mamT}_32f_3x3{,_L}
@@ -8278,8 +8278,8 @@ VonkStatus vonkFrobNorm_ma_64f_6x6_LS2(const double *const *src, int32_t srcShif
  * Overlap is not checked, and where partial sums are stored to memory they destroy an operand that `dst` overlaps. The
  * forms in SIMD lanes load B first and read A row by row, so some calls in place are right: with `dst` = `src1` where A
  * is not transposed (3x3 to 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in
- * `mmT`, `mTmT` of 6x6). A single operand must never overlap a `dst` that is an array. Disjoint operands may be worked
- * in another order of objects, elements and stores, with the same results.
+ * `mmT`, `mTmT` of 6x6). A single operand must never overlap a `dst` that is an array. With disjoint operands the order
+ * of objects, elements and stores may be another, with the same results.
  *
  * Exceptions:
  * - product-simd (arithmetic): vonkMul_{mam,mama}_32f_{3x3,4x4,5x5}_S2 vonkMul_{maTm,mamT,maTmT}_32f_3x3_S2
@@ -10679,8 +10679,8 @@ VonkStatus vonkMul_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shi
  *
  * Overlap:
  * Overlap is not checked. In SIMD lanes the vector is loaded before the first store, so `dst` may be `src2`; elsewhere
- * the partial sums that are stored to memory destroy it. Disjoint operands may be worked in another order of objects,
- * elements and stores, with the same results.
+ * the partial sums that are stored to memory destroy it. With disjoint operands the order of objects, elements and
+ * stores may be another, with the same results.
  *
  * Exceptions:
  * - product-vector-position-8 (checks): vonkMul_mTv_{32f,64f}_4x4_P
@@ -11744,8 +11744,8 @@ VonkStatus vonkMul_maTva_64f_6x6_LS2(const double *const *src1, int32_t src1Shif
  *
  * Overlap:
  * Overlap is not checked. `32f` of fixed size in the standard layout and `L` loads both vectors before it stores, so
- * `dst` may be `src2` or `src3`; elsewhere the partial sums that are stored to memory destroy what `dst` overlaps.
- * Disjoint operands may be worked in another order of objects, elements and stores, with the same results.
+ * `dst` may be `src2` or `src3`; elsewhere the partial sums that are stored to memory destroy what `dst` overlaps. With
+ * disjoint operands the order of objects, elements and stores may be another, with the same results.
  *
  * Exceptions:
  * None.
@@ -12001,7 +12001,7 @@ VonkStatus vonkGaxpy_va_64f_6x6_LS2(const double *src1, int32_t src1RowStride, i
  * checked. `count` 0 gives vonkOk.
  *
  * Overlap:
- * Overlap is not checked. `dst` may be `src`, with the same strides or tables: nothing changes. With any other overlap
+ * Overlap is not checked. `dst` may be `src` (in place), with the same strides or tables. With any other overlap
  * elements are copied one by one in ascending order, so that an element of `src` which `dst` has overwritten by then is
  * read as overwritten.
  *
@@ -13736,12 +13736,12 @@ VonkStatus vonkCholeskyDecomp_ma_64f_6x6_LS2(const double *const *src, int32_t s
  *
  * Forward: x(i) = (b(i) - the sum of F(i, k) x(k) over k < i) F(i, i). Backward, from the last row up: x(i) = (x(i) -
  * the sum of F(k, i) x(k) over k > i) F(i, i). Products are subtracted one by one, forward with k ascending, backward
- * with k DESCENDING; x is its own workspace. `32f` rounds every operation; `64f` is worked in the 80-bit type and
+ * with k DESCENDING; x is its own workspace. `32f` rounds every operation; `64f` is computed in the 80-bit type and
  * rounded where it is stored. Nothing divides. Method: Golub and Van Loan, Matrix Computations, "Triangular systems".
  *
  * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `order` is 0; else vonkOk. Neither the
  * numbers nor entries of tables and lists are checked; but in `L` and `LS2` an object one of whose entries is null once
- * its shift is added is skipped, with no error, and the next is worked.
+ * its shift is added is skipped, with no error, and the next is solved.
  *
  * Overlap:
  * Overlap is not checked; both sweeps read what memory holds by then. `dst` may be `src2`.
@@ -14207,8 +14207,8 @@ VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_LS2(const double *const *src1, int
  * triangular R by Householder reflections, column by column. `dst` gets R on and above the diagonal and below it, in
  * column k, reflector k: elements k + 1 and on of the vector v whose element k is 1. The reflection is I + beta v v'
  * with beta = -2 / (v'v), which vonkQRBackSubst recomputes. There is a reflection for each column, but none for the
- * last column of a square matrix. `work` is a workspace of `rows` contiguous elements in every layout, used anew for
- * every object; its contents on entry do not matter, and on return it holds the last reflector.
+ * last column of a square matrix. `work` is a workspace of `rows` contiguous elements in every layout, reused for every
+ * object; its contents on entry do not matter, and on return it holds the last reflector.
  *
  * For column k: s = the sum of d(i, k)^2 over i >= k. If s is below the singularity tolerance 2^-23 =
  * 1.1920928955078125e-7 or a NaN, the call ends with vonkErrSingular: an absolute bound on the SQUARED norm, the same
@@ -14442,13 +14442,13 @@ VonkStatus vonkQRDecomp_ma_64f_6x6_LS2(const double *const *src, int32_t srcShif
  *
  * vonkQRBackSubst solves A x = b with what vonkQRDecomp left in `src1`, `rows` by `cols`: exactly if A is square, else
  * x minimises the residual. `src2` is b, of `rows` elements, `dst` is x, of `cols`. `work` is a workspace of `rows`
- * contiguous elements in every layout, used anew for every object; on return it holds Q'b of the last object, whose
+ * contiguous elements in every layout, reused for every object; on return it holds Q'b of the last object, whose
  * elements from `cols` on are the residual's. Groups: `mv` one system; `mva` one decomposition for `count` right-hand
  * sides; `mava` one per object.
  *
  * b is copied to `work`. For each reflector v in turn: p = (work(k) + the sum of work(i) v(i)) beta, beta = -2 / (v'v),
  * work(i) = v(i) p + work(i). Then from the last row up: x(i) = (work(i) - s) / R(i, i), s the sum of R(i, j) x(j) over
- * j > i, from 0 with j ascending. `32f` rounds every operation; `64f` is worked in the 80-bit type and rounded where
+ * j > i, from 0 with j ascending. `32f` rounds every operation; `64f` is computed in the 80-bit type and rounded where
  * `work` and `dst` are stored. Method: Golub and Van Loan, Matrix Computations, "Householder QR" and "Full rank least
  * squares".
  *

@@ -189,7 +189,7 @@ bool isSigned(const Function &function, std::string_view word) {
     return false;
 }
 
-// Appends the words of one operand: its pointer and the strides and shifts that its layout has.
+// Appends the parameters of one operand: its pointer and the strides and shifts that its layout has.
 void appendOperand(Function &function, int index) {
     const Operand &operand = function.operands[index];
     const std::string type = std::string(operand.written ? "" : "const ") + std::string(element(function.type)) + " *";

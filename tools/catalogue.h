@@ -22,7 +22,7 @@ enum class Type { real32, real64 };
 enum class Layout {
     standard,       // [none] rows of adjacent elements
     strided,        // [S2]   rows of elements a stride apart
-    pointer,        // [P]    a table of one pointer per element position, objects packed behind each
+    pointer,        // [P]    a table of one pointer per element position, objects contiguous from each on
     stridedPointer, // [PS2]  the same, objects a stride apart
     list,           // [L]    a list of one pointer per object, rows of adjacent elements
     stridedList,    // [LS2]  the same, elements a stride apart

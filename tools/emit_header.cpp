@@ -72,7 +72,7 @@ enum {
     vonkOk = 0,               /* done */
     vonkErrSize = -6,         /* a size is zero, or sizes do not fit each other */
     vonkErrNullPtr = -8,      /* a null pointer among the operands */
-    vonkErrSingular = -10,    /* a pivot or divisor is below the family's tolerance */
+    vonkErrSingular = -10,    /* below the family's singularity tolerance */
     vonkErrNotPosDef = -179   /* the matrix is not positive definite */
 };
 

@@ -20,7 +20,7 @@ constexpr std::array exceptionTable = std::to_array<Exception>({
     {"vv-single-loaded-once", "vector-vector", overlap, "vonk{Add_vav,Sub_vav,Sub_vva}_32f_?x1{,_L}",
      "The single vector is loaded once, before all objects; a `dst` that overlaps it changes nothing for later "
      "objects. "
-     "All other forms load it anew for each object."},
+     "All other forms load it again for each object."},
     {"vv-whole-object", "vector-vector", overlap,
      "vonk{Add,Sub}_{vv,vava}_32f_?x1 vonk{Add,Sub}_vava_32f_?x1_L "
      "vonk{Add_vav,Sub_vav,Sub_vva}_32f_{4x1,5x1,6x1}{,_L}",
@@ -37,12 +37,12 @@ constexpr std::array exceptionTable = std::to_array<Exception>({
     {"saxpy-single-loaded-once", "saxpy", overlap, "vonkSaxpy_vav_32f_{4x1,6x1}",
      "If `src1`, `src2`, `dst`, `src1ObjStride` and `dstObjStride` are all multiples of 16, the single vector is "
      "loaded "
-     "once, before all objects. Otherwise, and in all other forms, it is loaded anew for each object."},
+     "once, before all objects. Otherwise, and in all other forms, it is loaded again for each object."},
 
     {"lcomb-single-loaded-once", "linear-combination", overlap, "vonkLComb_vav_32f_?x1{,_L}",
      "The single vector is loaded once, before all objects; a `dst` that overlaps it changes nothing for later "
      "objects. "
-     "All other forms load it anew for each object."},
+     "All other forms load it again for each object."},
     {"lcomb-whole-object", "linear-combination", overlap,
      "vonkLComb_{vv,vava}_32f_?x1 vonkLComb_vava_32f_?x1_L vonkLComb_vav_32f_{4x1,5x1,6x1}{,_L}",
      "An object is loaded whole before it is stored. Of 5 and 6 elements, what a partial overlap shows is not "
@@ -109,7 +109,7 @@ constexpr std::array exceptionTable = std::to_array<Exception>({
     {"sum-ignored-stride", "matrix-matrix", arguments, "vonk{Add,Sub}_mamT_32f_3x3{,_L}",
      "`src2RowStride` is ignored: the rows of `src2` lie `src1RowStride` apart."},
     {"sum-count-zero", "matrix-matrix", checks, "vonk{Add,Sub}_{mam,mamT}_32f_3x3{,_L}",
-     "`count` 0 is not checked: one object is worked, as at `count` 1."},
+     "`count` 0 is not checked: one object is computed and stored, as at `count` 1."},
     {"sum-pipelined-entries", "matrix-matrix", checks, "vonk{Add,Sub}_{mam,mamT}_32f_3x3_L",
      "List entries are checked in another order: entry 0 of `src1` and entry `count` - 1 of `dst` before anything "
      "else, "
@@ -123,7 +123,7 @@ constexpr std::array exceptionTable = std::to_array<Exception>({
      "vonk{Add,Sub}_{mam,mamT,maTm,maTmT}_32f_{3x3,4x4}{,_L} vonkSub_{mma,mmaT,mTma,mTmaT}_32f_{3x3,4x4}{,_L}",
      "The single operand is loaded once, before all objects; a `dst` that overlaps it changes nothing for later "
      "objects. "
-     "All other forms load it anew for each object."},
+     "All other forms load it again for each object."},
     {"sum-rows-loaded-first", "matrix-matrix", overlap, "vonk{Add,Sub}_m*_32f_?x?{,_L}",
      "A row or more of an object is loaded before it is stored; how much is not promised."},
     {"sum-reads-next-element", "matrix-matrix", reads, "vonk{Add,Sub}_{maTm,mamT}_32f_3x3{,_L}",

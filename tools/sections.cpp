@@ -216,8 +216,8 @@ Sums:
      R"(Overlap is not checked, and where partial sums are stored to memory they destroy an operand that `dst` overlaps. The
 forms in SIMD lanes load B first and read A row by row, so some calls in place are right: with `dst` = `src1` where A
 is not transposed (3x3 to 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in
-`mmT`, `mTmT` of 6x6). A single operand must never overlap a `dst` that is an array. Disjoint operands may be worked
-in another order of objects, elements and stores, with the same results.)"},
+`mmT`, `mTmT` of 6x6). A single operand must never overlap a `dst` that is an array. With disjoint operands the order
+of objects, elements and stores may be another, with the same results.)"},
     {"matrix-vector", "Matrix by vector", "product of a matrix and a vector",
      R"(dst(n, i) = sum over k of A(i, k) src2(n, k)
 
@@ -239,8 +239,8 @@ lanes in orders of their own. With p0, p1, ... for the products of row i:
 - 5x5: ((p0 + p1) + p4) + (p2 + p3), but the LAST element, if not transposed, is ((p0 + p2) + p4) + (p1 + p3)
 - 6x6: ((p0 + p2) + p4) + ((p1 + p3) + p5); transposed ((p0 + p1) + (p2 + p3)) + (p4 + p5))",
      R"(Overlap is not checked. In SIMD lanes the vector is loaded before the first store, so `dst` may be `src2`; elsewhere
-the partial sums that are stored to memory destroy it. Disjoint operands may be worked in another order of objects,
-elements and stores, with the same results.)"},
+the partial sums that are stored to memory destroy it. With disjoint operands the order of objects, elements and
+stores may be another, with the same results.)"},
     {"gaxpy", "Gaxpy", "a matrix times a vector, plus a vector",
      R"(dst(n, i) = (sum over k of src1(i, k) src2(n, k)) + src3(n, i)
 
@@ -253,8 +253,8 @@ its terms as the sum reaches them, earlier elements and the partial sum being st
 four tables before anything else, even at `count` 0; in `L` and `LS2` when the object's turn comes. `count` 0 then
 gives vonkOk.)",
      R"(Overlap is not checked. `32f` of fixed size in the standard layout and `L` loads both vectors before it stores, so
-`dst` may be `src2` or `src3`; elsewhere the partial sums that are stored to memory destroy what `dst` overlaps.
-Disjoint operands may be worked in another order of objects, elements and stores, with the same results.)"},
+`dst` may be `src2` or `src3`; elsewhere the partial sums that are stored to memory destroy what `dst` overlaps. With
+disjoint operands the order of objects, elements and stores may be another, with the same results.)"},
     {"copy", "Copy", "from any of three layouts into any of three layouts",
      R"(dst(n, j) = src(n, j)          (`va`, of `len` elements)
 dst(n, i, j) = src(n, i, j)    (`ma`, of `rows` by `cols`)
@@ -266,7 +266,7 @@ that a signalling NaN arrives as a quiet one.
 
 Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len` is 0. Entries of tables and lists are not
 checked. `count` 0 gives vonkOk.)",
-     R"(Overlap is not checked. `dst` may be `src`, with the same strides or tables: nothing changes. With any other overlap
+     R"(Overlap is not checked. `dst` may be `src` (in place), with the same strides or tables. With any other overlap
 elements are copied one by one in ascending order, so that an element of `src` which `dst` has overwritten by then is
 read as overwritten.)"},
     {"extract", "Extract", "gathering into one dense block",
@@ -425,20 +425,20 @@ solvers; `mava` a factor per object. Nothing above the diagonal of `src1` is rea
 
 Forward: x(i) = (b(i) - the sum of F(i, k) x(k) over k < i) F(i, i). Backward, from the last row up: x(i) = (x(i) -
 the sum of F(k, i) x(k) over k > i) F(i, i). Products are subtracted one by one, forward with k ascending, backward
-with k DESCENDING; x is its own workspace. `32f` rounds every operation; `64f` is worked in the 80-bit type and
+with k DESCENDING; x is its own workspace. `32f` rounds every operation; `64f` is computed in the 80-bit type and
 rounded where it is stored. Nothing divides. Method: Golub and Van Loan, Matrix Computations, "Triangular systems".
 
 Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `order` is 0; else vonkOk. Neither the
 numbers nor entries of tables and lists are checked; but in `L` and `LS2` an object one of whose entries is null once
-its shift is added is skipped, with no error, and the next is worked.)",
+its shift is added is skipped, with no error, and the next is solved.)",
      R"(Overlap is not checked; both sweeps read what memory holds by then. `dst` may be `src2`.)"},
     {"qr-decomposition", "QR decomposition", "Householder reflectors and upper factor",
      R"(vonkQRDecomp factors each matrix of `src`, `rows` by `cols` with `rows` >= `cols`, into an orthogonal Q and an upper
 triangular R by Householder reflections, column by column. `dst` gets R on and above the diagonal and below it, in
 column k, reflector k: elements k + 1 and on of the vector v whose element k is 1. The reflection is I + beta v v'
 with beta = -2 / (v'v), which vonkQRBackSubst recomputes. There is a reflection for each column, but none for the
-last column of a square matrix. `work` is a workspace of `rows` contiguous elements in every layout, used anew for
-every object; its contents on entry do not matter, and on return it holds the last reflector.
+last column of a square matrix. `work` is a workspace of `rows` contiguous elements in every layout, reused for every
+object; its contents on entry do not matter, and on return it holds the last reflector.
 
 For column k: s = the sum of d(i, k)^2 over i >= k. If s is below the singularity tolerance 2^-23 =
 1.1920928955078125e-7 or a NaN, the call ends with vonkErrSingular: an absolute bound on the SQUARED norm, the same
@@ -460,13 +460,13 @@ fails so: after its last row there is nothing left.)",
     {"qr-back-substitution", "QR back substitution", "least squares with the factors of a QR decomposition",
      R"(vonkQRBackSubst solves A x = b with what vonkQRDecomp left in `src1`, `rows` by `cols`: exactly if A is square, else
 x minimises the residual. `src2` is b, of `rows` elements, `dst` is x, of `cols`. `work` is a workspace of `rows`
-contiguous elements in every layout, used anew for every object; on return it holds Q'b of the last object, whose
+contiguous elements in every layout, reused for every object; on return it holds Q'b of the last object, whose
 elements from `cols` on are the residual's. Groups: `mv` one system; `mva` one decomposition for `count` right-hand
 sides; `mava` one per object.
 
 b is copied to `work`. For each reflector v in turn: p = (work(k) + the sum of work(i) v(i)) beta, beta = -2 / (v'v),
 work(i) = v(i) p + work(i). Then from the last row up: x(i) = (work(i) - s) / R(i, i), s the sum of R(i, j) x(j) over
-j > i, from 0 with j ascending. `32f` rounds every operation; `64f` is worked in the 80-bit type and rounded where
+j > i, from 0 with j ascending. `32f` rounds every operation; `64f` is computed in the 80-bit type and rounded where
 `work` and `dst` are stored. Method: Golub and Van Loan, Matrix Computations, "Householder QR" and "Full rank least
 squares".
 
