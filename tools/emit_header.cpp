@@ -37,7 +37,8 @@ constexpr std::string_view opening = R"(/* vonkk3: batched linear algebra on ver
  *
  * Thread-safe and re-entrant: a call keeps no state, takes no lock, and may run beside any other that does not write
  * the same memory. No allocation and no hidden workspace: where a family needs one, it is an argument (`scratch`,
- * `work`). No byte outside the operands is read or written, but for exceptions of the class `reads`.
+ * `work`). No byte outside the operands is read or written, but where a family's section or an exception of the class
+ * `reads` says so.
  *
  * Deterministic and reproducible: the order of operations and the place of every rounding are fixed, so results are the
  * same bits on every run, but for the few that come from a processor's estimates and those that a family does not

@@ -85,7 +85,9 @@ constexpr std::string_view aboutExceptions =
     "Functions are given as patterns of names, as in a shell: `{a,b}` is a or b, `{,_L}` is nothing or `_L`, `?` is "
     "any\n"
     "letter, `*` any letters. The number before the patterns says how many functions they match.\n\n"
-    "No byte outside the operands is read or written, but for exceptions of the class `reads`.\n\n";
+    "No byte outside the operands is read or written, but where a family's page or an exception of the class `reads` "
+    "says\n"
+    "so.\n\n";
 
 std::string classTable() {
     std::string table = "| class | what differs | exceptions |\n|---|---|---|\n";
