@@ -1,15 +1,15 @@
-/* vonkk3: linear algebra on very many small matrices and vectors.
+/* vonkk3: batched linear algebra on very many small matrices and vectors.
  *
  * Generated from the catalogue of functions; do not edit.
  *
  * Names: vonk<Op>_<operands>_<type>[_<size>][_<layout>]
  *
- *   operands  one group per source: m matrix, v vector, c constant; `a` behind m or v makes it an array of `count` like
- *             objects, `T` reads it transposed. The result is an array if any source is.
+ *   operands  one group per source: m matrix, v vector, c constant; `a` after m or v makes it an array (a batch) of
+ *             `count` like objects, `T` reads it transposed. The result is an array if any source is.
  *   type      32f float, 64f double
- *   size      3x3 to 6x6, or 3x1 to 6x1 for vectors; without it the size is a parameter
+ *   size      3x3 to 6x6, or 3x1 to 6x1 for vectors; without it the size is an argument
  *   layout    where element (i, j) of object n lies; p is the operand's pointer, e the element's size in bytes:
- *               (none)  p + n * ObjStride + i * RowStride + j * e
+ *               (none)  p + n * ObjStride + i * RowStride + j * e      standard: rows of contiguous elements
  *               S2      p + n * ObjStride + i * RowStride + j * ElemStride
  *               P       p[i * cols + j] + Shift + n * e                one pointer per element position
  *               PS2     p[i * cols + j] + Shift + n * ObjStride
@@ -18,15 +18,37 @@
  *             A vector has no i. A single operand has no n: no ObjStride, and in L and LS2 a plain pointer without
  *             Shift.
  *
- * Units: every stride and shift is in BYTES, may be negative or zero, and is never tested. Sizes are in elements,
- * `count` in objects. Elements may lie at any address.
+ * All layouts are row-major. RowStride is the leading dimension, in bytes: 4 * cols for packed rows of float. In S2 and
+ * LS2 RowStride and ElemStride may be exchanged: column-major. The standard layout and L are arrays of structures
+ * (AoS); P is the structure of arrays (SoA): the elements of all objects at one position are contiguous.
  *
- * A call allocates nothing, keeps nothing, takes no lock and may run beside any other that does not write the same
- * memory. float works in single precision, double in the 80-bit type; rounding mode and precision control are the
- * caller's and are left alone.
+ * Units: every stride and shift is in BYTES, may be negative or zero, and is not checked. Sizes are in elements,
+ * `count` in objects. Elements may lie at any address; no alignment is required.
  *
- * Tests, in this order: pointers (vonkErrNullPtr), sizes (vonkErrSize), entries of tables where the family tests them
- * (vonkErrNullPtr), `count` 0 (vonkOk with nothing done). A failing call undoes nothing.
+ * Thread-safe and re-entrant: a call keeps no state, takes no lock, and may run beside any other that does not write
+ * the same memory. No allocation and no hidden workspace: where a family needs one, it is an argument (`scratch`,
+ * `work`). No byte outside the operands is read or written, but where a family's section or an exception of the class
+ * `reads` says so.
+ *
+ * Deterministic and reproducible: the order of operations and the place of every rounding are fixed, so results are the
+ * same bits on every run, but for the few that come from a processor's estimates and those that a family does not
+ * promise bit for bit. float works in single precision, double in the 80-bit type; nothing is fused. Rounding mode and
+ * precision control are the caller's and are left alone.
+ *
+ * Argument checks, in this order: pointers (vonkErrNullPtr), sizes (vonkErrSize), entries of tables where the family
+ * checks them (vonkErrNullPtr), `count` 0 (vonkOk with nothing done). A failing call undoes nothing.
+ *
+ * Exceptions: functions that deviate from the rules of their family are marked at their prototypes. The section of the
+ * family says what each exception is, with its class and its functions as patterns: {a,b} is a or b, {,_L} is nothing
+ * or _L, `?` is any letter, `*` any letters. Exceptions are intended and stay as they are. The classes:
+ *
+ *   arithmetic  other order of operations or other roundings; signs of zeros and NaNs
+ *   result      another result than the name says
+ *   arguments   an argument is ignored, restricted, or read in another way
+ *   checks      which arguments are checked, and when; what is not checked
+ *   status      another status, or another state after a failing call
+ *   overlap     what operands that overlap show
+ *   reads       what is accessed beyond the operands
  *
  * In C, a table of pointers to elements that are not const needs a cast where a source table is expected:
  * (const float *const *)table.
@@ -46,7 +68,7 @@ enum {
     vonkOk = 0,               /* done */
     vonkErrSize = -6,         /* a size is zero, or sizes do not fit each other */
     vonkErrNullPtr = -8,      /* a null pointer among the operands */
-    vonkErrSingular = -10,    /* a pivot or divisor is below the family's tolerance */
+    vonkErrSingular = -10,    /* below the family's singularity tolerance */
     vonkErrNotPosDef = -179   /* the matrix is not positive definite */
 };
 
@@ -72,26 +94,23 @@ const VonkLibVersion *vonkGetLibVersion(void);
  * vonkMul:           dst(n, j) = src(n, j) * val
  *
  * for j below `len` and each object n; one rounded operation per element. The vector stands first among the parameters
- * in all groups. `val` has the type of the elements.
+ * in all groups. `val` has the type of the elements. The arithmetic of an element depends neither on the length nor on
+ * the alignment of operands.
  *
- * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
- * list entry is null: in single forms in `P` entry by entry just before each element, earlier elements being final; in
- * `P` and `PS2` of arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when
- * the object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
- *
- * Members that behave unlike their siblings:
- * - The four forms `32f` of a single vector of run-time length in the standard layout are built for length: from 11
- *   elements on, with a `dst` that does not overlap `src` and lies at a multiple of 4, they bring `dst` to a 16-byte
- *   boundary and work blocks of eight in four-lane registers. The results are those of the plain loop.
- * - `32f` of fixed size, standard layout and `L`: an object is loaded whole before it is stored.
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or list entry
+ * is null: in single forms in `P` entry by entry just before each element, earlier elements being final; in `P` and
+ * `PS2` of arrays all entries of all tables before anything else, even at `count` 0; in `L` and `LS2` when the object's
+ * turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Overlap:
- * `dst` may be `src` itself. Where it overlaps a source otherwise, elements are read and written in ascending
- * order, so a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L`
- * load an object whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.
+ * Overlap is not checked. `dst` may be `src` (in place): each element is read before it is written. With any other
+ * overlap elements are read and written one by one in ascending order, so that a source element which `dst` has
+ * overwritten by then is read as overwritten.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - vc-whole-object (overlap): vonk{Add_vc,Sub_vc,Sub_cv,Mul_vc}_32f_?x1
+ *     vonk{Add_vac,Sub_vac,Sub_cva,Mul_vac}_32f_?x1{,_L}
+ *   An object is loaded whole before it is stored. Of 5 and 6 elements, what a partial overlap shows is not promised.
  */
 
 VonkStatus vonkAdd_vc_32f(const float *src, float val, float *dst, uint32_t len);
@@ -99,19 +118,19 @@ VonkStatus vonkAdd_vc_32f_S2(const float *src, int32_t srcElemStride, float val,
     uint32_t len);
 VonkStatus vonkAdd_vc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
     uint32_t len);
-VonkStatus vonkAdd_vc_32f_3x1(const float *src, float val, float *dst);
+VonkStatus vonkAdd_vc_32f_3x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vc_32f_3x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkAdd_vc_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkAdd_vc_32f_4x1(const float *src, float val, float *dst);
+VonkStatus vonkAdd_vc_32f_4x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vc_32f_4x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkAdd_vc_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkAdd_vc_32f_5x1(const float *src, float val, float *dst);
+VonkStatus vonkAdd_vc_32f_5x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vc_32f_5x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkAdd_vc_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkAdd_vc_32f_6x1(const float *src, float val, float *dst);
+VonkStatus vonkAdd_vc_32f_6x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vc_32f_6x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkAdd_vc_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
@@ -155,7 +174,7 @@ VonkStatus vonkAdd_vac_32f_L(const float *const *src, int32_t srcShift, float va
 VonkStatus vonkAdd_vac_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkAdd_vac_32f_3x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vac_32f_3x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -163,11 +182,11 @@ VonkStatus vonkAdd_vac_32f_3x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkAdd_vac_32f_3x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_3x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vac_32f_3x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_4x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vac_32f_4x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -175,11 +194,11 @@ VonkStatus vonkAdd_vac_32f_4x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkAdd_vac_32f_4x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_4x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vac_32f_4x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_5x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vac_32f_5x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -187,11 +206,11 @@ VonkStatus vonkAdd_vac_32f_5x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkAdd_vac_32f_5x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_5x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vac_32f_5x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_6x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vac_32f_6x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -199,7 +218,7 @@ VonkStatus vonkAdd_vac_32f_6x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkAdd_vac_32f_6x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_vac_32f_6x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkAdd_vac_32f_6x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 
@@ -269,19 +288,19 @@ VonkStatus vonkSub_vc_32f_S2(const float *src, int32_t srcElemStride, float val,
     uint32_t len);
 VonkStatus vonkSub_vc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
     uint32_t len);
-VonkStatus vonkSub_vc_32f_3x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_vc_32f_3x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkSub_vc_32f_3x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_vc_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkSub_vc_32f_4x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_vc_32f_4x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkSub_vc_32f_4x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_vc_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkSub_vc_32f_5x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_vc_32f_5x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkSub_vc_32f_5x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_vc_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkSub_vc_32f_6x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_vc_32f_6x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkSub_vc_32f_6x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_vc_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
@@ -325,7 +344,7 @@ VonkStatus vonkSub_vac_32f_L(const float *const *src, int32_t srcShift, float va
 VonkStatus vonkSub_vac_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkSub_vac_32f_3x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_vac_32f_3x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -333,11 +352,11 @@ VonkStatus vonkSub_vac_32f_3x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkSub_vac_32f_3x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_3x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_vac_32f_3x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_4x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_vac_32f_4x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -345,11 +364,11 @@ VonkStatus vonkSub_vac_32f_4x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkSub_vac_32f_4x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_4x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_vac_32f_4x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_5x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_vac_32f_5x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -357,11 +376,11 @@ VonkStatus vonkSub_vac_32f_5x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkSub_vac_32f_5x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_5x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_vac_32f_5x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_6x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_vac_32f_6x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -369,7 +388,7 @@ VonkStatus vonkSub_vac_32f_6x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkSub_vac_32f_6x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_vac_32f_6x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_vac_32f_6x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 
@@ -439,19 +458,19 @@ VonkStatus vonkSub_cv_32f_S2(const float *src, int32_t srcElemStride, float val,
     uint32_t len);
 VonkStatus vonkSub_cv_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
     uint32_t len);
-VonkStatus vonkSub_cv_32f_3x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_cv_32f_3x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkSub_cv_32f_3x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_cv_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkSub_cv_32f_4x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_cv_32f_4x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkSub_cv_32f_4x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_cv_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkSub_cv_32f_5x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_cv_32f_5x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkSub_cv_32f_5x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_cv_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkSub_cv_32f_6x1(const float *src, float val, float *dst);
+VonkStatus vonkSub_cv_32f_6x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkSub_cv_32f_6x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_cv_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
@@ -495,7 +514,7 @@ VonkStatus vonkSub_cva_32f_L(const float *const *src, int32_t srcShift, float va
 VonkStatus vonkSub_cva_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkSub_cva_32f_3x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_cva_32f_3x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -503,11 +522,11 @@ VonkStatus vonkSub_cva_32f_3x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkSub_cva_32f_3x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_3x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_cva_32f_3x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_4x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_cva_32f_4x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -515,11 +534,11 @@ VonkStatus vonkSub_cva_32f_4x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkSub_cva_32f_4x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_4x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_cva_32f_4x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_5x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_cva_32f_5x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -527,11 +546,11 @@ VonkStatus vonkSub_cva_32f_5x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkSub_cva_32f_5x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_5x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_cva_32f_5x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_6x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_cva_32f_6x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -539,7 +558,7 @@ VonkStatus vonkSub_cva_32f_6x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkSub_cva_32f_6x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_cva_32f_6x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkSub_cva_32f_6x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 
@@ -609,19 +628,19 @@ VonkStatus vonkMul_vc_32f_S2(const float *src, int32_t srcElemStride, float val,
     uint32_t len);
 VonkStatus vonkMul_vc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
     uint32_t len);
-VonkStatus vonkMul_vc_32f_3x1(const float *src, float val, float *dst);
+VonkStatus vonkMul_vc_32f_3x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkMul_vc_32f_3x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkMul_vc_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkMul_vc_32f_4x1(const float *src, float val, float *dst);
+VonkStatus vonkMul_vc_32f_4x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkMul_vc_32f_4x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkMul_vc_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkMul_vc_32f_5x1(const float *src, float val, float *dst);
+VonkStatus vonkMul_vc_32f_5x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkMul_vc_32f_5x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkMul_vc_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
-VonkStatus vonkMul_vc_32f_6x1(const float *src, float val, float *dst);
+VonkStatus vonkMul_vc_32f_6x1(const float *src, float val, float *dst); /* exception: vc-whole-object */
 VonkStatus vonkMul_vc_32f_6x1_S2(const float *src, int32_t srcElemStride, float val, float *dst, int32_t dstElemStride);
 VonkStatus vonkMul_vc_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
@@ -665,7 +684,7 @@ VonkStatus vonkMul_vac_32f_L(const float *const *src, int32_t srcShift, float va
 VonkStatus vonkMul_vac_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkMul_vac_32f_3x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkMul_vac_32f_3x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_3x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -673,11 +692,11 @@ VonkStatus vonkMul_vac_32f_3x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkMul_vac_32f_3x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_3x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkMul_vac_32f_3x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_4x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkMul_vac_32f_4x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_4x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -685,11 +704,11 @@ VonkStatus vonkMul_vac_32f_4x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkMul_vac_32f_4x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_4x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkMul_vac_32f_4x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_5x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkMul_vac_32f_5x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_5x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -697,11 +716,11 @@ VonkStatus vonkMul_vac_32f_5x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkMul_vac_32f_5x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_5x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkMul_vac_32f_5x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_6x1(const float *src, int32_t srcObjStride, float val, float *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkMul_vac_32f_6x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_6x1_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -709,7 +728,7 @@ VonkStatus vonkMul_vac_32f_6x1_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkMul_vac_32f_6x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_vac_32f_6x1_L(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vc-whole-object */
 VonkStatus vonkMul_vac_32f_6x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 
@@ -780,31 +799,29 @@ VonkStatus vonkMul_vac_64f_6x1_LS2(const double *const *src, int32_t srcShift, i
  * vonkSub: dst(n, j) = src1(n, j) - src2(n, j)
  *
  * for j below `len` and each object n; one rounded operation per element. Groups: `vv` two vectors, `vav` an array and
- * a vector, `vva` a vector and an array (vonkSub only), `vava` two arrays. A single vector serves all objects.
+ * a vector, `vva` a vector and an array (vonkSub only), `vava` two arrays. A single vector serves all objects. The
+ * arithmetic of an element depends neither on the length nor on the alignment of operands.
  *
  * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
- * list entry is null: in `vv` `P` entry by entry just before each element, earlier elements being final; in `P` and
- * `PS2` of arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the
+ * list entry is null: in single forms in `P` entry by entry just before each element, earlier elements being final; in
+ * `P` and `PS2` of arrays all entries of all tables before anything else, even at `count` 0; in `L` and `LS2` when the
  * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
- * Members that behave unlike their siblings:
- * - vonkAdd_vv_32f and vonkSub_vv_32f are built for length: from 11 elements on, with a `dst` that overlaps no source
- *   and lies at a multiple of 4, they bring `dst` to a 16-byte boundary and work blocks of eight in four-lane
- *   registers. The results are those of the plain loop, which all other calls take.
- * - `32f` of fixed size, standard layout and `L`, with a single operand (`vav`, `vva`): the operand is loaded once,
- *   ahead of all objects. Everywhere else it is read anew for each object.
- * - `32f` of fixed size, standard layout and `L`, but for `3x1` of `vav` and `vva`: an object is loaded whole before
- *   it is stored.
- * - vonkAdd_vv_32f_4x1 alone looks at the alignment of its operands (vonkSub_vv_32f_4x1 does not), and
- *   vonkSub_vava_32f_3x1 alone takes objects in blocks of four with a prefetch. Neither changes a result.
- *
  * Overlap:
- * `dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
- * order, so a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L`
- * load an object whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.
+ * Overlap is not checked. `dst` may be any source (in place): each element is read before it is written. With any other
+ * overlap elements are read and written one by one in ascending order, so that a source element which `dst` has
+ * overwritten by then is read as overwritten.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - vv-single-loaded-once (overlap): vonk{Add_vav,Sub_vav,Sub_vva}_32f_?x1{,_L}
+ *   The single vector is loaded once, before all objects; a `dst` that overlaps it changes nothing for later objects.
+ *   All other forms load it again for each object.
+ * - vv-whole-object (overlap): vonk{Add,Sub}_{vv,vava}_32f_?x1 vonk{Add,Sub}_vava_32f_?x1_L
+ *     vonk{Add_vav,Sub_vav,Sub_vva}_32f_{4x1,5x1,6x1}{,_L}
+ *   An object is loaded whole before it is stored. Of 5 and 6 elements, what a partial overlap shows is not promised.
+ * - vv-blocks-of-four (overlap): vonkSub_vava_32f_3x1
+ *   Works in blocks of four objects. Where `dst` overlaps sources of later objects of the same block, what these see is
+ *   not promised.
  */
 
 VonkStatus vonkAdd_vv_32f(const float *src1, const float *src2, float *dst, uint32_t len);
@@ -812,22 +829,22 @@ VonkStatus vonkAdd_vv_32f_S2(const float *src1, int32_t src1ElemStride, const fl
     float *dst, int32_t dstElemStride, uint32_t len);
 VonkStatus vonkAdd_vv_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t len);
-VonkStatus vonkAdd_vv_32f_3x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkAdd_vv_32f_3x1(const float *src1, const float *src2, float *dst); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vv_32f_3x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
     float *dst, int32_t dstElemStride);
 VonkStatus vonkAdd_vv_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
-VonkStatus vonkAdd_vv_32f_4x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkAdd_vv_32f_4x1(const float *src1, const float *src2, float *dst); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vv_32f_4x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
     float *dst, int32_t dstElemStride);
 VonkStatus vonkAdd_vv_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
-VonkStatus vonkAdd_vv_32f_5x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkAdd_vv_32f_5x1(const float *src1, const float *src2, float *dst); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vv_32f_5x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
     float *dst, int32_t dstElemStride);
 VonkStatus vonkAdd_vv_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
-VonkStatus vonkAdd_vv_32f_6x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkAdd_vv_32f_6x1(const float *src1, const float *src2, float *dst); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vv_32f_6x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
     float *dst, int32_t dstElemStride);
 VonkStatus vonkAdd_vv_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -873,7 +890,7 @@ VonkStatus vonkAdd_vav_32f_L(const float *const *src1, int32_t src1Shift, const 
 VonkStatus vonkAdd_vav_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkAdd_vav_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exception: vv-single-loaded-once */
 VonkStatus vonkAdd_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vav_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -882,12 +899,12 @@ VonkStatus vonkAdd_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, 
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkAdd_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vv-single-loaded-once */
 VonkStatus vonkAdd_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkAdd_vav_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkAdd_vav_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vav_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -896,12 +913,12 @@ VonkStatus vonkAdd_vav_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, 
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkAdd_vav_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkAdd_vav_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkAdd_vav_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkAdd_vav_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vav_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -910,12 +927,12 @@ VonkStatus vonkAdd_vav_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, 
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkAdd_vav_32f_5x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkAdd_vav_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkAdd_vav_32f_6x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkAdd_vav_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vav_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -924,7 +941,7 @@ VonkStatus vonkAdd_vav_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, 
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkAdd_vav_32f_6x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkAdd_vav_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
@@ -1015,7 +1032,7 @@ VonkStatus vonkAdd_vava_32f_LS2(const float *const *src1, int32_t src1Shift, int
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkAdd_vava_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -1025,12 +1042,12 @@ VonkStatus vonkAdd_vava_32f_3x1_PS2(const float *const *src1, int32_t src1Shift,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_vava_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vava_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vava_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vava_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -1040,12 +1057,12 @@ VonkStatus vonkAdd_vava_32f_4x1_PS2(const float *const *src1, int32_t src1Shift,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_vava_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vava_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vava_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vava_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -1055,12 +1072,12 @@ VonkStatus vonkAdd_vava_32f_5x1_PS2(const float *const *src1, int32_t src1Shift,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_vava_32f_5x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vava_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_vava_32f_6x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vava_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -1070,7 +1087,7 @@ VonkStatus vonkAdd_vava_32f_6x1_PS2(const float *const *src1, int32_t src1Shift,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_vava_32f_6x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkAdd_vava_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
@@ -1156,22 +1173,22 @@ VonkStatus vonkSub_vv_32f_S2(const float *src1, int32_t src1ElemStride, const fl
     float *dst, int32_t dstElemStride, uint32_t len);
 VonkStatus vonkSub_vv_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t len);
-VonkStatus vonkSub_vv_32f_3x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkSub_vv_32f_3x1(const float *src1, const float *src2, float *dst); /* exception: vv-whole-object */
 VonkStatus vonkSub_vv_32f_3x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
     float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_vv_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
-VonkStatus vonkSub_vv_32f_4x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkSub_vv_32f_4x1(const float *src1, const float *src2, float *dst); /* exception: vv-whole-object */
 VonkStatus vonkSub_vv_32f_4x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
     float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_vv_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
-VonkStatus vonkSub_vv_32f_5x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkSub_vv_32f_5x1(const float *src1, const float *src2, float *dst); /* exception: vv-whole-object */
 VonkStatus vonkSub_vv_32f_5x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
     float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_vv_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
-VonkStatus vonkSub_vv_32f_6x1(const float *src1, const float *src2, float *dst);
+VonkStatus vonkSub_vv_32f_6x1(const float *src1, const float *src2, float *dst); /* exception: vv-whole-object */
 VonkStatus vonkSub_vv_32f_6x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
     float *dst, int32_t dstElemStride);
 VonkStatus vonkSub_vv_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -1217,7 +1234,7 @@ VonkStatus vonkSub_vav_32f_L(const float *const *src1, int32_t src1Shift, const 
 VonkStatus vonkSub_vav_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkSub_vav_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exception: vv-single-loaded-once */
 VonkStatus vonkSub_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vav_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -1226,12 +1243,12 @@ VonkStatus vonkSub_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, 
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkSub_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vv-single-loaded-once */
 VonkStatus vonkSub_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkSub_vav_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vav_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vav_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -1240,12 +1257,12 @@ VonkStatus vonkSub_vav_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, 
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkSub_vav_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vav_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkSub_vav_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vav_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vav_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -1254,12 +1271,12 @@ VonkStatus vonkSub_vav_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, 
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkSub_vav_32f_5x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vav_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkSub_vav_32f_6x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vav_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vav_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -1268,7 +1285,7 @@ VonkStatus vonkSub_vav_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, 
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkSub_vav_32f_6x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vav_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
@@ -1356,7 +1373,7 @@ VonkStatus vonkSub_vva_32f_L(const float *src1, const float *const *src2, int32_
 VonkStatus vonkSub_vva_32f_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2, int32_t src2Shift,
     int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkSub_vva_32f_3x1(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exception: vv-single-loaded-once */
 VonkStatus vonkSub_vva_32f_3x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ObjStride,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vva_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -1365,12 +1382,12 @@ VonkStatus vonkSub_vva_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, 
     int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkSub_vva_32f_3x1_L(const float *src1, const float *const *src2, int32_t src2Shift, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: vv-single-loaded-once */
 VonkStatus vonkSub_vva_32f_3x1_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2,
     int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkSub_vva_32f_4x1(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vva_32f_4x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ObjStride,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vva_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -1379,12 +1396,12 @@ VonkStatus vonkSub_vva_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, 
     int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkSub_vva_32f_4x1_L(const float *src1, const float *const *src2, int32_t src2Shift, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vva_32f_4x1_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2,
     int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkSub_vva_32f_5x1(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vva_32f_5x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ObjStride,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vva_32f_5x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -1393,12 +1410,12 @@ VonkStatus vonkSub_vva_32f_5x1_PS2(const float *const *src1, int32_t src1Shift, 
     int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkSub_vva_32f_5x1_L(const float *src1, const float *const *src2, int32_t src2Shift, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vva_32f_5x1_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2,
     int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkSub_vva_32f_6x1(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vva_32f_6x1_S2(const float *src1, int32_t src1ElemStride, const float *src2, int32_t src2ObjStride,
     int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vva_32f_6x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -1407,7 +1424,7 @@ VonkStatus vonkSub_vva_32f_6x1_PS2(const float *const *src1, int32_t src1Shift, 
     int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkSub_vva_32f_6x1_L(const float *src1, const float *const *src2, int32_t src2Shift, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: vv-single-loaded-once, vv-whole-object */
 VonkStatus vonkSub_vva_32f_6x1_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2,
     int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
@@ -1498,7 +1515,7 @@ VonkStatus vonkSub_vava_32f_LS2(const float *const *src1, int32_t src1Shift, int
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkSub_vava_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exceptions: vv-whole-object, vv-blocks-of-four */
 VonkStatus vonkSub_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -1508,12 +1525,12 @@ VonkStatus vonkSub_vava_32f_3x1_PS2(const float *const *src1, int32_t src1Shift,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_vava_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkSub_vava_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vava_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkSub_vava_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -1523,12 +1540,12 @@ VonkStatus vonkSub_vava_32f_4x1_PS2(const float *const *src1, int32_t src1Shift,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_vava_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkSub_vava_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vava_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkSub_vava_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -1538,12 +1555,12 @@ VonkStatus vonkSub_vava_32f_5x1_PS2(const float *const *src1, int32_t src1Shift,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_vava_32f_5x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkSub_vava_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_vava_32f_6x1(const float *src1, int32_t src1ObjStride, const float *src2, int32_t src2ObjStride,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkSub_vava_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -1553,7 +1570,7 @@ VonkStatus vonkSub_vava_32f_6x1_PS2(const float *const *src1, int32_t src1Shift,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_vava_32f_6x1_L(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count); /* exception: vv-whole-object */
 VonkStatus vonkSub_vava_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
@@ -1638,28 +1655,28 @@ VonkStatus vonkSub_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shift
  *
  * dst(n, j) = src1(n, j) * val + src2(n, j)
  *
- * for j below `len` and each object n. The product is rounded before the sum in `32f` and never fused with it; in
- * `64f` it stays in 80 bits and the sum rounds. Groups: `vv` two vectors, `vav` an array and a vector, `vva` a vector
- * and an array, `vava` two arrays. A single vector serves all objects.
+ * for j below `len` and each object n. The product is rounded before the sum in `32f` and never fused with it; in `64f`
+ * it stays in 80 bits and the sum is rounded. Groups: `vv` two vectors, `vav` an array and a vector, `vva` a vector and
+ * an array, `vava` two arrays. A single vector serves all objects. The arithmetic of an element depends neither on the
+ * length nor on the alignment of operands.
  *
  * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
  * list entry is null: in single forms in `P` entry by entry just before each element, earlier elements being final; in
- * `P` and `PS2` of arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when
- * the object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
- *
- * Members that behave unlike their siblings:
- * - vonkSaxpy_vv_32f is built for length, as vonkAdd_vv_32f is, with the results of the plain loop.
- * - vonkSaxpy_vav_32f and vonkSaxpy_vava_32f of 4x1 and 6x1 work in lanes if `src1`, `src2`, `dst`, `src1ObjStride`
- *   and `dstObjStride` are all multiples of 16. `vav` then loads its single vector once, ahead of all objects;
- *   everywhere else it is read anew for each object. `vava` then takes `src2ObjStride` for a multiple of 16 without a
- *   look: it must be one.
+ * `P` and `PS2` of arrays all entries of all tables before anything else, even at `count` 0; in `L` and `LS2` when the
+ * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Overlap:
- * `dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
- * order, so a `dst` that runs ahead of a source sees new elements.
+ * Overlap is not checked. `dst` may be any source (in place): each element is read before it is written. With any other
+ * overlap elements are read and written one by one in ascending order, so that a source element which `dst` has
+ * overwritten by then is read as overwritten.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - saxpy-third-stride (arguments): vonkSaxpy_vava_32f_{4x1,6x1}
+ *   If `src1`, `src2`, `dst`, `src1ObjStride` and `dstObjStride` are all multiples of 16, `src2ObjStride` must be one,
+ *   too. This is not checked.
+ * - saxpy-single-loaded-once (overlap): vonkSaxpy_vav_32f_{4x1,6x1}
+ *   If `src1`, `src2`, `dst`, `src1ObjStride` and `dstObjStride` are all multiples of 16, the single vector is loaded
+ *   once, before all objects. Otherwise, and in all other forms, it is loaded again for each object.
  */
 
 VonkStatus vonkSaxpy_vv_32f(const float *src1, float val, const float *src2, float *dst, uint32_t len);
@@ -1744,7 +1761,7 @@ VonkStatus vonkSaxpy_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkSaxpy_vav_32f_4x1(const float *src1, int32_t src1ObjStride, float val, const float *src2, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exception: saxpy-single-loaded-once */
 VonkStatus vonkSaxpy_vav_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
     const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSaxpy_vav_32f_4x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
@@ -1772,7 +1789,7 @@ VonkStatus vonkSaxpy_vav_32f_5x1_LS2(const float *const *src1, int32_t src1Shift
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkSaxpy_vav_32f_6x1(const float *src1, int32_t src1ObjStride, float val, const float *src2, float *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exception: saxpy-single-loaded-once */
 VonkStatus vonkSaxpy_vav_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
     const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSaxpy_vav_32f_6x1_P(const float *const *src1, int32_t src1Shift, float val, const float *const *src2,
@@ -2045,7 +2062,7 @@ VonkStatus vonkSaxpy_vava_32f_3x1_LS2(const float *const *src1, int32_t src1Shif
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSaxpy_vava_32f_4x1(const float *src1, int32_t src1ObjStride, float val, const float *src2,
-    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count); /* exception: saxpy-third-stride */
 VonkStatus vonkSaxpy_vava_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstElemStride, uint32_t count);
@@ -2075,7 +2092,7 @@ VonkStatus vonkSaxpy_vava_32f_5x1_LS2(const float *const *src1, int32_t src1Shif
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSaxpy_vava_32f_6x1(const float *src1, int32_t src1ObjStride, float val, const float *src2,
-    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count); /* exception: saxpy-third-stride */
 VonkStatus vonkSaxpy_vava_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstElemStride, uint32_t count);
@@ -2170,29 +2187,28 @@ VonkStatus vonkSaxpy_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shi
  *
  * dst(n, j) = src1(n, j) * val1 + src2(n, j) * val2
  *
- * for j below `len` and each object n. In `32f` both products and the sum round; in `64f` they stay in 80 bits, and
- * the result rounds. There is no shortcut for a constant of 0: with an infinity it makes a NaN. Groups: `vv` two
- * vectors, `vav` an array and a vector, `vava` two arrays. A single vector serves all objects.
+ * for j below `len` and each object n. In `32f` both products and the sum are rounded; in `64f` they stay in 80 bits,
+ * and the result is rounded. There is no shortcut for a constant of 0: with an infinity it gives a NaN. Groups: `vv`
+ * two vectors, `vav` an array and a vector, `vava` two arrays. A single vector serves all objects. The arithmetic of an
+ * element depends neither on the length nor on the alignment of operands.
  *
  * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
  * list entry is null: in single forms in `P` entry by entry just before each element, earlier elements being final; in
- * `P` and `PS2` of arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when
- * the object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
- *
- * Members that behave unlike their siblings:
- * - vonkLComb_vv_32f is built for length, as vonkAdd_vv_32f is, with the results of the plain loop.
- * - `vav` of `32f` of fixed size, standard layout and `L`: the single vector is loaded once, ahead of all objects.
- *   Everywhere else it is read anew for each object.
- * - `32f` of 4x1 to 6x1 in the standard layout, and vonkLComb_vav_32f_4x1_L, look whether pointers and object strides
- *   are multiples of 16 and then move in aligned registers. That changes no result.
+ * `P` and `PS2` of arrays all entries of all tables before anything else, even at `count` 0; in `L` and `LS2` when the
+ * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Overlap:
- * `dst` may be any source itself. Where it overlaps a source otherwise, elements are read and written in ascending
- * order, so a `dst` that runs ahead of a source sees new elements. Fixed sizes of `32f` in the standard layout and `L`
- * load an object whole before they store it; how 5 and 6 elements meet a partial overlap is not promised.
+ * Overlap is not checked. `dst` may be any source (in place): each element is read before it is written. With any other
+ * overlap elements are read and written one by one in ascending order, so that a source element which `dst` has
+ * overwritten by then is read as overwritten.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - lcomb-single-loaded-once (overlap): vonkLComb_vav_32f_?x1{,_L}
+ *   The single vector is loaded once, before all objects; a `dst` that overlaps it changes nothing for later objects.
+ *   All other forms load it again for each object.
+ * - lcomb-whole-object (overlap): vonkLComb_{vv,vava}_32f_?x1 vonkLComb_vava_32f_?x1_L
+ *     vonkLComb_vav_32f_{4x1,5x1,6x1}{,_L}
+ *   An object is loaded whole before it is stored. Of 5 and 6 elements, what a partial overlap shows is not promised.
  */
 
 VonkStatus vonkLComb_vv_32f(const float *src1, float val1, const float *src2, float val2, float *dst, uint32_t len);
@@ -2201,21 +2217,25 @@ VonkStatus vonkLComb_vv_32f_S2(const float *src1, int32_t src1ElemStride, float 
 VonkStatus vonkLComb_vv_32f_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
     int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t len);
 VonkStatus vonkLComb_vv_32f_3x1(const float *src1, float val1, const float *src2, float val2, float *dst);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vv_32f_3x1_S2(const float *src1, int32_t src1ElemStride, float val1, const float *src2,
     int32_t src2ElemStride, float val2, float *dst, int32_t dstElemStride);
 VonkStatus vonkLComb_vv_32f_3x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
     int32_t src2Shift, float val2, float *const *dst, int32_t dstShift);
 VonkStatus vonkLComb_vv_32f_4x1(const float *src1, float val1, const float *src2, float val2, float *dst);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vv_32f_4x1_S2(const float *src1, int32_t src1ElemStride, float val1, const float *src2,
     int32_t src2ElemStride, float val2, float *dst, int32_t dstElemStride);
 VonkStatus vonkLComb_vv_32f_4x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
     int32_t src2Shift, float val2, float *const *dst, int32_t dstShift);
 VonkStatus vonkLComb_vv_32f_5x1(const float *src1, float val1, const float *src2, float val2, float *dst);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vv_32f_5x1_S2(const float *src1, int32_t src1ElemStride, float val1, const float *src2,
     int32_t src2ElemStride, float val2, float *dst, int32_t dstElemStride);
 VonkStatus vonkLComb_vv_32f_5x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
     int32_t src2Shift, float val2, float *const *dst, int32_t dstShift);
 VonkStatus vonkLComb_vv_32f_6x1(const float *src1, float val1, const float *src2, float val2, float *dst);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vv_32f_6x1_S2(const float *src1, int32_t src1ElemStride, float val1, const float *src2,
     int32_t src2ElemStride, float val2, float *dst, int32_t dstElemStride);
 VonkStatus vonkLComb_vv_32f_6x1_P(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
@@ -2264,7 +2284,7 @@ VonkStatus vonkLComb_vav_32f_LS2(const float *const *src1, int32_t src1Shift, in
     const float *src2, int32_t src2ElemStride, float val2, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t len, uint32_t count);
 VonkStatus vonkLComb_vav_32f_3x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2, float val2,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exception: lcomb-single-loaded-once */
 VonkStatus vonkLComb_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -2274,12 +2294,12 @@ VonkStatus vonkLComb_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift
     const float *const *src2, int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, int32_t dstObjStride,
     uint32_t count);
 VonkStatus vonkLComb_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *src2,
-    float val2, float *const *dst, int32_t dstShift, uint32_t count);
+    float val2, float *const *dst, int32_t dstShift, uint32_t count); /* exception: lcomb-single-loaded-once */
 VonkStatus vonkLComb_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ElemStride, float val2, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkLComb_vav_32f_4x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2, float val2,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exceptions: lcomb-single-loaded-once, lcomb-whole-object */
 VonkStatus vonkLComb_vav_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -2290,11 +2310,12 @@ VonkStatus vonkLComb_vav_32f_4x1_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkLComb_vav_32f_4x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *src2,
     float val2, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: lcomb-single-loaded-once, lcomb-whole-object */
 VonkStatus vonkLComb_vav_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ElemStride, float val2, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkLComb_vav_32f_5x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2, float val2,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exceptions: lcomb-single-loaded-once, lcomb-whole-object */
 VonkStatus vonkLComb_vav_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -2305,11 +2326,12 @@ VonkStatus vonkLComb_vav_32f_5x1_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkLComb_vav_32f_5x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *src2,
     float val2, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: lcomb-single-loaded-once, lcomb-whole-object */
 VonkStatus vonkLComb_vav_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ElemStride, float val2, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkLComb_vav_32f_6x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2, float val2,
-    float *dst, int32_t dstObjStride, uint32_t count);
+    float *dst, int32_t dstObjStride, uint32_t count); /* exceptions: lcomb-single-loaded-once, lcomb-whole-object */
 VonkStatus vonkLComb_vav_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride, int32_t dstElemStride,
     uint32_t count);
@@ -2320,6 +2342,7 @@ VonkStatus vonkLComb_vav_32f_6x1_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkLComb_vav_32f_6x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *src2,
     float val2, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: lcomb-single-loaded-once, lcomb-whole-object */
 VonkStatus vonkLComb_vav_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ElemStride, float val2, float *const *dst, int32_t dstShift, int32_t dstElemStride,
     uint32_t count);
@@ -2417,6 +2440,7 @@ VonkStatus vonkLComb_vava_32f_LS2(const float *const *src1, int32_t src1Shift, i
     int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkLComb_vava_32f_3x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2,
     int32_t src2ObjStride, float val2, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride,
     int32_t dstElemStride, uint32_t count);
@@ -2427,11 +2451,13 @@ VonkStatus vonkLComb_vava_32f_3x1_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkLComb_vava_32f_3x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
     int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vava_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float val2, float *const *dst,
     int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkLComb_vava_32f_4x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2,
     int32_t src2ObjStride, float val2, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vava_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride,
     int32_t dstElemStride, uint32_t count);
@@ -2442,11 +2468,13 @@ VonkStatus vonkLComb_vava_32f_4x1_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkLComb_vava_32f_4x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
     int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vava_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float val2, float *const *dst,
     int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkLComb_vava_32f_5x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2,
     int32_t src2ObjStride, float val2, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vava_32f_5x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride,
     int32_t dstElemStride, uint32_t count);
@@ -2457,11 +2485,13 @@ VonkStatus vonkLComb_vava_32f_5x1_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkLComb_vava_32f_5x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
     int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vava_32f_5x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float val2, float *const *dst,
     int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkLComb_vava_32f_6x1(const float *src1, int32_t src1ObjStride, float val1, const float *src2,
     int32_t src2ObjStride, float val2, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vava_32f_6x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float val2, float *dst, int32_t dstObjStride,
     int32_t dstElemStride, uint32_t count);
@@ -2472,6 +2502,7 @@ VonkStatus vonkLComb_vava_32f_6x1_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkLComb_vava_32f_6x1_L(const float *const *src1, int32_t src1Shift, float val1, const float *const *src2,
     int32_t src2Shift, float val2, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lcomb-whole-object */
 VonkStatus vonkLComb_vava_32f_6x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride, float val1,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float val2, float *const *dst,
     int32_t dstShift, int32_t dstElemStride, uint32_t count);
@@ -2559,37 +2590,43 @@ VonkStatus vonkLComb_vava_64f_6x1_LS2(const double *const *src1, int32_t src1Shi
  * for j below `len`. `dst` is a plain pointer in every layout: one element for `vv`, `count` packed elements for
  * arrays. Groups: `vv` two vectors, `vav` an array against one vector, `vava` two arrays.
  *
- * With p0, p1, ... for the products, the sum is ((p0 + p1) + p2) + ..., from +0 at run-time length and from p0 at
- * fixed length. In `32f` products and sums round one by one and are never fused; in `64f` they stay in 80 bits, and
- * the result rounds.
+ * With p0, p1, ... for the products, the sum is ((p0 + p1) + p2) + ..., from +0 at run-time length and from p0 at fixed
+ * length. In `32f` products and sums are rounded one by one and never fused; in `64f` they stay in 80 bits, and the
+ * result is rounded.
  *
  * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or
- * list entry is null: in `P` and `PS2` all entries ahead of everything else, even at `count` 0; in `L` and `LS2` when
- * the object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
- *
- * Members that behave unlike their siblings:
- * - vonkDotProduct_vv_32f from 11 elements on, with `src2` at a multiple of 4, sums in lanes: one by one up to a
- *   16-byte boundary of `src2`, then blocks of eight in two registers X (which begins with the sum so far in lane 0)
- *   and Y, then with L = X + Y as (L0 + L2) + (L1 + L3), then one by one. The last bits depend on `len` and the
- *   alignment of `src2`.
- * - vonkDotProduct_vav_32f_4x1 and vonkDotProduct_vav_32f_4x1_L: (p0 + p1) + (p2 + p3).
- * - vonkDotProduct_vava_32f_3x1, if `src1`, `src2`, their object strides and `dst` are all multiples of 16: the first
- *   `count` / 4 * 4 objects are summed as (p0 + p2) + p1, those that remain left to right.
- * - vonkDotProduct_vav_32f_3x1_L and vonkDotProduct_vav_32f_4x1_L never test an entry.
- * - `64f` of run-time length, `vv` in all layouts and arrays in `L`: of an odd number of terms the sum is rounded to
- *   64 bits before the last.
+ * list entry is null: in `P` and `PS2` all entries before anything else, even at `count` 0; in `L` and `LS2` when the
+ * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Overlap:
- * Results are stored behind the sum that they are, object by object; where objects are taken four at a time (3x1 and
- * 4x1 of `vav`, 3x1 of `vava` of `32f`, standard layout and `L`) four results are stored behind four sums. A `dst`
- * under operands of later objects changes those.
+ * Overlap is not checked. Each result is stored after its sum, object by object: where `dst` overlaps operands of later
+ * objects, these are read as overwritten.
  *
- * Read beyond the operands:
- * vonkDotProduct_vava_32f_3x1 on its aligned way reads the element behind each of the objects that it takes four at a
- * time. No other.
+ * Exceptions:
+ * - dot-blocks-of-eight (arithmetic): vonkDotProduct_vv_32f
+ *   From 11 elements on, with `src2` at a multiple of 4 bytes, the sum runs in SIMD lanes: element by element up to a
+ *   16-byte boundary of `src2`; then blocks of eight in two registers of four lanes, X, which begins with the sum so
+ *   far in lane 0, and Y, which begins with zeros; then, with L = X + Y, (L0 + L2) + (L1 + L3); then element by
+ *   element. The last bits depend on `len` and on the alignment of `src2`.
+ * - dot-pairs (arithmetic): vonkDotProduct_vav_32f_4x1{,_L}
+ *   The sum is (p0 + p1) + (p2 + p3).
+ * - dot-aligned-order (arithmetic): vonkDotProduct_vava_32f_3x1
+ *   If `src1`, `src2`, their object strides and `dst` are all multiples of 16, the sum of each object in a full block
+ *   of four is (p0 + p2) + p1. Of the others it runs left to right.
+ * - dot-odd-term (arithmetic): vonkDotProduct_vv_64f{,_S2,_P} vonkDotProduct_{vav,vava}_64f_L
+ *   Of an odd number of terms, the sum is rounded to 64 bits before the last term is added.
+ * - dot-unchecked-entries (checks): vonkDotProduct_vav_32f_{3x1,4x1}_L
+ *   List entries are not checked; a null entry is followed.
+ * - dot-four-objects (overlap): vonkDotProduct_vav_32f_{3x1,4x1}{,_L} vonkDotProduct_vava_32f_3x1
+ *   Works in blocks of four objects: four results are stored after four sums. 3x1 in the standard layout does so only
+ *   if `src1`, its object stride and `dst`, in `vava` also `src2` and its object stride, are multiples of 16.
+ * - dot-reads-next-element (reads): vonkDotProduct_vava_32f_3x1
+ *   If `src1`, `src2`, their object strides and `dst` are all multiples of 16, the element past the end of each object
+ *   in a full block of four is read.
  */
 
 VonkStatus vonkDotProduct_vv_32f(const float *src1, const float *src2, float *dst, uint32_t len);
+    /* exception: dot-blocks-of-eight */
 VonkStatus vonkDotProduct_vv_32f_S2(const float *src1, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, uint32_t len);
 VonkStatus vonkDotProduct_vv_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -2616,10 +2653,11 @@ VonkStatus vonkDotProduct_vv_32f_6x1_P(const float *const *src1, int32_t src1Shi
     int32_t src2Shift, float *dst);
 
 VonkStatus vonkDotProduct_vv_64f(const double *src1, const double *src2, double *dst, uint32_t len);
+    /* exception: dot-odd-term */
 VonkStatus vonkDotProduct_vv_64f_S2(const double *src1, int32_t src1ElemStride, const double *src2,
-    int32_t src2ElemStride, double *dst, uint32_t len);
+    int32_t src2ElemStride, double *dst, uint32_t len); /* exception: dot-odd-term */
 VonkStatus vonkDotProduct_vv_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
-    int32_t src2Shift, double *dst, uint32_t len);
+    int32_t src2Shift, double *dst, uint32_t len); /* exception: dot-odd-term */
 VonkStatus vonkDotProduct_vv_64f_3x1(const double *src1, const double *src2, double *dst);
 VonkStatus vonkDotProduct_vv_64f_3x1_S2(const double *src1, int32_t src1ElemStride, const double *src2,
     int32_t src2ElemStride, double *dst);
@@ -2654,7 +2692,7 @@ VonkStatus vonkDotProduct_vav_32f_L(const float *const *src1, int32_t src1Shift,
 VonkStatus vonkDotProduct_vav_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *dst, uint32_t len, uint32_t count);
 VonkStatus vonkDotProduct_vav_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: dot-four-objects */
 VonkStatus vonkDotProduct_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
 VonkStatus vonkDotProduct_vav_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -2662,11 +2700,11 @@ VonkStatus vonkDotProduct_vav_32f_3x1_P(const float *const *src1, int32_t src1Sh
 VonkStatus vonkDotProduct_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, float *dst, uint32_t count);
 VonkStatus vonkDotProduct_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *dst,
-    uint32_t count);
+    uint32_t count); /* exceptions: dot-unchecked-entries, dot-four-objects */
 VonkStatus vonkDotProduct_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
 VonkStatus vonkDotProduct_vav_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
-    uint32_t count);
+    uint32_t count); /* exceptions: dot-pairs, dot-four-objects */
 VonkStatus vonkDotProduct_vav_32f_4x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
 VonkStatus vonkDotProduct_vav_32f_4x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -2674,7 +2712,7 @@ VonkStatus vonkDotProduct_vav_32f_4x1_P(const float *const *src1, int32_t src1Sh
 VonkStatus vonkDotProduct_vav_32f_4x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, float *dst, uint32_t count);
 VonkStatus vonkDotProduct_vav_32f_4x1_L(const float *const *src1, int32_t src1Shift, const float *src2, float *dst,
-    uint32_t count);
+    uint32_t count); /* exceptions: dot-pairs, dot-unchecked-entries, dot-four-objects */
 VonkStatus vonkDotProduct_vav_32f_4x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *dst, uint32_t count);
 VonkStatus vonkDotProduct_vav_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
@@ -2711,7 +2749,7 @@ VonkStatus vonkDotProduct_vav_64f_P(const double *const *src1, int32_t src1Shift
 VonkStatus vonkDotProduct_vav_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const double *const *src2, int32_t src2Shift, double *dst, uint32_t len, uint32_t count);
 VonkStatus vonkDotProduct_vav_64f_L(const double *const *src1, int32_t src1Shift, const double *src2, double *dst,
-    uint32_t len, uint32_t count);
+    uint32_t len, uint32_t count); /* exception: dot-odd-term */
 VonkStatus vonkDotProduct_vav_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const double *src2, int32_t src2ElemStride, double *dst, uint32_t len, uint32_t count);
 VonkStatus vonkDotProduct_vav_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
@@ -2777,6 +2815,7 @@ VonkStatus vonkDotProduct_vava_32f_LS2(const float *const *src1, int32_t src1Shi
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *dst, uint32_t len, uint32_t count);
 VonkStatus vonkDotProduct_vava_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2,
     int32_t src2ObjStride, float *dst, uint32_t count);
+    /* exceptions: dot-aligned-order, dot-four-objects, dot-reads-next-element */
 VonkStatus vonkDotProduct_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, uint32_t count);
 VonkStatus vonkDotProduct_vava_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -2833,7 +2872,7 @@ VonkStatus vonkDotProduct_vava_64f_P(const double *const *src1, int32_t src1Shif
 VonkStatus vonkDotProduct_vava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *dst, uint32_t len, uint32_t count);
 VonkStatus vonkDotProduct_vava_64f_L(const double *const *src1, int32_t src1Shift, const double *const *src2,
-    int32_t src2Shift, double *dst, uint32_t len, uint32_t count);
+    int32_t src2Shift, double *dst, uint32_t len, uint32_t count); /* exception: dot-odd-term */
 VonkStatus vonkDotProduct_vava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *dst, uint32_t len, uint32_t count);
 VonkStatus vonkDotProduct_vava_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2,
@@ -2893,40 +2932,42 @@ VonkStatus vonkDotProduct_vava_64f_6x1_LS2(const double *const *src1, int32_t sr
  * Squares are added left to right from +0, rounded one by one in `32f`, in 80 bits in `64f`; the root is correctly
  * rounded. Squares that overflow give infinity; those of `64f` cannot in 80 bits.
  *
- * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or list
- * entry is null: in `P` and `PS2` all entries ahead of everything else, even at `count` 0; in `L` and `LS2` when the
- * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
- *
- * Members that behave unlike their siblings:
- * - `32f` of fixed size in the standard layout and `L` is approximate, and its norm of a zero vector is NaN, where all
- *   other forms give 0. With q0, q1, ... for the squares, s is (q0 + q1) + q2; (q0 + q1) + (q2 + q3); that + q4; that
- *   + (q4 + q5). With r the processor's estimate of 1 / root of s, of about 12 bits, the result is s * (r * (0.5 *
- *   (3.0 - s * (r * r)))), each operation rounded. Method: one Newton step for the reciprocal root.
- * - vonkL2Norm_v_32f from 11 elements on, with `src` at a multiple of 4, sums squares in lanes as
- *   vonkDotProduct_vv_32f sums products.
- * - vonkL2Norm_va_32f_4x1_L never tests an entry.
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len` is 0; vonkErrNullPtr if a table or list entry
+ * is null: in `P` and `PS2` all entries before anything else, even at `count` 0; in `L` and `LS2` when the object's
+ * turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Overlap:
- * Results are stored behind the sum that they are, object by object, or four by four in `va` of `32f` of fixed size in
- * the standard layout and `L`. A `dst` under later objects changes those.
+ * Overlap is not checked. Each result is stored after its sum, object by object: where `dst` overlaps later objects,
+ * these are read as overwritten.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - norm-estimate (arithmetic): vonkL2Norm_v_32f_?x1 vonkL2Norm_va_32f_?x1{,_L}
+ *   Approximate, and NaN for a zero vector, where all other forms give 0. With q0, q1, ... for the squares, s is (q0 +
+ *   q1) + q2 of 3 elements, (q0 + q1) + (q2 + q3) of 4, that + q4 of 5, and ((q0 + q1) + (q2 + q3)) + (q4 + q5) of 6.
+ *   With r the processor's estimate of 1 / root(s), of about 12 bits, the result is s * (r * (0.5 * (3.0 - s * (r *
+ *   r)))), each operation rounded: one Newton step for the reciprocal root.
+ * - norm-blocks-of-eight (arithmetic): vonkL2Norm_v_32f
+ *   From 11 elements on, with `src` at a multiple of 4 bytes, squares are added in SIMD lanes, as vonkDotProduct_vv_32f
+ *   adds products. The last bits depend on `len` and on the alignment of `src`.
+ * - norm-unchecked-entries (checks): vonkL2Norm_va_32f_4x1_L
+ *   List entries are not checked; a null entry is followed.
+ * - norm-four-objects (overlap): vonkL2Norm_va_32f_?x1{,_L}
+ *   Works in blocks of four objects: four results are stored after four sums.
  */
 
-VonkStatus vonkL2Norm_v_32f(const float *src, float *dst, uint32_t len);
+VonkStatus vonkL2Norm_v_32f(const float *src, float *dst, uint32_t len); /* exception: norm-blocks-of-eight */
 VonkStatus vonkL2Norm_v_32f_S2(const float *src, int32_t srcElemStride, float *dst, uint32_t len);
 VonkStatus vonkL2Norm_v_32f_P(const float *const *src, int32_t srcShift, float *dst, uint32_t len);
-VonkStatus vonkL2Norm_v_32f_3x1(const float *src, float *dst);
+VonkStatus vonkL2Norm_v_32f_3x1(const float *src, float *dst); /* exception: norm-estimate */
 VonkStatus vonkL2Norm_v_32f_3x1_S2(const float *src, int32_t srcElemStride, float *dst);
 VonkStatus vonkL2Norm_v_32f_3x1_P(const float *const *src, int32_t srcShift, float *dst);
-VonkStatus vonkL2Norm_v_32f_4x1(const float *src, float *dst);
+VonkStatus vonkL2Norm_v_32f_4x1(const float *src, float *dst); /* exception: norm-estimate */
 VonkStatus vonkL2Norm_v_32f_4x1_S2(const float *src, int32_t srcElemStride, float *dst);
 VonkStatus vonkL2Norm_v_32f_4x1_P(const float *const *src, int32_t srcShift, float *dst);
-VonkStatus vonkL2Norm_v_32f_5x1(const float *src, float *dst);
+VonkStatus vonkL2Norm_v_32f_5x1(const float *src, float *dst); /* exception: norm-estimate */
 VonkStatus vonkL2Norm_v_32f_5x1_S2(const float *src, int32_t srcElemStride, float *dst);
 VonkStatus vonkL2Norm_v_32f_5x1_P(const float *const *src, int32_t srcShift, float *dst);
-VonkStatus vonkL2Norm_v_32f_6x1(const float *src, float *dst);
+VonkStatus vonkL2Norm_v_32f_6x1(const float *src, float *dst); /* exception: norm-estimate */
 VonkStatus vonkL2Norm_v_32f_6x1_S2(const float *src, int32_t srcElemStride, float *dst);
 VonkStatus vonkL2Norm_v_32f_6x1_P(const float *const *src, int32_t srcShift, float *dst);
 
@@ -2956,39 +2997,47 @@ VonkStatus vonkL2Norm_va_32f_L(const float *const *src, int32_t srcShift, float 
 VonkStatus vonkL2Norm_va_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
     uint32_t len, uint32_t count);
 VonkStatus vonkL2Norm_va_32f_3x1(const float *src, int32_t srcObjStride, float *dst, uint32_t count);
+    /* exceptions: norm-estimate, norm-four-objects */
 VonkStatus vonkL2Norm_va_32f_3x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_3x1_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
 VonkStatus vonkL2Norm_va_32f_3x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_3x1_L(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exceptions: norm-estimate, norm-four-objects */
 VonkStatus vonkL2Norm_va_32f_3x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_4x1(const float *src, int32_t srcObjStride, float *dst, uint32_t count);
+    /* exceptions: norm-estimate, norm-four-objects */
 VonkStatus vonkL2Norm_va_32f_4x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_4x1_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
 VonkStatus vonkL2Norm_va_32f_4x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_4x1_L(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exceptions: norm-estimate, norm-unchecked-entries, norm-four-objects */
 VonkStatus vonkL2Norm_va_32f_4x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_5x1(const float *src, int32_t srcObjStride, float *dst, uint32_t count);
+    /* exceptions: norm-estimate, norm-four-objects */
 VonkStatus vonkL2Norm_va_32f_5x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_5x1_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
 VonkStatus vonkL2Norm_va_32f_5x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_5x1_L(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exceptions: norm-estimate, norm-four-objects */
 VonkStatus vonkL2Norm_va_32f_5x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_6x1(const float *src, int32_t srcObjStride, float *dst, uint32_t count);
+    /* exceptions: norm-estimate, norm-four-objects */
 VonkStatus vonkL2Norm_va_32f_6x1_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_6x1_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
 VonkStatus vonkL2Norm_va_32f_6x1_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
     uint32_t count);
 VonkStatus vonkL2Norm_va_32f_6x1_L(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exceptions: norm-estimate, norm-four-objects */
 VonkStatus vonkL2Norm_va_32f_6x1_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
     uint32_t count);
 
@@ -3044,26 +3093,29 @@ VonkStatus vonkL2Norm_va_64f_6x1_LS2(const double *const *src, int32_t srcShift,
  * dst(n)[1] = a[2] * b[0] - a[0] * b[2]
  * dst(n)[2] = a[0] * b[1] - a[1] * b[0]
  *
- * with a from `src1` and b from `src2`. In `32f` products and difference round one by one; in `64f` they stay in 80
- * bits, and the component rounds. Groups: `vv` two vectors, `vav` an array and a vector, `vva` a vector and an array,
- * `vava` two arrays. A single vector serves all objects.
+ * with a from `src1` and b from `src2`. In `32f` products and difference are rounded one by one; in `64f` they stay in
+ * 80 bits, and the component is rounded. Groups: `vv` two vectors, `vav` an array and a vector, `vva` a vector and an
+ * array, `vava` two arrays. A single vector serves all objects.
  *
- * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrNullPtr if a table or list
- * entry is null: in `P` and `PS2` all entries ahead of everything else, even at `count` 0; in `L` and `LS2` when the
- * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
- *
- * Members that behave unlike their siblings:
- * - `vav` and `vva` of `32f` in `S2`, `P`, `PS2` and `LS2` form u v - w x as u v + (0 - w) x, and those of `64f`, in
- *   all layouts, as u v + (-w) x. That shows in the sign of zeros and in rounding modes other than to nearest. They
- *   store each component before they load what the next one needs.
- * - vonkCrossProduct_vava_32f_3x1 takes objects four at a time, one in each lane, with the same results.
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrNullPtr if a table or list entry is null: in `P`
+ * and `PS2` all entries before anything else, even at `count` 0; in `L` and `LS2` when the object's turn comes, earlier
+ * objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Overlap:
- * Where both vectors are loaded first (all but the forms told above) `dst` may be either source.
- * vonkCrossProduct_vava_32f_3x1 loads four objects before it stores four.
+ * Overlap is not checked. Both vectors are loaded before a component is stored, so `dst` may be either source.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - cross-zero-minus (arithmetic): vonkCrossProduct_{vav,vva}_32f_3x1_{S2,P,PS2,LS2}
+ *   A component u v - w x is computed as u v + (0 - w) x. This shows in the sign of zeros, and in rounding modes other
+ *   than to nearest.
+ * - cross-negated (arithmetic): vonkCrossProduct_{vav,vva}_64f_3x1{,_S2,_P,_PS2,_L,_LS2}
+ *   A component u v - w x is computed as u v + (-w) x. This shows in the sign of zeros, and in rounding modes other
+ *   than to nearest.
+ * - cross-by-component (overlap): vonkCrossProduct_{vav,vva}_32f_3x1_{S2,P,PS2,LS2}
+ *     vonkCrossProduct_{vav,vva}_64f_3x1{,_S2,_P,_PS2,_L,_LS2}
+ *   Each component is stored before the elements for the next one are loaded.
+ * - cross-four-objects (overlap): vonkCrossProduct_vava_32f_3x1
+ *   Works in blocks of four objects: four are loaded before four are stored. The results are the same.
  */
 
 VonkStatus vonkCrossProduct_vv_32f_3x1(const float *src1, const float *src2, float *dst);
@@ -3082,67 +3134,72 @@ VonkStatus vonkCrossProduct_vav_32f_3x1(const float *src1, int32_t src1ObjStride
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkCrossProduct_vav_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    /* exceptions: cross-zero-minus, cross-by-component */
 VonkStatus vonkCrossProduct_vav_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: cross-zero-minus, cross-by-component */
 VonkStatus vonkCrossProduct_vav_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-zero-minus, cross-by-component */
 VonkStatus vonkCrossProduct_vav_32f_3x1_L(const float *const *src1, int32_t src1Shift, const float *src2,
     float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkCrossProduct_vav_32f_3x1_LS2(const float *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-zero-minus, cross-by-component */
 
 VonkStatus vonkCrossProduct_vav_64f_3x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: cross-negated, cross-by-component */
 VonkStatus vonkCrossProduct_vav_64f_3x1_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
     const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-negated, cross-by-component */
 VonkStatus vonkCrossProduct_vav_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: cross-negated, cross-by-component */
 VonkStatus vonkCrossProduct_vav_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-negated, cross-by-component */
 VonkStatus vonkCrossProduct_vav_64f_3x1_L(const double *const *src1, int32_t src1Shift, const double *src2,
-    double *const *dst, int32_t dstShift, uint32_t count);
+    double *const *dst, int32_t dstShift, uint32_t count); /* exceptions: cross-negated, cross-by-component */
 VonkStatus vonkCrossProduct_vav_64f_3x1_LS2(const double *const *src1, int32_t src1Shift, int32_t src1ElemStride,
     const double *src2, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-negated, cross-by-component */
 
 VonkStatus vonkCrossProduct_vva_32f_3x1(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkCrossProduct_vva_32f_3x1_S2(const float *src1, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-zero-minus, cross-by-component */
 VonkStatus vonkCrossProduct_vva_32f_3x1_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: cross-zero-minus, cross-by-component */
 VonkStatus vonkCrossProduct_vva_32f_3x1_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-zero-minus, cross-by-component */
 VonkStatus vonkCrossProduct_vva_32f_3x1_L(const float *src1, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkCrossProduct_vva_32f_3x1_LS2(const float *src1, int32_t src1ElemStride, const float *const *src2,
     int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-zero-minus, cross-by-component */
 
 VonkStatus vonkCrossProduct_vva_64f_3x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exceptions: cross-negated, cross-by-component */
 VonkStatus vonkCrossProduct_vva_64f_3x1_S2(const double *src1, int32_t src1ElemStride, const double *src2,
     int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-negated, cross-by-component */
 VonkStatus vonkCrossProduct_vva_64f_3x1_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: cross-negated, cross-by-component */
 VonkStatus vonkCrossProduct_vva_64f_3x1_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-negated, cross-by-component */
 VonkStatus vonkCrossProduct_vva_64f_3x1_L(const double *src1, const double *const *src2, int32_t src2Shift,
-    double *const *dst, int32_t dstShift, uint32_t count);
+    double *const *dst, int32_t dstShift, uint32_t count); /* exceptions: cross-negated, cross-by-component */
 VonkStatus vonkCrossProduct_vva_64f_3x1_LS2(const double *src1, int32_t src1ElemStride, const double *const *src2,
     int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: cross-negated, cross-by-component */
 
 VonkStatus vonkCrossProduct_vava_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2,
-    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count); /* exception: cross-four-objects */
 VonkStatus vonkCrossProduct_vava_32f_3x1_S2(const float *src1, int32_t src1ObjStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstElemStride, uint32_t count);
@@ -3178,51 +3235,53 @@ VonkStatus vonkCrossProduct_vava_64f_3x1_LS2(const double *const *src1, int32_t 
  * vonkAdd: dst(n, i, j) = A(n, i, j) + B(n, i, j)
  * vonkSub: dst(n, i, j) = A(n, i, j) - B(n, i, j)
  *
- * with A(n, i, j) = src1(n, i, j), or src1(n, j, i) if the first operand carries `T`, and B alike from `src2`. A
- * single operand serves all objects. One rounded operation and one store per element; `64f` adds in the 80-bit type
- * and rounds to 64 bits. Objects, rows and columns ascend.
+ * with A(n, i, j) = src1(n, i, j), or src1(n, j, i) if the first operand carries `T`, and B alike from `src2`. A single
+ * operand serves all objects. One rounded operation and one store per element; `64f` adds in the 80-bit type and rounds
+ * to 64 bits. Objects, rows and columns ascend. The arithmetic of an element does not depend on the alignment of
+ * operands.
  *
  * Sizes: `cols` and `rows` are those of `dst`. A transposed operand is stored as `cols` rows of `rows` columns, in
  * pointer layouts too: its entry for A(i, j) is j * `rows` + i.
  *
  * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a
  * table or list entry is null: in single forms in `P` element by element, earlier elements being final; in `P` and
- * `PS2` of arrays all entries of all tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the
- * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
- *
- * Members that behave unlike their siblings:
- * - `mam` and `mamT` of `32f`, 3x3, in the standard layout and `L` load an object before they store the one ahead of
- *   it, and work one object at `count` 0 as they do at 1. In `L` they test the first entry of `src1` and entry
- *   `count` - 1 of `dst` first, at `count` 0 that is the entry ahead of the list, through which they store; then the
- *   entries of object n + 1 ahead of the store of object n: a null entry k leaves the objects below k - 1 complete.
- *   Entry 0 of `dst` is tested at no `count` but 1, and followed if null.
- * - `mamT` of these four walks the rows of `src2` with `src1RowStride`; `src2RowStride` is not read.
- * - vonkSub_mTmT_32f_6x6: row 3 of `dst` repeats row 2.
- * - vonkSub_maTmaT_32f_6x6 and its `L` form: element (i, j) is src1(r, c) - src2(r, c) with r and c from row i, column
- *   j of
- *       00 04 20 24 40 44
- *       01 05 21 25 41 45
- *       02 14 22 34 42 54
- *       02 14 22 34 42 54
- *       10 12 30 32 50 52
- *       11 13 31 33 51 53
- * - `mmT`, `mTm` and `mTmT` of 4x4 in `P`, both types, never test the entry at position 8 of a transposed operand's
- *   table: a null there is followed.
- * - `32f` of 3x3 and 4x4 in the standard layout and `L` loads a single operand once, ahead of all objects. All other
- *   forms read it anew for each object.
- * - Some members of `32f` look whether all rows lie at multiples of 16 bytes: 3x3 `maTm`; 4x4 `mam`, vonkAdd `mama`,
- *   vonkSub `mma`, `mm` (standard) and `mama` (`L`); 5x5 `mama`, vonkSub `mma` and `mam` (standard); 6x6 `mam`, and
- *   vonkAdd `mama` (standard). No result depends on it.
+ * `PS2` of arrays all entries of all tables before anything else, even at `count` 0; in `L` and `LS2` when the object's
+ * turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Overlap:
- * Nothing tests overlap. `dst` may be any source itself unless that is read transposed: each element is read before
- * it is written. Otherwise elements are read and written in ascending order, so a `dst` that runs ahead of a source
- * sees new elements; `32f` of fixed size in the standard layout and `L` loads a row or more before it stores it, and
- * how much is not promised.
+ * Overlap is not checked. `dst` may be any source (in place) unless that is read transposed: each element is read
+ * before it is written. With any other overlap elements are read and written one by one in ascending order, so that a
+ * source element which `dst` has overwritten by then is read as overwritten.
  *
- * Read beyond the operands:
- * `32f` of 3x3 in the standard layout and `L`: the element behind each row of `src1` in `maTm`, and of `src2` in
- * `mamT`, may be read; its value does not matter. Nothing else.
+ * Exceptions:
+ * - sub-repeated-row (result): vonkSub_mTmT_32f_6x6
+ *   Row 3 of `dst` repeats row 2.
+ * - sub-other-elements (result): vonkSub_maTmaT_32f_6x6{,_L}
+ *   Element (i, j) is src1(r, c) - src2(r, c), with r and c the digits in column j of row i: row 0 is 00 04 20 24 40
+ *   44, row 1 is 01 05 21 25 41 45, rows 2 and 3 are 02 14 22 34 42 54, row 4 is 10 12 30 32 50 52, row 5 is 11 13 31
+ *   33 51 53.
+ * - sum-ignored-stride (arguments): vonk{Add,Sub}_mamT_32f_3x3{,_L}
+ *   `src2RowStride` is ignored: the rows of `src2` lie `src1RowStride` apart.
+ * - sum-count-zero (checks): vonk{Add,Sub}_{mam,mamT}_32f_3x3{,_L}
+ *   `count` 0 is not checked: one object is computed and stored, as at `count` 1.
+ * - sum-pipelined-entries (checks): vonk{Add,Sub}_{mam,mamT}_32f_3x3_L
+ *   List entries are checked in another order: entry 0 of `src1` and entry `count` - 1 of `dst` before anything else,
+ *   then the entries of object n + 1 before object n is stored. A null entry k leaves the objects below k - 1 complete.
+ *   Entry 0 of `dst` is checked at `count` 1 alone, and else followed if null.
+ * - sum-position-8 (checks): vonk{Add,Sub}_{mmT,mTm,mTmT}_{32f,64f}_4x4_P
+ *   The entry at position 8 of a transposed operand's table is not checked; a null entry is followed.
+ * - sum-software-pipelined (overlap): vonk{Add,Sub}_{mam,mamT}_32f_3x3{,_L}
+ *   Software-pipelined: object n + 1 is loaded before object n is stored.
+ * - sum-single-loaded-once (overlap): vonk{Add,Sub}_{mam,mamT,maTm,maTmT}_32f_{3x3,4x4}{,_L}
+ *     vonkSub_{mma,mmaT,mTma,mTmaT}_32f_{3x3,4x4}{,_L}
+ *   The single operand is loaded once, before all objects; a `dst` that overlaps it changes nothing for later objects.
+ *   All other forms load it again for each object.
+ * - sum-rows-loaded-first (overlap): vonk{Add,Sub}_m*_32f_?x?{,_L}
+ *   A row or more of an object is loaded before it is stored; how much is not promised.
+ * - sum-reads-next-element (reads): vonk{Add,Sub}_{maTm,mamT}_32f_3x3{,_L}
+ *   The element past the end of each row of the transposed operand may be read. Its value does not matter.
+ * - sum-entry-before-list (reads): vonk{Add,Sub}_{mam,mamT}_32f_3x3_L
+ *   At `count` 0 entry 0 of `src1` is read, and of `dst` the entry before the list, through which one object is stored.
  */
 
 VonkStatus vonkAdd_mm_32f(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
@@ -3233,25 +3292,25 @@ VonkStatus vonkAdd_mm_32f_S2(const float *src1, int32_t src1RowStride, int32_t s
 VonkStatus vonkAdd_mm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
 VonkStatus vonkAdd_mm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkAdd_mm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkAdd_mm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkAdd_mm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -3297,25 +3356,25 @@ VonkStatus vonkAdd_mmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t 
 VonkStatus vonkAdd_mmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
 VonkStatus vonkAdd_mmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkAdd_mmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift);
+    int32_t src2Shift, float *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkAdd_mmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkAdd_mmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -3339,7 +3398,7 @@ VonkStatus vonkAdd_mmT_64f_4x4(const double *src1, int32_t src1RowStride, const 
 VonkStatus vonkAdd_mmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
     int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
-    int32_t src2Shift, double *const *dst, int32_t dstShift);
+    int32_t src2Shift, double *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkAdd_mmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
     double *dst, int32_t dstRowStride);
 VonkStatus vonkAdd_mmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
@@ -3361,25 +3420,25 @@ VonkStatus vonkAdd_mTm_32f_S2(const float *src1, int32_t src1RowStride, int32_t 
 VonkStatus vonkAdd_mTm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
 VonkStatus vonkAdd_mTm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mTm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkAdd_mTm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mTm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift);
+    int32_t src2Shift, float *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkAdd_mTm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mTm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkAdd_mTm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -3403,7 +3462,7 @@ VonkStatus vonkAdd_mTm_64f_4x4(const double *src1, int32_t src1RowStride, const 
 VonkStatus vonkAdd_mTm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
     int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
-    int32_t src2Shift, double *const *dst, int32_t dstShift);
+    int32_t src2Shift, double *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkAdd_mTm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
     double *dst, int32_t dstRowStride);
 VonkStatus vonkAdd_mTm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
@@ -3425,25 +3484,25 @@ VonkStatus vonkAdd_mTmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t
 VonkStatus vonkAdd_mTmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
 VonkStatus vonkAdd_mTmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mTmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkAdd_mTmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mTmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift);
+    int32_t src2Shift, float *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkAdd_mTmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mTmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkAdd_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkAdd_mTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -3469,7 +3528,7 @@ VonkStatus vonkAdd_mTmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, in
     const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
     int32_t dstElemStride);
 VonkStatus vonkAdd_mTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
-    int32_t src2Shift, double *const *dst, int32_t dstShift);
+    int32_t src2Shift, double *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkAdd_mTmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
     double *dst, int32_t dstRowStride);
 VonkStatus vonkAdd_mTmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
@@ -3504,6 +3563,7 @@ VonkStatus vonkAdd_mam_32f_LS2(const float *const *src1, int32_t src1Shift, int3
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkAdd_mam_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-count-zero, sum-software-pipelined, sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_mam_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3514,11 +3574,14 @@ VonkStatus vonkAdd_mam_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkAdd_mam_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-count-zero, sum-pipelined-entries, sum-software-pipelined, sum-single-loaded-once,
+       sum-rows-loaded-first, sum-entry-before-list */
 VonkStatus vonkAdd_mam_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mam_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_mam_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3529,11 +3592,13 @@ VonkStatus vonkAdd_mam_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkAdd_mam_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_mam_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mam_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mam_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3544,11 +3609,13 @@ VonkStatus vonkAdd_mam_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkAdd_mam_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mam_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mam_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mam_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3559,6 +3626,7 @@ VonkStatus vonkAdd_mam_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkAdd_mam_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mam_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3664,6 +3732,8 @@ VonkStatus vonkAdd_mamT_32f_LS2(const float *const *src1, int32_t src1Shift, int
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkAdd_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-ignored-stride, sum-count-zero, sum-software-pipelined, sum-single-loaded-once,
+       sum-rows-loaded-first, sum-reads-next-element */
 VonkStatus vonkAdd_mamT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3674,11 +3744,14 @@ VonkStatus vonkAdd_mamT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkAdd_mamT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-ignored-stride, sum-count-zero, sum-pipelined-entries, sum-software-pipelined,
+       sum-single-loaded-once, sum-rows-loaded-first, sum-reads-next-element, sum-entry-before-list */
 VonkStatus vonkAdd_mamT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mamT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_mamT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3689,11 +3762,13 @@ VonkStatus vonkAdd_mamT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkAdd_mamT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_mamT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mamT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3704,11 +3779,13 @@ VonkStatus vonkAdd_mamT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkAdd_mamT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mamT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3719,6 +3796,7 @@ VonkStatus vonkAdd_mamT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkAdd_mamT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3824,6 +3902,7 @@ VonkStatus vonkAdd_maTm_32f_LS2(const float *const *src1, int32_t src1Shift, int
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkAdd_maTm_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first, sum-reads-next-element */
 VonkStatus vonkAdd_maTm_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3834,11 +3913,13 @@ VonkStatus vonkAdd_maTm_32f_3x3_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkAdd_maTm_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first, sum-reads-next-element */
 VonkStatus vonkAdd_maTm_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTm_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_maTm_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3849,11 +3930,13 @@ VonkStatus vonkAdd_maTm_32f_4x4_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkAdd_maTm_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_maTm_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTm_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTm_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3864,11 +3947,13 @@ VonkStatus vonkAdd_maTm_32f_5x5_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkAdd_maTm_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTm_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTm_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTm_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3879,6 +3964,7 @@ VonkStatus vonkAdd_maTm_32f_6x6_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkAdd_maTm_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTm_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3984,6 +4070,7 @@ VonkStatus vonkAdd_maTmT_32f_LS2(const float *const *src1, int32_t src1Shift, in
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkAdd_maTmT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -3994,12 +4081,13 @@ VonkStatus vonkAdd_maTmT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkAdd_maTmT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTmT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4010,12 +4098,13 @@ VonkStatus vonkAdd_maTmT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkAdd_maTmT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTmT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4026,12 +4115,13 @@ VonkStatus vonkAdd_maTmT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkAdd_maTmT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTmT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4042,7 +4132,7 @@ VonkStatus vonkAdd_maTmT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkAdd_maTmT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4149,7 +4239,7 @@ VonkStatus vonkAdd_mama_32f_LS2(const float *const *src1, int32_t src1Shift, int
     uint32_t count);
 VonkStatus vonkAdd_mama_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mama_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4160,13 +4250,13 @@ VonkStatus vonkAdd_mama_32f_3x3_PS2(const float *const *src1, int32_t src1Shift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_mama_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mama_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mama_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mama_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4177,13 +4267,13 @@ VonkStatus vonkAdd_mama_32f_4x4_PS2(const float *const *src1, int32_t src1Shift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_mama_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mama_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mama_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mama_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4194,13 +4284,13 @@ VonkStatus vonkAdd_mama_32f_5x5_PS2(const float *const *src1, int32_t src1Shift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_mama_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mama_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mama_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mama_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4211,7 +4301,7 @@ VonkStatus vonkAdd_mama_32f_6x6_PS2(const float *const *src1, int32_t src1Shift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_mama_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mama_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4323,7 +4413,7 @@ VonkStatus vonkAdd_mamaT_32f_LS2(const float *const *src1, int32_t src1Shift, in
     uint32_t count);
 VonkStatus vonkAdd_mamaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4334,13 +4424,13 @@ VonkStatus vonkAdd_mamaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_mamaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mamaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4351,13 +4441,13 @@ VonkStatus vonkAdd_mamaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_mamaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mamaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4368,13 +4458,13 @@ VonkStatus vonkAdd_mamaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_mamaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_mamaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4385,7 +4475,7 @@ VonkStatus vonkAdd_mamaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_mamaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_mamaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4498,7 +4588,7 @@ VonkStatus vonkAdd_maTma_32f_LS2(const float *const *src1, int32_t src1Shift, in
     uint32_t count);
 VonkStatus vonkAdd_maTma_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTma_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4509,13 +4599,13 @@ VonkStatus vonkAdd_maTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_maTma_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTma_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTma_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTma_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4526,13 +4616,13 @@ VonkStatus vonkAdd_maTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_maTma_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTma_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTma_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTma_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4543,13 +4633,13 @@ VonkStatus vonkAdd_maTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_maTma_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTma_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTma_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTma_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4560,7 +4650,7 @@ VonkStatus vonkAdd_maTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_maTma_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTma_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4674,7 +4764,7 @@ VonkStatus vonkAdd_maTmaT_32f_LS2(const float *const *src1, int32_t src1Shift, i
     uint32_t count);
 VonkStatus vonkAdd_maTmaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4685,13 +4775,13 @@ VonkStatus vonkAdd_maTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_maTmaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTmaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4702,13 +4792,13 @@ VonkStatus vonkAdd_maTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_maTmaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTmaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4719,13 +4809,13 @@ VonkStatus vonkAdd_maTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_maTmaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkAdd_maTmaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4736,7 +4826,7 @@ VonkStatus vonkAdd_maTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkAdd_maTmaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkAdd_maTmaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -4837,25 +4927,25 @@ VonkStatus vonkSub_mm_32f_S2(const float *src1, int32_t src1RowStride, int32_t s
 VonkStatus vonkSub_mm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
 VonkStatus vonkSub_mm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkSub_mm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkSub_mm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkSub_mm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -4901,25 +4991,25 @@ VonkStatus vonkSub_mmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t 
 VonkStatus vonkSub_mmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
 VonkStatus vonkSub_mmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkSub_mmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift);
+    int32_t src2Shift, float *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkSub_mmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkSub_mmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -4943,7 +5033,7 @@ VonkStatus vonkSub_mmT_64f_4x4(const double *src1, int32_t src1RowStride, const 
 VonkStatus vonkSub_mmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
     int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
-    int32_t src2Shift, double *const *dst, int32_t dstShift);
+    int32_t src2Shift, double *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkSub_mmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
     double *dst, int32_t dstRowStride);
 VonkStatus vonkSub_mmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
@@ -4965,25 +5055,25 @@ VonkStatus vonkSub_mTm_32f_S2(const float *src1, int32_t src1RowStride, int32_t 
 VonkStatus vonkSub_mTm_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
 VonkStatus vonkSub_mTm_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTm_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkSub_mTm_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTm_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mTm_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift);
+    int32_t src2Shift, float *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkSub_mTm_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTm_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mTm_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkSub_mTm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mTm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -5007,7 +5097,7 @@ VonkStatus vonkSub_mTm_64f_4x4(const double *src1, int32_t src1RowStride, const 
 VonkStatus vonkSub_mTm_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
     int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mTm_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
-    int32_t src2Shift, double *const *dst, int32_t dstShift);
+    int32_t src2Shift, double *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkSub_mTm_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
     double *dst, int32_t dstRowStride);
 VonkStatus vonkSub_mTm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
@@ -5029,25 +5119,25 @@ VonkStatus vonkSub_mTmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t
 VonkStatus vonkSub_mTmT_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2, int32_t src2Shift,
     float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows);
 VonkStatus vonkSub_mTmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTmT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkSub_mTmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTmT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mTmT_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift);
+    int32_t src2Shift, float *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkSub_mTmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTmT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mTmT_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 VonkStatus vonkSub_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2RowStride,
-    float *dst, int32_t dstRowStride);
+    float *dst, int32_t dstRowStride); /* exceptions: sub-repeated-row, sum-rows-loaded-first */
 VonkStatus vonkSub_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkSub_mTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
@@ -5073,7 +5163,7 @@ VonkStatus vonkSub_mTmT_64f_4x4_S2(const double *src1, int32_t src1RowStride, in
     const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
     int32_t dstElemStride);
 VonkStatus vonkSub_mTmT_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
-    int32_t src2Shift, double *const *dst, int32_t dstShift);
+    int32_t src2Shift, double *const *dst, int32_t dstShift); /* exception: sum-position-8 */
 VonkStatus vonkSub_mTmT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2RowStride,
     double *dst, int32_t dstRowStride);
 VonkStatus vonkSub_mTmT_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
@@ -5108,6 +5198,7 @@ VonkStatus vonkSub_mma_32f_LS2(const float *src1, int32_t src1RowStride, int32_t
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkSub_mma_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mma_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5118,11 +5209,13 @@ VonkStatus vonkSub_mma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkSub_mma_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mma_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mma_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mma_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5133,11 +5226,13 @@ VonkStatus vonkSub_mma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkSub_mma_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mma_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mma_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mma_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5148,11 +5243,13 @@ VonkStatus vonkSub_mma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkSub_mma_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mma_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mma_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5163,6 +5260,7 @@ VonkStatus vonkSub_mma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkSub_mma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5268,6 +5366,7 @@ VonkStatus vonkSub_mmaT_32f_LS2(const float *src1, int32_t src1RowStride, int32_
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkSub_mmaT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mmaT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5278,11 +5377,13 @@ VonkStatus vonkSub_mmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mmaT_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mmaT_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mmaT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mmaT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5293,11 +5394,13 @@ VonkStatus vonkSub_mmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mmaT_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mmaT_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mmaT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mmaT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5308,11 +5411,13 @@ VonkStatus vonkSub_mmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mmaT_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mmaT_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mmaT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5323,6 +5428,7 @@ VonkStatus vonkSub_mmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mmaT_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5428,6 +5534,7 @@ VonkStatus vonkSub_mTma_32f_LS2(const float *src1, int32_t src1RowStride, int32_
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkSub_mTma_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mTma_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5438,11 +5545,13 @@ VonkStatus vonkSub_mTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mTma_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mTma_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mTma_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mTma_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5453,11 +5562,13 @@ VonkStatus vonkSub_mTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mTma_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mTma_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mTma_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTma_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5468,11 +5579,13 @@ VonkStatus vonkSub_mTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mTma_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTma_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mTma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTma_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5483,6 +5596,7 @@ VonkStatus vonkSub_mTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mTma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5588,6 +5702,7 @@ VonkStatus vonkSub_mTmaT_32f_LS2(const float *src1, int32_t src1RowStride, int32
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkSub_mTmaT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mTmaT_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5598,12 +5713,13 @@ VonkStatus vonkSub_mTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkSub_mTmaT_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2,
     int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mTmaT_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mTmaT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mTmaT_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5614,12 +5730,13 @@ VonkStatus vonkSub_mTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkSub_mTmaT_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2,
     int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mTmaT_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mTmaT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTmaT_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5630,12 +5747,13 @@ VonkStatus vonkSub_mTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkSub_mTmaT_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2,
     int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTmaT_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mTmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTmaT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5646,7 +5764,7 @@ VonkStatus vonkSub_mTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkSub_mTmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2,
     int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mTmaT_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5752,6 +5870,7 @@ VonkStatus vonkSub_mam_32f_LS2(const float *const *src1, int32_t src1Shift, int3
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkSub_mam_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-count-zero, sum-software-pipelined, sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mam_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5762,11 +5881,14 @@ VonkStatus vonkSub_mam_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkSub_mam_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-count-zero, sum-pipelined-entries, sum-software-pipelined, sum-single-loaded-once,
+       sum-rows-loaded-first, sum-entry-before-list */
 VonkStatus vonkSub_mam_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mam_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mam_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5777,11 +5899,13 @@ VonkStatus vonkSub_mam_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkSub_mam_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mam_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mam_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mam_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5792,11 +5916,13 @@ VonkStatus vonkSub_mam_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkSub_mam_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mam_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mam_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mam_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5807,6 +5933,7 @@ VonkStatus vonkSub_mam_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, 
     uint32_t count);
 VonkStatus vonkSub_mam_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mam_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5912,6 +6039,8 @@ VonkStatus vonkSub_mamT_32f_LS2(const float *const *src1, int32_t src1Shift, int
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkSub_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-ignored-stride, sum-count-zero, sum-software-pipelined, sum-single-loaded-once,
+       sum-rows-loaded-first, sum-reads-next-element */
 VonkStatus vonkSub_mamT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5922,11 +6051,14 @@ VonkStatus vonkSub_mamT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mamT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-ignored-stride, sum-count-zero, sum-pipelined-entries, sum-software-pipelined,
+       sum-single-loaded-once, sum-rows-loaded-first, sum-reads-next-element, sum-entry-before-list */
 VonkStatus vonkSub_mamT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mamT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mamT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5937,11 +6069,13 @@ VonkStatus vonkSub_mamT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mamT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_mamT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mamT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5952,11 +6086,13 @@ VonkStatus vonkSub_mamT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mamT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mamT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -5967,6 +6103,7 @@ VonkStatus vonkSub_mamT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_mamT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6072,6 +6209,7 @@ VonkStatus vonkSub_maTm_32f_LS2(const float *const *src1, int32_t src1Shift, int
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkSub_maTm_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first, sum-reads-next-element */
 VonkStatus vonkSub_maTm_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6082,11 +6220,13 @@ VonkStatus vonkSub_maTm_32f_3x3_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_maTm_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first, sum-reads-next-element */
 VonkStatus vonkSub_maTm_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTm_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_maTm_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6097,11 +6237,13 @@ VonkStatus vonkSub_maTm_32f_4x4_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_maTm_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_maTm_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTm_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTm_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6112,11 +6254,13 @@ VonkStatus vonkSub_maTm_32f_5x5_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_maTm_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTm_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTm_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTm_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6127,6 +6271,7 @@ VonkStatus vonkSub_maTm_32f_6x6_PS2(const float *const *src1, int32_t src1Shift,
     uint32_t count);
 VonkStatus vonkSub_maTm_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTm_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6232,6 +6377,7 @@ VonkStatus vonkSub_maTmT_32f_LS2(const float *const *src1, int32_t src1Shift, in
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkSub_maTmT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_maTmT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6242,12 +6388,13 @@ VonkStatus vonkSub_maTmT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkSub_maTmT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_maTmT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTmT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_maTmT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6258,12 +6405,13 @@ VonkStatus vonkSub_maTmT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkSub_maTmT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: sum-single-loaded-once, sum-rows-loaded-first */
 VonkStatus vonkSub_maTmT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTmT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTmT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6274,12 +6422,13 @@ VonkStatus vonkSub_maTmT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkSub_maTmT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTmT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTmT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTmT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6290,7 +6439,7 @@ VonkStatus vonkSub_maTmT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift
     uint32_t count);
 VonkStatus vonkSub_maTmT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *src2, int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTmT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6397,7 +6546,7 @@ VonkStatus vonkSub_mama_32f_LS2(const float *const *src1, int32_t src1Shift, int
     uint32_t count);
 VonkStatus vonkSub_mama_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mama_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6408,13 +6557,13 @@ VonkStatus vonkSub_mama_32f_3x3_PS2(const float *const *src1, int32_t src1Shift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_mama_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mama_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mama_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mama_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6425,13 +6574,13 @@ VonkStatus vonkSub_mama_32f_4x4_PS2(const float *const *src1, int32_t src1Shift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_mama_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mama_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mama_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mama_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6442,13 +6591,13 @@ VonkStatus vonkSub_mama_32f_5x5_PS2(const float *const *src1, int32_t src1Shift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_mama_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mama_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mama_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mama_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6459,7 +6608,7 @@ VonkStatus vonkSub_mama_32f_6x6_PS2(const float *const *src1, int32_t src1Shift,
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_mama_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mama_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6571,7 +6720,7 @@ VonkStatus vonkSub_mamaT_32f_LS2(const float *const *src1, int32_t src1Shift, in
     uint32_t count);
 VonkStatus vonkSub_mamaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6582,13 +6731,13 @@ VonkStatus vonkSub_mamaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_mamaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mamaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6599,13 +6748,13 @@ VonkStatus vonkSub_mamaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_mamaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mamaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6616,13 +6765,13 @@ VonkStatus vonkSub_mamaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_mamaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_mamaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6633,7 +6782,7 @@ VonkStatus vonkSub_mamaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_mamaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_mamaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6746,7 +6895,7 @@ VonkStatus vonkSub_maTma_32f_LS2(const float *const *src1, int32_t src1Shift, in
     uint32_t count);
 VonkStatus vonkSub_maTma_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTma_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6757,13 +6906,13 @@ VonkStatus vonkSub_maTma_32f_3x3_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_maTma_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTma_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTma_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTma_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6774,13 +6923,13 @@ VonkStatus vonkSub_maTma_32f_4x4_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_maTma_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTma_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTma_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTma_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6791,13 +6940,13 @@ VonkStatus vonkSub_maTma_32f_5x5_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_maTma_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTma_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTma_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTma_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6808,7 +6957,7 @@ VonkStatus vonkSub_maTma_32f_6x6_PS2(const float *const *src1, int32_t src1Shift
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_maTma_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTma_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6922,7 +7071,7 @@ VonkStatus vonkSub_maTmaT_32f_LS2(const float *const *src1, int32_t src1Shift, i
     uint32_t count);
 VonkStatus vonkSub_maTmaT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTmaT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6933,13 +7082,13 @@ VonkStatus vonkSub_maTmaT_32f_3x3_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_maTmaT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTmaT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTmaT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTmaT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6950,13 +7099,13 @@ VonkStatus vonkSub_maTmaT_32f_4x4_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_maTmaT_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTmaT_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTmaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTmaT_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6967,13 +7116,13 @@ VonkStatus vonkSub_maTmaT_32f_5x5_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_maTmaT_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exception: sum-rows-loaded-first */
 VonkStatus vonkSub_maTmaT_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkSub_maTmaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: sub-other-elements, sum-rows-loaded-first */
 VonkStatus vonkSub_maTmaT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -6984,7 +7133,7 @@ VonkStatus vonkSub_maTmaT_32f_6x6_PS2(const float *const *src1, int32_t src1Shif
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkSub_maTmaT_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, uint32_t count);
+    int32_t dstRowStride, uint32_t count); /* exceptions: sub-other-elements, sum-rows-loaded-first */
 VonkStatus vonkSub_maTmaT_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -7083,27 +7232,25 @@ VonkStatus vonkSub_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shi
  *
  * with A(n, i, j) = src(n, i, j), or src(n, j, i) in `mTc` and `maTc`. One rounded product and one store per element;
  * `64f` multiplies in the 80-bit type and rounds to 64 bits. A `val` of 0 multiplies too: NaN and infinity give NaN,
- * and zeros keep the sign of the product.
+ * and zeros keep the sign of the product. The arithmetic of an element does not depend on the alignment of operands.
  *
  * Sizes: `cols` and `rows` are those of `dst`. A transposed source is stored as `cols` rows of `rows` columns.
  *
  * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a table or
  * list entry is null: in single forms in `P` element by element, earlier elements being final; in `P` and `PS2` of
- * arrays all entries of both tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the object's
- * turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
- *
- * Members that behave unlike their siblings:
- * - `mTc` of 4x4 in `P`, both types, never tests the entry at position 8 of its source's table: a null there is
- *   followed.
- * - `mc` in the standard layout and `mac` in the standard layout and `L`, `32f` of 4x4 to 6x6, look whether all rows
- *   lie at multiples of 16 bytes. No result depends on it.
+ * arrays all entries of both tables before anything else, even at `count` 0; in `L` and `LS2` when the object's turn
+ * comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Overlap:
- * Nothing tests overlap. In `mc` and `mac` `dst` may be `src` itself: each element is read before it is written. In
- * `mTc` and `maTc` it may not. A partial overlap behaves as told of vonkAdd on matrices.
+ * Overlap is not checked. In `mc` and `mac` `dst` may be `src` (in place): each element is read before it is written.
+ * In `mTc` and `maTc` it may not. With any other overlap elements are read and written one by one in ascending order,
+ * so that a source element which `dst` has overwritten by then is read as overwritten.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - scale-position-8 (checks): vonkMul_mTc_{32f,64f}_4x4_P
+ *   The entry at position 8 of the table of `src` is not checked; a null entry is followed.
+ * - scale-rows-loaded-first (overlap): vonkMul_{mc,mTc}_32f_?x? vonkMul_{mac,maTc}_32f_?x?{,_L}
+ *   A row or more of an object is loaded before it is stored; how much is not promised.
  */
 
 VonkStatus vonkMul_mc_32f(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride,
@@ -7113,21 +7260,25 @@ VonkStatus vonkMul_mc_32f_S2(const float *src, int32_t srcRowStride, int32_t src
 VonkStatus vonkMul_mc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
     uint32_t cols, uint32_t rows);
 VonkStatus vonkMul_mc_32f_3x3(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+    /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mc_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkMul_mc_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
 VonkStatus vonkMul_mc_32f_4x4(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+    /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mc_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkMul_mc_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
 VonkStatus vonkMul_mc_32f_5x5(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+    /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mc_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkMul_mc_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
 VonkStatus vonkMul_mc_32f_6x6(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+    /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mc_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkMul_mc_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -7167,21 +7318,25 @@ VonkStatus vonkMul_mTc_32f_S2(const float *src, int32_t srcRowStride, int32_t sr
 VonkStatus vonkMul_mTc_32f_P(const float *const *src, int32_t srcShift, float val, float *const *dst, int32_t dstShift,
     uint32_t cols, uint32_t rows);
 VonkStatus vonkMul_mTc_32f_3x3(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+    /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mTc_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkMul_mTc_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
 VonkStatus vonkMul_mTc_32f_4x4(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+    /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mTc_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkMul_mTc_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
-    int32_t dstShift);
+    int32_t dstShift); /* exception: scale-position-8 */
 VonkStatus vonkMul_mTc_32f_5x5(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+    /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mTc_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkMul_mTc_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
     int32_t dstShift);
 VonkStatus vonkMul_mTc_32f_6x6(const float *src, int32_t srcRowStride, float val, float *dst, int32_t dstRowStride);
+    /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mTc_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float val, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkMul_mTc_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -7202,7 +7357,7 @@ VonkStatus vonkMul_mTc_64f_4x4(const double *src, int32_t srcRowStride, double v
 VonkStatus vonkMul_mTc_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
     double *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkMul_mTc_64f_4x4_P(const double *const *src, int32_t srcShift, double val, double *const *dst,
-    int32_t dstShift);
+    int32_t dstShift); /* exception: scale-position-8 */
 VonkStatus vonkMul_mTc_64f_5x5(const double *src, int32_t srcRowStride, double val, double *dst, int32_t dstRowStride);
 VonkStatus vonkMul_mTc_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double val,
     double *dst, int32_t dstRowStride, int32_t dstElemStride);
@@ -7229,7 +7384,7 @@ VonkStatus vonkMul_mac_32f_LS2(const float *const *src, int32_t srcShift, int32_
     float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
     uint32_t rows, uint32_t count);
 VonkStatus vonkMul_mac_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mac_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_mac_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -7237,12 +7392,12 @@ VonkStatus vonkMul_mac_32f_3x3_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkMul_mac_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_mac_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mac_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkMul_mac_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mac_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_mac_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -7250,12 +7405,12 @@ VonkStatus vonkMul_mac_32f_4x4_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkMul_mac_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_mac_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mac_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkMul_mac_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mac_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_mac_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -7263,12 +7418,12 @@ VonkStatus vonkMul_mac_32f_5x5_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkMul_mac_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_mac_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mac_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkMul_mac_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mac_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_mac_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -7276,7 +7431,7 @@ VonkStatus vonkMul_mac_32f_6x6_P(const float *const *src, int32_t srcShift, floa
 VonkStatus vonkMul_mac_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_mac_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_mac_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
@@ -7363,7 +7518,7 @@ VonkStatus vonkMul_maTc_32f_LS2(const float *const *src, int32_t srcShift, int32
     float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols,
     uint32_t rows, uint32_t count);
 VonkStatus vonkMul_maTc_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_maTc_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_maTc_32f_3x3_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -7371,12 +7526,12 @@ VonkStatus vonkMul_maTc_32f_3x3_P(const float *const *src, int32_t srcShift, flo
 VonkStatus vonkMul_maTc_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_maTc_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_maTc_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkMul_maTc_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_maTc_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_maTc_32f_4x4_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -7384,12 +7539,12 @@ VonkStatus vonkMul_maTc_32f_4x4_P(const float *const *src, int32_t srcShift, flo
 VonkStatus vonkMul_maTc_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_maTc_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_maTc_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkMul_maTc_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_maTc_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_maTc_32f_5x5_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -7397,12 +7552,12 @@ VonkStatus vonkMul_maTc_32f_5x5_P(const float *const *src, int32_t srcShift, flo
 VonkStatus vonkMul_maTc_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_maTc_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_maTc_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkMul_maTc_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_maTc_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float val, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_maTc_32f_6x6_P(const float *const *src, int32_t srcShift, float val, float *const *dst,
@@ -7410,7 +7565,7 @@ VonkStatus vonkMul_maTc_32f_6x6_P(const float *const *src, int32_t srcShift, flo
 VonkStatus vonkMul_maTc_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float val,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkMul_maTc_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float val,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: scale-rows-loaded-first */
 VonkStatus vonkMul_maTc_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float val, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
@@ -7486,27 +7641,28 @@ VonkStatus vonkMul_maTc_64f_6x6_LS2(const double *const *src, int32_t srcShift, 
  *
  * dst(n, j, i) = src(n, i, j)
  *
- * for i below `rows` and j below `cols`, which are the sizes of the SOURCE. Elements are moved, not worked: every bit
- * stays, signalling NaNs and signs of zeros included.
+ * for i below `rows` and j below `cols`, which are the sizes of the SOURCE. Elements are copied bit by bit, without
+ * arithmetic: signalling NaNs and signs of zeros are kept.
  *
  * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a table or
  * list entry is null: in single forms in `P` element by element, earlier elements being final; in `P` and `PS2` of
- * arrays all `cols` * `rows` entries of both tables ahead of everything else, even at `count` 0; in `L` and `LS2` when
- * the object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
- *
- * Members that behave unlike their siblings:
- * - In `P` and `PS2` of run-time size the lengths of the tables' rows are taken crosswise: element (i, j) goes from
- *   entry i * `rows` + j of `src` to entry j * `cols` + i of `dst`, i outermost. A square matrix is transposed; of
- *   others some entries are read or written twice, and the later write stays.
+ * arrays all `cols` * `rows` entries of both tables before anything else, even at `count` 0; in `L` and `LS2` when the
+ * object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Overlap:
- * Nothing tests overlap, and a call in place is not protected: elements go one by one along the rows of the source, so
- * the upper triangle has overwritten the lower one by the time that is read. `32f` of 4x4 to 6x6 in the standard
- * layout and `L` reads more of an object first; how much is not promised.
+ * Overlap is not checked, and a call in place does not transpose: elements are copied one by one along the rows of the
+ * source, so the upper triangle has overwritten the lower one by the time that is read.
  *
- * Read beyond the operands:
- * In `P` and `PS2` of run-time size, of matrices that are not square: table entries behind the `cols` * `rows`th,
- * which are not scanned.
+ * Exceptions:
+ * - transpose-crosswise (result): vonkTranspose_{m_{32f,64f}_P,ma_{32f,64f}_{P,PS2}}
+ *   The lengths of the tables' rows are exchanged: element (i, j) goes from entry i * `rows` + j of `src` to entry j *
+ *   `cols` + i of `dst`, i outermost. A square matrix is transposed; of others some entries are read or written twice,
+ *   and the later write stays.
+ * - transpose-loaded-first (overlap): vonkTranspose_{m_32f_{4x4,5x5,6x6},ma_32f_{4x4,5x5,6x6}{,_L}}
+ *   More than one element of an object is loaded before it is stored; how many is not promised.
+ * - transpose-reads-entries (reads): vonkTranspose_{m_{32f,64f}_P,ma_{32f,64f}_{P,PS2}}
+ *   Of matrices that are not square, table entries past the `cols` * `rows`th are read. The checks of `ma` do not cover
+ *   them.
  */
 
 VonkStatus vonkTranspose_m_32f(const float *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, float *dst,
@@ -7514,20 +7670,23 @@ VonkStatus vonkTranspose_m_32f(const float *src, int32_t srcRowStride, uint32_t 
 VonkStatus vonkTranspose_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
     uint32_t rows, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkTranspose_m_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
-    float *const *dst, int32_t dstShift);
+    float *const *dst, int32_t dstShift); /* exceptions: transpose-crosswise, transpose-reads-entries */
 VonkStatus vonkTranspose_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
 VonkStatus vonkTranspose_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkTranspose_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
 VonkStatus vonkTranspose_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+    /* exception: transpose-loaded-first */
 VonkStatus vonkTranspose_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkTranspose_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
 VonkStatus vonkTranspose_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+    /* exception: transpose-loaded-first */
 VonkStatus vonkTranspose_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkTranspose_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
 VonkStatus vonkTranspose_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+    /* exception: transpose-loaded-first */
 VonkStatus vonkTranspose_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkTranspose_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
@@ -7537,7 +7696,7 @@ VonkStatus vonkTranspose_m_64f(const double *src, int32_t srcRowStride, uint32_t
 VonkStatus vonkTranspose_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
     uint32_t rows, double *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkTranspose_m_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
-    double *const *dst, int32_t dstShift);
+    double *const *dst, int32_t dstShift); /* exceptions: transpose-crosswise, transpose-reads-entries */
 VonkStatus vonkTranspose_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
 VonkStatus vonkTranspose_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
     int32_t dstRowStride, int32_t dstElemStride);
@@ -7561,9 +7720,10 @@ VonkStatus vonkTranspose_ma_32f_S2(const float *src, int32_t srcObjStride, int32
     uint32_t cols, uint32_t rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkTranspose_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
-    float *const *dst, int32_t dstShift, uint32_t count);
+    float *const *dst, int32_t dstShift, uint32_t count); /* exceptions: transpose-crosswise, transpose-reads-entries */
 VonkStatus vonkTranspose_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
     uint32_t rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: transpose-crosswise, transpose-reads-entries */
 VonkStatus vonkTranspose_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
     uint32_t rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkTranspose_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
@@ -7584,7 +7744,7 @@ VonkStatus vonkTranspose_ma_32f_3x3_LS2(const float *const *src, int32_t srcShif
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkTranspose_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: transpose-loaded-first */
 VonkStatus vonkTranspose_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
@@ -7593,12 +7753,12 @@ VonkStatus vonkTranspose_ma_32f_4x4_P(const float *const *src, int32_t srcShift,
 VonkStatus vonkTranspose_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkTranspose_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: transpose-loaded-first */
 VonkStatus vonkTranspose_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkTranspose_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: transpose-loaded-first */
 VonkStatus vonkTranspose_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
@@ -7607,12 +7767,12 @@ VonkStatus vonkTranspose_ma_32f_5x5_P(const float *const *src, int32_t srcShift,
 VonkStatus vonkTranspose_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkTranspose_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: transpose-loaded-first */
 VonkStatus vonkTranspose_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkTranspose_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: transpose-loaded-first */
 VonkStatus vonkTranspose_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
@@ -7621,7 +7781,7 @@ VonkStatus vonkTranspose_ma_32f_6x6_P(const float *const *src, int32_t srcShift,
 VonkStatus vonkTranspose_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkTranspose_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: transpose-loaded-first */
 VonkStatus vonkTranspose_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
@@ -7633,8 +7793,10 @@ VonkStatus vonkTranspose_ma_64f_S2(const double *src, int32_t srcObjStride, int3
     uint32_t count);
 VonkStatus vonkTranspose_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows,
     double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: transpose-crosswise, transpose-reads-entries */
 VonkStatus vonkTranspose_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
     uint32_t rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: transpose-crosswise, transpose-reads-entries */
 VonkStatus vonkTranspose_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
     uint32_t rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkTranspose_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
@@ -7703,28 +7865,27 @@ VonkStatus vonkTranspose_ma_64f_6x6_LS2(const double *const *src, int32_t srcShi
  *
  * for i below `order`, ascending. `dst` is a packed block of one result per object in every layout.
  *
- * How sums are made:
- * - `32f` of fixed size in the standard layout and `L`: from the first element on, one store.
- * - `32f` otherwise: `dst` is set to +0, and follows every step.
- * - `64f`: `dst` is set to +0, the sum runs in the 80-bit type, and `dst` follows every step, rounded.
+ * Sums:
+ * - `32f` of fixed size in the standard layout and `L`: from the first element on, with one store.
+ * - `32f` otherwise: from +0; `dst` is set to +0 and every partial sum is stored to it.
+ * - `64f`: from +0 in the 80-bit type; `dst` is set to +0 and every partial sum is stored to it, rounded.
  *
  * A diagonal of negative zeros thus gives -0 in the first and +0 in all others.
  *
  * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a table or list
- * entry is null: in `m` in `P` as the sum reaches it, the sum so far being in `dst`; in `L` and `LS2` when the
+ * entry is null: in `m` in `P` as the sum reaches it, the partial sum being in `dst`; in `L` and `LS2` when the
  * object's turn comes, earlier results being complete. `count` 0 then gives vonkOk with nothing written.
  *
- * Members that behave unlike their siblings:
- * - `ma` in `P` and `PS2` scans entries 0 to `order` - 1 of the table ahead of everything else, even at `count` 0,
- *   which is not where the diagonal lies: a null entry of the diagonal further on is followed.
- * - vonkTrace_m_64f and vonkTrace_m_64f_S2, of an odd `order`: the last element is added to the sum as it was stored,
- *   rounded to 64 bits. All others add it to the unrounded sum.
- *
  * Overlap:
- * Nothing tests overlap. Where `dst` is set to +0 first, an element under it is lost.
+ * Overlap is not checked. Where `dst` is set to +0 first, a diagonal element that it overlaps is lost.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - trace-odd-order (arithmetic): vonkTrace_m_64f{,_S2}
+ *   Of an odd `order`, the last element is added to the sum as it was stored, rounded to 64 bits. All others add it to
+ *   the unrounded sum.
+ * - trace-checked-entries (checks): vonkTrace_ma_{32f,64f}{,_?x?}_{P,PS2}
+ *   Entries 0 to `order` - 1 of the table are checked before anything else, even at `count` 0. That is not where the
+ *   diagonal lies: a null entry of the diagonal further on is followed.
  */
 
 VonkStatus vonkTrace_m_32f(const float *src, int32_t srcRowStride, uint32_t order, float *dst);
@@ -7745,8 +7906,9 @@ VonkStatus vonkTrace_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_
 VonkStatus vonkTrace_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst);
 
 VonkStatus vonkTrace_m_64f(const double *src, int32_t srcRowStride, uint32_t order, double *dst);
+    /* exception: trace-odd-order */
 VonkStatus vonkTrace_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
-    double *dst);
+    double *dst); /* exception: trace-odd-order */
 VonkStatus vonkTrace_m_64f_P(const double *const *src, int32_t srcShift, uint32_t order, double *dst);
 VonkStatus vonkTrace_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst);
 VonkStatus vonkTrace_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
@@ -7766,8 +7928,9 @@ VonkStatus vonkTrace_ma_32f(const float *src, int32_t srcObjStride, int32_t srcR
 VonkStatus vonkTrace_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     uint32_t order, float *dst, uint32_t count);
 VonkStatus vonkTrace_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t order, float *dst, uint32_t count);
+    /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
-    float *dst, uint32_t count);
+    float *dst, uint32_t count); /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
     float *dst, uint32_t count);
 VonkStatus vonkTrace_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
@@ -7777,8 +7940,9 @@ VonkStatus vonkTrace_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t 
 VonkStatus vonkTrace_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, uint32_t count);
 VonkStatus vonkTrace_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
     uint32_t count);
 VonkStatus vonkTrace_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
@@ -7788,8 +7952,9 @@ VonkStatus vonkTrace_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t 
 VonkStatus vonkTrace_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, uint32_t count);
 VonkStatus vonkTrace_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
     uint32_t count);
 VonkStatus vonkTrace_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
@@ -7799,8 +7964,9 @@ VonkStatus vonkTrace_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t 
 VonkStatus vonkTrace_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, uint32_t count);
 VonkStatus vonkTrace_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
     uint32_t count);
 VonkStatus vonkTrace_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
@@ -7810,8 +7976,9 @@ VonkStatus vonkTrace_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t 
 VonkStatus vonkTrace_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, uint32_t count);
 VonkStatus vonkTrace_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
     uint32_t count);
 VonkStatus vonkTrace_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
@@ -7822,8 +7989,9 @@ VonkStatus vonkTrace_ma_64f(const double *src, int32_t srcObjStride, int32_t src
 VonkStatus vonkTrace_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     uint32_t order, double *dst, uint32_t count);
 VonkStatus vonkTrace_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t order, double *dst, uint32_t count);
+    /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
-    double *dst, uint32_t count);
+    double *dst, uint32_t count); /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
     double *dst, uint32_t count);
 VonkStatus vonkTrace_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
@@ -7833,8 +8001,9 @@ VonkStatus vonkTrace_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t
 VonkStatus vonkTrace_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     double *dst, uint32_t count);
 VonkStatus vonkTrace_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+    /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
-    uint32_t count);
+    uint32_t count); /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
     uint32_t count);
 VonkStatus vonkTrace_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
@@ -7844,8 +8013,9 @@ VonkStatus vonkTrace_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t
 VonkStatus vonkTrace_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     double *dst, uint32_t count);
 VonkStatus vonkTrace_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+    /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
-    uint32_t count);
+    uint32_t count); /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
     uint32_t count);
 VonkStatus vonkTrace_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
@@ -7855,8 +8025,9 @@ VonkStatus vonkTrace_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t
 VonkStatus vonkTrace_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     double *dst, uint32_t count);
 VonkStatus vonkTrace_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+    /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
-    uint32_t count);
+    uint32_t count); /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
     uint32_t count);
 VonkStatus vonkTrace_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
@@ -7866,8 +8037,9 @@ VonkStatus vonkTrace_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t
 VonkStatus vonkTrace_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     double *dst, uint32_t count);
 VonkStatus vonkTrace_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst, uint32_t count);
+    /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
-    uint32_t count);
+    uint32_t count); /* exception: trace-checked-entries */
 VonkStatus vonkTrace_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *dst,
     uint32_t count);
 VonkStatus vonkTrace_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
@@ -7877,17 +8049,12 @@ VonkStatus vonkTrace_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, 
  *
  * dst(n) = root of the sum of src(n, i, j)^2
  *
- * for i below `rows` and j below `cols`. `dst` is a packed block of one result per object in every layout. Products
- * and sums are rounded one by one, in `64f` to the 80-bit type, and nothing is scaled: squares overflow and underflow.
+ * for i below `rows` and j below `cols`. `dst` is a packed block of one result per object in every layout. Products and
+ * sums are rounded one by one, in `64f` to the 80-bit type, and nothing is scaled: squares overflow and underflow.
  *
- * Order of sums, and root:
- * - `m`: along the rows, from +0. `ma`: down the columns, from +0. True root, correctly rounded in `32f`.
- * - `ma` of `32f`, fixed size, in `P`, `PS2` and `LS2`: backwards, the last column first and each from the bottom.
- * - `32f` of fixed size, `m` in the standard layout and `ma` in the standard layout and `L`: in lanes, see below. The
- *   root is s * r (0.5 (3 - s (r r))) with r the processor's estimate of 1 / root(s) to about 12 bits: not correctly
- *   rounded, dependent on the processor, and NaN for a matrix of zeros.
+ * Sums start at +0 and run along the rows in `m`, down the columns in `ma`. The root of `32f` is correctly rounded.
  *
- * In lanes, with pij the square of element (i, j) and cj the sum of column j:
+ * In SIMD lanes, with pij the square of element (i, j) and cj the sum of column j, the sum s is
  * - 3x3: cj = (p0j + p1j) + p2j; s = (c0 + c1) + c2
  * - 4x4: cj = (p0j + p1j) + (p2j + p3j); s = (c0 + c2) + (c1 + c3)
  * - 5x5: cj = ((p0j + p1j) + (p2j + p3j)) + p4j; s = ((c0 + c2) + (c1 + c3)) + c4
@@ -7895,24 +8062,30 @@ VonkStatus vonkTrace_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, 
  *   s = ((c0 + c2) + (c1 + c3)) + (c4 + c5)
  *
  * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a table or
- * list entry is null: in `P` and `PS2` all of the table ahead of everything else, even at `count` 0; in `L` and `LS2`
- * when the object's turn comes, earlier results being complete. `count` 0 then gives vonkOk with nothing written.
- *
- * Members that behave unlike their siblings:
- * - `ma` of `32f`, 3x3 and 4x4, in the standard layout and `L` takes blocks of four objects, which are summed in
- *   another order: 3x3 (((p00 + p01) + p22) + (p02 + p10)) + ((p11 + p12) + (p20 + p21)), 4x4 (c0 + c1) + (c2 + c3).
- *   Objects that fill no block are summed as above: the last bit of a result may depend on `count`. All of a block is
- *   read before its results are written.
- * - In `L` these two test the four entries of a block at its start, and those of the objects behind the last block
- *   never: a null there is followed.
- * - `64f` of run-time size, but for `P` and `PS2`, rounds the sum to 64 bits ahead of the root. It overflows to
- *   infinity and underflows where the others do not.
+ * list entry is null: in `P` and `PS2` all of the table before anything else, even at `count` 0; in `L` and `LS2` when
+ * the object's turn comes, earlier results being complete. `count` 0 then gives vonkOk with nothing written.
  *
  * Overlap:
- * Nothing tests overlap. A result is written when its matrix has been read, so `dst` may be an element of it.
+ * Overlap is not checked. A result is stored when its matrix has been read, so `dst` may be an element of it.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - frobenius-estimate (arithmetic): vonkFrobNorm_{m_32f_?x?,ma_32f_?x?{,_L}}
+ *   The sum runs in SIMD lanes, in the order above. The root is s * (r * (0.5 * (3.0 - s * (r * r)))) with r the
+ *   processor's estimate of 1 / root(s), of about 12 bits: not correctly rounded, dependent on the processor, and NaN
+ *   for a matrix of zeros.
+ * - frobenius-backwards (arithmetic): vonkFrobNorm_ma_32f_?x?_{P,PS2,LS2}
+ *   The sum runs backwards from +0: the last column first, each column from the bottom.
+ * - frobenius-four-objects (arithmetic): vonkFrobNorm_ma_32f_{3x3,4x4}{,_L}
+ *   Works in blocks of four objects, whose sums are 3x3 (((p00 + p01) + p22) + (p02 + p10)) + ((p11 + p12) + (p20 +
+ *   p21)) and 4x4 (c0 + c1) + (c2 + c3). Objects that fill no block are summed in the order above: the last bit of a
+ *   result may depend on `count`.
+ * - frobenius-rounded-sum (arithmetic): vonkFrobNorm_{m_64f{,_S2},ma_64f{,_S2,_L,_LS2}}
+ *   The sum is rounded to 64 bits before the root. It overflows to infinity and underflows where other forms do not.
+ * - frobenius-unchecked-entries (checks): vonkFrobNorm_ma_32f_{3x3,4x4}_L
+ *   The four list entries of a block are checked when its turn comes. Those of objects that fill no block are not
+ *   checked; a null entry is followed.
+ * - frobenius-block-overlap (overlap): vonkFrobNorm_ma_32f_{3x3,4x4}{,_L}
+ *   All of a block of four objects is read before its results are stored.
  */
 
 VonkStatus vonkFrobNorm_m_32f(const float *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, float *dst);
@@ -7920,21 +8093,26 @@ VonkStatus vonkFrobNorm_m_32f_S2(const float *src, int32_t srcRowStride, int32_t
     uint32_t rows, float *dst);
 VonkStatus vonkFrobNorm_m_32f_P(const float *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, float *dst);
 VonkStatus vonkFrobNorm_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst);
+    /* exception: frobenius-estimate */
 VonkStatus vonkFrobNorm_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
 VonkStatus vonkFrobNorm_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst);
 VonkStatus vonkFrobNorm_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst);
+    /* exception: frobenius-estimate */
 VonkStatus vonkFrobNorm_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
 VonkStatus vonkFrobNorm_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst);
 VonkStatus vonkFrobNorm_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst);
+    /* exception: frobenius-estimate */
 VonkStatus vonkFrobNorm_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
 VonkStatus vonkFrobNorm_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst);
 VonkStatus vonkFrobNorm_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst);
+    /* exception: frobenius-estimate */
 VonkStatus vonkFrobNorm_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
 VonkStatus vonkFrobNorm_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst);
 
 VonkStatus vonkFrobNorm_m_64f(const double *src, int32_t srcRowStride, uint32_t cols, uint32_t rows, double *dst);
+    /* exception: frobenius-rounded-sum */
 VonkStatus vonkFrobNorm_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t cols,
-    uint32_t rows, double *dst);
+    uint32_t rows, double *dst); /* exception: frobenius-rounded-sum */
 VonkStatus vonkFrobNorm_m_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, double *dst);
 VonkStatus vonkFrobNorm_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst);
 VonkStatus vonkFrobNorm_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
@@ -7962,62 +8140,69 @@ VonkStatus vonkFrobNorm_ma_32f_L(const float *const *src, int32_t srcShift, int3
 VonkStatus vonkFrobNorm_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t cols, uint32_t rows, float *dst, uint32_t count);
 VonkStatus vonkFrobNorm_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exceptions: frobenius-estimate, frobenius-four-objects, frobenius-block-overlap */
 VonkStatus vonkFrobNorm_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, uint32_t count);
 VonkStatus vonkFrobNorm_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
     uint32_t count);
+    /* exceptions: frobenius-estimate, frobenius-four-objects, frobenius-unchecked-entries, frobenius-block-overlap */
 VonkStatus vonkFrobNorm_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
-    int32_t srcElemStride, float *dst, uint32_t count);
+    int32_t srcElemStride, float *dst, uint32_t count); /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exceptions: frobenius-estimate, frobenius-four-objects, frobenius-block-overlap */
 VonkStatus vonkFrobNorm_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, uint32_t count);
 VonkStatus vonkFrobNorm_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
     uint32_t count);
+    /* exceptions: frobenius-estimate, frobenius-four-objects, frobenius-unchecked-entries, frobenius-block-overlap */
 VonkStatus vonkFrobNorm_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
-    int32_t srcElemStride, float *dst, uint32_t count);
+    int32_t srcElemStride, float *dst, uint32_t count); /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: frobenius-estimate */
 VonkStatus vonkFrobNorm_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, uint32_t count);
 VonkStatus vonkFrobNorm_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: frobenius-estimate */
 VonkStatus vonkFrobNorm_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
-    int32_t srcElemStride, float *dst, uint32_t count);
+    int32_t srcElemStride, float *dst, uint32_t count); /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: frobenius-estimate */
 VonkStatus vonkFrobNorm_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, uint32_t count);
 VonkStatus vonkFrobNorm_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst, uint32_t count);
+    /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: frobenius-backwards */
 VonkStatus vonkFrobNorm_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: frobenius-estimate */
 VonkStatus vonkFrobNorm_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
-    int32_t srcElemStride, float *dst, uint32_t count);
+    int32_t srcElemStride, float *dst, uint32_t count); /* exception: frobenius-backwards */
 
 VonkStatus vonkFrobNorm_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t cols,
-    uint32_t rows, double *dst, uint32_t count);
+    uint32_t rows, double *dst, uint32_t count); /* exception: frobenius-rounded-sum */
 VonkStatus vonkFrobNorm_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
-    uint32_t cols, uint32_t rows, double *dst, uint32_t count);
+    uint32_t cols, uint32_t rows, double *dst, uint32_t count); /* exception: frobenius-rounded-sum */
 VonkStatus vonkFrobNorm_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t cols, uint32_t rows, double *dst,
     uint32_t count);
 VonkStatus vonkFrobNorm_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t cols,
     uint32_t rows, double *dst, uint32_t count);
 VonkStatus vonkFrobNorm_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t cols,
-    uint32_t rows, double *dst, uint32_t count);
+    uint32_t rows, double *dst, uint32_t count); /* exception: frobenius-rounded-sum */
 VonkStatus vonkFrobNorm_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t cols, uint32_t rows, double *dst, uint32_t count);
+    /* exception: frobenius-rounded-sum */
 VonkStatus vonkFrobNorm_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
     uint32_t count);
 VonkStatus vonkFrobNorm_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
@@ -8071,44 +8256,51 @@ VonkStatus vonkFrobNorm_ma_64f_6x6_LS2(const double *const *src, int32_t srcShif
  * operand serves all objects. Products and sums are rounded one by one, k ascending, and never fused.
  *
  * Sizes: `src1Cols` and `src1Rows`, `src2Cols` and `src2Rows`. For square matrices they mean what they say. Otherwise
- * the tests look at a transposed operand as it is stored and the loops as it enters the product: the result has
- * `src1Rows` rows and `src2Cols` columns and sums `src2Rows` terms, except in vonkMul_mmT of run-time size in the
- * standard layout, which has `src2Rows` columns and sums `src1Cols` terms. vonkErrSize unless `src1Cols` = `src2Rows`
- * (`mm`, `mam`), `src1Rows` = `src2Cols` (`mma`, `mama`, and with both transposed), `src1Rows` = `src2Rows` (first
- * transposed), `src1Cols` = `src2Cols` (second transposed); and if `src1Rows`, `src1Cols` or one word of `src2` is 0:
- * `src2Cols` in `mm` and with the first transposed alone, else `src2Rows`.
+ * the size checks take a transposed operand as it is stored and the loops take it as it enters the product: the result
+ * has `src1Rows` rows and `src2Cols` columns and sums `src2Rows` terms. vonkErrSize unless `src1Cols` = `src2Rows`
+ * (`mm`, `mam`), `src1Rows` = `src2Cols` (both transposed), `src1Rows` = `src2Rows` (first transposed), `src1Cols` =
+ * `src2Cols` (second transposed); and if `src1Rows`, `src1Cols` or one size of `src2` is 0: `src2Cols` in `mm` and with
+ * the first transposed alone, else `src2Rows`.
  *
- * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize as told; vonkErrNullPtr if a table or list
- * entry is null: in single forms in `P` entry by entry as the sums reach it, earlier cells and the sum so far being in
- * place; in `P` and `PS2` of arrays all of `src1`, `src2` and `dst` ahead of everything else, even at `count` 0; in
- * `L` and `LS2` when the object's turn comes. `count` 0 then gives vonkOk.
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize, see above; vonkErrNullPtr if a table or list
+ * entry is null: in single forms in `P` entry by entry as the sums reach it, earlier elements and the partial sum being
+ * stored; in `P` and `PS2` of arrays all of `src1`, `src2` and `dst` before anything else, even at `count` 0; in `L`
+ * and `LS2` when the object's turn comes. `count` 0 then gives vonkOk.
  *
- * How sums are made:
- * - `32f` of fixed size in the standard layout and `L`, and some members beside: in lanes, from the first product on,
- *   one store per element.
- * - `32f` otherwise: from +0, and the cell follows every step.
- * - `64f`: from +0 in the 80-bit type, and the cell follows every step, rounded. In the standard layout and `S2` the
- *   sum itself stays unrounded to the end; in `P`, `PS2`, `L` and `LS2` it is rounded to 64 bits at every step.
- *
- * Members that behave unlike their siblings:
- * - In lanes are also, of `32f`: `mam`, `mama` of 3x3, 4x4 and 5x5 and `maTm`, `mamT`, `maTmT` of 3x3 in `S2`; `mam`,
- *   `maTm`, `mamT` of 3x3 in `P` and `PS2`; `mam`, `maTm`, `mamT`, `maTmT` of 3x3 in `LS2`. Those in `P`, `PS2` and
- *   `LS2` never test a table or list entry.
- * - `mm`, `mmT` and `mTmT` of `32f`, 6x6, `S2` add in pairs: ((p0 + p1) + (p2 + p3)) + (p4 + p5).
- * - `mma` and `mama` of run-time size carry the test of the doubly transposed forms. In `mam` a `src2Cols` of 0
- *   passes, and nothing is written.
- * - The scan of the `dst` table of run-time size covers `src1Cols` * `src2Rows` entries (`src1Rows` for the first,
- *   `src2Cols` for the second if transposed), which need not be those that are written.
+ * Sums:
+ * - `32f` of fixed size in the standard layout and `L`: in SIMD lanes, from the first product on, with one store per
+ *   element.
+ * - `32f` otherwise: from +0; `dst` is set to +0 and every partial sum is stored to it.
+ * - `64f`: from +0 in the 80-bit type; `dst` is set to +0 and every partial sum is stored to it, rounded. In the
+ *   standard layout and `S2` the sum itself stays unrounded to the end; in `P`, `PS2`, `L` and `LS2` it is rounded to
+ *   64 bits at every step.
  *
  * Overlap:
- * Nothing protects overlap: sums that are stored at every step destroy an operand under them. The forms in lanes hold
- * B and read A row by row, so some calls in place are right: with `dst` = `src1` where A is not transposed (3x3 to
- * 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in `mmT`, `mTmT` of 6x6). A
- * single operand is never safe under an array. Operands that are seen to lie apart may be worked quicker, with the same
- * results: `32f` of fixed size in `P` and rows of 3x3 and 5x5 by one matrix four at a time, packed rows of 6x6 in twos.
+ * Overlap is not checked, and where partial sums are stored to memory they destroy an operand that `dst` overlaps. The
+ * forms in SIMD lanes load B first and read A row by row, so some calls in place are right: with `dst` = `src1` where A
+ * is not transposed (3x3 to 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in
+ * `mmT`, `mTmT` of 6x6). A single operand must never overlap a `dst` that is an array. With disjoint operands the order
+ * of objects, elements and stores may be another, with the same results.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - product-simd (arithmetic): vonkMul_{mam,mama}_32f_{3x3,4x4,5x5}_S2 vonkMul_{maTm,mamT,maTmT}_32f_3x3_S2
+ *     vonkMul_{mam,maTm,mamT}_32f_3x3_{P,PS2} vonkMul_{mam,maTm,mamT,maTmT}_32f_3x3_LS2
+ *   Sums run in SIMD lanes, as in the standard layout: from the first product on, with one store per element.
+ * - product-pairs (arithmetic): vonkMul_{mm,mmT,mTmT}_32f_6x6_S2
+ *   The sum is ((p0 + p1) + (p2 + p3)) + (p4 + p5), with one store per element.
+ * - product-stored-shape (result): vonkMul_mmT_{32f,64f}
+ *   The loops follow the shapes as stored: the result has `src2Rows` columns and sums `src1Cols` terms.
+ * - product-size-check (checks): vonkMul_{mma,mama}_{32f,64f}{,_S2,_P,_PS2,_L,_LS2}
+ *   The size check is that of the doubly transposed forms: vonkErrSize unless `src1Rows` = `src2Cols`.
+ * - product-checked-entries (checks):
+ *     vonkMul_{mam,mamT,maTm,maTmT,mma,mmaT,mTma,mTmaT,mama,mamaT,maTma,maTmaT}_{32f,64f}_{P,PS2}
+ *   Of the `dst` table `src1Cols` * `src2Rows` entries are checked (`src1Rows` for the first if `src1` is transposed,
+ *   `src2Cols` for the second if `src2` is), which need not be those that are written.
+ * - product-unchecked-entries (checks): vonkMul_{mam,maTm,mamT}_32f_3x3_{P,PS2}
+ *     vonkMul_{mam,maTm,mamT,maTmT}_32f_3x3_LS2
+ *   Table and list entries are not checked; a null entry is followed.
+ * - product-no-columns (status): vonkMul_mam_{32f,64f}{,_S2,_P,_PS2,_L,_LS2}
+ *   A `src2Cols` of 0 is no error: nothing is written, and the status is vonkOk.
  */
 
 VonkStatus vonkMul_mm_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
@@ -8141,6 +8333,7 @@ VonkStatus vonkMul_mm_32f_6x6(const float *src1, int32_t src1RowStride, const fl
     float *dst, int32_t dstRowStride);
 VonkStatus vonkMul_mm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+    /* exception: product-pairs */
 VonkStatus vonkMul_mm_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 
@@ -8179,6 +8372,7 @@ VonkStatus vonkMul_mm_64f_6x6_P(const double *const *src1, int32_t src1Shift, co
 
 VonkStatus vonkMul_mmT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstRowStride);
+    /* exception: product-stored-shape */
 VonkStatus vonkMul_mmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols,
     uint32_t src2Rows, float *dst, int32_t dstRowStride, int32_t dstElemStride);
@@ -8207,11 +8401,13 @@ VonkStatus vonkMul_mmT_32f_6x6(const float *src1, int32_t src1RowStride, const f
     float *dst, int32_t dstRowStride);
 VonkStatus vonkMul_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+    /* exception: product-pairs */
 VonkStatus vonkMul_mmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 
 VonkStatus vonkMul_mmT_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstRowStride);
+    /* exception: product-stored-shape */
 VonkStatus vonkMul_mmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols,
     uint32_t src2Rows, double *dst, int32_t dstRowStride, int32_t dstElemStride);
@@ -8339,6 +8535,7 @@ VonkStatus vonkMul_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const 
     float *dst, int32_t dstRowStride);
 VonkStatus vonkMul_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride, int32_t dstElemStride);
+    /* exception: product-pairs */
 VonkStatus vonkMul_mTmT_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift);
 
@@ -8381,24 +8578,25 @@ VonkStatus vonkMul_mTmT_64f_6x6_P(const double *const *src1, int32_t src1Shift, 
 
 VonkStatus vonkMul_mma_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mma_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mma_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: product-size-check, product-checked-entries */
 VonkStatus vonkMul_mma_32f_PS2(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: product-size-check, product-checked-entries */
 VonkStatus vonkMul_mma_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mma_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     uint32_t src2Cols, uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride,
-    int32_t dstElemStride, uint32_t count);
+    int32_t dstElemStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mma_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, int32_t src2ObjStride,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_mma_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
@@ -8462,24 +8660,25 @@ VonkStatus vonkMul_mma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int
 
 VonkStatus vonkMul_mma_64f(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mma_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride,
-    int32_t dstElemStride, uint32_t count);
+    int32_t dstElemStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mma_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: product-size-check, product-checked-entries */
 VonkStatus vonkMul_mma_64f_PS2(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: product-size-check, product-checked-entries */
 VonkStatus vonkMul_mma_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
-    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mma_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
     uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride,
-    int32_t dstElemStride, uint32_t count);
+    int32_t dstElemStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mma_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, int32_t src2ObjStride,
     int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_mma_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
@@ -8554,10 +8753,10 @@ VonkStatus vonkMul_mmaT_32f_S2(const float *src1, int32_t src1RowStride, int32_t
     uint32_t count);
 VonkStatus vonkMul_mmaT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mmaT_32f_PS2(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
-    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mmaT_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -8635,10 +8834,11 @@ VonkStatus vonkMul_mmaT_64f_S2(const double *src1, int32_t src1RowStride, int32_
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_mmaT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mmaT_64f_PS2(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_mmaT_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -8720,10 +8920,10 @@ VonkStatus vonkMul_mTma_32f_S2(const float *src1, int32_t src1RowStride, int32_t
     uint32_t count);
 VonkStatus vonkMul_mTma_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mTma_32f_PS2(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
-    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mTma_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -8801,10 +9001,11 @@ VonkStatus vonkMul_mTma_64f_S2(const double *src1, int32_t src1RowStride, int32_
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_mTma_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mTma_64f_PS2(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_mTma_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -8886,10 +9087,10 @@ VonkStatus vonkMul_mTmaT_32f_S2(const float *src1, int32_t src1RowStride, int32_
     uint32_t count);
 VonkStatus vonkMul_mTmaT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mTmaT_32f_PS2(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
-    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mTmaT_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -8971,10 +9172,11 @@ VonkStatus vonkMul_mTmaT_64f_S2(const double *src1, int32_t src1RowStride, int32
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_mTmaT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mTmaT_64f_PS2(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_mTmaT_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -9049,44 +9251,47 @@ VonkStatus vonkMul_mTmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, 
 
 VonkStatus vonkMul_mam_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: product-no-columns */
 VonkStatus vonkMul_mam_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
     uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2RowStride, int32_t src2ElemStride,
     uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exception: product-no-columns */
 VonkStatus vonkMul_mam_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: product-checked-entries, product-no-columns */
 VonkStatus vonkMul_mam_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: product-checked-entries, product-no-columns */
 VonkStatus vonkMul_mam_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
-    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: product-no-columns */
 VonkStatus vonkMul_mam_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2RowStride,
     int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *const *dst, int32_t dstShift,
-    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-no-columns */
 VonkStatus vonkMul_mam_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_mam_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-simd */
 VonkStatus vonkMul_mam_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: product-simd, product-unchecked-entries */
 VonkStatus vonkMul_mam_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: product-simd, product-unchecked-entries */
 VonkStatus vonkMul_mam_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_mam_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    /* exceptions: product-simd, product-unchecked-entries */
 VonkStatus vonkMul_mam_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_mam_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-simd */
 VonkStatus vonkMul_mam_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkMul_mam_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
@@ -9101,7 +9306,7 @@ VonkStatus vonkMul_mam_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_mam_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-simd */
 VonkStatus vonkMul_mam_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkMul_mam_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
@@ -9130,24 +9335,25 @@ VonkStatus vonkMul_mam_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, 
 
 VonkStatus vonkMul_mam_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows, double *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exception: product-no-columns */
 VonkStatus vonkMul_mam_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
     uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2RowStride, int32_t src2ElemStride,
     uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride,
-    int32_t dstElemStride, uint32_t count);
+    int32_t dstElemStride, uint32_t count); /* exception: product-no-columns */
 VonkStatus vonkMul_mam_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: product-checked-entries, product-no-columns */
 VonkStatus vonkMul_mam_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: product-checked-entries, product-no-columns */
 VonkStatus vonkMul_mam_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
-    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: product-no-columns */
 VonkStatus vonkMul_mam_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2RowStride,
     int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift,
-    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-no-columns */
 VonkStatus vonkMul_mam_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
     int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_mam_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -9222,10 +9428,10 @@ VonkStatus vonkMul_mamT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t
     uint32_t count);
 VonkStatus vonkMul_mamT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mamT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
-    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mamT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -9237,17 +9443,19 @@ VonkStatus vonkMul_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_mamT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-simd */
 VonkStatus vonkMul_mamT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: product-simd, product-unchecked-entries */
 VonkStatus vonkMul_mamT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: product-simd, product-unchecked-entries */
 VonkStatus vonkMul_mamT_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_mamT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    /* exceptions: product-simd, product-unchecked-entries */
 VonkStatus vonkMul_mamT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_mamT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -9303,10 +9511,11 @@ VonkStatus vonkMul_mamT_64f_S2(const double *src1, int32_t src1ObjStride, int32_
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_mamT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mamT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_mamT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -9388,10 +9597,10 @@ VonkStatus vonkMul_maTm_32f_S2(const float *src1, int32_t src1ObjStride, int32_t
     uint32_t count);
 VonkStatus vonkMul_maTm_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_maTm_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
-    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_maTm_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -9403,17 +9612,19 @@ VonkStatus vonkMul_maTm_32f_3x3(const float *src1, int32_t src1ObjStride, int32_
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_maTm_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-simd */
 VonkStatus vonkMul_maTm_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: product-simd, product-unchecked-entries */
 VonkStatus vonkMul_maTm_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: product-simd, product-unchecked-entries */
 VonkStatus vonkMul_maTm_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_maTm_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    /* exceptions: product-simd, product-unchecked-entries */
 VonkStatus vonkMul_maTm_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_maTm_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -9469,10 +9680,11 @@ VonkStatus vonkMul_maTm_64f_S2(const double *src1, int32_t src1ObjStride, int32_
     int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_maTm_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_maTm_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_maTm_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -9554,10 +9766,10 @@ VonkStatus vonkMul_maTmT_32f_S2(const float *src1, int32_t src1ObjStride, int32_
     uint32_t count);
 VonkStatus vonkMul_maTmT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_maTmT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
-    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_maTmT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -9569,7 +9781,7 @@ VonkStatus vonkMul_maTmT_32f_3x3(const float *src1, int32_t src1ObjStride, int32
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_maTmT_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-simd */
 VonkStatus vonkMul_maTmT_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkMul_maTmT_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
@@ -9581,6 +9793,7 @@ VonkStatus vonkMul_maTmT_32f_3x3_L(const float *const *src1, int32_t src1Shift, 
 VonkStatus vonkMul_maTmT_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    /* exceptions: product-simd, product-unchecked-entries */
 VonkStatus vonkMul_maTmT_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkMul_maTmT_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -9639,10 +9852,11 @@ VonkStatus vonkMul_maTmT_64f_S2(const double *src1, int32_t src1ObjStride, int32
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_maTmT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_maTmT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_maTmT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *src2, int32_t src2RowStride, uint32_t src2Cols, uint32_t src2Rows,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -9718,29 +9932,33 @@ VonkStatus vonkMul_maTmT_64f_6x6_LS2(const double *const *src1, int32_t src1Shif
 VonkStatus vonkMul_mama_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols,
     uint32_t src2Rows, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: product-size-check */
 VonkStatus vonkMul_mama_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
     uint32_t src1Cols, uint32_t src1Rows, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
     int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *dst, int32_t dstObjStride,
-    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mama_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: product-size-check, product-checked-entries */
 VonkStatus vonkMul_mama_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
     uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: product-size-check, product-checked-entries */
 VonkStatus vonkMul_mama_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
     uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: product-size-check */
 VonkStatus vonkMul_mama_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const float *const *src2, int32_t src2Shift,
     int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mama_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
     uint32_t count);
 VonkStatus vonkMul_mama_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    /* exception: product-simd */
 VonkStatus vonkMul_mama_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkMul_mama_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
@@ -9758,6 +9976,7 @@ VonkStatus vonkMul_mama_32f_4x4(const float *src1, int32_t src1ObjStride, int32_
 VonkStatus vonkMul_mama_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    /* exception: product-simd */
 VonkStatus vonkMul_mama_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkMul_mama_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
@@ -9775,6 +9994,7 @@ VonkStatus vonkMul_mama_32f_5x5(const float *src1, int32_t src1ObjStride, int32_
 VonkStatus vonkMul_mama_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    /* exception: product-simd */
 VonkStatus vonkMul_mama_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkMul_mama_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
@@ -9807,23 +10027,26 @@ VonkStatus vonkMul_mama_32f_6x6_LS2(const float *const *src1, int32_t src1Shift,
 VonkStatus vonkMul_mama_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Cols,
     uint32_t src2Rows, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exception: product-size-check */
 VonkStatus vonkMul_mama_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride,
     uint32_t src1Cols, uint32_t src1Rows, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
     int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *dst, int32_t dstObjStride,
-    int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mama_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exceptions: product-size-check, product-checked-entries */
 VonkStatus vonkMul_mama_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
     uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: product-size-check, product-checked-entries */
 VonkStatus vonkMul_mama_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
     uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exception: product-size-check */
 VonkStatus vonkMul_mama_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, uint32_t src1Cols, uint32_t src1Rows, const double *const *src2, int32_t src2Shift,
     int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count); /* exception: product-size-check */
 VonkStatus vonkMul_mama_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, const double *src2,
     int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
     uint32_t count);
@@ -9902,10 +10125,11 @@ VonkStatus vonkMul_mamaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_mamaT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mamaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
     uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_mamaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
     uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -9991,10 +10215,11 @@ VonkStatus vonkMul_mamaT_64f_S2(const double *src1, int32_t src1ObjStride, int32
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_mamaT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_mamaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
     uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_mamaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
     uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -10080,10 +10305,11 @@ VonkStatus vonkMul_maTma_32f_S2(const float *src1, int32_t src1ObjStride, int32_
     int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_maTma_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_maTma_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
     uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_maTma_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
     uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -10169,10 +10395,11 @@ VonkStatus vonkMul_maTma_64f_S2(const double *src1, int32_t src1ObjStride, int32
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_maTma_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_maTma_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
     uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_maTma_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
     uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -10258,10 +10485,11 @@ VonkStatus vonkMul_maTmaT_32f_S2(const float *src1, int32_t src1ObjStride, int32
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_maTmaT_32f_P(const float *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const float *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_maTmaT_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, uint32_t src2Cols,
     uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_maTmaT_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const float *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
     uint32_t src2Rows, float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -10347,10 +10575,11 @@ VonkStatus vonkMul_maTmaT_64f_S2(const double *src1, int32_t src1ObjStride, int3
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkMul_maTmaT_64f_P(const double *const *src1, int32_t src1Shift, uint32_t src1Cols, uint32_t src1Rows,
     const double *const *src2, int32_t src2Shift, uint32_t src2Cols, uint32_t src2Rows, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: product-checked-entries */
 VonkStatus vonkMul_maTmaT_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     uint32_t src1Cols, uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride,
     uint32_t src2Cols, uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exception: product-checked-entries */
 VonkStatus vonkMul_maTmaT_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, uint32_t src1Cols,
     uint32_t src1Rows, const double *const *src2, int32_t src2Shift, int32_t src2RowStride, uint32_t src2Cols,
     uint32_t src2Rows, double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -10431,34 +10660,32 @@ VonkStatus vonkMul_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shi
  *
  * dst(n, i) = sum over k of A(i, k) src2(n, k)
  *
- * with A(i, k) = src1(n, i, k), or src1(n, k, i) in the patterns with `T`. A single operand serves all objects.
- * Products and sums are rounded one by one and never fused.
+ * with A(i, k) = src1(n, i, k), or src1(n, k, i) in the groups with `T`. A single operand serves all objects. Products
+ * and sums are rounded one by one and never fused.
  *
  * Sizes: `src1Cols` and `src1Rows`, `src2Len`. There are `src1Rows` results of `src1Cols` terms, transposed or not.
  * vonkErrSize if `src1Cols` or `src1Rows` is 0, or unless `src1Cols` = `src2Len` (with `T`: `src1Rows` = `src2Len`).
  *
- * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize as told; vonkErrNullPtr if a table or list
- * entry is null: in single forms in `P` entry by entry as the sums reach it, earlier elements and the sum so far being
- * in place; in `P` and `PS2` of arrays all of `src1`, `src2` and `dst` ahead of everything else, even at `count` 0; in
- * `L` and `LS2` when the object's turn comes. `count` 0 then gives vonkOk.
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize, see above; vonkErrNullPtr if a table or list
+ * entry is null: in single forms in `P` entry by entry as the sums reach it, earlier elements and the partial sum being
+ * stored; in `P` and `PS2` of arrays all of `src1`, `src2` and `dst` before anything else, even at `count` 0; in `L`
+ * and `LS2` when the object's turn comes. `count` 0 then gives vonkOk.
  *
- * Sums run as those of matrix by matrix, but for `32f` of fixed size in the standard layout and `L`, which are made in
- * lanes with orders of their own. With p0, p1, ... for the products of row i:
+ * Sums run as those of matrix by matrix, but for `32f` of fixed size in the standard layout and `L`, which sum in SIMD
+ * lanes in orders of their own. With p0, p1, ... for the products of row i:
  * - 3x3: (p0 + p1) + p2
  * - 4x4: (p0 + p2) + (p1 + p3); transposed (p0 + p1) + (p2 + p3)
  * - 5x5: ((p0 + p1) + p4) + (p2 + p3), but the LAST element, if not transposed, is ((p0 + p2) + p4) + (p1 + p3)
  * - 6x6: ((p0 + p2) + p4) + ((p1 + p3) + p5); transposed ((p0 + p1) + (p2 + p3)) + (p4 + p5)
  *
- * Members that behave unlike their siblings:
- * - vonkMul_mTv of 4x4 in `P`, both types, never tests the entry at position 8 of the `src1` table.
- *
  * Overlap:
- * Nothing protects overlap. In lanes the vector is held before the first store, so `dst` may be `src2`; elsewhere sums
- * that are stored at every step destroy it. Operands that are seen to lie apart may be worked quicker, with the same
- * results: `32f` of fixed size in `P` four objects at a time, and packed vectors of 3 by one matrix.
+ * Overlap is not checked. In SIMD lanes the vector is loaded before the first store, so `dst` may be `src2`; elsewhere
+ * the partial sums that are stored to memory destroy it. With disjoint operands the order of objects, elements and
+ * stores may be another, with the same results.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - product-vector-position-8 (checks): vonkMul_mTv_{32f,64f}_4x4_P
+ *   The entry at position 8 of the table of `src1` is not checked; a null entry is followed.
  */
 
 VonkStatus vonkMul_mv_32f(const float *src1, int32_t src1RowStride, uint32_t src1Cols, uint32_t src1Rows,
@@ -10531,7 +10758,7 @@ VonkStatus vonkMul_mTv_32f_4x4(const float *src1, int32_t src1RowStride, const f
 VonkStatus vonkMul_mTv_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, int32_t dstElemStride);
 VonkStatus vonkMul_mTv_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
-    int32_t src2Shift, float *const *dst, int32_t dstShift);
+    int32_t src2Shift, float *const *dst, int32_t dstShift); /* exception: product-vector-position-8 */
 VonkStatus vonkMul_mTv_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
 VonkStatus vonkMul_mTv_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride, const float *src2,
     int32_t src2ElemStride, float *dst, int32_t dstElemStride);
@@ -10559,7 +10786,7 @@ VonkStatus vonkMul_mTv_64f_4x4(const double *src1, int32_t src1RowStride, const 
 VonkStatus vonkMul_mTv_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
     int32_t src2ElemStride, double *dst, int32_t dstElemStride);
 VonkStatus vonkMul_mTv_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
-    int32_t src2Shift, double *const *dst, int32_t dstShift);
+    int32_t src2Shift, double *const *dst, int32_t dstShift); /* exception: product-vector-position-8 */
 VonkStatus vonkMul_mTv_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
 VonkStatus vonkMul_mTv_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride, const double *src2,
     int32_t src2ElemStride, double *dst, int32_t dstElemStride);
@@ -11508,22 +11735,21 @@ VonkStatus vonkMul_maTva_64f_6x6_LS2(const double *const *src1, int32_t src1Shif
  * dst(n, i) = (sum over k of src1(i, k) src2(n, k)) + src3(n, i)
  *
  * for i below `rows` and k below `cols`: a single matrix, a vector or an array of vectors. The sum is finished first,
- * as in matrix by vector, and `src3` is added last. `64f` in the standard layout and `S2` adds it to the unrounded
- * sum.
+ * as in matrix by vector, and `src3` is added last. `64f` in the standard layout and `S2` adds it to the unrounded sum.
  *
  * Status: vonkErrNullPtr if `src1`, `src2`, `src3` or `dst` is null; vonkErrSize if `cols` or `rows` is 0;
- * vonkErrNullPtr if a table or list entry is null: of `v` in `P` those of `src3` and `dst` ahead of an element, those
- * of its terms as the sum reaches them, earlier elements and the sum so far being in place; of `va` in `P` and `PS2`
- * all four tables ahead of everything else, even at `count` 0; in `L` and `LS2` when the object's turn comes. `count`
- * 0 then gives vonkOk.
+ * vonkErrNullPtr if a table or list entry is null: of `v` in `P` those of `src3` and `dst` before an element, those of
+ * its terms as the sum reaches them, earlier elements and the partial sum being stored; of `va` in `P` and `PS2` all
+ * four tables before anything else, even at `count` 0; in `L` and `LS2` when the object's turn comes. `count` 0 then
+ * gives vonkOk.
  *
  * Overlap:
- * Nothing protects overlap. `32f` of fixed size in the standard layout and `L` holds both vectors before it stores, so
- * `dst` may be `src2` or `src3`; elsewhere the sum that is stored at every step destroys what lies under it. `32f` of
- * fixed size in `P` takes four objects at a time where operands are seen to lie apart, with the same results.
+ * Overlap is not checked. `32f` of fixed size in the standard layout and `L` loads both vectors before it stores, so
+ * `dst` may be `src2` or `src3`; elsewhere the partial sums that are stored to memory destroy what `dst` overlaps. With
+ * disjoint operands the order of objects, elements and stores may be another, with the same results.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * None.
  */
 
 VonkStatus vonkGaxpy_v_32f(const float *src1, int32_t src1RowStride, const float *src2, const float *src3, float *dst,
@@ -11768,25 +11994,24 @@ VonkStatus vonkGaxpy_va_64f_6x6_LS2(const double *src1, int32_t src1RowStride, i
  * dst(n, i, j) = src(n, i, j)    (`ma`, of `rows` by `cols`)
  *
  * Two letters at the end of a name say where the elements come from and where they go: `S` strided (elsewhere `S2`),
- * `P` strided pointer (`PS2`), `L` strided list (`LS2`). Nothing is converted. Objects, rows and elements are walked
- * in ascending order, one element at a time. A `float` is moved as the word that it is; a `double` goes through the
- * 80-bit unit, so that a signalling NaN arrives as a quiet one.
+ * `P` strided pointer (`PS2`), `L` strided list (`LS2`). Nothing is converted. Objects, rows and elements are copied in
+ * ascending order, one element at a time. A `float` is copied bit by bit; a `double` goes through the 80-bit unit, so
+ * that a signalling NaN arrives as a quiet one.
  *
  * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len` is 0. Entries of tables and lists are not
- * tested. `count` 0 gives vonkOk.
- *
- * Members that behave unlike their siblings:
- * - vonkCopy_va_32f_PP and vonkCopy_va_64f_PP never read the `src` table. Both ends of the copy are found through the
- *   `dst` table: element j of object n comes from dst[j] + `srcShift` + n * `srcObjStride` and goes to dst[j] +
- *   `dstShift` + n * `dstObjStride`.
- * - `ma`: `cols` or `rows` 0 is no error; nothing is written and the status is vonkOk.
+ * checked. `count` 0 gives vonkOk.
  *
  * Overlap:
- * `dst` may be `src` itself with the same strides or tables, and all is as before. Any other overlap behaves as the
- * forward walk, element by element: a `dst` that runs ahead of `src` sees new elements.
+ * Overlap is not checked. `dst` may be `src` (in place), with the same strides or tables. With any other overlap
+ * elements are copied one by one in ascending order, so that an element of `src` which `dst` has overwritten by then is
+ * read as overwritten.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - copy-other-table (result): vonkCopy_va_{32f,64f}_PP
+ *   The `src` table is never read. Both ends of the copy are found through the `dst` table: element j of object n comes
+ *   from dst[j] + `srcShift` + n * `srcObjStride` and goes to dst[j] + `dstShift` + n * `dstObjStride`.
+ * - copy-empty-matrix (status): vonkCopy_ma_{32f,64f}_??
+ *   `cols` or `rows` 0 is no error: nothing is written, and the status is vonkOk.
  */
 
 VonkStatus vonkCopy_va_32f_SS(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
@@ -11798,7 +12023,7 @@ VonkStatus vonkCopy_va_32f_SL(const float *src, int32_t srcObjStride, int32_t sr
 VonkStatus vonkCopy_va_32f_PS(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkCopy_va_32f_PP(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *const *dst,
-    int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+    int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count); /* exception: copy-other-table */
 VonkStatus vonkCopy_va_32f_PL(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *const *dst,
     int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkCopy_va_32f_LS(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
@@ -11817,7 +12042,7 @@ VonkStatus vonkCopy_va_64f_SL(const double *src, int32_t srcObjStride, int32_t s
 VonkStatus vonkCopy_va_64f_PS(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkCopy_va_64f_PP(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *const *dst,
-    int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
+    int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count); /* exception: copy-other-table */
 VonkStatus vonkCopy_va_64f_PL(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *const *dst,
     int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 VonkStatus vonkCopy_va_64f_LS(const double *const *src, int32_t srcShift, int32_t srcElemStride, double *dst,
@@ -11829,49 +12054,59 @@ VonkStatus vonkCopy_va_64f_LL(const double *const *src, int32_t srcShift, int32_
 
 VonkStatus vonkCopy_ma_32f_SS(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_32f_SP(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_32f_SL(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_32f_PS(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_32f_PP(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *const *dst,
     int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_32f_PL(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_32f_LS(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_32f_LP(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_32f_LL(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: copy-empty-matrix */
 
 VonkStatus vonkCopy_ma_64f_SS(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_64f_SP(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_64f_SL(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_64f_PS(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_64f_PP(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *const *dst,
     int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_64f_PL(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *const *dst,
     int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_64f_LS(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
     double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_64f_LP(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: copy-empty-matrix */
 VonkStatus vonkCopy_ma_64f_LL(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: copy-empty-matrix */
 
 /* ---- Extract --------------------------------------------------------------------------------------------------------
  *
@@ -11881,26 +12116,28 @@ VonkStatus vonkCopy_ma_64f_LL(const double *const *src, int32_t srcShift, int32_
  * - `m`, `ma`: dst[(n * `rows` + i) * `cols` + j] = src(n, i, j)
  * - `mT`, `maT`: dst[(n * `rows` + i) * `cols` + j] = src(n, j, i): `rows` and `cols` are those of the result
  *
- * A `float` is moved as the word that it is; a `double` goes through the 80-bit unit, so that a signalling NaN arrives
- * as a quiet one.
+ * A `float` is copied bit by bit; a `double` goes through the 80-bit unit, so that a signalling NaN arrives as a quiet
+ * one. There is no standard layout, no `maT` of `S2`, and no `mT` of `S2` in `64f`. vonkExtract_va of `S2` is
+ * vonkExtract_m of `S2` under a second name: an array of strided vectors lies like the rows of one strided matrix.
  *
- * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len`, `cols`, `rows` or `count` is 0. Entries of
- * tables and lists are not tested.
- *
- * Members that behave unlike their siblings:
- * - vonkExtract_maT of `PS2` does not transpose: it is vonkExtract_ma of `PS2` under a second name. (vonkExtract_va of
- *   `S2` is vonkExtract_m of `S2` in the same way, which is what its words say.)
- * - vonkExtract_mT of `P`: `rows` and `cols` are those of the table, dst[j * `rows` + i] is what entry i * `cols` + j
- *   points to, and `srcShift` is never added.
- * - vonkExtract_m and vonkExtract_mT of `P` and vonkExtract_v_64f_P test no pointer, and a size of 0 gives vonkOk
- *   (`m`: if `cols` * `rows` is 0 in 32 bits). vonkExtract_v_32f_P has the usual tests.
- * - There is no standard layout, no `maT` of `S2`, and no `mT` of `S2` in `64f`.
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len`, `cols` or `rows` is 0. Entries of tables and
+ * lists are not checked.
  *
  * Overlap:
- * Behaves as the forward walk, element by element: elements of `src` that lie under what is written already are new.
+ * Overlap is not checked. Elements are copied one by one in ascending order, so that an element of `src` which `dst`
+ * has overwritten by then is read as overwritten.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - extract-not-transposed (result): vonkExtract_maT_{32f,64f}_PS2
+ *   Does not transpose: it is vonkExtract_ma of `PS2` under a second name.
+ * - extract-table-shape (result): vonkExtract_mT_{32f,64f}_P
+ *   `rows` and `cols` are those of the table: dst[j * `rows` + i] is what entry i * `cols` + j points to.
+ * - extract-ignored-shift (arguments): vonkExtract_mT_{32f,64f}_P
+ *   `srcShift` is ignored.
+ * - extract-unchecked (checks): vonkExtract_{m_{32f,64f},mT_{32f,64f},v_64f}_P
+ *   No pointer is checked, and a size of 0 gives vonkOk; in `m` if `cols` * `rows` is 0 in 32 bits.
+ * - extract-count-zero (status): vonkExtract_{va,ma}_{32f,64f}_{S2,PS2,LS2} vonkExtract_maT_{32f,64f}_{PS2,LS2}
+ *   `count` 0 is vonkErrSize.
  */
 
 VonkStatus vonkExtract_v_32f_S2(const float *src, int32_t srcElemStride, float *dst, uint32_t len);
@@ -11908,379 +12145,453 @@ VonkStatus vonkExtract_v_32f_P(const float *const *src, int32_t srcShift, float 
 
 VonkStatus vonkExtract_v_64f_S2(const double *src, int32_t srcElemStride, double *dst, uint32_t len);
 VonkStatus vonkExtract_v_64f_P(const double *const *src, int32_t srcShift, double *dst, uint32_t len);
+    /* exception: extract-unchecked */
 
 VonkStatus vonkExtract_va_32f_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
-    uint32_t len, uint32_t count);
+    uint32_t len, uint32_t count); /* exception: extract-count-zero */
 VonkStatus vonkExtract_va_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t len, uint32_t count);
+    uint32_t len, uint32_t count); /* exception: extract-count-zero */
 VonkStatus vonkExtract_va_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcElemStride, float *dst,
-    uint32_t len, uint32_t count);
+    uint32_t len, uint32_t count); /* exception: extract-count-zero */
 
 VonkStatus vonkExtract_va_64f_S2(const double *src, int32_t srcObjStride, int32_t srcElemStride, double *dst,
-    uint32_t len, uint32_t count);
+    uint32_t len, uint32_t count); /* exception: extract-count-zero */
 VonkStatus vonkExtract_va_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
-    uint32_t len, uint32_t count);
+    uint32_t len, uint32_t count); /* exception: extract-count-zero */
 VonkStatus vonkExtract_va_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcElemStride, double *dst,
-    uint32_t len, uint32_t count);
+    uint32_t len, uint32_t count); /* exception: extract-count-zero */
 
 VonkStatus vonkExtract_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
     uint32_t cols, uint32_t rows);
 VonkStatus vonkExtract_m_32f_P(const float *const *src, int32_t srcShift, float *dst, uint32_t cols, uint32_t rows);
+    /* exception: extract-unchecked */
 
 VonkStatus vonkExtract_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
     uint32_t cols, uint32_t rows);
 VonkStatus vonkExtract_m_64f_P(const double *const *src, int32_t srcShift, double *dst, uint32_t cols, uint32_t rows);
+    /* exception: extract-unchecked */
 
 VonkStatus vonkExtract_mT_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
     uint32_t cols, uint32_t rows);
 VonkStatus vonkExtract_mT_32f_P(const float *const *src, int32_t srcShift, float *dst, uint32_t cols, uint32_t rows);
+    /* exceptions: extract-table-shape, extract-ignored-shift, extract-unchecked */
 
 VonkStatus vonkExtract_mT_64f_P(const double *const *src, int32_t srcShift, double *dst, uint32_t cols, uint32_t rows);
+    /* exceptions: extract-table-shape, extract-ignored-shift, extract-unchecked */
 
 VonkStatus vonkExtract_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
-    float *dst, uint32_t cols, uint32_t rows, uint32_t count);
+    float *dst, uint32_t cols, uint32_t rows, uint32_t count); /* exception: extract-count-zero */
 VonkStatus vonkExtract_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t cols, uint32_t rows, uint32_t count);
+    uint32_t cols, uint32_t rows, uint32_t count); /* exception: extract-count-zero */
 VonkStatus vonkExtract_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: extract-count-zero */
 
 VonkStatus vonkExtract_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
-    double *dst, uint32_t cols, uint32_t rows, uint32_t count);
+    double *dst, uint32_t cols, uint32_t rows, uint32_t count); /* exception: extract-count-zero */
 VonkStatus vonkExtract_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
-    uint32_t cols, uint32_t rows, uint32_t count);
+    uint32_t cols, uint32_t rows, uint32_t count); /* exception: extract-count-zero */
 VonkStatus vonkExtract_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *dst, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: extract-count-zero */
 
 VonkStatus vonkExtract_maT_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, float *dst,
-    uint32_t cols, uint32_t rows, uint32_t count);
+    uint32_t cols, uint32_t rows, uint32_t count); /* exceptions: extract-not-transposed, extract-count-zero */
 VonkStatus vonkExtract_maT_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: extract-count-zero */
 
 VonkStatus vonkExtract_maT_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, double *dst,
-    uint32_t cols, uint32_t rows, uint32_t count);
+    uint32_t cols, uint32_t rows, uint32_t count); /* exceptions: extract-not-transposed, extract-count-zero */
 VonkStatus vonkExtract_maT_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *dst, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: extract-count-zero */
 
 /* ---- LoadIdentity ---------------------------------------------------------------------------------------------------
  *
  * For each object n and each row i, in ascending order: columns 0 to `cols` - 1 of the row become 0, then column n *
- * `rows` + i becomes 1. That column runs on from object to object, so only `count` 1 makes an identity: in later
- * objects the ones fall beyond the columns of their row, on whatever lies there by the stride arithmetic, and zeros of
- * a later row may take a one away again. In `P` the one of row i goes through table entry i * `cols` + n * `rows` + i,
- * which lies beyond the table for all objects but the first.
+ * `rows` + i becomes 1. That column does not start again with each object, so only `count` 1 makes an identity: in
+ * later objects the ones lie past the columns of their row, wherever the strides lead, and zeros of a later row may
+ * overwrite a one. In `P` the one of row i goes through table entry i * `cols` + n * `rows` + i, which lies past the
+ * end of the table for all objects but the first.
  *
- * One letter at the end of a name is the layout: `S` strided (elsewhere `S2`), `P` strided pointer (`PS2`), `L`
- * strided list (`LS2`). `cols` and `rows` are signed (int32_t): with `rows` below 1 nothing is written, with `cols`
- * below 1 the ones are written all the same.
+ * One letter at the end of a name is the layout: `S` strided (elsewhere `S2`), `P` strided pointer (`PS2`), `L` strided
+ * list (`LS2`). `cols` and `rows` are signed (int32_t): with `rows` below 1 nothing is written, with `cols` below 1 the
+ * ones are written all the same.
  *
  * Strides that are too small are replaced, with no error: `dstElemStride` by the size of an element, `dstRowStride` by
- * `cols` times that (`S`, `L`), `dstObjStride` of `P` by the size of an element. They are compared as unsigned words,
- * so negative strides stand.
+ * `cols` times that (`S`, `L`), `dstObjStride` of `P` by the size of an element. They are compared as unsigned numbers,
+ * so negative strides are kept.
  *
- * Status: vonkErrNullPtr if `dst` is null; vonkErrSize if `count` is 0. `cols`, `rows` and entries of tables and lists
- * are not tested.
- *
- * Members that behave unlike their siblings:
- * - vonkLoadIdentity_ma_64f_L takes 4 for the least `dstElemStride`: with a smaller one its elements overlap.
+ * Status: vonkErrNullPtr if `dst` is null. `cols`, `rows` and entries of tables and lists are not checked.
  *
  * Overlap:
  * There is no source. Objects and rows that overlap are written one after the other.
  *
- * Read beyond the operands:
- * In `P`, entries behind the table's own, `rows` * `count` - `cols` of them if there are more rows in all than
- * columns; and they are written through, so leave valid ones there.
+ * Exceptions:
+ * - identity-element-stride (arguments): vonkLoadIdentity_ma_64f_L
+ *   The least `dstElemStride` is 4: with a smaller one elements overlap.
+ * - identity-count-zero (status): vonkLoadIdentity_ma_{32f,64f}_?
+ *   `count` 0 is vonkErrSize.
+ * - identity-past-table (reads): vonkLoadIdentity_ma_{32f,64f}_P
+ *   Entries past the end of the table are read, `rows` * `count` - `cols` of them if there are more rows in all than
+ *   columns. They are written through, so they must be valid.
  */
 
 VonkStatus vonkLoadIdentity_ma_32f_S(float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t cols, int32_t rows, uint32_t count);
+    int32_t cols, int32_t rows, uint32_t count); /* exception: identity-count-zero */
 VonkStatus vonkLoadIdentity_ma_32f_P(float *const *dst, int32_t dstShift, int32_t dstObjStride, int32_t cols,
-    int32_t rows, uint32_t count);
+    int32_t rows, uint32_t count); /* exceptions: identity-count-zero, identity-past-table */
 VonkStatus vonkLoadIdentity_ma_32f_L(float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t cols, int32_t rows, uint32_t count);
+    int32_t cols, int32_t rows, uint32_t count); /* exception: identity-count-zero */
 
 VonkStatus vonkLoadIdentity_ma_64f_S(double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t cols, int32_t rows, uint32_t count);
+    int32_t cols, int32_t rows, uint32_t count); /* exception: identity-count-zero */
 VonkStatus vonkLoadIdentity_ma_64f_P(double *const *dst, int32_t dstShift, int32_t dstObjStride, int32_t cols,
-    int32_t rows, uint32_t count);
+    int32_t rows, uint32_t count); /* exceptions: identity-count-zero, identity-past-table */
 VonkStatus vonkLoadIdentity_ma_64f_L(double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t cols, int32_t rows, uint32_t count);
+    int32_t cols, int32_t rows, uint32_t count); /* exceptions: identity-element-stride, identity-count-zero */
 
 /* ---- LU decomposition -----------------------------------------------------------------------------------------------
  *
  * vonkLUDecomp factors each matrix of `src`, `order` by `order`, into a unit lower and an upper triangular factor by
- * Gaussian elimination with partial pivoting. Rows are never moved: `pivots`, `order` row indices per object and
- * packed in every layout, tells that logical row k lies in row pivots[k] of `dst`. With p the block of an object,
- * element (p[i], j) of `dst` is the multiplier L(i, j) for j < i and U(i, j) for j >= i; the unit diagonal of L is not
- * stored, and A(p[i], j) is the sum over k of L(i, k) U(k, j).
+ * Gaussian elimination with partial pivoting. Rows are never moved: `pivots`, `order` row indices per object and packed
+ * in every layout, says that logical row k lies in row pivots[k] of `dst`. With p the block of an object, element
+ * (p[i], j) of `dst` is the multiplier L(i, j) for j < i and U(i, j) for j >= i; the unit diagonal of L is not stored,
+ * and A(p[i], j) is the sum over k of L(i, k) U(k, j).
  *
- * The pivot of a column is the element of largest magnitude, the first of equals. One below 2^-23 =
- * 1.1920928955078125e-7, an absolute number and the same for both types, ends the call with vonkErrSingular; so does a
- * NaN in its place. Method: Golub and Van Loan, Matrix Computations, "LU with partial pivoting", the outer-product
- * form with row indices in place of row exchanges.
+ * The pivot of a column is the element of largest magnitude, the first of equals. One below the singularity tolerance
+ * 2^-23 = 1.1920928955078125e-7, an absolute number and the same for both types, ends the call with vonkErrSingular; so
+ * does a NaN in its place. Method: Golub and Van Loan, Matrix Computations, "LU with partial pivoting", the
+ * outer-product form with row indices in place of row exchanges.
  *
  * Status: vonkErrNullPtr if `src`, `pivots` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a table
  * entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`); `count` 0
  * gives vonkOk. vonkErrSingular leaves the objects before the failing one complete, that one as far as it got (a
  * failure at the last pivot leaves it complete), and those after it untouched, in `dst` and in `pivots`.
  *
- * Members that behave unlike their siblings:
- * - Arrays: the test of the LAST pivot of object n looks n * `order` columns beyond it (see what is read). The last
- *   pivot of an object other than the first is thus not tested, and an innocent object fails if what lies there is too
- *   small.
- * - `64f`, 3x3 to 5x5: rows are updated with the unrounded quotient; run-time size and 6x6 use the stored multiplier.
- * - `64f`, candidates for the pivot come in pairs; if the first of a pair and the best so far are unordered (a NaN),
- *   3x3 to 5x5 take the candidate's position but not its value, run-time size and 6x6 take the value in `m` and value
- *   and position in `ma`. `32f` forms pass over a NaN.
- * - A zero multiplier is negated to +0 in `32f` and to -0 in `64f`.
- *
  * Overlap:
- * `dst` may be `src` itself, with the same strides or tables. A partial overlap behaves as the copy from `src` to
- * `dst` that each object begins with: element by element, forward. `pivots` must overlap neither.
+ * Overlap is not checked. `dst` may be `src` (in place), with the same strides or tables. A partial overlap behaves as
+ * the copy from `src` to `dst` that each object begins with: element by element, ascending. `pivots` must overlap
+ * neither.
  *
- * Read beyond the operands:
- * Arrays: with the last pivot of object n at row r of `dst`, one element is read n * `order` * element size bytes
- * behind it (standard and `L`), n * `order` * `dstElemStride` bytes behind it (`S2`, `LS2`), or through slot (r + n) *
- * `order` + `order` - 1 of the `dst` table (`P`, `PS2`). At the end of an array or table that lies beyond it: leave
- * readable memory there, and mind that its value decides over vonkErrSingular.
+ * Exceptions:
+ * - lu-unrounded-quotient (arithmetic): vonkLUDecomp_{m,ma}_64f_{3x3,4x4,5x5}*
+ *   Rows are updated with the unrounded quotient. Run-time size and 6x6 use the stored multiplier.
+ * - lu-nan-position (arithmetic): vonkLUDecomp_{m,ma}_64f_{3x3,4x4,5x5}*
+ *   Candidates for the pivot come in pairs. If the first of a pair and the best so far are unordered (one is a NaN),
+ *   the candidate's position is taken, but not its value. `32f` passes over a NaN.
+ * - lu-nan-value (arithmetic): vonkLUDecomp_m_64f{,_6x6}{,_S2,_P}
+ *   Candidates for the pivot come in pairs. If the first of a pair and the best so far are unordered (one is a NaN),
+ *   the candidate's value is taken, but not its position. `32f` passes over a NaN.
+ * - lu-nan-candidate (arithmetic): vonkLUDecomp_ma_64f{,_6x6}{,_S2,_P,_PS2,_L,_LS2}
+ *   Candidates for the pivot come in pairs. If the first of a pair and the best so far are unordered (one is a NaN),
+ *   the candidate's value and position are taken. `32f` passes over a NaN.
+ * - lu-zero-multiplier (arithmetic): vonkLUDecomp_{m,ma}_32f*
+ *   A zero multiplier is negated to +0. `64f` negates it to -0.
+ * - lu-displaced-last-pivot (status): vonkLUDecomp_ma_*
+ *   The check of the LAST pivot of object n reads the element n * `order` columns beyond it. The last pivot of an
+ *   object other than the first is thus not checked, and a regular object fails if what lies there is too small.
+ * - lu-reads-displaced-pivot (reads): vonkLUDecomp_ma_*
+ *   With the last pivot of object n at row r of `dst`, one element is read n * `order` * element size bytes after it
+ *   (standard and `L`), n * `order` * `dstElemStride` bytes after it (`S2`, `LS2`), or through entry (r + n) * `order`
+ *   + `order` - 1 of the `dst` table (`P`, `PS2`). This is past the end of an array or table for its last objects:
+ *   leave readable memory there, and mind that its value decides over vonkErrSingular.
  */
 
 VonkStatus vonkLUDecomp_m_32f(const float *src, int32_t srcRowStride, uint32_t *pivots, float *dst,
-    int32_t dstRowStride, uint32_t order);
+    int32_t dstRowStride, uint32_t order); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
-    float *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t order);
+    float *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t order); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
-    int32_t dstShift, uint32_t order);
+    int32_t dstShift, uint32_t order); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_3x3(const float *src, int32_t srcRowStride, uint32_t *pivots, float *dst,
-    int32_t dstRowStride);
+    int32_t dstRowStride); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
-    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+    float *dst, int32_t dstRowStride, int32_t dstElemStride); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_3x3_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
-    int32_t dstShift);
+    int32_t dstShift); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_4x4(const float *src, int32_t srcRowStride, uint32_t *pivots, float *dst,
-    int32_t dstRowStride);
+    int32_t dstRowStride); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
-    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+    float *dst, int32_t dstRowStride, int32_t dstElemStride); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_4x4_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
-    int32_t dstShift);
+    int32_t dstShift); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_5x5(const float *src, int32_t srcRowStride, uint32_t *pivots, float *dst,
-    int32_t dstRowStride);
+    int32_t dstRowStride); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
-    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+    float *dst, int32_t dstRowStride, int32_t dstElemStride); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_5x5_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
-    int32_t dstShift);
+    int32_t dstShift); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_6x6(const float *src, int32_t srcRowStride, uint32_t *pivots, float *dst,
-    int32_t dstRowStride);
+    int32_t dstRowStride); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
-    float *dst, int32_t dstRowStride, int32_t dstElemStride);
+    float *dst, int32_t dstRowStride, int32_t dstElemStride); /* exception: lu-zero-multiplier */
 VonkStatus vonkLUDecomp_m_32f_6x6_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
-    int32_t dstShift);
+    int32_t dstShift); /* exception: lu-zero-multiplier */
 
 VonkStatus vonkLUDecomp_m_64f(const double *src, int32_t srcRowStride, uint32_t *pivots, double *dst,
-    int32_t dstRowStride, uint32_t order);
+    int32_t dstRowStride, uint32_t order); /* exception: lu-nan-value */
 VonkStatus vonkLUDecomp_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
-    double *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t order);
+    double *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t order); /* exception: lu-nan-value */
 VonkStatus vonkLUDecomp_m_64f_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
-    int32_t dstShift, uint32_t order);
+    int32_t dstShift, uint32_t order); /* exception: lu-nan-value */
 VonkStatus vonkLUDecomp_m_64f_3x3(const double *src, int32_t srcRowStride, uint32_t *pivots, double *dst,
-    int32_t dstRowStride);
+    int32_t dstRowStride); /* exceptions: lu-unrounded-quotient, lu-nan-position */
 VonkStatus vonkLUDecomp_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
-    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+    double *dst, int32_t dstRowStride, int32_t dstElemStride); /* exceptions: lu-unrounded-quotient, lu-nan-position */
 VonkStatus vonkLUDecomp_m_64f_3x3_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
-    int32_t dstShift);
+    int32_t dstShift); /* exceptions: lu-unrounded-quotient, lu-nan-position */
 VonkStatus vonkLUDecomp_m_64f_4x4(const double *src, int32_t srcRowStride, uint32_t *pivots, double *dst,
-    int32_t dstRowStride);
+    int32_t dstRowStride); /* exceptions: lu-unrounded-quotient, lu-nan-position */
 VonkStatus vonkLUDecomp_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
-    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+    double *dst, int32_t dstRowStride, int32_t dstElemStride); /* exceptions: lu-unrounded-quotient, lu-nan-position */
 VonkStatus vonkLUDecomp_m_64f_4x4_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
-    int32_t dstShift);
+    int32_t dstShift); /* exceptions: lu-unrounded-quotient, lu-nan-position */
 VonkStatus vonkLUDecomp_m_64f_5x5(const double *src, int32_t srcRowStride, uint32_t *pivots, double *dst,
-    int32_t dstRowStride);
+    int32_t dstRowStride); /* exceptions: lu-unrounded-quotient, lu-nan-position */
 VonkStatus vonkLUDecomp_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
-    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+    double *dst, int32_t dstRowStride, int32_t dstElemStride); /* exceptions: lu-unrounded-quotient, lu-nan-position */
 VonkStatus vonkLUDecomp_m_64f_5x5_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
-    int32_t dstShift);
+    int32_t dstShift); /* exceptions: lu-unrounded-quotient, lu-nan-position */
 VonkStatus vonkLUDecomp_m_64f_6x6(const double *src, int32_t srcRowStride, uint32_t *pivots, double *dst,
-    int32_t dstRowStride);
+    int32_t dstRowStride); /* exception: lu-nan-value */
 VonkStatus vonkLUDecomp_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t *pivots,
-    double *dst, int32_t dstRowStride, int32_t dstElemStride);
+    double *dst, int32_t dstRowStride, int32_t dstElemStride); /* exception: lu-nan-value */
 VonkStatus vonkLUDecomp_m_64f_6x6_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
-    int32_t dstShift);
+    int32_t dstShift); /* exception: lu-nan-value */
 
 VonkStatus vonkLUDecomp_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t order, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     uint32_t *pivots, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t order,
-    uint32_t count);
+    uint32_t count); /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
     int32_t dstShift, uint32_t order, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t *pivots,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t order, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t order, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t order, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, float *dst, int32_t dstObjStride, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_3x3_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
     int32_t dstShift, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
     uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, float *dst, int32_t dstObjStride, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_4x4_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
     int32_t dstShift, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
     uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, float *dst, int32_t dstObjStride, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_5x5_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
     int32_t dstShift, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
     uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, float *dst, int32_t dstObjStride, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_6x6_P(const float *const *src, int32_t srcShift, uint32_t *pivots, float *const *dst,
     int32_t dstShift, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
     uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, float *const *dst, int32_t dstShift, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-zero-multiplier, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 
 VonkStatus vonkLUDecomp_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
     double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t order, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     uint32_t *pivots, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t order,
-    uint32_t count);
+    uint32_t count); /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
     int32_t dstShift, uint32_t order, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t *pivots,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t order, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t order, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t order, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
     double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, double *dst, int32_t dstObjStride, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_3x3_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
     int32_t dstShift, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
     uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
     double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, double *dst, int32_t dstObjStride, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_4x4_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
     int32_t dstShift, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
     uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
     double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, double *dst, int32_t dstObjStride, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_5x5_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
     int32_t dstShift, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
     uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-unrounded-quotient, lu-nan-position, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t *pivots,
     double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, double *dst, int32_t dstObjStride, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_6x6_P(const double *const *src, int32_t srcShift, uint32_t *pivots, double *const *dst,
     int32_t dstShift, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
     uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t *pivots,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 VonkStatus vonkLUDecomp_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, uint32_t *pivots, double *const *dst, int32_t dstShift, int32_t dstRowStride,
     int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-nan-candidate, lu-displaced-last-pivot, lu-reads-displaced-pivot */
 
 /* ---- LU back substitution -------------------------------------------------------------------------------------------
  *
- * vonkLUBackSubst solves A x = b with what vonkLUDecomp left: `src1` the factors in their unpermuted rows, `pivots`
- * the permutation, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system;
- * `mva` one factored matrix with its `pivots` for `count` right-hand sides; `mava` a factored matrix and `order`
- * pivots per object.
+ * vonkLUBackSubst solves A x = b with what vonkLUDecomp left: `src1` the factors in their unpermuted rows, `pivots` the
+ * permutation, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system; `mva`
+ * one factored matrix with its `pivots` for `count` right-hand sides; `mava` a factored matrix and `order` pivots per
+ * object.
  *
  * Forward: x(i) = b(p[i]) - s, s the sum of A(p[i], j) x(j) over j < i. Backward, from the last row up: x(i) = (x(i) -
- * s) / A(p[i], i), s the sum over j > i. Sums grow from 0 in ascending j, divisions are true divisions, and x is its
- * own scratch space. Entries of `pivots` are trusted to be below `order`. Method: Golub and Van Loan, Matrix
+ * s) / A(p[i], i), s the sum over j > i. Sums start at 0 and run in ascending j, divisions are true divisions, and x is
+ * its own workspace. Entries of `pivots` are trusted to be below `order`. Method: Golub and Van Loan, Matrix
  * Computations, "Triangular systems", the row-oriented form.
  *
- * Status: vonkErrNullPtr if `src1`, `pivots`, `src2` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if
- * a table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`);
- * `count` 0 gives vonkOk. The numbers are not tested: a zero pivot divides through to an infinity or a NaN with
+ * Status: vonkErrNullPtr if `src1`, `pivots`, `src2` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a
+ * table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`);
+ * `count` 0 gives vonkOk. The numbers are not checked: division by a zero pivot gives an infinity or a NaN, with
  * vonkOk.
  *
- * Members that behave unlike their siblings:
- * - `mva` in the standard layout, `S2`, `L` and `LS2` has a word behind `src1` (`src1ObjStride` or `src1Shift`) that
- *   is accepted and never read, so that `mva` and `mava` have one parameter list. In `L` and `LS2` `src1` is a plain
- *   pointer.
- * - `mva` of `64f` in `L`, of every size, steps through the columns of `src1` by 4 bytes: element (i, j) is the double
- *   at i * `src1RowStride` + j * 4. `LS2` and all other forms step by the element.
- * - `64f` sums: array forms of fixed size, but for `L` and `LS2`, never round them; all other forms round a sum to 64
- *   bits after its pairs of terms, and again after an odd last term. At 53-bit precision there is no difference but in
- *   range.
- *
  * Overlap:
- * `dst` must not be `src2` unless the permutation is the identity: x(i) is written while b(p[i]) of later rows is
- * still needed. Nothing tests overlap; sweeps read what memory holds by then.
+ * Overlap is not checked; the sweeps read what memory holds by then. `dst` must not be `src2` unless the permutation is
+ * the identity: x(i) is written while b(p[i]) of later rows is still needed.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - lu-solve-wide-sums (arithmetic): vonkLUBackSubst_{mva,mava}_64f_?x?{,_S2,_P,_PS2}
+ *   Sums are never rounded. All other forms of `64f` round a sum to 64 bits after its pairs of terms, and again after
+ *   an odd last term. At 53-bit precision the difference is one of range alone.
+ * - lu-solve-column-step (result): vonkLUBackSubst_mva_64f{,_?x?}_L
+ *   The columns of `src1` are taken to lie 4 bytes apart: element (i, j) is the double at i * `src1RowStride` + j * 4.
+ *   `LS2` and all other forms step by the element.
+ * - lu-solve-ignored-argument (arguments): vonkLUBackSubst_mva_{32f,64f}{,_?x?}{,_S2,_L,_LS2}
+ *   The argument after `src1` (`src1ObjStride`, in `L` and `LS2` `src1Shift`) is ignored, so that `mva` and `mava` have
+ *   one parameter list. In `L` and `LS2` `src1` is a plain pointer.
  */
 
 VonkStatus vonkLUBackSubst_mv_32f(const float *src1, int32_t src1RowStride, const uint32_t *pivots, const float *src2,
@@ -12349,10 +12660,11 @@ VonkStatus vonkLUBackSubst_mv_64f_6x6_P(const double *const *src1, int32_t src1S
 
 VonkStatus vonkLUBackSubst_mva_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t order,
-    uint32_t count);
+    uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t order, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_32f_PS2(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
@@ -12360,15 +12672,17 @@ VonkStatus vonkLUBackSubst_mva_32f_PS2(const float *const *src1, int32_t src1Shi
     int32_t dstObjStride, uint32_t order, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_32f_L(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
-    uint32_t order, uint32_t count);
+    uint32_t order, uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t order, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
-    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_3x3_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
@@ -12376,15 +12690,17 @@ VonkStatus vonkLUBackSubst_mva_32f_3x3_PS2(const float *const *src1, int32_t src
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_32f_3x3_L(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
-    uint32_t count);
+    uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_3x3_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
-    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_4x4_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
@@ -12392,15 +12708,17 @@ VonkStatus vonkLUBackSubst_mva_32f_4x4_PS2(const float *const *src1, int32_t src
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_32f_4x4_L(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
-    uint32_t count);
+    uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_4x4_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
-    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_5x5_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
@@ -12408,15 +12726,17 @@ VonkStatus vonkLUBackSubst_mva_32f_5x5_PS2(const float *const *src1, int32_t src
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_32f_5x5_L(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
-    uint32_t count);
+    uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_5x5_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
-    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_6x6_P(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const uint32_t *pivots,
@@ -12424,17 +12744,19 @@ VonkStatus vonkLUBackSubst_mva_32f_6x6_PS2(const float *const *src1, int32_t src
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_32f_6x6_L(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift,
-    uint32_t count);
+    uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_32f_6x6_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 
 VonkStatus vonkLUBackSubst_mva_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
-    uint32_t order, uint32_t count);
+    uint32_t order, uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t order, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_64f_PS2(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
@@ -12442,79 +12764,91 @@ VonkStatus vonkLUBackSubst_mva_64f_PS2(const double *const *src1, int32_t src1Sh
     int32_t dstObjStride, uint32_t order, uint32_t count);
 VonkStatus vonkLUBackSubst_mva_64f_L(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
-    uint32_t order, uint32_t count);
+    uint32_t order, uint32_t count); /* exceptions: lu-solve-column-step, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
     int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t order,
-    uint32_t count);
+    uint32_t count); /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: lu-solve-wide-sums, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-solve-wide-sums, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_3x3_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mva_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mva_64f_3x3_L(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
-    uint32_t count);
+    uint32_t count); /* exceptions: lu-solve-column-step, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_3x3_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
     int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: lu-solve-wide-sums, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-solve-wide-sums, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_4x4_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mva_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mva_64f_4x4_L(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
-    uint32_t count);
+    uint32_t count); /* exceptions: lu-solve-column-step, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_4x4_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
     int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: lu-solve-wide-sums, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-solve-wide-sums, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_5x5_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mva_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mva_64f_5x5_L(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
-    uint32_t count);
+    uint32_t count); /* exceptions: lu-solve-column-step, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_5x5_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
     int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exceptions: lu-solve-wide-sums, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    /* exceptions: lu-solve-wide-sums, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_6x6_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mva_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, uint32_t count);
+    int32_t dstObjStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mva_64f_6x6_L(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
-    uint32_t count);
+    uint32_t count); /* exceptions: lu-solve-column-step, lu-solve-ignored-argument */
 VonkStatus vonkLUBackSubst_mva_64f_6x6_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *const *src2, int32_t src2Shift,
     int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: lu-solve-ignored-argument */
 
 VonkStatus vonkLUBackSubst_mava_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t order,
@@ -12618,15 +12952,16 @@ VonkStatus vonkLUBackSubst_mava_64f_LS2(const double *const *src1, int32_t src1S
     uint32_t count);
 VonkStatus vonkLUBackSubst_mava_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
-    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_3x3_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
-    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
     uint32_t count);
@@ -12635,15 +12970,16 @@ VonkStatus vonkLUBackSubst_mava_64f_3x3_LS2(const double *const *src1, int32_t s
     int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkLUBackSubst_mava_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
-    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_4x4_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
-    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
     uint32_t count);
@@ -12652,15 +12988,16 @@ VonkStatus vonkLUBackSubst_mava_64f_4x4_LS2(const double *const *src1, int32_t s
     int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkLUBackSubst_mava_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
-    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_5x5_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
-    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
     uint32_t count);
@@ -12669,15 +13006,16 @@ VonkStatus vonkLUBackSubst_mava_64f_5x5_LS2(const double *const *src1, int32_t s
     int32_t src2ElemStride, double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkLUBackSubst_mava_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const uint32_t *pivots, const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride,
-    uint32_t count);
+    uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const uint32_t *pivots, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
-    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_6x6_P(const double *const *src1, int32_t src1Shift, const uint32_t *pivots,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst,
-    int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: lu-solve-wide-sums */
 VonkStatus vonkLUBackSubst_mava_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const uint32_t *pivots, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift,
     uint32_t count);
@@ -12691,50 +13029,50 @@ VonkStatus vonkLUBackSubst_mava_64f_6x6_LS2(const double *const *src1, int32_t s
  *
  * `dst` is packed in every layout: one element per object, without a stride. A singular matrix is no failure.
  *
- * Run-time size: Gaussian elimination with partial pivoting in `scratch`, which is `order` * `order` elements and
- * behind them `order` 32-bit integers, at any address that suits an element; one `scratch` serves all objects of a
- * call, and its contents are of no use afterwards. The pivot of a column is the element of largest magnitude, the
- * first of equals. One below 2^-23 = 1.1920928955078125e-7 (`32f`) or 2^-52 = 2.220446049250313e-16 (`64f`), absolute
- * numbers both, or a NaN, makes the determinant 0; so does a last pivot that is not ABOVE that. The product of the
- * pivots grows in the result's cell, which follows every column. Method: Golub and Van Loan, Matrix Computations, "LU
- * with partial pivoting", the outer-product form with row indices in place of row exchanges.
+ * Run-time size: Gaussian elimination with partial pivoting in `scratch`, a workspace of `order` * `order` elements
+ * followed by `order` 32-bit integers, at any address that suits an element; one `scratch` serves all objects of a
+ * call, and its contents are of no use afterwards. The pivot of a column is the element of largest magnitude, the first
+ * of equals. One below the singularity tolerance 2^-23 = 1.1920928955078125e-7 (`32f`) or 2^-52 = 2.220446049250313e-16
+ * (`64f`), absolute numbers both, or a NaN, makes the determinant 0; so does a last pivot that is not ABOVE that. The
+ * partial products of the pivots are stored to `dst` after every column. Method: Golub and Van Loan, Matrix
+ * Computations, "LU with partial pivoting", the outer-product form with row indices in place of row exchanges.
  *
- * Fixed size: no division, no test, no `scratch`. Minors of the last two rows come first, each level of larger minors
- * is built on the one below, and row 0 comes last. A singular matrix gives 0 as far as rounding lets it. The standard
- * layout and `L` work both types in 80 bits and round once, at the result; in `S2`, `P`, `PS2` and `LS2` each
+ * Fixed size: no division, no tolerance, no `scratch`. Minors of the last two rows come first, each level of larger
+ * minors is built on the one below, and row 0 comes last. A singular matrix gives 0 as far as rounding lets it. The
+ * standard layout and `L` work both types in 80 bits and round once, at the result; in `S2`, `P`, `PS2` and `LS2` each
  * operation of `32f` is rounded to float, so that a `32f` determinant may differ in its last place between layouts.
  * With a(i,j) for the elements, 3x3 is
- * - `32f`, standard layout and `L`:
- *   (a20 a12 - a10 a22) a01 + (a21 a10 - a20 a11) a02 + (a11 a22 - a12 a21) a00
- * - `64f`, standard layout and `L`:
- *   (a12 a01 - a11 a02) a20 + (a11 a22 - a12 a21) a00 + (a21 a02 - a01 a22) a10
- * - all others:
- *   (a11 a22 - a21 a12) a00 + (a12 a20 - a22 a10) a01 + (a10 a21 - a20 a11) a02
- * and how larger sums are grouped is not promised.
+ * - `32f`, standard layout and `L`: (a20 a12 - a10 a22) a01 + (a21 a10 - a20 a11) a02 + (a11 a22 - a12 a21) a00
+ * - `64f`, standard layout and `L`: (a12 a01 - a11 a02) a20 + (a11 a22 - a12 a21) a00 + (a21 a02 - a01 a22) a10
+ * - all others: (a11 a22 - a21 a12) a00 + (a12 a20 - a22 a10) a01 + (a10 a21 - a20 a11) a02
+ *
+ * How larger sums are grouped is not promised.
  *
  * Status: vonkErrNullPtr if `src`, `scratch` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if a table
  * entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`), the
- * determinants of earlier objects being in place; `count` 0 gives vonkOk.
- *
- * Members that behave unlike their siblings:
- * - `64f` of run-time size keeps the magnitude of the best pivot so far as a float: of candidates that agree in that
- *   precision, its rounding decides.
- * - Arrays of run-time size go on behind a pivot that is too small: the 0 is still multiplied by the last pivot, such
- *   as it is then, and may become -0, or NaN if that is infinite.
- * - vonkDet_m of run-time size in `P` tests table entries one by one as it fills `scratch`.
+ * determinants of earlier objects being stored; `count` 0 gives vonkOk.
  *
  * Overlap:
- * Run-time size copies a matrix to `scratch` first, so `dst` may lie in it; fixed sizes read all of it before they
- * store. In arrays, `dst` must not lie in matrices that are yet to come. `scratch` must overlap nothing.
+ * Overlap is not checked. Run-time size copies a matrix to `scratch` first, so `dst` may be an element of it; fixed
+ * sizes read all of a matrix before they store. In arrays, `dst` must not overlap later matrices. `scratch` must
+ * overlap nothing.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - det-float-search (arithmetic): vonkDet_{m_64f{,_S2,_P},ma_64f{,_S2,_P,_PS2,_L,_LS2}}
+ *   The search keeps the magnitude of the best pivot so far as a float: between candidates that agree in that
+ *   precision, its rounding decides.
+ * - det-zero-multiplied (arithmetic): vonkDet_ma_{32f,64f}{,_S2,_P,_PS2,_L,_LS2}
+ *   After a pivot that is too small the 0 is still multiplied by the last pivot, whatever that is by then: it may
+ *   become -0, or NaN if that pivot is infinite.
+ * - det-entry-by-entry (checks): vonkDet_m_{32f,64f}_P
+ *   Table entries are checked one by one, as `scratch` is filled.
  */
 
 VonkStatus vonkDet_m_32f(const float *src, int32_t srcRowStride, uint32_t order, void *scratch, float *dst);
 VonkStatus vonkDet_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
     void *scratch, float *dst);
 VonkStatus vonkDet_m_32f_P(const float *const *src, int32_t srcShift, uint32_t order, void *scratch, float *dst);
+    /* exception: det-entry-by-entry */
 VonkStatus vonkDet_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst);
 VonkStatus vonkDet_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst);
 VonkStatus vonkDet_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *dst);
@@ -12749,9 +13087,11 @@ VonkStatus vonkDet_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t 
 VonkStatus vonkDet_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *dst);
 
 VonkStatus vonkDet_m_64f(const double *src, int32_t srcRowStride, uint32_t order, void *scratch, double *dst);
+    /* exception: det-float-search */
 VonkStatus vonkDet_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
-    void *scratch, double *dst);
+    void *scratch, double *dst); /* exception: det-float-search */
 VonkStatus vonkDet_m_64f_P(const double *const *src, int32_t srcShift, uint32_t order, void *scratch, double *dst);
+    /* exceptions: det-float-search, det-entry-by-entry */
 VonkStatus vonkDet_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst);
 VonkStatus vonkDet_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst);
 VonkStatus vonkDet_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *dst);
@@ -12766,17 +13106,17 @@ VonkStatus vonkDet_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t
 VonkStatus vonkDet_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *dst);
 
 VonkStatus vonkDet_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order, void *scratch,
-    float *dst, uint32_t count);
+    float *dst, uint32_t count); /* exception: det-zero-multiplied */
 VonkStatus vonkDet_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
-    uint32_t order, void *scratch, float *dst, uint32_t count);
+    uint32_t order, void *scratch, float *dst, uint32_t count); /* exception: det-zero-multiplied */
 VonkStatus vonkDet_ma_32f_P(const float *const *src, int32_t srcShift, uint32_t order, void *scratch, float *dst,
-    uint32_t count);
+    uint32_t count); /* exception: det-zero-multiplied */
 VonkStatus vonkDet_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
-    void *scratch, float *dst, uint32_t count);
+    void *scratch, float *dst, uint32_t count); /* exception: det-zero-multiplied */
 VonkStatus vonkDet_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
-    void *scratch, float *dst, uint32_t count);
+    void *scratch, float *dst, uint32_t count); /* exception: det-zero-multiplied */
 VonkStatus vonkDet_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
-    uint32_t order, void *scratch, float *dst, uint32_t count);
+    uint32_t order, void *scratch, float *dst, uint32_t count); /* exception: det-zero-multiplied */
 VonkStatus vonkDet_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst, uint32_t count);
 VonkStatus vonkDet_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, uint32_t count);
@@ -12819,17 +13159,17 @@ VonkStatus vonkDet_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int
     int32_t srcElemStride, float *dst, uint32_t count);
 
 VonkStatus vonkDet_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order, void *scratch,
-    double *dst, uint32_t count);
+    double *dst, uint32_t count); /* exceptions: det-float-search, det-zero-multiplied */
 VonkStatus vonkDet_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
-    uint32_t order, void *scratch, double *dst, uint32_t count);
+    uint32_t order, void *scratch, double *dst, uint32_t count); /* exceptions: det-float-search, det-zero-multiplied */
 VonkStatus vonkDet_ma_64f_P(const double *const *src, int32_t srcShift, uint32_t order, void *scratch, double *dst,
-    uint32_t count);
+    uint32_t count); /* exceptions: det-float-search, det-zero-multiplied */
 VonkStatus vonkDet_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride, uint32_t order,
-    void *scratch, double *dst, uint32_t count);
+    void *scratch, double *dst, uint32_t count); /* exceptions: det-float-search, det-zero-multiplied */
 VonkStatus vonkDet_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, uint32_t order,
-    void *scratch, double *dst, uint32_t count);
+    void *scratch, double *dst, uint32_t count); /* exceptions: det-float-search, det-zero-multiplied */
 VonkStatus vonkDet_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride, int32_t srcElemStride,
-    uint32_t order, void *scratch, double *dst, uint32_t count);
+    uint32_t order, void *scratch, double *dst, uint32_t count); /* exceptions: det-float-search, det-zero-multiplied */
 VonkStatus vonkDet_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
     uint32_t count);
 VonkStatus vonkDet_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
@@ -12877,48 +13217,53 @@ VonkStatus vonkDet_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, in
 
 /* ---- Inverse --------------------------------------------------------------------------------------------------------
  *
- * dst(n) = inverse of src(n), by one of three methods, each with its own test for a singular matrix: what one of them
- * finds singular, another may invert. vonkErrSingular ends the call at once: earlier objects are complete, the failing
- * one and later ones untouched.
+ * dst(n) = inverse of src(n), by one of three methods, each with its own criterion for a singular matrix: what one of
+ * them finds singular, another may invert. vonkErrSingular ends the call at once: earlier objects are complete, the
+ * failing one and later ones untouched. The inverses of 4x4 to 6x6 are right to rounding, but not promised bit for bit.
  *
  * Run-time size: the adjugate over the determinant. Determinant D and the minor m of every element come from
  * eliminations in `scratch`, as in vonkDet and with its tolerances: 2^-23 (`32f`), 2^-52 (`64f`). A pivot below, or a
  * last pivot not above, is vonkErrSingular for D and makes a minor 0. dst(q, c) = (m(c, q) (1 / D)) (+1 or -1), so the
- * inverse of a diagonal matrix has -0 in places. The work grows with the fifth power of `order`. `scratch` is `order`
- * * `order` elements and behind them `order` 32-bit integers, one for all objects. `order` 1 gives 1 / D, which is not
- * promised. Method: Cramer's rule.
+ * inverse of a diagonal matrix has -0 in places. The work grows with the fifth power of `order`. `scratch` is a
+ * workspace of `order` * `order` elements followed by `order` 32-bit integers, one for all objects. `order` 1 gives 1 /
+ * D, which is not promised. Method: Cramer's rule.
  *
  * 3x3 and 4x4: D is the sum of row 0's elements times their cofactors, dst(q, c) = cofactor(c, q) r with r = 1 / D.
  * Singular is -1e-7 < D < 1e-7 (`32f`) or -1e-15 < D < 1e-15 (`64f`), the ends and a NaN excluded.
  *
  * 5x5 and 6x6: block inversion. Three columns (5x5: two) are brought to the front, the k-th such that the minor of the
  * first k rows on the columns chosen is largest in magnitude. The leading block and its Schur complement are inverted
- * as above, and each determinant is tested as above: a regular matrix whose leading block is close to singular fails.
+ * as above, and each determinant is checked as above: a regular matrix whose leading block is close to singular fails.
  * Columns 0 to 4 are candidates. Method: Golub and Van Loan, Matrix Computations, "block elimination"; Press et al.,
  * Numerical Recipes, "inversion by partitioning".
  *
  * Status: vonkErrNullPtr if `src`, `scratch` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNullPtr if an entry
  * of the `src` or `dst` table is null, even at `count` 0 (`P`, `PS2`), or, at run-time size, a list entry when the
- * object's turn comes (`L`, `LS2`); `count` 0 gives vonkOk; vonkErrSingular as told.
- *
- * Members that behave unlike their siblings:
- * - `32f` of fixed size in the standard layout and `L` makes r from the processor's estimate, x, and one Newton step:
- *   x + x - (D x) x in 3x3, x + x - D (x x) in the others.
- * - Of these, 3x3 and 4x4 find only a D of exactly 0 singular: one of 1e-30 gives huge numbers.
- * - Of these, 5x5 and 6x6 work through `dst`: a failure of the second block leaves it partly written. In 6x6, column 5
- *   is a candidate as well: where row 0 is zero but for column 5, all other 6x6 forms find a regular matrix singular.
- * - Lists of fixed size: in `32f` `L` no entry is ever tested; in `64f` `L` and in `LS2` all of them are, ahead of the
- *   first object.
- * - vonkInvert_m of run-time size in `P` tests table entries one by one as it fills `scratch`.
- * - 4x4 to 6x6, and r of the forms that estimate it, are right to rounding, but not promised bit for bit.
+ * object's turn comes (`L`, `LS2`); `count` 0 gives vonkOk; vonkErrSingular, see above.
  *
  * Overlap:
- * Run-time size reads `src` to the end: `dst` must not overlap it. Fixed sizes read a matrix whole before they store,
- * except that 5x5 and 6x6 of `32f` in the standard layout and `L` leave the matrix changed where they fail in place.
- * In arrays, no object may lie under the result of an earlier one. `scratch` must overlap nothing.
+ * Overlap is not checked. Run-time size reads `src` to the end: `dst` must not overlap it. Fixed sizes read a matrix
+ * whole before they store, except that 5x5 and 6x6 of `32f` in the standard layout and `L` leave the matrix changed
+ * where they fail in place. In arrays, no object may overlap the result of an earlier one. `scratch` must overlap
+ * nothing.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - inverse-estimate (arithmetic): vonkInvert_{m_32f_?x?,ma_32f_?x?{,_L}}
+ *   r comes from the processor's estimate of 1 / D, x, and one Newton step: x + x - (D x) x in 3x3, x + x - D (x x) in
+ *   the others. It is right to rounding, but not promised bit for bit.
+ * - inverse-unchecked-entries (checks): vonkInvert_ma_32f_?x?_L
+ *   List entries are not checked; a null entry is followed.
+ * - inverse-entries-first (checks): vonkInvert_ma_64f_?x?_L vonkInvert_ma_{32f,64f}_?x?_LS2
+ *   All list entries are checked before the first object.
+ * - inverse-entry-by-entry (checks): vonkInvert_m_{32f,64f}_P
+ *   Table entries are checked one by one, as `scratch` is filled.
+ * - inverse-exact-zero (status): vonkInvert_{m_32f_{3x3,4x4},ma_32f_{3x3,4x4}{,_L}}
+ *   A matrix is singular only if D is exactly 0: a D of 1e-30 gives huge numbers.
+ * - inverse-column-5 (status): vonkInvert_{m_32f_6x6,ma_32f_6x6{,_L}}
+ *   Column 5 is a candidate as well. Where row 0 is zero but for column 5, all other 6x6 forms find a regular matrix
+ *   singular.
+ * - inverse-partly-written (status): vonkInvert_{m_32f_{5x5,6x6},ma_32f_{5x5,6x6}{,_L}}
+ *   Intermediate results are stored in `dst`: a failure of the second block leaves it partly written.
  */
 
 VonkStatus vonkInvert_m_32f(const float *src, int32_t srcRowStride, uint32_t order, void *scratch, float *dst,
@@ -12926,20 +13271,24 @@ VonkStatus vonkInvert_m_32f(const float *src, int32_t srcRowStride, uint32_t ord
 VonkStatus vonkInvert_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
     void *scratch, float *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkInvert_m_32f_P(const float *const *src, int32_t srcShift, uint32_t order, void *scratch,
-    float *const *dst, int32_t dstShift);
+    float *const *dst, int32_t dstShift); /* exception: inverse-entry-by-entry */
 VonkStatus vonkInvert_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+    /* exceptions: inverse-estimate, inverse-exact-zero */
 VonkStatus vonkInvert_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkInvert_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
 VonkStatus vonkInvert_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+    /* exceptions: inverse-estimate, inverse-exact-zero */
 VonkStatus vonkInvert_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkInvert_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
 VonkStatus vonkInvert_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+    /* exceptions: inverse-estimate, inverse-partly-written */
 VonkStatus vonkInvert_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkInvert_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
 VonkStatus vonkInvert_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
+    /* exceptions: inverse-estimate, inverse-column-5, inverse-partly-written */
 VonkStatus vonkInvert_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
     int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkInvert_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift);
@@ -12949,7 +13298,7 @@ VonkStatus vonkInvert_m_64f(const double *src, int32_t srcRowStride, uint32_t or
 VonkStatus vonkInvert_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t order,
     void *scratch, double *dst, int32_t dstRowStride, int32_t dstElemStride);
 VonkStatus vonkInvert_m_64f_P(const double *const *src, int32_t srcShift, uint32_t order, void *scratch,
-    double *const *dst, int32_t dstShift);
+    double *const *dst, int32_t dstShift); /* exception: inverse-entry-by-entry */
 VonkStatus vonkInvert_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
 VonkStatus vonkInvert_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
     int32_t dstRowStride, int32_t dstElemStride);
@@ -12982,7 +13331,7 @@ VonkStatus vonkInvert_ma_32f_LS2(const float *const *src, int32_t srcShift, int3
     uint32_t order, void *scratch, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t count);
 VonkStatus vonkInvert_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exceptions: inverse-estimate, inverse-exact-zero */
 VonkStatus vonkInvert_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkInvert_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
@@ -12991,11 +13340,12 @@ VonkStatus vonkInvert_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, 
     int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkInvert_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: inverse-estimate, inverse-unchecked-entries, inverse-exact-zero */
 VonkStatus vonkInvert_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exception: inverse-entries-first */
 VonkStatus vonkInvert_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
-    int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstRowStride, uint32_t count); /* exceptions: inverse-estimate, inverse-exact-zero */
 VonkStatus vonkInvert_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkInvert_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
@@ -13004,11 +13354,13 @@ VonkStatus vonkInvert_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, 
     int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkInvert_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: inverse-estimate, inverse-unchecked-entries, inverse-exact-zero */
 VonkStatus vonkInvert_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exception: inverse-entries-first */
 VonkStatus vonkInvert_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: inverse-estimate, inverse-partly-written */
 VonkStatus vonkInvert_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkInvert_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
@@ -13017,11 +13369,13 @@ VonkStatus vonkInvert_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, 
     int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkInvert_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: inverse-estimate, inverse-unchecked-entries, inverse-partly-written */
 VonkStatus vonkInvert_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exception: inverse-entries-first */
 VonkStatus vonkInvert_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
+    /* exceptions: inverse-estimate, inverse-column-5, inverse-partly-written */
 VonkStatus vonkInvert_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride,
     float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 VonkStatus vonkInvert_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
@@ -13030,9 +13384,10 @@ VonkStatus vonkInvert_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, 
     int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkInvert_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride, float *const *dst,
     int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    /* exceptions: inverse-estimate, inverse-unchecked-entries, inverse-column-5, inverse-partly-written */
 VonkStatus vonkInvert_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exception: inverse-entries-first */
 
 VonkStatus vonkInvert_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t order,
     void *scratch, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -13058,10 +13413,10 @@ VonkStatus vonkInvert_ma_64f_3x3_P(const double *const *src, int32_t srcShift, d
 VonkStatus vonkInvert_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkInvert_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *const *dst,
-    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: inverse-entries-first */
 VonkStatus vonkInvert_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exception: inverse-entries-first */
 VonkStatus vonkInvert_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
     int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkInvert_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
@@ -13072,10 +13427,10 @@ VonkStatus vonkInvert_ma_64f_4x4_P(const double *const *src, int32_t srcShift, d
 VonkStatus vonkInvert_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkInvert_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *const *dst,
-    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: inverse-entries-first */
 VonkStatus vonkInvert_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exception: inverse-entries-first */
 VonkStatus vonkInvert_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
     int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkInvert_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
@@ -13086,10 +13441,10 @@ VonkStatus vonkInvert_ma_64f_5x5_P(const double *const *src, int32_t srcShift, d
 VonkStatus vonkInvert_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkInvert_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *const *dst,
-    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: inverse-entries-first */
 VonkStatus vonkInvert_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exception: inverse-entries-first */
 VonkStatus vonkInvert_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
     int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 VonkStatus vonkInvert_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
@@ -13100,277 +13455,312 @@ VonkStatus vonkInvert_ma_64f_6x6_P(const double *const *src, int32_t srcShift, d
 VonkStatus vonkInvert_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkInvert_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride, double *const *dst,
-    int32_t dstShift, int32_t dstRowStride, uint32_t count);
+    int32_t dstShift, int32_t dstRowStride, uint32_t count); /* exception: inverse-entries-first */
 VonkStatus vonkInvert_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t count);
+    uint32_t count); /* exception: inverse-entries-first */
 
 /* ---- Cholesky decomposition -----------------------------------------------------------------------------------------
  *
- * vonkCholeskyDecomp factors each symmetric positive definite matrix A of `src`, `order` by `order`, into L L', L
- * lower triangular with a positive diagonal. `dst` gets L below the diagonal and on it the RECIPROCALS 1 / L(i, i), so
- * that vonkCholeskyBackSubst need not divide. Only lower triangles are read and written, with their diagonals:
- * elements above them, and the pointers of such positions, may be anything, and in `dst` they stay.
+ * vonkCholeskyDecomp factors each symmetric positive definite matrix A of `src`, `order` by `order`, into L L', L lower
+ * triangular with a positive diagonal. `dst` gets L below the diagonal and on it the RECIPROCALS 1 / L(i, i), so that
+ * vonkCholeskyBackSubst need not divide. Only lower triangles are read and written, with their diagonals: elements
+ * above them, and the pointers of such positions, may be anything, and in `dst` they are left as they are.
  *
- * Row by row: F(i, j) = (A(i, j) - the sum of F(i, k) F(j, k) over k < j) F(j, j) for j < i, then s = A(i, i) - the
- * sum of F(i, k)^2 over k < i and F(i, i) = 1 / root of s; products are taken off one by one, k ascending. Unless s >
- * 0 the call ends with vonkErrNotPosDef. There is no tolerance. Method: Golub and Van Loan, Matrix Computations,
+ * Row by row: F(i, j) = (A(i, j) - the sum of F(i, k) F(j, k) over k < j) F(j, j) for j < i, then s = A(i, i) - the sum
+ * of F(i, k)^2 over k < i and F(i, i) = 1 / root of s; products are subtracted one by one, k ascending. Unless s > 0
+ * the call ends with vonkErrNotPosDef. There is no tolerance. Method: Golub and Van Loan, Matrix Computations,
  * "Cholesky factorization", row by row.
  *
- * Rounding: `32f` rounds every operation, but takes root and reciprocal in the 80-bit type and rounds them once; in
- * `P` and `PS2` both are `32f` operations. `64f` in the 80-bit type, at the calling thread's precision: orders 3 to 6,
- * also as `order`, keep all of F unrounded and round what they store, but for `P` and `PS2`; these and all other
- * orders read F back from `dst`, and round a difference behind its pairs of products, not behind an odd last one.
+ * Rounding: `32f` rounds every operation, but takes root and reciprocal in the 80-bit type and rounds them once; in `P`
+ * and `PS2` both are `32f` operations. `64f` in the 80-bit type, at the calling thread's precision: orders 3 to 6, also
+ * as `order`, keep all of F unrounded and round what they store, but for `P` and `PS2`; these and all other orders read
+ * F back from `dst`, and round a difference after its pairs of products, not after an odd last one.
  *
- * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `order` is 0, or `count` is; vonkErrNotPosDef if a
- * matrix is not positive definite, with a NaN in its pivot or not: rows before the failing one and, of that, the
- * elements below the diagonal are stored by then, objects before it are complete, and those after it untouched.
- * Entries of tables and lists are not tested; but in `L` and `LS2` an entry that is null WITH its shift gives
- * vonkErrNullPtr when its turn comes.
- *
- * Members that behave unlike their siblings:
- * - Arrays: `count` 0 is vonkErrSize. With its top bit set nothing is done and vonkOk returned, but in `P` and `PS2`,
- *   where it is a very large number.
- * - Orders 3 to 6, also as `order`, in `S2` and `LS2`: element strides count in whole elements; bits below are
- *   dropped.
- * - `64f`, order 3 and 4, but for `P` and `PS2`: a NaN passes as the very first pivot. F(0, 0) and F(1, 0) are stored,
- *   and the call fails at the second.
+ * Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `order` is 0; vonkErrNotPosDef if a matrix is not
+ * positive definite or a pivot is a NaN: rows before the failing one and, of that, the elements below the diagonal are
+ * stored by then, objects before it are complete, and those after it untouched. Entries of tables and lists are not
+ * checked; but in `L` and `LS2` an entry that is null once its shift is added gives vonkErrNullPtr when its turn comes.
  *
  * Overlap:
- * `dst` may be `src` itself, with the same strides or tables. No other overlap is supported.
+ * Overlap is not checked. `dst` may be `src` (in place), with the same strides or tables. No other overlap is
+ * supported.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - cholesky-whole-strides (arguments): vonkCholeskyDecomp_{m_{32f,64f}{,_?x?}_S2,ma_{32f,64f}{,_?x?}_{S2,LS2}}
+ *   At orders 3 to 6, in the name or as `order`, element strides count in whole elements; what exceeds a multiple of
+ *   the element size is dropped.
+ * - cholesky-signed-count (arguments): vonkCholeskyDecomp_ma_{32f,64f}{,_?x?}{,_S2,_L,_LS2}
+ *   `count` is signed: with its top bit set nothing is done, and the status is vonkOk. In `P` and `PS2` it is a very
+ *   large number.
+ * - cholesky-count-zero (status): vonkCholeskyDecomp_ma_*
+ *   `count` 0 is vonkErrSize.
+ * - cholesky-first-nan (status): vonkCholeskyDecomp_m_64f{,_3x3,_4x4}{,_S2}
+ *     vonkCholeskyDecomp_ma_64f{,_3x3,_4x4}{,_S2,_L,_LS2}
+ *   At orders 3 and 4, in the name or as `order`, a NaN passes as the very first pivot: F(0, 0) and F(1, 0) are stored,
+ *   and the call fails at the second.
  */
 
 VonkStatus vonkCholeskyDecomp_m_32f(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride,
     uint32_t order);
 VonkStatus vonkCholeskyDecomp_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
-    int32_t dstRowStride, int32_t dstElemStride, uint32_t order);
+    int32_t dstRowStride, int32_t dstElemStride, uint32_t order); /* exception: cholesky-whole-strides */
 VonkStatus vonkCholeskyDecomp_m_32f_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
     uint32_t order);
 VonkStatus vonkCholeskyDecomp_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
 VonkStatus vonkCholeskyDecomp_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
-    int32_t dstRowStride, int32_t dstElemStride);
+    int32_t dstRowStride, int32_t dstElemStride); /* exception: cholesky-whole-strides */
 VonkStatus vonkCholeskyDecomp_m_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst,
     int32_t dstShift);
 VonkStatus vonkCholeskyDecomp_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
 VonkStatus vonkCholeskyDecomp_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
-    int32_t dstRowStride, int32_t dstElemStride);
+    int32_t dstRowStride, int32_t dstElemStride); /* exception: cholesky-whole-strides */
 VonkStatus vonkCholeskyDecomp_m_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst,
     int32_t dstShift);
 VonkStatus vonkCholeskyDecomp_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
 VonkStatus vonkCholeskyDecomp_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
-    int32_t dstRowStride, int32_t dstElemStride);
+    int32_t dstRowStride, int32_t dstElemStride); /* exception: cholesky-whole-strides */
 VonkStatus vonkCholeskyDecomp_m_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst,
     int32_t dstShift);
 VonkStatus vonkCholeskyDecomp_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst, int32_t dstRowStride);
 VonkStatus vonkCholeskyDecomp_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
-    int32_t dstRowStride, int32_t dstElemStride);
+    int32_t dstRowStride, int32_t dstElemStride); /* exception: cholesky-whole-strides */
 VonkStatus vonkCholeskyDecomp_m_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst,
     int32_t dstShift);
 
 VonkStatus vonkCholeskyDecomp_m_64f(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride,
-    uint32_t order);
+    uint32_t order); /* exception: cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
     int32_t dstRowStride, int32_t dstElemStride, uint32_t order);
+    /* exceptions: cholesky-whole-strides, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_m_64f_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
     uint32_t order);
 VonkStatus vonkCholeskyDecomp_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+    /* exception: cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
-    int32_t dstRowStride, int32_t dstElemStride);
+    int32_t dstRowStride, int32_t dstElemStride); /* exceptions: cholesky-whole-strides, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_m_64f_3x3_P(const double *const *src, int32_t srcShift, double *const *dst,
     int32_t dstShift);
 VonkStatus vonkCholeskyDecomp_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
+    /* exception: cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
-    int32_t dstRowStride, int32_t dstElemStride);
+    int32_t dstRowStride, int32_t dstElemStride); /* exceptions: cholesky-whole-strides, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_m_64f_4x4_P(const double *const *src, int32_t srcShift, double *const *dst,
     int32_t dstShift);
 VonkStatus vonkCholeskyDecomp_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
 VonkStatus vonkCholeskyDecomp_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
-    int32_t dstRowStride, int32_t dstElemStride);
+    int32_t dstRowStride, int32_t dstElemStride); /* exception: cholesky-whole-strides */
 VonkStatus vonkCholeskyDecomp_m_64f_5x5_P(const double *const *src, int32_t srcShift, double *const *dst,
     int32_t dstShift);
 VonkStatus vonkCholeskyDecomp_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst, int32_t dstRowStride);
 VonkStatus vonkCholeskyDecomp_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, double *dst,
-    int32_t dstRowStride, int32_t dstElemStride);
+    int32_t dstRowStride, int32_t dstElemStride); /* exception: cholesky-whole-strides */
 VonkStatus vonkCholeskyDecomp_m_64f_6x6_P(const double *const *src, int32_t srcShift, double *const *dst,
     int32_t dstShift);
 
 VonkStatus vonkCholeskyDecomp_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, uint32_t order, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t order, int32_t count);
+    uint32_t order, int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_P(const float *const *src, int32_t srcShift, float *const *dst, int32_t dstShift,
-    uint32_t order, uint32_t count);
+    uint32_t order, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
     float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t order, uint32_t count);
+    /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t order, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    uint32_t order, int32_t count);
+    uint32_t order, int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_3x3_P(const float *const *src, int32_t srcShift, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_3x3_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
-    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_3x3_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_3x3_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_4x4_P(const float *const *src, int32_t srcShift, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_4x4_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
-    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_4x4_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_4x4_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_5x5_P(const float *const *src, int32_t srcShift, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_5x5_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
-    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_5x5_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_5x5_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_6x6_P(const float *const *src, int32_t srcShift, float *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_6x6_PS2(const float *const *src, int32_t srcShift, int32_t srcObjStride,
-    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_6x6_L(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_32f_6x6_LS2(const float *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, float *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 
 VonkStatus vonkCholeskyDecomp_ma_64f(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
     int32_t dstObjStride, int32_t dstRowStride, uint32_t order, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t order, int32_t count);
+    /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_P(const double *const *src, int32_t srcShift, double *const *dst, int32_t dstShift,
-    uint32_t order, uint32_t count);
+    uint32_t order, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
     double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t order, uint32_t count);
+    /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, uint32_t order, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     uint32_t order, int32_t count);
+    /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
     int32_t count);
+    /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_3x3_P(const double *const *src, int32_t srcShift, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_3x3_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
-    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_3x3_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_3x3_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     int32_t count);
+    /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
     int32_t count);
+    /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_4x4_P(const double *const *src, int32_t srcShift, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_4x4_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
-    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_4x4_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_4x4_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
     int32_t count);
+    /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero, cholesky-first-nan */
 VonkStatus vonkCholeskyDecomp_ma_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_5x5_P(const double *const *src, int32_t srcShift, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_5x5_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
-    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_5x5_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_5x5_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
     int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
     int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_6x6_P(const double *const *src, int32_t srcShift, double *const *dst,
-    int32_t dstShift, uint32_t count);
+    int32_t dstShift, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_6x6_PS2(const double *const *src, int32_t srcShift, int32_t srcObjStride,
-    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+    double *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t count); /* exception: cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_6x6_L(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t count);
+    /* exceptions: cholesky-signed-count, cholesky-count-zero */
 VonkStatus vonkCholeskyDecomp_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, int32_t srcRowStride,
     int32_t srcElemStride, double *const *dst, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-whole-strides, cholesky-signed-count, cholesky-count-zero */
 
 /* ---- Cholesky back substitution -------------------------------------------------------------------------------------
  *
  * vonkCholeskyBackSubst solves A x = b with what vonkCholeskyDecomp left: `src1` the factor F with the reciprocals on
- * its diagonal, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system;
- * `mva` one factor for `count` right-hand sides; `mava` a factor per object. Nothing above the diagonal of `src1` is
- * read.
+ * its diagonal, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system; `mva`
+ * one factor for `count` right-hand sides, with no ignored argument after `src1`, unlike the other two families of
+ * solvers; `mava` a factor per object. Nothing above the diagonal of `src1` is read.
  *
  * Forward: x(i) = (b(i) - the sum of F(i, k) x(k) over k < i) F(i, i). Backward, from the last row up: x(i) = (x(i) -
- * the sum of F(k, i) x(k) over k > i) F(i, i). Products are taken off one by one, forward with k ascending, backward
- * with k DESCENDING; x is its own scratch space. `32f` rounds every operation; `64f` is worked in the 80-bit type and
+ * the sum of F(k, i) x(k) over k > i) F(i, i). Products are subtracted one by one, forward with k ascending, backward
+ * with k DESCENDING; x is its own workspace. `32f` rounds every operation; `64f` is computed in the 80-bit type and
  * rounded where it is stored. Nothing divides. Method: Golub and Van Loan, Matrix Computations, "Triangular systems".
  *
- * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `order` is 0, or `count` is; else vonkOk.
- * Neither the numbers nor entries of tables and lists are tested; but in `L` and `LS2` an object one of whose entries
- * is null WITH its shift is passed over, without a word, and the next is worked.
- *
- * Members that behave unlike their siblings:
- * - Arrays: `count` 0 is vonkErrSize; with its top bit set nothing is done and vonkOk returned. In `S2` and `LS2` the
- *   same goes for the top bit of `order`.
- * - `mva` has no word behind `src1` that its matrix does not need, as the other two families of solvers have.
+ * Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `order` is 0; else vonkOk. Neither the
+ * numbers nor entries of tables and lists are checked; but in `L` and `LS2` an object one of whose entries is null once
+ * its shift is added is skipped, with no error, and the next is solved.
  *
  * Overlap:
- * `dst` may be `src2` itself. Nothing tests overlap; both ways read what memory holds by then.
+ * Overlap is not checked; both sweeps read what memory holds by then. `dst` may be `src2`.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * - cholesky-solve-signed-count (arguments): vonkCholeskyBackSubst_{mva,mava}_*
+ *   `count` is signed: with its top bit set nothing is done, and the status is vonkOk.
+ * - cholesky-solve-signed-order (arguments): vonkCholeskyBackSubst_{mv_{32f,64f}_S2,{mva,mava}_{32f,64f}_{S2,LS2}}
+ *   `order` is signed: with its top bit set nothing is done, and the status is vonkOk.
+ * - cholesky-solve-count-zero (status): vonkCholeskyBackSubst_{mva,mava}_*
+ *   `count` 0 is vonkErrSize.
  */
 
 VonkStatus vonkCholeskyBackSubst_mv_32f(const float *src1, int32_t src1RowStride, const float *src2, float *dst,
     uint32_t order);
 VonkStatus vonkCholeskyBackSubst_mv_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride, int32_t order);
+    /* exception: cholesky-solve-signed-order */
 VonkStatus vonkCholeskyBackSubst_mv_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order);
 VonkStatus vonkCholeskyBackSubst_mv_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
@@ -13398,6 +13788,7 @@ VonkStatus vonkCholeskyBackSubst_mv_64f(const double *src1, int32_t src1RowStrid
     uint32_t order);
 VonkStatus vonkCholeskyBackSubst_mv_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride, int32_t order);
+    /* exception: cholesky-solve-signed-order */
 VonkStatus vonkCholeskyBackSubst_mv_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order);
 VonkStatus vonkCholeskyBackSubst_mv_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
@@ -13423,323 +13814,413 @@ VonkStatus vonkCholeskyBackSubst_mv_64f_6x6_P(const double *const *src1, int32_t
 
 VonkStatus vonkCholeskyBackSubst_mva_32f(const float *src1, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
     int32_t dstElemStride, int32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-signed-order, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, uint32_t order,
-    int32_t count);
+    int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_L(const float *src1, int32_t src1RowStride, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
     int32_t dstElemStride, int32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-signed-order, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_3x3_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_3x3_L(const float *src1, int32_t src1RowStride, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_3x3_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_4x4_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_4x4_L(const float *src1, int32_t src1RowStride, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_4x4_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_5x5_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_5x5_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
     int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst, int32_t dstShift,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 
 VonkStatus vonkCholeskyBackSubst_mva_64f(const double *src1, int32_t src1RowStride, const double *src2,
     int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
     int32_t dstElemStride, int32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-signed-order, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_PS2(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift, int32_t dstObjStride,
-    uint32_t order, int32_t count);
+    uint32_t order, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
     int32_t dstElemStride, int32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-signed-order, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2,
     int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_3x3_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_3x3_PS2(const double *const *src1, int32_t src1Shift,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_3x3_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2,
     int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_4x4_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_4x4_PS2(const double *const *src1, int32_t src1Shift,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_4x4_L(const double *src1, int32_t src1RowStride, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_4x4_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2,
     int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_5x5_PS2(const double *const *src1, int32_t src1Shift,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_5x5_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
     int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_6x6_PS2(const double *const *src1, int32_t src1Shift,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mva_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst, int32_t dstShift,
-    int32_t dstElemStride, int32_t count);
+    int32_t dstElemStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 
 VonkStatus vonkCholeskyBackSubst_mava_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, int32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-signed-order, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
     int32_t dstObjStride, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstElemStride, int32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-signed-order, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_3x3_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_3x3_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_3x3_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_4x4_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_4x4_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_4x4_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_5x5_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_5x5_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_5x5_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_6x6_P(const float *const *src1, int32_t src1Shift, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const float *const *src2, int32_t src2Shift, int32_t src2ObjStride, float *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_6x6_L(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_32f_6x6_LS2(const float *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride, float *const *dst,
     int32_t dstShift, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 
 VonkStatus vonkCholeskyBackSubst_mava_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
     int32_t dstObjStride, int32_t dstElemStride, int32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-signed-order, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
     int32_t dstObjStride, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
     int32_t dstShift, int32_t dstElemStride, int32_t order, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-signed-order, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
     int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_3x3_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
     int32_t dstShift, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
     int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_4x4_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
     int32_t dstShift, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
     int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_5x5_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
     int32_t dstShift, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
     int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_P(const double *const *src1, int32_t src1Shift, const double *const *src2,
     int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, int32_t src1ObjStride,
     const double *const *src2, int32_t src2Shift, int32_t src2ObjStride, double *const *dst, int32_t dstShift,
-    int32_t dstObjStride, int32_t count);
+    int32_t dstObjStride, int32_t count); /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride, double *const *dst,
     int32_t dstShift, int32_t dstElemStride, int32_t count);
+    /* exceptions: cholesky-solve-signed-count, cholesky-solve-count-zero */
 
 /* ---- QR decomposition -----------------------------------------------------------------------------------------------
  *
  * vonkQRDecomp factors each matrix of `src`, `rows` by `cols` with `rows` >= `cols`, into an orthogonal Q and an upper
  * triangular R by Householder reflections, column by column. `dst` gets R on and above the diagonal and below it, in
  * column k, reflector k: elements k + 1 and on of the vector v whose element k is 1. The reflection is I + beta v v'
- * with beta = -2 / (v'v), which vonkQRBackSubst reckons anew. There is a reflection for each column, but none for the
- * last column of a square matrix. `work` is a block of `rows` elements in every layout, used for every object anew;
- * what it holds before does not matter, and on return it holds the last reflector.
+ * with beta = -2 / (v'v), which vonkQRBackSubst recomputes. There is a reflection for each column, but none for the
+ * last column of a square matrix. `work` is a workspace of `rows` contiguous elements in every layout, reused for every
+ * object; its contents on entry do not matter, and on return it holds the last reflector.
  *
- * For column k: s = the sum of d(i, k)^2 over i >= k. If s is below 2^-23 = 1.1920928955078125e-7 or a NaN, the call
- * ends with vonkErrSingular: an absolute bound on the SQUARED norm, the same for both types, so columns with elements
- * of about 1e-4 fail; scale such data. Then alpha = d(k, k) + t, where t is the root of s with the sign of d(k, k),
- * minus for 0; v(i) = d(i, k) (1 / alpha); and for each column c >= k: p = (d(k, c) + the sum of d(i, c) v(i)) beta,
- * d(i, c) = v(i) p + d(i, c). All sums ascend. The diagonal of R has the sign opposite to t. Method: Golub and Van
- * Loan, Matrix Computations, "Householder QR".
+ * For column k: s = the sum of d(i, k)^2 over i >= k. If s is below the singularity tolerance 2^-23 =
+ * 1.1920928955078125e-7 or a NaN, the call ends with vonkErrSingular: an absolute bound on the SQUARED norm, the same
+ * for both types, so columns with elements of about 1e-4 fail; scale such data. Then alpha = d(k, k) + t, where t is
+ * the root of s with the sign of d(k, k), minus for 0; v(i) = d(i, k) (1 / alpha); and for each column c >= k: p =
+ * (d(k, c) + the sum of d(i, c) v(i)) beta, d(i, c) = v(i) p + d(i, c). All sums ascend. The diagonal of R has the sign
+ * opposite to t. Method: Golub and Van Loan, Matrix Computations, "Householder QR".
  *
- * Rounding: `32f` rounds every operation; the root is taken in the 80-bit type and rounded. `64f` in the 80-bit type:
- * s and v'v are rounded behind their pairs of terms and again behind an odd last one; v, beta and the elements of
- * `dst` are rounded, but v'v is the sum over unrounded v; nothing else is rounded.
+ * Rounding: `32f` rounds every operation; the root is taken in the 80-bit type and rounded. `64f` in the 80-bit type: s
+ * and v'v are rounded after their pairs of terms and again after an odd last one; v, beta and the elements of `dst` are
+ * rounded, but v'v is the sum over unrounded v; nothing else is rounded.
  *
  * Status: vonkErrNullPtr if `src`, `work` or `dst` is null; vonkErrSize if `cols` or `rows` is 0; vonkErrNullPtr if a
  * table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes (`L`, `LS2`);
@@ -13748,10 +14229,10 @@ VonkStatus vonkCholeskyBackSubst_mava_64f_6x6_LS2(const double *const *src1, int
  * fails so: after its last row there is nothing left.
  *
  * Overlap:
- * `dst` may be `src` itself, with the same strides or tables. `work` must overlap neither.
+ * Overlap is not checked. `dst` may be `src` (in place), with the same strides or tables. `work` must overlap neither.
  *
- * Read beyond the operands:
- * Nothing.
+ * Exceptions:
+ * None.
  */
 
 VonkStatus vonkQRDecomp_m_32f(const float *src, int32_t srcRowStride, float *work, float *dst, int32_t dstRowStride,
@@ -13961,40 +14442,39 @@ VonkStatus vonkQRDecomp_ma_64f_6x6_LS2(const double *const *src, int32_t srcShif
 /* ---- QR back substitution -------------------------------------------------------------------------------------------
  *
  * vonkQRBackSubst solves A x = b with what vonkQRDecomp left in `src1`, `rows` by `cols`: exactly if A is square, else
- * x minimises the residual. `src2` is b, of `rows` elements, `dst` is x, of `cols`. `work` is a block of `rows`
- * elements in every layout, used for every object anew; on return it holds Q'b of the last object, whose elements from
- * `cols` on are the residual's. Groups: `mv` one system; `mva` one decomposition for `count` right-hand sides; `mava`
- * one per object.
+ * x minimises the residual. `src2` is b, of `rows` elements, `dst` is x, of `cols`. `work` is a workspace of `rows`
+ * contiguous elements in every layout, reused for every object; on return it holds Q'b of the last object, whose
+ * elements from `cols` on are the residual's. Groups: `mv` one system; `mva` one decomposition for `count` right-hand
+ * sides; `mava` one per object.
  *
- * b is copied to `work`. For each reflector v in turn: p = (work(k) + the sum of work(i) v(i)) beta, beta = -2 /
- * (v'v), work(i) = v(i) p + work(i). Then from the last row up: x(i) = (work(i) - s) / R(i, i), s the sum of R(i, j)
- * x(j) over j > i, grown from 0 with j ascending. `32f` rounds every operation; `64f` is worked in the 80-bit type and
- * rounded where `work` and `dst` are stored. Method: Golub and Van Loan, Matrix Computations, "Householder QR" and
- * "Full rank least squares".
+ * b is copied to `work`. For each reflector v in turn: p = (work(k) + the sum of work(i) v(i)) beta, beta = -2 / (v'v),
+ * work(i) = v(i) p + work(i). Then from the last row up: x(i) = (work(i) - s) / R(i, i), s the sum of R(i, j) x(j) over
+ * j > i, from 0 with j ascending. `32f` rounds every operation; `64f` is computed in the 80-bit type and rounded where
+ * `work` and `dst` are stored. Method: Golub and Van Loan, Matrix Computations, "Householder QR" and "Full rank least
+ * squares".
  *
  * Status: vonkErrNullPtr if `src1`, `work`, `src2` or `dst` is null; vonkErrSize if `cols` or `rows` is 0;
- * vonkErrNullPtr if a table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn
- * comes (`L`, `LS2`); `count` 0 gives vonkOk. Of the table of `src2` the first `cols` entries are tested, though
- * `rows` are used. The numbers are not tested: a zero on the diagonal divides through to an infinity or a NaN with
- * vonkOk.
- *
- * Members that behave unlike their siblings:
- * - `mva` in the standard layout, `S2`, `L` and `LS2` has a word behind `src1` (`src1ObjStride` or `src1Shift`) that
- *   is accepted and never read, so that `mva` and `mava` have one parameter list. In `L` and `LS2` `src1` is a plain
- *   pointer.
- * - `mva` of `64f` in `L`, of every size, steps through the columns of `src1` by 4 bytes: element (i, j) is the double
- *   at i * `src1RowStride` + j * 4.
- * - `mava` of `64f` in `L`, of every size, reads the reflectors where they are, but R(i, j) at 8 * j + i + 1 -
- *   `src1RowStride` bytes behind the object. Neither form solves the system, unless `cols` is 1 (`mva`) or the data
- *   lie so. `LS2` and all other forms follow their strides.
- * - vonkQRBackSubst_mv_32f copies b in blocks of eight from 11 rows on, where `work` does not overlap it.
+ * vonkErrNullPtr if a table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the object's turn comes
+ * (`L`, `LS2`); `count` 0 gives vonkOk. Of the table of `src2` the first `cols` entries are checked, though `rows` are
+ * used. The numbers are not checked: division by a zero on the diagonal gives an infinity or a NaN, with vonkOk.
  *
  * Overlap:
- * `dst` may be `src2`, which is read before. `work` must not overlap `src1` or `dst`; the copy from `src2` runs
- * forward, element by element.
+ * Overlap is not checked. `dst` may be `src2`, which is read before. `work` must not overlap `src1` or `dst`; the copy
+ * from `src2` is made element by element, ascending.
  *
- * Read beyond the operands:
- * `mava` of `64f` in `L`: what lies at the places told above, up to a row ahead of the object.
+ * Exceptions:
+ * - qr-solve-column-step (result): vonkQRBackSubst_mva_64f{,_?x?}_L
+ *   The columns of `src1` are taken to lie 4 bytes apart: element (i, j) is the double at i * `src1RowStride` + j * 4.
+ *   This does not solve the system, unless `cols` is 1 or the data lie so. `LS2` and all other forms follow their
+ *   strides.
+ * - qr-solve-displaced-triangle (result): vonkQRBackSubst_mava_64f{,_?x?}_L
+ *   The reflectors are read where they are, but R(i, j) at 8 * j + i + 1 - `src1RowStride` bytes after the start of the
+ *   object. This does not solve the system, unless the data lie so. `LS2` and all other forms follow their strides.
+ * - qr-solve-ignored-argument (arguments): vonkQRBackSubst_mva_{32f,64f}{,_?x?}{,_S2,_L,_LS2}
+ *   The argument after `src1` (`src1ObjStride`, in `L` and `LS2` `src1Shift`) is ignored, so that `mva` and `mava` have
+ *   one parameter list. In `L` and `LS2` `src1` is a plain pointer.
+ * - qr-solve-reads-before (reads): vonkQRBackSubst_mava_64f{,_?x?}_L
+ *   The elements of R are read where `qr-solve-displaced-triangle` finds them, up to a row before the object.
  */
 
 VonkStatus vonkQRBackSubst_mv_32f(const float *src1, int32_t src1RowStride, float *work, const float *src2, float *dst,
@@ -14061,10 +14541,11 @@ VonkStatus vonkQRBackSubst_mv_64f_6x6_P(const double *const *src1, int32_t src1S
 
 VonkStatus vonkQRBackSubst_mva_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
     int32_t dstObjStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_P(const float *const *src1, int32_t src1Shift, float *work, const float *const *src2,
     int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_32f_PS2(const float *const *src1, int32_t src1Shift, float *work,
@@ -14072,15 +14553,17 @@ VonkStatus vonkQRBackSubst_mva_32f_PS2(const float *const *src1, int32_t src1Shi
     int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_32f_L(const float *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_3x3_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
-    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_3x3_P(const float *const *src1, int32_t src1Shift, float *work,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_32f_3x3_PS2(const float *const *src1, int32_t src1Shift, float *work,
@@ -14088,14 +14571,17 @@ VonkStatus vonkQRBackSubst_mva_32f_3x3_PS2(const float *const *src1, int32_t src
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_32f_3x3_L(const float *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_3x3_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_4x4(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_4x4_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
-    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_4x4_P(const float *const *src1, int32_t src1Shift, float *work,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_32f_4x4_PS2(const float *const *src1, int32_t src1Shift, float *work,
@@ -14103,14 +14589,17 @@ VonkStatus vonkQRBackSubst_mva_32f_4x4_PS2(const float *const *src1, int32_t src
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_32f_4x4_L(const float *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_4x4_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_5x5_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
-    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_5x5_P(const float *const *src1, int32_t src1Shift, float *work,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_32f_5x5_PS2(const float *const *src1, int32_t src1Shift, float *work,
@@ -14118,14 +14607,17 @@ VonkStatus vonkQRBackSubst_mva_32f_5x5_PS2(const float *const *src1, int32_t src
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_32f_5x5_L(const float *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_5x5_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, float *work, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
-    int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    int32_t dstObjStride, int32_t dstElemStride, uint32_t count); /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_6x6_P(const float *const *src1, int32_t src1Shift, float *work,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_32f_6x6_PS2(const float *const *src1, int32_t src1Shift, float *work,
@@ -14133,16 +14625,19 @@ VonkStatus vonkQRBackSubst_mva_32f_6x6_PS2(const float *const *src1, int32_t src
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_32f_6x6_L(const float *src1, int32_t src1Shift, int32_t src1RowStride, float *work,
     const float *const *src2, int32_t src2Shift, float *const *dst, int32_t dstShift, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_32f_6x6_LS2(const float *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, float *work, const float *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     float *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 
 VonkStatus vonkQRBackSubst_mva_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
     const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_P(const double *const *src1, int32_t src1Shift, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
     uint32_t count);
@@ -14151,15 +14646,18 @@ VonkStatus vonkQRBackSubst_mva_64f_PS2(const double *const *src1, int32_t src1Sh
     int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_64f_L(const double *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exceptions: qr-solve-column-step, qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
     const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_3x3_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_3x3_P(const double *const *src1, int32_t src1Shift, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_64f_3x3_PS2(const double *const *src1, int32_t src1Shift, double *work,
@@ -14167,14 +14665,18 @@ VonkStatus vonkQRBackSubst_mva_64f_3x3_PS2(const double *const *src1, int32_t sr
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_64f_3x3_L(const double *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: qr-solve-column-step, qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_3x3_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
     const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_4x4_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_4x4_P(const double *const *src1, int32_t src1Shift, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_64f_4x4_PS2(const double *const *src1, int32_t src1Shift, double *work,
@@ -14182,14 +14684,18 @@ VonkStatus vonkQRBackSubst_mva_64f_4x4_PS2(const double *const *src1, int32_t sr
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_64f_4x4_L(const double *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: qr-solve-column-step, qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_4x4_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
     const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_5x5_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_5x5_P(const double *const *src1, int32_t src1Shift, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_64f_5x5_PS2(const double *const *src1, int32_t src1Shift, double *work,
@@ -14197,14 +14703,18 @@ VonkStatus vonkQRBackSubst_mva_64f_5x5_PS2(const double *const *src1, int32_t sr
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_64f_5x5_L(const double *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: qr-solve-column-step, qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_5x5_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride, double *work,
     const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
     double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_6x6_P(const double *const *src1, int32_t src1Shift, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_64f_6x6_PS2(const double *const *src1, int32_t src1Shift, double *work,
@@ -14212,9 +14722,11 @@ VonkStatus vonkQRBackSubst_mva_64f_6x6_PS2(const double *const *src1, int32_t sr
     int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mva_64f_6x6_L(const double *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: qr-solve-column-step, qr-solve-ignored-argument */
 VonkStatus vonkQRBackSubst_mva_64f_6x6_LS2(const double *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+    /* exception: qr-solve-ignored-argument */
 
 VonkStatus vonkQRBackSubst_mava_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride, float *work,
     const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t cols, uint32_t rows,
@@ -14309,7 +14821,7 @@ VonkStatus vonkQRBackSubst_mava_64f_PS2(const double *const *src1, int32_t src1S
     int32_t dstShift, int32_t dstObjStride, uint32_t cols, uint32_t rows, uint32_t count);
 VonkStatus vonkQRBackSubst_mava_64f_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride, double *work,
     const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t cols, uint32_t rows,
-    uint32_t count);
+    uint32_t count); /* exceptions: qr-solve-displaced-triangle, qr-solve-reads-before */
 VonkStatus vonkQRBackSubst_mava_64f_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t cols, uint32_t rows, uint32_t count);
@@ -14325,6 +14837,7 @@ VonkStatus vonkQRBackSubst_mava_64f_3x3_PS2(const double *const *src1, int32_t s
     int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mava_64f_3x3_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     double *work, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: qr-solve-displaced-triangle, qr-solve-reads-before */
 VonkStatus vonkQRBackSubst_mava_64f_3x3_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
@@ -14340,6 +14853,7 @@ VonkStatus vonkQRBackSubst_mava_64f_4x4_PS2(const double *const *src1, int32_t s
     int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mava_64f_4x4_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     double *work, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: qr-solve-displaced-triangle, qr-solve-reads-before */
 VonkStatus vonkQRBackSubst_mava_64f_4x4_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
@@ -14355,6 +14869,7 @@ VonkStatus vonkQRBackSubst_mava_64f_5x5_PS2(const double *const *src1, int32_t s
     int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mava_64f_5x5_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     double *work, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: qr-solve-displaced-triangle, qr-solve-reads-before */
 VonkStatus vonkQRBackSubst_mava_64f_5x5_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);
@@ -14370,6 +14885,7 @@ VonkStatus vonkQRBackSubst_mava_64f_6x6_PS2(const double *const *src1, int32_t s
     int32_t dstShift, int32_t dstObjStride, uint32_t count);
 VonkStatus vonkQRBackSubst_mava_64f_6x6_L(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     double *work, const double *const *src2, int32_t src2Shift, double *const *dst, int32_t dstShift, uint32_t count);
+    /* exceptions: qr-solve-displaced-triangle, qr-solve-reads-before */
 VonkStatus vonkQRBackSubst_mava_64f_6x6_LS2(const double *const *src1, int32_t src1Shift, int32_t src1RowStride,
     int32_t src1ElemStride, double *work, const double *const *src2, int32_t src2Shift, int32_t src2ElemStride,
     double *const *dst, int32_t dstShift, int32_t dstElemStride, uint32_t count);

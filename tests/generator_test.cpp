@@ -42,6 +42,13 @@ TEST(Text, WrapsAtTheLineWidthAndIndentsWhatFollows) {
 
 TEST(Text, JoinsShortListsInOneLine) { EXPECT_EQ(text::joinWrapped("f(", {"a", "b"}, ")", "  "), "f(a, b)"); }
 
+TEST(Text, WrapsWordsBetweenPrefixes) {
+    const std::string wrapped =
+        text::wrapWords(std::string(100, 'a') + " " + std::string(17, 'b') + " c", "- ", "    ");
+    EXPECT_EQ(wrapped, "- " + std::string(100, 'a') + " " + std::string(17, 'b') + "\n    c\n");
+    EXPECT_EQ(text::wrapWords("a b", "> ", "  "), "> a b\n");
+}
+
 TEST(Text, PrefixesEveryLineAndLeavesNoTrailingBlank) {
     EXPECT_EQ(text::prefixLines("a\n\nb", " * "), " * a\n *\n * b\n");
 }

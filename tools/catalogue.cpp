@@ -171,8 +171,8 @@ std::pair<Layout, Layout> sourceAndDestinationLayout(const Family &family, std::
 }
 
 // The two solvers that share one matrix among all right-hand sides keep the parameter list of their `mava` siblings,
-// so that a caller can switch between them: their matrix carries a word more, which is never read.
-bool carriesIgnoredWord(const Function &function, const Operand &operand) {
+// so that a caller can switch between them: their matrix has one more argument, which is ignored.
+bool hasIgnoredArgument(const Function &function, const Operand &operand) {
     return (function.family->operation == "LUBackSubst" || function.family->operation == "QRBackSubst") &&
            function.group == "mva" && operand.name == "src1" && !isTable(operand.layout);
 }
@@ -189,14 +189,14 @@ bool isSigned(const Function &function, std::string_view word) {
     return false;
 }
 
-// Appends the words of one operand: its pointer and the strides and shifts that its layout has.
+// Appends the parameters of one operand: its pointer and the strides and shifts that its layout has.
 void appendOperand(Function &function, int index) {
     const Operand &operand = function.operands[index];
     const std::string type = std::string(operand.written ? "" : "const ") + std::string(element(function.type)) + " *";
     const auto word = [&](const char *what, Kind kind) {
         function.parameters.push_back({operand.name + what, "int32_t", kind, index});
     };
-    const bool ignored = carriesIgnoredWord(function, operand);
+    const bool ignored = hasIgnoredArgument(function, operand);
     if (isTable(operand.layout)) {
         function.parameters.push_back({operand.name, type + "const *", Kind::table, index});
         word("Shift", Kind::shift);

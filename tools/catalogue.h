@@ -22,7 +22,7 @@ enum class Type { real32, real64 };
 enum class Layout {
     standard,       // [none] rows of adjacent elements
     strided,        // [S2]   rows of elements a stride apart
-    pointer,        // [P]    a table of one pointer per element position, objects packed behind each
+    pointer,        // [P]    a table of one pointer per element position, objects contiguous from each on
     stridedPointer, // [PS2]  the same, objects a stride apart
     list,           // [L]    a list of one pointer per object, rows of adjacent elements
     stridedList,    // [LS2]  the same, elements a stride apart
@@ -54,7 +54,7 @@ enum class Kind {
     objectStride,  // bytes from object to object
     rowStride,     // bytes from row to row
     elementStride, // bytes from element to element
-    ignored,       // a word that is accepted and never read
+    ignored,       // an ignored argument
     size,          // elements: cols, rows, len, order
     count,         // objects
     constant,      // a number by value
@@ -70,14 +70,13 @@ struct Parameter {
     int operand; // index into Function::operands, or -1
 };
 
-// A piece of documentation for all members of a family: one section of the header and one page of the reference.
+// The rule of a family: one section of the header and one page of the reference. Exceptions to it: see exceptions.h.
 struct Section {
     std::string_view id;      // file name of its reference page
     std::string_view title;   // "LU decomposition"
     std::string_view summary; // one line, for tables of contents
-    std::string_view text;    // what is computed, shapes, units, status values, irregular members
+    std::string_view text;    // what is computed, shapes, units, status values
     std::string_view overlap; // what may overlap
-    std::string_view reads;   // what is read beyond an operand
 };
 
 // A product of operand groups, types, sizes and layouts that share a parameter template.

@@ -61,8 +61,9 @@ std::string functions() {
     const std::vector<Function> all = catalogue::expand();
     std::string page = "# All functions\n\nGenerated from the catalogue of functions; do not edit.\n\n"
                        "A name is `vonk<Op>_<group>_<type>[_<size>][_<layout>]`. A row stands for every combination of "
-                       "its columns,\nbut that `P`, `PS2`, `L` and `LS2` go as [the layouts](layouts.svg) say: groups "
-                       "without an `a` are single objects\nand have the standard layout, `S2` and `P` alone.\n\n"
+                       "its columns, with one\nrestriction: groups without an `a` are single objects and have only the "
+                       "standard layout, `S2` and `P`. See\n[the layouts](layouts.svg) and "
+                       "[the exceptions](reference/exceptions.md).\n\n"
                        "| section of the header | Op | groups | types | sizes | layouts | functions |\n"
                        "|---|---|---|---|---|---|---|\n";
     const catalogue::Section *previous = nullptr;

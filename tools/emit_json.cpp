@@ -1,5 +1,6 @@
 // functions.json: the catalogue as data, for bindings and editors.
 #include "emit.h"
+#include "exceptions.h"
 #include "text.h"
 
 namespace emit {
@@ -25,33 +26,67 @@ std::string parameterJson(const catalogue::Function &function, const catalogue::
     return result + "}";
 }
 
-std::string functionJson(const catalogue::Function &function) {
+std::string idsJson(const std::vector<const catalogue::Exception *> &rows) {
+    std::string ids;
+    for (const catalogue::Exception *row : rows) ids += (ids.empty() ? "" : ", ") + quoted(row->id);
+    return "[" + ids + "]";
+}
+
+std::string functionJson(const catalogue::Function &function, const catalogue::ExceptionIndex &index) {
     std::string result = "    {" + field("name", function.name) + ", " + field("family", function.section->id) + ", " +
                          field("element", element(function.type)) + ", " + field("layout", function.layout) + ", " +
                          quoted("order") + ": " + (function.order != 0 ? std::to_string(function.order) : "null") +
+                         ",\n     " + quoted("exceptions") + ": " + idsJson(index.exceptionsOf(function)) +
                          ",\n     \"parameters\": [";
     for (std::size_t k = 0; k < function.parameters.size(); ++k)
         result += (k > 0 ? ",\n                    " : "") + parameterJson(function, function.parameters[k]);
     return result + "]}";
 }
 
+// What a family's exceptions say about accesses beyond the operands, in one string.
+std::string readBeyondOperands(const catalogue::Section &section) {
+    std::string result;
+    for (const catalogue::Exception &row : catalogue::exceptions())
+        if (row.section == section.id && row.what == catalogue::ExceptionClass::reads)
+            result += (result.empty() ? "" : "\n") + std::string(row.functions) + ": " + std::string(row.text);
+    return result.empty() ? "Nothing." : result;
+}
+
+std::string exceptionJson(const catalogue::Exception &row, const catalogue::ExceptionIndex &index) {
+    return "    {" + field("id", row.id) + ", " + field("family", row.section) + ", " + field("class", name(row.what)) +
+           ", " + quoted("count") + ": " + std::to_string(index.functionsOf(row).size()) + ",\n     " +
+           field("functions", row.functions) + ",\n     " + field("description", row.text) + "}";
+}
+
+std::string exceptionClassJson(catalogue::ExceptionClass exceptionClass) {
+    return "    {" + field("name", name(exceptionClass)) + ", " + field("meaning", meaning(exceptionClass)) + "}";
+}
+
 std::string familyJson(const catalogue::Section &section) {
     return "    {" + field("id", section.id) + ", " + field("title", section.title) + ",\n     " +
            field("summary", section.summary) + ",\n     " + field("description", section.text) + ",\n     " +
-           field("overlap", section.overlap) + ",\n     " + field("readBeyondOperands", section.reads) + "}";
+           field("overlap", section.overlap) + ",\n     " + field("readBeyondOperands", readBeyondOperands(section)) +
+           "}";
 }
 
 } // namespace
 
 std::string functionsJson() {
-    std::string families;
+    const std::vector<catalogue::Function> all = catalogue::expand();
+    const catalogue::ExceptionIndex index(catalogue::exceptions(), all);
+    std::string families, classes, exceptions;
     for (const catalogue::Section &section : catalogue::sections())
         families += (families.empty() ? "" : ",\n") + familyJson(section);
-    std::string functions =
-        "    {" + field("name", "vonkGetLibVersion") + ", " + field("family", "version") + ", \"parameters\": []}";
-    for (const catalogue::Function &function : catalogue::expand()) functions += ",\n" + functionJson(function);
-    return "{\n  \"library\": \"vonkk3\",\n  \"families\": [\n" + families + "\n  ],\n  \"functions\": [\n" +
-           functions + "\n  ]\n}\n";
+    for (const catalogue::ExceptionClass exceptionClass : catalogue::exceptionClasses)
+        classes += (classes.empty() ? "" : ",\n") + exceptionClassJson(exceptionClass);
+    for (const catalogue::Exception &row : catalogue::exceptions())
+        exceptions += (exceptions.empty() ? "" : ",\n") + exceptionJson(row, index);
+    std::string functions = "    {" + field("name", "vonkGetLibVersion") + ", " + field("family", "version") +
+                            R"(, "exceptions": [], "parameters": []})";
+    for (const catalogue::Function &function : all) functions += ",\n" + functionJson(function, index);
+    return "{\n  \"library\": \"vonkk3\",\n  \"families\": [\n" + families + "\n  ],\n  \"exceptionClasses\": [\n" +
+           classes + "\n  ],\n  \"exceptions\": [\n" + exceptions + "\n  ],\n  \"functions\": [\n" + functions +
+           "\n  ]\n}\n";
 }
 
 } // namespace emit

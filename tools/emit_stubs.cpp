@@ -1,4 +1,4 @@
-// The export stubs: one function each, which bundles its words into operands and calls the family's routine.
+// The export stubs: one function each, which bundles its arguments into operands and calls the family's routine.
 #include "emit.h"
 #include "text.h"
 

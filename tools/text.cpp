@@ -1,6 +1,8 @@
 // See text.h.
 #include "text.h"
 
+#include <algorithm>
+
 namespace text {
 
 std::string joinWrapped(std::string start, const std::vector<std::string> &pieces, std::string_view end,
@@ -19,6 +21,23 @@ std::string joinWrapped(std::string start, const std::vector<std::string> &piece
         start += after;
     }
     return start;
+}
+
+std::string wrapWords(std::string_view text, std::string_view first, std::string_view others) {
+    std::string result, line(first);
+    bool isEmpty = true;
+    while (!text.empty()) {
+        const std::string_view word = text.substr(0, text.find(' '));
+        text.remove_prefix(std::min(word.size() + 1, text.size()));
+        if (!isEmpty && line.size() + 1 + word.size() > lineWidth) {
+            result += line + "\n";
+            line = others;
+            isEmpty = true;
+        }
+        line += (isEmpty ? "" : " ") + std::string(word);
+        isEmpty = false;
+    }
+    return result + line + "\n";
 }
 
 std::string prefixLines(std::string_view lines, std::string_view prefix) {
