@@ -52,8 +52,8 @@ fault 'the scan of tables leaves out its last entry' src/frame/walk.h 's/positio
 fault 'count 0 wins over a null table entry' src/lu/back_substitute.h \
     's/if \(anyTableEntryNull\(order, src2/if (count != 0 \&\& anyTableEntryNull(order, src2/'
 fault 'list entries are not tested' src/frame/operands.h 's/return loadAt<T \*>\(listSlot\(n\)\) == nullptr/return n == ~std::size_t(0)/'
-fault 'a table entry of a single vector is tested after its element' src/vector/elementwise.h \
-    's/\(sources\.hasNullEntry\(j\) \|\| \.\.\.\) \|\| d\.hasNullEntry\(j\)/j + 1 < length \&\& ((sources.hasNullEntry(j + 1) || ...) || d.hasNullEntry(j + 1))/'
+fault 'a table entry of a single vector is tested after its element' src/frame/elementwise.h \
+    's/\(sources\.hasNullEntry\(i, j\) \|\| \.\.\.\) \|\| d\.hasNullEntry\(i, j\)/j + 1 < columns \&\& ((sources.hasNullEntry(i, j + 1) || ...) || d.hasNullEntry(i, j + 1))/'
 
 # Addressing
 fault 'row and element stride are swapped' src/frame/views.h \
@@ -119,11 +119,12 @@ fault 'Gaxpy adds its vector first' src/product/gaxpy.h 's/round<T>\(sum \+ Work
 fault 'the entry at position 8 is tested' src/product/multiply_vector.h 's/Cols::value == 4 \&\& A::layout/Cols::value == 7 \&\& A::layout/'
 
 # Fast paths of products, for disjoint operands
-fault 'overlap: four rows lie on what is multiplied' src/product/four_rows.h 's/!disjoint\(written, extentOfRows\(src1, rows\)\) \|\| //'
-fault 'overlap: four rows lie on the single matrix' src/product/four_rows.h 's/ \|\| !disjoint\(written, extentOf\(single, order, order\)\)//'
-fault 'overlap: pairs of rows lie on what is multiplied' src/product/row_pairs.h 's/ \|\| !areApartObjectByObject\(src1, dst\)//'
-fault 'overlap: triples lie on their results anyhow' src/product/packed_triples.h 's/ \|\| !mayWorkInBlocks\(vectors, results, end \* packed\)//'
-fault 'overlap: sums lie on their factors' src/product/schemes.h 's/!disjoint\(cells, extentOf\(a, rows, terms\)\) \|\| //'
+fault 'overlap: four rows lie on what is multiplied' src/product/four_rows.h 's/, reads\(a\), reads\(b\)/, reads(b)/'
+fault 'overlap: four rows lie on the single matrix' src/product/four_rows.h 's/, reads\(a\), reads\(b\)/, reads(a)/'
+fault 'overlap: pairs of rows lie on what is multiplied' src/product/row_pairs.h 's/if \(!mayWork\(src1\)\) return 0;//'
+fault 'overlap: triples lie on their results anyhow' src/product/packed_triples.h \
+    's/results\.begin == vectors\.begin \|\| disjoint\(results, vectors\)/true/'
+fault 'overlap: sums lie on their factors' src/product/running_sums.h 's/writes\(d\), reads\(a\), reads\(b\)\)/writes(d), reads(b))/'
 fault 'overlap: a negative zero is left' src/product/schemes.h 's/beginsAtFirstProduct<T> \&\& isNegativeZero/false \&\& isNegativeZero/'
 
 # The alias test, batches and streams
@@ -132,6 +133,10 @@ fault 'alias: results may overlap each other' src/frame/aliasing.h \
     's/if \(operands\[w\]\.isWritten\(\) && !isWrittenOnce\(operands\[w\]\)\) return no;/if (false) return no;/'
 fault 'alias: in place is always allowed' src/frame/aliasing.h 's/other\.use == AliasOperand::Use::readInPlace/other.use != AliasOperand::Use::written/'
 fault 'alias: lists that descend count as ascending' src/frame/aliasing.h 's/> farthest\) return \{n, false\}/> farthest) continue/'
+fault 'alias: tables may lie on results' src/frame/aliasing.h 's/return !aliasing::isEmpty\(read\) && disjoint\(written, read\)/return !aliasing::isEmpty(read)/'
+fault 'alias: results may lie on tables' src/frame/aliasing.h 's/!disjoint\(written, aliasing::extentOfEntries\(source, entries\)\)/false/;s/return disjoint\(written, aliasing::extentOfEntries\(d, entries\)\) \? written : Extent\{1, 0\}/return written/'
+fault 'sums of packs begin one object late' src/frame/reduce.h 's/n \+= objects\) \{/n += objects + 1) {/'
+fault 'the last positions of a stream are left out' src/frame/stream.h 's/for \(; at < bytes; at \+= sizeof\(Real32\)\)/for (; at + sizeof(Real32) < bytes; at += sizeof(Real32))/'
 fault 'batches begin one object late' src/frame/batch.h 's/^( +)n \+= objects;/\1n += objects + 1;/'
 fault 'a batch that fails counts as done' src/frame/batch.h 's/ \|\| !batch\.template work<access, chains>\(n\)\) break/ || !(batch.template work<access, chains>(n), true)) break/'
 fault 'the object after the last batch is left out' src/frame/batch.h 's/if \(n == count\) break;/if (n + 1 >= count) break;/'

@@ -520,10 +520,9 @@ VONKK3_INLINE bool isPlainlyDisjoint(const Extent &written, const OperandWords &
     return !aliasing::isEmpty(read) && disjoint(written, read);
 }
 
-// Or the same table.
+// Or the same table. Elements of an object keep their order, so it does not matter which are transposed.
 inline bool isInPlace(const OperandWords &d, const OperandWords &source) {
-    return source.begin == d.begin && source.rowStride == d.rowStride && source.step == d.step && source.isArray &&
-           source.isTransposed == d.isTransposed;
+    return source.begin == d.begin && source.rowStride == d.rowStride && source.step == d.step && source.isArray;
 }
 
 // The operands of a call, and whether its objects may be worked in batches. Entries of lists are looked at object by

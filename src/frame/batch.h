@@ -77,7 +77,7 @@ VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands
 template <Access access, BatchKernel Batch, std::size_t operands>
 VONKK3_NOINLINE std::size_t workBatches(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                         std::size_t count) {
-    batch.template hoist<access>(); // anew behind every plain object, which may have written there
+    batch.template hoist<access>(); // again after every plain object, which may have written there
     if constexpr (Batch::chains > 1) n = workWhileAllowed<access, Batch::chains>(batch, aliasing, n, count);
     return workWhileAllowed<access, 1>(batch, aliasing, n, count);
 }

@@ -1,4 +1,4 @@
-// Four Real32 vectors side by side: element j of all four in one register, each object in a lane of its own. What is
+// Four Real32 vectors in SIMD lanes: element j of all four in one register, one object to a lane. What is
 // done to them needs no sums across lanes, and rounds in each lane as it would for one object.
 #pragma once
 
@@ -86,7 +86,7 @@ private:
         store1(block.at[3], pick<3, 3, 3, 3>(x, x)), _mm_storeh_pi(pair(block.at[3] + 4), high);
     }
 
-    // Packed one behind the other they are three registers: xyzx, yzxy, zxyz.
+    // Contiguous, they are three registers: xyzx, yzxy, zxyz.
     VONKK3_INLINE static FourTriples loadPacked(const std::byte *at) {
         const __m128 a = load4(at), b = load4(at + laneBytes), c = load4(at + 2 * laneBytes);
         const __m128 yz = pick<1, 2, 0, 1>(a, b), xy = pick<2, 3, 1, 2>(b, c);

@@ -101,7 +101,7 @@ public:
     }
     std::ptrdiff_t objectSpacing() const { return objectStride; }
 
-    // Whether the rows of a matrix, of so many elements, lie one behind the other.
+    // Whether the rows of a matrix, of so many elements, are contiguous.
     bool hasPackedRows(std::size_t columns) const { return rowStride == std::ptrdiff_t(columns * sizeof(T)); }
 
     // The operand with another row stride.
@@ -147,7 +147,7 @@ private:
         else return reinterpret_cast<ByteOf<T> *>(pointer) + strides(n, objectStride);
     }
 
-    // A number below 0 leads ahead of the list: see the pipelined sums of matrices.
+    // A number below 0 leads before the list: see the pipelined sums of matrices.
     const std::byte *listSlot(std::size_t n) const {
         return reinterpret_cast<const std::byte *>(pointer + std::ptrdiff_t(n));
     }

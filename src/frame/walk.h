@@ -1,5 +1,5 @@
-// The road of every call: null tests of the pointers, tests of the dimensions, scan of the tables, test of `count`,
-// walk over the objects. A family states its road in a line per step, and stops at the first that fails:
+// The plain path of every call: argument checks (pointers, sizes, entries of tables, `count`), then object by object. A
+// family states its checks in a line each, and stops at the first that fails:
 //
 //     if (anyNull(src, pivots, dst)) return vonkErrNullPtr;
 //     if (order.isZero()) return vonkErrSize;
@@ -20,7 +20,7 @@ template <class T> inline bool isNull(const T &operand) { return operand.isNull(
 
 template <class... Pointers> inline bool anyNull(const Pointers &...pointers) { return (isNull(pointers) || ...); }
 
-// Scans the tables of the operands side by side; operands without a table pass.
+// Scans the tables of the operands together; operands without a table pass.
 template <class... Operands> inline bool anyTableEntryNull(std::size_t positions, const Operands &...operands) {
     if constexpr ((Operands::isTable || ...)) {
         for (std::size_t position = 0; position < positions; ++position)

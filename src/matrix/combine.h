@@ -30,13 +30,13 @@ template <class F>
 inline constexpr bool worksInLanes = F::isReal32 &&F::order != 0 &&
                                      (F::layout == Layout::Standard || F::layout == Layout::L);
 
-// There 3x3 and 4x4 with a single operand load it ahead of all objects: a destination that overlaps it changes nothing
-// for later objects. All other forms read it anew for each object.
+// There 3x3 and 4x4 with a single operand load it before all objects: a destination that overlaps it changes nothing
+// for later objects. All other forms read it again for each object.
 template <class F>
 inline constexpr bool holdsSingleOperand =
     worksInLanes<F> &&F::isArray &&F::firstArray != F::secondArray &&F::order <= 4;
 
-// vonkAdd and vonkSub of mam and mamT, 32f 3x3, standard layout and L: each object is loaded before the one ahead of it
+// vonkAdd and vonkSub of mam and mamT, 32f 3x3, standard layout and L: each object is loaded before the previous one
 // is stored, and the loop is entered with one object in hand, so `count` 0 works one object as `count` 1 does.
 template <class F>
 inline constexpr bool isPipelined =
@@ -86,7 +86,7 @@ VONKK3_INLINE VonkStatus combineRows(const A &a, const B &b, const D &d, Count c
 }
 
 // `hold` takes an object out of memory, `work` stores it. The entries of an object are tested together with its loads;
-// that of the destination's last object is tested first of all. At `count` 0 this is the entry ahead of the list, and
+// that of the destination's last object is tested first of all. At `count` 0 this is the entry before the list, and
 // the one object is stored through it.
 template <class A, class D, class Hold, class Work>
 VONKK3_INLINE VonkStatus pipelined(const A &a, const D &d, std::size_t count, Hold hold, Work work) {

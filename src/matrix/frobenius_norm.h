@@ -8,7 +8,7 @@
 
 namespace vonkk3::matrix {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // The order of a norm's additions and the way to its root.
 enum class NormOrder {
@@ -29,7 +29,7 @@ template <class T, class A, class Columns> constexpr NormOrder normOrder() {
     return A::isArray ? NormOrder::downColumns : NormOrder::alongRows;
 }
 
-// Real64 of run-time size rounds the sum to 64 bits ahead of the root, but not in the pointer layouts.
+// Real64 of run-time size rounds the sum to 64 bits before the root, but not in the pointer layouts.
 template <class T, class A, class Columns>
 inline constexpr bool roundsSum = std::is_same_v<T, Real64> && !Columns::isFixed && !A::isTable;
 
@@ -99,7 +99,7 @@ VONKK3_INLINE VonkStatus normsByFour(const A &a, Fixed<order> size, std::byte *r
 }
 
 // 6x6 gives the same results one by one or four at a time, but four at a time must not be seen: no result may lie where
-// a later object is read, and objects ahead of a null list entry are complete.
+// a later object is read, and objects before a null list entry are complete.
 template <class A>
 VONKK3_NOINLINE VonkStatus normsOfSixOneByOne(const A &a, std::size_t from, std::size_t to, std::byte *results) {
     for (std::size_t n = from; n < to; ++n) {

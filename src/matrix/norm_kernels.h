@@ -12,7 +12,7 @@ namespace vonkk3::matrix {
 VONKK3_INLINE __m128 add(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
 VONKK3_INLINE __m128 square(__m128 a) { return _mm_mul_ps(a, a); }
 
-// Lanes 0 and 2, 1 and 3 of two registers, each pair side by side with its counterpart: what a sum of halves adds.
+// Lanes 0 and 2, 1 and 3 of two registers, each pair beside its counterpart: what a sum of halves adds.
 VONKK3_INLINE __m128 addHalves(__m128 a, __m128 b) { return add(_mm_movelh_ps(a, b), _mm_movehl_ps(b, a)); }
 VONKK3_INLINE __m128 lane(__m128 lanes, int which) {
     switch (which) {

@@ -1,4 +1,4 @@
-// Real32 matrices of fixed order in four-lane registers, row by row: as they are stored or turned round, read when a
+// Real32 matrices of fixed order in four-lane registers, row by row: as they are stored or transposed, read when a
 // row's turn comes or held. Whatever gives rows is asked for row(i).
 #pragma once
 
@@ -15,13 +15,13 @@ template <std::size_t order> struct StoredRows {
     VONKK3_INLINE Lanes<order> row(std::size_t i) const { return Lanes<order>::load(view.at(i, 0)); }
 };
 
-// Turned round in registers: columns 0 to 3 are read at once, columns 4 and 5 when the turn of their rows comes.
-template <std::size_t order> struct TurnedRows {
+// Transposed in registers: columns 0 to 3 are read at once, columns 4 and 5 when the turn of their rows comes.
+template <std::size_t order> struct TransposedRows {
     RowsView<const Real32> stored;
     __m128 heads[4];
     __m128 below[2]; // rows 4 and 5 as stored
 
-    VONKK3_INLINE explicit TurnedRows(const TransposedView<RowsView<const Real32>> &view) : stored(view.stored) {
+    VONKK3_INLINE explicit TransposedRows(const TransposedView<RowsView<const Real32>> &view) : stored(view.stored) {
         forEachBelow<4>([&](std::size_t i) VONKK3_INLINED { heads[i] = load4(stored.at(i, 0)); });
         _MM_TRANSPOSE4_PS(heads[0], heads[1], heads[2], heads[3]);
         if constexpr (order > 4) below[0] = load4(stored.at(4, 0));
@@ -50,10 +50,10 @@ private:
 };
 
 // Of 3x3 a row lies in lanes 0, 2 and 3.
-template <> struct TurnedRows<3> {
+template <> struct TransposedRows<3> {
     __m128 rows[3];
 
-    VONKK3_INLINE explicit TurnedRows(const TransposedView<RowsView<const Real32>> &view) {
+    VONKK3_INLINE explicit TransposedRows(const TransposedView<RowsView<const Real32>> &view) {
         const __m128 first = load(view.stored.at(0, 0)), second = load(view.stored.at(1, 0)),
                      third = load(view.stored.at(2, 0));
         const __m128 low = _mm_unpacklo_ps(second, third), high = _mm_unpackhi_ps(second, third);
@@ -72,7 +72,7 @@ template <std::size_t order> VONKK3_INLINE auto rowsOf(const RowsView<const Real
     return StoredRows<order>(view);
 }
 template <std::size_t order> VONKK3_INLINE auto rowsOf(const TransposedView<RowsView<const Real32>> &view) {
-    return TurnedRows<order>(view);
+    return TransposedRows<order>(view);
 }
 
 // Taken out of memory.

@@ -6,7 +6,7 @@
 
 namespace vonkk3::matrix {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // Real32 of fixed size adds in a register and stores once where elements are adjacent, from the first element on: a sum
 // of negative zeros stays one. All other forms run from +0 and store that and every step.

@@ -8,7 +8,7 @@
 
 namespace vonkk3::matrix {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // In the pointer layouts the lengths of the tables' rows are taken crosswise: the source's rows are taken to be as long
 // as the destination's are, and the other way round. A square matrix is transposed; of others some entries are read or
@@ -38,7 +38,7 @@ VONKK3_INLINE VonkStatus transposeElements(const A &a, const D &d, Columns colum
     return vonkOk;
 }
 
-// The same for rows of adjacent elements that something keeps from being turned round in registers.
+// The same for rows of adjacent elements that something keeps from being transposed in registers.
 template <std::size_t order> VONKK3_NOINLINE void transposeInMemory(RowsView<const Real32> a, RowsView<Real32> d) {
     transposeElements<false>(a, d, fixed<order>, order);
 }
@@ -46,7 +46,7 @@ template <std::size_t order> VONKK3_NOINLINE void transposeInMemory(RowsView<con
 // ---- One object in registers: all of it is read before any of it is written -----------------------------------------
 
 // e0 ... e8 as e0 e3 e6 e1, e4 e7 e2 e5, e8
-VONKK3_INLINE void turnRunOfThree(const std::byte *from, std::byte *to) {
+VONKK3_INLINE void transposeRunOfThree(const std::byte *from, std::byte *to) {
     const __m128 low = load4(from), high = load4(from + 16);
     const Real32 last = loadAt<Real32>(from + 32);
     const __m128 e61 = _mm_shuffle_ps(high, low, _MM_SHUFFLE(1, 1, 2, 2));
@@ -69,7 +69,7 @@ VONKK3_INLINE __m128 oddColumn(__m128 upper, __m128 lower) {
 }
 
 // Columns j and j + 1 become rows; where those are a run, three stores do.
-template <Rows rows> VONKK3_INLINE void turnSix(const RowsView<const Real32> &from, const RowsView<Real32> &to) {
+template <Rows rows> VONKK3_INLINE void transposeSix(const RowsView<const Real32> &from, const RowsView<Real32> &to) {
     __m128 squares[3][3];
     forEachBelow<3>([&](std::size_t across) VONKK3_INLINED {
         forEachBelow<3>([&](std::size_t down)
@@ -87,14 +87,14 @@ template <Rows rows> VONKK3_INLINE void turnSix(const RowsView<const Real32> &fr
 }
 
 template <Rows rows, std::size_t order>
-VONKK3_INLINE void turn(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<order>) {
-    if constexpr (order == 3 && rows == Rows::adjacent) turnRunOfThree(from.base, to.base);
-    else if constexpr (order == 6) turnSix<rows>(from, to);
+VONKK3_INLINE void transposeObject(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<order>) {
+    if constexpr (order == 3 && rows == Rows::adjacent) transposeRunOfThree(from.base, to.base);
+    else if constexpr (order == 6) transposeSix<rows>(from, to);
     else {
-        const TurnedRows<order> turned{TransposedView{from}};
+        const TransposedRows<order> transposed{TransposedView{from}};
         __m128 heads[order], tails[order];
         forEachBelow<order>([&](std::size_t i) VONKK3_INLINED {
-            const Lanes<order> row = turned.row(i);
+            const Lanes<order> row = transposed.row(i);
             heads[i] = row.head;
             tails[i] = row.tail;
         });
@@ -112,7 +112,7 @@ VONKK3_INLINE VonkStatus transposeThrees(const A &a, const D &d, Count count) {
         const Touching touching(source.repeated(count, a.objectSpacing()),
                                 destination.repeated(count, d.objectSpacing()));
         if (!touching(a.view(0).base, d.view(0).base)) {
-            for (std::size_t n = 0; n < count; ++n) turn<rows>(a.view(n), d.view(n), fixed<3>);
+            for (std::size_t n = 0; n < count; ++n) transposeObject<rows>(a.view(n), d.view(n), fixed<3>);
             return vonkOk;
         }
     }
@@ -123,7 +123,7 @@ VONKK3_INLINE VonkStatus transposeThrees(const A &a, const D &d, Count count) {
             const auto from = a.view(n);
             const auto to = d.view(n);
             if (touching(from.base, to.base)) transposeInMemory<3>(from, to);
-            else turn<rows>(from, to, fixed<3>);
+            else transposeObject<rows>(from, to, fixed<3>);
             return vonkOk;
         },
         a, d);
@@ -134,7 +134,9 @@ VONKK3_INLINE VonkStatus transposeInLanes(const A &a, const D &d, Fixed<order> s
     if constexpr (storesBeforeItHasRead<Fixed<order>>) return transposeThrees<rows>(a, d, count);
     else
         return forEachObject(
-            count, [&](std::size_t n) VONKK3_INLINED { return turn<rows>(a.view(n), d.view(n), size), vonkOk; }, a, d);
+            count,
+            [&](std::size_t n) VONKK3_INLINED { return transposeObject<rows>(a.view(n), d.view(n), size), vonkOk; }, a,
+            d);
 }
 
 // d(n, j, i) = a(n, i, j), for `rows` by `columns` of the source.

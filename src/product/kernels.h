@@ -49,7 +49,7 @@ template <std::size_t order, class View> VONKK3_INLINE __m128 loadInOrder(const 
 
 // The same as the kernels work it. A row of 3x3 lies in lanes 0, 2 and 3, where one element and a pair go to and fro
 // without shuffling.
-inline __m128 spreadThree(__m128 inOrder) { return _mm_shuffle_ps(inOrder, inOrder, _MM_SHUFFLE(2, 1, 0, 0)); }
+inline __m128 shuffleThree(__m128 inOrder) { return _mm_shuffle_ps(inOrder, inOrder, _MM_SHUFFLE(2, 1, 0, 0)); }
 
 template <std::size_t order, class View> VONKK3_INLINE __m128 loadRowHead(const View &view, std::size_t i) {
     if constexpr (order != 3) return loadInOrder<order>(view, i);
@@ -83,7 +83,7 @@ template <std::size_t order> struct HeldRows {
         forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED { head[k] = loadRowHead<order>(b, k); });
     }
 
-    // Of a matrix that is read transposed: row k of B is column k as stored, turned round in registers.
+    // Of a matrix that is read transposed: row k of B is column k as stored, transposed in registers.
     template <class Stored> VONKK3_INLINE void loadHead(const TransposedView<Stored> &b) {
         constexpr std::size_t lanes = order == 3 ? 3 : 4;
         __m128 rows[4];
@@ -92,7 +92,7 @@ template <std::size_t order> struct HeldRows {
                    [&](std::size_t j) VONKK3_INLINED { rows[j] = loadInOrder<order>(b.stored, j); });
         _MM_TRANSPOSE4_PS(rows[0], rows[1], rows[2], rows[3]);
         forIndices(0, lanes, fixed<lanes>,
-                   [&](std::size_t k) VONKK3_INLINED { head[k] = order == 3 ? spreadThree(rows[k]) : rows[k]; });
+                   [&](std::size_t k) VONKK3_INLINED { head[k] = order == 3 ? shuffleThree(rows[k]) : rows[k]; });
         if constexpr (order > 4)
             forIndices(4, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
                 head[k] = _mm_setr_ps(b.load(k, 0), b.load(k, 1), b.load(k, 2), b.load(k, 3));
@@ -173,7 +173,8 @@ VONKK3_INLINE void multiplyRows(const A &a, const HeldRows<order> &b, const D &d
                [&](std::size_t i) VONKK3_INLINED { storeRowHead<order>(d, i, rowHead<begins>(a, i, b)); });
 }
 
-// 5x5: column 4 runs beside the lanes, in the same order. `column4(k)` gives B(k, 4): held, or read anew for every row.
+// 5x5: column 4 runs beside the lanes, in the same order. `column4(k)` gives B(k, 4): held, or read again for every
+// row.
 template <SumBegins begins, class A, class D, class Column4>
 VONKK3_INLINE void multiplyRowsOfFive(const A &a, const HeldRows<5> &b, const D &d, const Column4 &column4) {
     forIndices(0, 5, fixed<5>, [&](std::size_t i) VONKK3_INLINED {

@@ -10,7 +10,7 @@
 
 namespace vonkk3::product {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 enum class Scheme { runningSum, rowBroadcast, pairSum };
 
@@ -38,7 +38,7 @@ template <class T, class P, std::size_t order> constexpr Scheme schemeOf() {
 template <class T, class P, std::size_t order>
 inline constexpr bool testsEntries = schemeOf<T, P, order>() == Scheme::runningSum || P::layout == Layout::L;
 
-// 5x5 reads column 4 of B anew for every row where B is a plain single matrix.
+// 5x5 reads column 4 of B again for every row where B is a plain single matrix.
 template <class P> inline constexpr bool rereadsColumn4 = !P::secondArray && !P::secondTransposed;
 
 // 6x6 of two single matrices, the second transposed, fetches what the second pass needs when it comes to it, after the
@@ -47,7 +47,7 @@ template <class P> inline constexpr bool fetchesPairsLate = !P::isArray && P::se
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
-// What of B is held: ahead of all objects if B is single, else object by object.
+// What of B is held in registers: before all objects if B is single, else object by object.
 template <class P, std::size_t order, class B> VONKK3_INLINE HeldRows<order> hold(const B &b) {
     HeldRows<order> held;
     held.loadHead(b);

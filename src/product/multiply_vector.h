@@ -8,7 +8,7 @@
 
 namespace vonkk3::product {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // Real32 of fixed order works in lanes where elements are adjacent, whatever the pattern.
 template <class T, Layout layout, class Cols>
@@ -41,7 +41,7 @@ template <class Held, class V> VONKK3_INLINE auto factorsInLanes(const V &src) {
 // A product of order 3 or 4 takes few instructions, and equally spaced vectors can share one running offset.
 template <class Held, class A, class V, class D, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus multiplyVectors(const A &src1, const V &src2, const D &dst, Fixed<order>, Count count) {
-    const auto matrices = matricesInLanes<Held>(src1); // ahead of all results, one of which may be stored on it
+    const auto matrices = matricesInLanes<Held>(src1); // before all results, one of which may be stored on it
     const auto vectors = factorsInLanes<Held>(src2);
     const auto walk = [&](auto forEach, const auto &dst) VONKK3_INLINED {
         return forEach([&](std::size_t n) VONKK3_INLINED {

@@ -9,9 +9,9 @@
 namespace vonkk3::product {
 
 // The elements of a matrix in all lanes: element (i, j) of the result's vector i takes factor j of it.
-struct SpreadMatrix {
+struct BroadcastMatrix {
     __m128 element[3][3];
-    template <class Element> VONKK3_INLINE explicit SpreadMatrix(const Element &elementAt) {
+    template <class Element> VONKK3_INLINE explicit BroadcastMatrix(const Element &elementAt) {
         for (std::size_t i = 0; i < 3; ++i)
             for (std::size_t j = 0; j < 3; ++j) element[i][j] = _mm_set1_ps(elementAt(i, j));
     }
@@ -28,7 +28,7 @@ template <class Element>
 inline void multiplyPackedTriples(const Element &elementAt, const std::byte *vectors, std::byte *results,
                                   std::size_t count) {
     constexpr std::ptrdiff_t packed = 3 * sizeof(Real32);
-    const SpreadMatrix held(elementAt);
+    const BroadcastMatrix held(elementAt);
     const SpacedVectors<const Real32, packed> from{vectors};
     const SpacedVectors<Real32, packed> to{results};
     for (std::size_t n = 0; n < count; n += four) held.times(FourTriples::load(from, n)).store(to, n);
@@ -55,8 +55,8 @@ VONKK3_INLINE std::size_t multiplyOneByTriples(const A &src1, const V &src2, con
 template <class A, class B, class D>
 VONKK3_INLINE std::size_t multiplyTriplesByOne(const A &src1, const B &src2, const D &dst, std::size_t objects) {
     const std::size_t done = inFours(objects);
-    if (done == 0 || !equallySpaced(src1, dst) || dst.objectSpacing() != 9 * sizeof(Real32) ||
-        !src1.hasPackedRows(3) || !dst.hasPackedRows(3))
+    if (done == 0 || !equallySpaced(src1, dst) || dst.objectSpacing() != 9 * sizeof(Real32) || !src1.hasPackedRows(3) ||
+        !dst.hasPackedRows(3))
         return 0;
     if (!mayWorkPacked(extentOfAll(dst, 3, 3, done), extentOfAll(src1, 3, 3, done))) return 0;
     multiplyPackedTriples([b = src2.view(0)](std::size_t i, std::size_t k) { return b.load(k, i); }, src1.view(0).base,

@@ -1,7 +1,7 @@
 // An array of 6x6 matrices, each times its own matrix or all times one, where the rows of the results are packed: two
 // of them fill three registers with columns 0 to 3 of the upper one, 4 and 5 of it with 0 and 1 of the lower one, and 2
-// to 5 of that. Every element is summed as in the kernels, but elements are read and stored in another order, so this
-// way stands open only where nobody can tell.
+// to 5 of that. Every element is summed as in the kernels, but elements are read and stored in another order: a fast
+// path for disjoint operands.
 #pragma once
 
 #include "frame/aliasing.h"

@@ -70,7 +70,7 @@ template <> struct PlainMatrix<3> {
 };
 
 // The same of packed rows, for a matrix that serves one vector alone: registers begin at each row, but the last at the
-// element ahead, so that none reaches beyond the matrix; products are turned instead of elements.
+// element before, so that none reaches past the end of the matrix; products are shuffled instead of elements.
 struct PackedMatrixOfThree {
     struct Factors {
         __m128 elements, behindOther; // from lane 0 on, and from lane 1 on
@@ -94,7 +94,7 @@ struct PackedMatrixOfThree {
     }
 };
 
-// Two rows side by side: their columns 0 and 1, 2 and 3, and of 6x6 4 and 5.
+// Two rows interleaved: their columns 0 and 1, 2 and 3, and of 6x6 4 and 5.
 template <std::size_t order> struct RowPair {
     __m128 columns[order / 2];
 

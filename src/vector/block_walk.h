@@ -7,12 +7,12 @@
 
 namespace vonkk3::vector {
 
-// Below this length the plain loop is quicker: with up to 3 elements ahead of the first boundary, 11 is the least
+// Below this length the plain loop is quicker: with up to 3 elements before the first boundary, 11 is the least
 // length that is sure to fill one block.
 inline constexpr std::size_t blockThreshold = 11;
 inline constexpr std::size_t blockElements = 8;
 inline constexpr std::size_t blockBytes = blockElements * sizeof(Real32);
-inline constexpr std::size_t prefetchDistance = 64; // bytes ahead of the block's first element
+inline constexpr std::size_t prefetchDistance = 64; // bytes from the block's first element
 
 // Shorter vectors lie in the first-level cache or are there before a hint could help, and then the hints, which take
 // the place of two loads a block, cost a quarter of the speed.
@@ -22,7 +22,7 @@ inline std::size_t pastBoundary(const std::byte *address) {
     return reinterpret_cast<std::uintptr_t>(address) % laneBytes;
 }
 
-// How many elements lie ahead of the next 16-byte boundary; `address` is a multiple of 4.
+// How many elements lie before the next 16-byte boundary; `address` is a multiple of 4.
 inline std::size_t elementsToBoundary(const std::byte *address) {
     return (laneBytes - pastBoundary(address)) % laneBytes / sizeof(Real32);
 }

@@ -6,7 +6,7 @@
 
 namespace vonkk3::vector {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // How a component u v - w x is written, which shows in the sign of a zero, and in rounding modes other than to nearest.
 // The plain form loads both vectors before it stores; the others store each component before they load for the next.

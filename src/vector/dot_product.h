@@ -7,7 +7,7 @@
 
 namespace vonkk3::vector {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 template <class A, class B, class Length> struct DotForm {
     using T = typename A::Element;

@@ -23,8 +23,8 @@ template <class Length, class D, class... Sources> struct Form {
 template <class F>
 inline constexpr bool worksInLanes = F::isReal32 &&F::isFixed &&F::isAdjacent && !(F::sharesOne && F::length == 3);
 
-// Real32 of fixed size with a single vector for all objects loads it ahead of them where elements are adjacent: a
-// destination that overlaps it changes nothing for later objects. All other forms read it anew for each object.
+// Real32 of fixed size with a single vector for all objects loads it before all of them where elements are contiguous:
+// a destination that overlaps it changes nothing for later objects. All other forms read it again for each object.
 template <class F> inline constexpr bool holdsSingleVector = F::isReal32 &&F::isFixed &&F::isAdjacent &&F::sharesOne;
 
 // ---- One object -----------------------------------------------------------------------------------------------------

@@ -9,7 +9,7 @@
 
 namespace vonkk3::vector {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // Real32 of fixed size, where elements are adjacent, trades exactness for speed: squares are added as a tree, and the
 // root comes from the estimate of a reciprocal root. The norm of a zero vector is NaN there, and 0 in all other forms.

@@ -8,7 +8,7 @@ namespace vonkk3::vector {
 
 // ---- Exceptions -----------------------------------------------------------------------------------------------------
 
-// Fixed sizes read a single vector anew for each object, but for vav of 4x1 and 6x1 in standard layout: where all
+// Fixed sizes read a single vector again for each object, but for vav of 4x1 and 6x1 in standard layout: where all
 // operands are aligned, a destination that overlaps the single vector changes nothing for later objects.
 template <class F, class A>
 inline constexpr bool mayHoldSingleVector = F::isReal32 &&F::isStandard &&F::sharesOne &&A::isArray &&

@@ -1,0 +1,142 @@
+// A call on many objects gives what one call for each of them gives, whatever overlaps. Fast paths begin at 12 and more
+// objects; operands lie here so that the order of objects, or of positions, would show.
+#include "vonkk3.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <functional>
+
+namespace {
+
+constexpr std::uint32_t objects = 40;
+
+// Memory for operands, and for tables of pointers that results may lie on.
+struct Arena {
+    alignas(64) std::array<const float *, 64> table;
+    std::array<float, 4096> numbers;
+
+    Arena() : table() {
+        for (std::size_t k = 0; k < numbers.size(); ++k) numbers[k] = static_cast<float>(k * 37 % 101) / 8.0F - 6.0F;
+    }
+    bool operator==(const Arena &other) const {
+        return std::memcmp(numbers.data(), other.numbers.data(), sizeof numbers) == 0;
+    }
+};
+
+// A table of positions, so many elements apart.
+template <std::size_t positions, class Number>
+std::array<Number *, positions> tableFrom(Number *first, std::ptrdiff_t apart) {
+    std::array<Number *, positions> table;
+    for (std::size_t k = 0; k < positions; ++k) table[k] = first + static_cast<std::ptrdiff_t>(k) * apart;
+    return table;
+}
+
+// call(arena, n, count) works on so many objects from n on.
+using Work = std::function<void(Arena &, std::int32_t, std::uint32_t)>;
+
+void expectSameObjectByObject(const Work &call) {
+    static Arena together, alone;
+    together = Arena();
+    alone = Arena();
+    call(together, 0, objects);
+    for (std::uint32_t n = 0; n < objects; ++n) call(alone, static_cast<std::int32_t>(n), 1);
+    EXPECT_TRUE(together == alone);
+    EXPECT_FALSE(together == Arena()) << "nothing was written";
+}
+
+constexpr std::int32_t bytes = sizeof(float);
+
+TEST(ManyObjects, AreTransposedInPlaceThroughOneTable) {
+    expectSameObjectByObject([](Arena &arena, std::int32_t n, std::uint32_t count) {
+        const auto table = tableFrom<16>(arena.numbers.data(), 64);
+        ASSERT_EQ(vonkTranspose_ma_32f_4x4_P(reinterpret_cast<const float *const *>(table.data()), n * bytes,
+                                             table.data(), n * bytes, count),
+                  vonkOk);
+    });
+}
+
+TEST(ManyObjects, AreAddedWithResultsOnTheirSourcesNeighbours) {
+    for (const std::ptrdiff_t shifted : {-5, -1, 1, 3, 39}) {
+        SCOPED_TRACE(shifted);
+        expectSameObjectByObject([shifted](Arena &arena, std::int32_t n, std::uint32_t count) {
+            const auto a = tableFrom<9>(static_cast<const float *>(arena.numbers.data() + 64), 64);
+            const auto b = tableFrom<9>(static_cast<const float *>(arena.numbers.data() + 1024), 64);
+            const auto d = tableFrom<9>(arena.numbers.data() + 64 + shifted, 64);
+            ASSERT_EQ(vonkAdd_mama_32f_3x3_P(a.data(), n * bytes, b.data(), n * bytes, d.data(), n * bytes, count),
+                      vonkOk);
+        });
+    }
+}
+
+TEST(ManyObjects, AreScaledWithPositionsInAnotherOrder) {
+    expectSameObjectByObject([](Arena &arena, std::int32_t n, std::uint32_t count) {
+        const auto a = tableFrom<4>(static_cast<const float *>(arena.numbers.data()), 64);
+        const auto d = tableFrom<4>(arena.numbers.data() + 192, -64);
+        ASSERT_EQ(vonkMul_vac_32f_4x1_P(a.data(), n * bytes, 1.5F, d.data(), n * bytes, count), vonkOk);
+    });
+}
+
+TEST(ManyObjects, AreMultipliedWithResultsOnTheirFactors) {
+    for (const std::ptrdiff_t shifted : {-3, 0, 1, 20}) {
+        SCOPED_TRACE(shifted);
+        expectSameObjectByObject([shifted](Arena &arena, std::int32_t n, std::uint32_t count) {
+            const auto a = tableFrom<16>(static_cast<const float *>(arena.numbers.data() + 64), 64);
+            const auto b = tableFrom<16>(static_cast<const float *>(arena.numbers.data() + 1200), 64);
+            const auto d = tableFrom<16>(arena.numbers.data() + 64 + shifted, 64);
+            ASSERT_EQ(vonkMul_mama_32f_4x4_P(a.data(), n * bytes, b.data(), n * bytes, d.data(), n * bytes, count),
+                      vonkOk);
+        });
+    }
+}
+
+TEST(ManyObjects, AreSummedIntoTheirOwnElements) {
+    for (const std::ptrdiff_t at : {0, 1, 66, 200}) {
+        SCOPED_TRACE(at);
+        expectSameObjectByObject([at](Arena &arena, std::int32_t n, std::uint32_t count) {
+            const auto a = tableFrom<4>(static_cast<const float *>(arena.numbers.data()), 64);
+            const auto b = tableFrom<4>(static_cast<const float *>(arena.numbers.data() + 300), 64);
+            float *const dst = arena.numbers.data() + at + n;
+            ASSERT_EQ(vonkDotProduct_vava_32f_4x1_P(a.data(), n * bytes, b.data(), n * bytes, dst, count), vonkOk);
+        });
+    }
+}
+
+TEST(ManyObjects, AreTransformedWithResultsOnLaterVectors) {
+    for (const std::ptrdiff_t shifted : {-4, -3, 1, 4, 9}) {
+        SCOPED_TRACE(shifted);
+        expectSameObjectByObject([shifted](Arena &arena, std::int32_t n, std::uint32_t count) {
+            const float *const matrix = arena.numbers.data();
+            float *const vectors = arena.numbers.data() + 64 + std::ptrdiff_t(3) * n;
+            ASSERT_EQ(vonkMul_mva_32f_3x3(matrix, 12, vectors, 12, vectors + shifted, 12, count), vonkOk);
+        });
+    }
+}
+
+// The first position of the objects lies on the table: what is copied there is what stands there, but for the last
+// object, which gets the lower half of another address for the table's last entry: its last element comes from there.
+TEST(ManyObjects, MayBeCopiedOntoTheTableTheyAreReadThrough) {
+    expectSameObjectByObject([](Arena &arena, std::int32_t n, std::uint32_t count) {
+        static_assert(sizeof(void *) == 2 * sizeof(float), "an entry is as long as two elements");
+        float *const numbers = arena.numbers.data();
+        float *const onEntry = reinterpret_cast<float *>(&arena.table[43]) - (objects - 1);
+        if (n == 0) {
+            for (std::size_t k = 0; k < 4; ++k) arena.table[40 + k] = numbers + 64 * k;
+            const float *const other = numbers + 3000;
+            ASSERT_EQ(reinterpret_cast<std::uintptr_t>(other) >> 32, reinterpret_cast<std::uintptr_t>(numbers) >> 32);
+            std::memcpy(numbers, onEntry, (objects - 1) * sizeof(float));
+            std::memcpy(numbers + objects - 1, &other, sizeof(float));
+        }
+        const std::array<float *, 4> d{onEntry, numbers + 1000, numbers + 1100, numbers + 1200};
+        ASSERT_EQ(vonkCopy_ma_32f_PP(&arena.table[40], n * bytes, bytes, d.data(), n * bytes, bytes, 2, 2, count),
+                  vonkOk);
+        if (static_cast<std::uint32_t>(n) + count == objects) { // addresses differ from arena to arena
+            EXPECT_EQ(numbers[1200 + objects - 1], numbers[3000 + objects - 1]);
+            std::memset(numbers, 0, objects * sizeof(float));
+        }
+    });
+}
+
+} // namespace
