@@ -121,20 +121,21 @@ TEST(ManyObjects, MayBeCopiedOntoTheTableTheyAreReadThrough) {
     expectSameObjectByObject([](Arena &arena, std::int32_t n, std::uint32_t count) {
         static_assert(sizeof(void *) == 2 * sizeof(float), "an entry is as long as two elements");
         float *const numbers = arena.numbers.data();
+        float *const source = numbers + 2000;
         float *const onEntry = reinterpret_cast<float *>(&arena.table[43]) - (objects - 1);
         if (n == 0) {
-            for (std::size_t k = 0; k < 4; ++k) arena.table[40 + k] = numbers + 64 * k;
-            const float *const other = numbers + 3000;
+            for (std::size_t k = 0; k < 4; ++k) arena.table[40 + k] = source + 64 * k;
+            const float *const other = numbers + 3050;
             ASSERT_EQ(reinterpret_cast<std::uintptr_t>(other) >> 32, reinterpret_cast<std::uintptr_t>(numbers) >> 32);
-            std::memcpy(numbers, onEntry, (objects - 1) * sizeof(float));
-            std::memcpy(numbers + objects - 1, &other, sizeof(float));
+            std::memcpy(source, onEntry, (objects - 1) * sizeof(float));
+            std::memcpy(source + objects - 1, &other, sizeof(float));
         }
         const std::array<float *, 4> d{onEntry, numbers + 1000, numbers + 1100, numbers + 1200};
         ASSERT_EQ(vonkCopy_ma_32f_PP(&arena.table[40], n * bytes, bytes, d.data(), n * bytes, bytes, 2, 2, count),
                   vonkOk);
         if (static_cast<std::uint32_t>(n) + count == objects) { // addresses differ from arena to arena
-            EXPECT_EQ(numbers[1200 + objects - 1], numbers[3000 + objects - 1]);
-            std::memset(numbers, 0, objects * sizeof(float));
+            EXPECT_EQ(numbers[1200 + objects - 1], numbers[3050 + objects - 1]);
+            std::memset(source, 0, objects * sizeof(float));
         }
     });
 }
