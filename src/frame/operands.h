@@ -89,9 +89,6 @@ public:
         else return RowsView<T>(base(n), rowStride);
     }
 
-    // Where the positions of object 0 lead, in the order of the table whatever else the operand does to it.
-    TableView<T> tableView(std::size_t columns) const requires isTable { return TableView<T>(pointer, columns, shift); }
-
     // The operand with the object stride of another one that is known to have the same: where the compiler sees that
     // two strides are one value, it keeps one running offset instead of two.
     template <class Other> Operand spacedAs(const Other &other) const {
