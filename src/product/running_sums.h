@@ -185,7 +185,8 @@ template <class T, class Shape, class Operands> struct SumsByElement {
     template <Access, std::size_t> VONKK3_INLINE bool work(std::size_t n) const {
         if constexpr (std::is_same_v<T, Real32> && Shape::ofVector) {
             constexpr std::size_t order = Shape::fixedOrder;
-            const auto a = operands.first(n), v = operands.second(n);
+            const auto a = operands.first(n);
+            const auto v = operands.second(n);
             const auto d = operands.result(n);
             Real32 element[order]; // read once for all rows
             forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED { element[k] = v.load(k, 0); });
