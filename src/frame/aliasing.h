@@ -37,6 +37,11 @@ template <class T> inline Extent extentOf(const T *block, std::size_t length) {
 template <class T> VONKK3_INLINE Extent extentOf(const RowsView<T> &view, std::size_t rows, std::size_t columns) {
     return extentOf(view.base, columns * sizeof(T)).extendedBy(strides(rows - 1, view.rowStride));
 }
+template <class T> VONKK3_INLINE Extent extentOf(const StridedView<T> &view, std::size_t rows, std::size_t columns) {
+    return extentOf(view.base, sizeof(T))
+        .extendedBy(strides(rows - 1, view.rowStride))
+        .extendedBy(strides(columns - 1, view.elementStride));
+}
 
 // Whether the rows of a matrix are disjoint.
 template <class T> inline bool areRowsDisjoint(const RowsView<T> &view, std::size_t columns) {
@@ -117,7 +122,7 @@ private:
             .extendedBy(strides(view.rows - 1, view.rowStride))
             .extendedBy(strides(view.columns - 1, view.elementStride));
     }
-    Extent extentOfPositions() const {
+    VONKK3_NOINLINE Extent extentOfPositions() const {
         Extent all = part(0);
         for (std::size_t i = 0; i < view.rows; ++i)
             for (std::size_t j = 0; j < view.columns; ++j) {

@@ -47,7 +47,7 @@ template <class Batch> inline constexpr std::size_t objectsOfChain = packWidth;
 template <class Batch>
 requires(Batch::lanesWithinObject) inline constexpr std::size_t objectsOfChain<Batch> = 1;
 
-// Kernels that are never given contiguous positions, or nothing but contiguous rows, say so.
+// Kernels that are never given contiguous positions, or nothing that goes element by element, say so.
 template <class Batch> inline constexpr bool takesPositions = true;
 template <class Batch>
 requires requires { Batch::takesPositions; }
@@ -82,9 +82,11 @@ VONKK3_INLINE std::size_t workBatches(Access access, Batch &batch, const Aliasin
                                       std::size_t count) {
     if constexpr (objectsOfChain<Batch> == 1) return workBatches<Access::any>(batch, aliasing, n, count);
     else {
-        if (!takesAny<Batch> || access == Access::rows) return workBatches<Access::rows>(batch, aliasing, n, count);
+        constexpr bool takesOthers = takesPositions<Batch> || takesAny<Batch>;
+        if (!takesOthers || access == Access::rows) return workBatches<Access::rows>(batch, aliasing, n, count);
         if constexpr (takesPositions<Batch>)
-            if (access == Access::positions) return workBatches<Access::positions>(batch, aliasing, n, count);
+            if (!takesAny<Batch> || access == Access::positions)
+                return workBatches<Access::positions>(batch, aliasing, n, count);
         if constexpr (takesAny<Batch>) return workBatches<Access::any>(batch, aliasing, n, count);
     }
 }

@@ -167,6 +167,8 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
     VONKK3_INLINE BatchOperand(const Operand &operand, std::size_t count)
         : BatchOperand(objectsOf(operand, rows, columns, count)) {}
     VONKK3_INLINE explicit BatchOperand(const ObjectsView &view) : view(view) {}
+    VONKK3_INLINE BatchOperand(const OperandWords &words, std::size_t count, bool throughTables)
+        : view(objectsOf<Real32>(words, rows, columns, count, throughTables)) {}
 
     // What is the same for all batches: a single object is broadcast, the pointers of a table are read. Nothing that is
     // written overlaps either.

@@ -45,4 +45,18 @@ private:
     }
 };
 
+// Of strided layouts where rows are known to be contiguous.
+template <class T> struct ContiguousOperand : SharedOperand<T, false> {
+    using SharedOperand<T, false>::SharedOperand;
+    auto view(std::size_t n, std::size_t columns = 0) const {
+        const StridedView<T> strided = SharedOperand<T, false>::view(n, columns);
+        return RowsView<T>(strided.base, strided.rowStride);
+    }
+};
+
+// Whether elements of rows are contiguous, where they are not found through a table.
+template <class T, class... Words> inline bool areRowsContiguous(const Words &...operands) {
+    return ((operands.elementStride == std::int32_t(sizeof(T))) && ...);
+}
+
 } // namespace vonkk3
