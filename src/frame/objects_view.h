@@ -159,14 +159,6 @@ VONKK3_INLINE ObjectsView objectsOf(const OperandWords &words, std::size_t rows,
     return view;
 }
 
-// Where it is known at run time only.
-template <class T>
-VONKK3_INLINE ObjectsView objectsOf(const OperandWords &words, std::size_t rows, std::size_t columns, std::size_t count,
-                                    bool throughTables) {
-    return throughTables ? objectsOf<T, true>(words, rows, columns, count)
-                         : objectsOf<T, false>(words, rows, columns, count);
-}
-
 // The diagonals of square matrices, as vectors.
 inline ObjectsView diagonalOf(ObjectsView matrices) {
     matrices.rows = 1;

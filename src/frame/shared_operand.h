@@ -54,6 +54,13 @@ template <class T> struct ContiguousOperand : SharedOperand<T, false> {
     }
 };
 
+// work(areLists), in a copy for either answer where that pays: where the work of an object is a few instructions.
+template <class Order> inline constexpr bool isLight = Order::value == 3 || Order::value == 4;
+template <bool inTwoCopies, class Work> VONKK3_INLINE auto knowingLists(bool areLists, const Work &work) {
+    if constexpr (inTwoCopies) return areLists ? work(std::true_type()) : work(std::false_type());
+    else return work(areLists);
+}
+
 // Whether elements of rows are contiguous, where they are not found through a table.
 template <class T, class... Words> inline bool areRowsContiguous(const Words &...operands) {
     return ((operands.elementStride == std::int32_t(sizeof(T))) && ...);

@@ -172,7 +172,8 @@ template <std::size_t order> struct DecomposeBatch {
     VectorsOfBatch<order> pivots;
     LastPivots<order> lastPivots;
 
-    VONKK3_INLINE DecomposeBatch(const DecomposeWords &words, std::size_t count, bool throughTables)
+    template <class Tables>
+    VONKK3_INLINE DecomposeBatch(const DecomposeWords &words, std::size_t count, Tables throughTables)
         : src(words.src, count, throughTables), dst(words.dst, count, throughTables),
           pivots(packedBlocks(words.pivots, order, count)), lastPivots(dst.view, pivots.view) {}
 
@@ -234,19 +235,21 @@ template <std::size_t order> std::size_t leastToDecompose(const ObjectsView &fac
 // Objects one after the other, each through all its steps; the first singular one ends the call.
 template <class Source, class Factors, class Order>
 VONKK3_NOINLINE VonkStatus decomposePlainly(const DecomposeWords &words, Order sizes, std::size_t n, std::size_t to) {
-    const Source src(words.src);
-    Factors dst(words.dst);
-    dst.isList = src.isList; // which the compiler now knows to be the same
     std::uint32_t *const pivots = words.pivots;
     const Order order = sizes;
-    for (; n < to; ++n) {
-        if (src.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
-            return vonkErrNullPtr;
-        const VonkStatus status =
-            decomposeObject(src.view(n, order), dst.view(n, order), pivotBlock(pivots, n, order), order, n, true);
-        if (status != vonkOk) return status;
-    }
-    return vonkOk;
+    return knowingLists<Order::value == 3>(words.dst.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
+        Source src(words.src);
+        Factors dst(words.dst);
+        src.isList = dst.isList = areLists;
+        for (; n < to; ++n) {
+            if (src.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
+                return vonkErrNullPtr;
+            const VonkStatus status =
+                decomposeObject(src.view(n, order), dst.view(n, order), pivotBlock(pivots, n, order), order, n, true);
+            if (status != vonkOk) return status;
+        }
+        return vonkOk;
+    });
 }
 
 template <class T, bool throughTables, class Order>
@@ -258,13 +261,12 @@ VONKK3_INLINE VonkStatus decomposePlainly(const DecomposeWords &words, Order ord
     return decomposePlainly<Source, SharedOperand<T, throughTables>>(words, order, from, to);
 }
 
-template <std::size_t order>
-VONKK3_NOINLINE VonkStatus decomposeInBatches(const DecomposeWords &words, std::size_t count, bool throughTables) {
+template <std::size_t order, bool throughTables>
+VONKK3_NOINLINE VonkStatus decomposeInBatches(const DecomposeWords &words, std::size_t count) {
     const auto plainly = [&](std::size_t from, std::size_t to) VONKK3_INLINED {
-        return throughTables ? decomposePlainly<Real32, true>(words, fixed<order>, from, to)
-                             : decomposePlainly<Real32, false>(words, fixed<order>, from, to);
+        return decomposePlainly<Real32, throughTables>(words, fixed<order>, from, to);
     };
-    DecomposeBatch<order> batch(words, count, throughTables);
+    DecomposeBatch<order> batch(words, count, std::bool_constant<throughTables>());
     if (count < leastToDecompose<order>(batch.dst.view, batch.access())) return plainly(0, count);
     const Aliasing aliasing(count, writes(batch.dst.view), writes(batch.pivots.view), readsInPlace(batch.src.view));
     return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
@@ -287,7 +289,7 @@ VONKK3_INLINE VonkStatus decompose(const Source &src, std::uint32_t *pivots, con
                 order,
                 [&](auto size) VONKK3_INLINED {
                     if constexpr (size < 4) return decomposePlainly<T, Factors::isTable>(words, size, 0, count);
-                    else return decomposeInBatches<size>(words, count, Factors::isTable);
+                    else return decomposeInBatches<size, Factors::isTable>(words, count);
                 },
                 plainly);
     return plainly();
