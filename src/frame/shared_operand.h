@@ -35,14 +35,14 @@ template <class T, bool throughTables, bool isTransposed = false> struct SharedO
                 isList, isTransposed};
     }
     bool listHasNull(std::size_t n) const { return !throughTables && isList && listEntry(n) == 0; }
+    bool beginsAtNull(std::size_t n) const { return !throughTables && address(n) == 0; }
 
 private:
     std::uintptr_t listEntry(std::size_t n) const { return ObjectsView::pointerAt(begin + n * sizeof(void *)); }
-    ByteOf<T> *object(std::size_t n) const {
-        const std::uintptr_t address =
-            isList ? listEntry(n) + std::uintptr_t(step) : begin + std::uintptr_t(strides(n, step));
-        return reinterpret_cast<ByteOf<T> *>(address);
+    std::uintptr_t address(std::size_t n) const {
+        return isList ? listEntry(n) + std::uintptr_t(step) : begin + std::uintptr_t(strides(n, step));
     }
+    ByteOf<T> *object(std::size_t n) const { return reinterpret_cast<ByteOf<T> *>(address(n)); }
 };
 
 // Of strided layouts where rows are known to be contiguous.

@@ -163,7 +163,7 @@ private:
         gatherRowsInOrder<access>(src1, n, rowOf, factors, step);
     }
 
-    // One body serves all layouts.
+    // What is left over is worked by one body for all layouts.
     template <class Number, class Factor>
     VONKK3_NOINLINE static void solveByCall(Factor (&factors)[order][order], Number (&b)[1][order],
                                             Number (&x)[1][order]) {
