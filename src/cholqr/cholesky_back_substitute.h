@@ -37,18 +37,9 @@ VONKK3_INLINE void solve(const Factor &f, const RightSide &b, const Solution &x,
     });
 }
 
-// Of fixed order in rows of adjacent elements, and for every other single call by loops.
 template <class Factor, class RightSide, class Solution, class Order>
 VONKK3_NOINLINE void solveByCall(Factor factor, RightSide b, Solution x, Order order) {
     solve(InMemory{factor}, InMemory{b}, InMemory{x}, order);
-}
-
-template <class Factor, class RightSide, class Solution, class Order>
-VONKK3_INLINE void solveSingle(const Factor &factor, const RightSide &b, const Solution &x, Order order) {
-    if constexpr (Order::isFixed && std::is_same_v<Solution, RowsView<Real32>>)
-        solve(InMemory{factor}, InMemory{b}, InMemory{x}, order);
-    else if constexpr (Order::isFixed && std::is_same_v<Solution, RowsView<Real64>>) solveByCall(factor, b, x, order);
-    else solveByCall(factor, b, x, RunTime{std::uint32_t(order)});
 }
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
@@ -138,13 +129,17 @@ VONKK3_INLINE VonkStatus choleskyBackSubstitute(const Factor &src1, const RightS
     if (anyNull(src1, src2, dst)) return vonkErrNullPtr;
     if (order.isZero() || count == 0) return vonkErrSize;
     if (hasTopBit(count) || (ordersWithSign<Solution> && hasTopBit(order))) return vonkOk;
-    if constexpr (!Count::isArray) {
-        if (!anyBeginsAtNull(0, src1, src2, dst)) solveSingle(src1.view(0, order), src2.view(0), dst.view(0), order);
+    if constexpr (!Count::isArray && Solution::layout == Layout::Standard) {
+        if (anyBeginsAtNull(0, src1, src2, dst)) return vonkOk;
+        const auto factor = src1.view(0);
+        if constexpr (Order::isFixed && std::is_same_v<T, Real32>)
+            solve(InMemory{factor}, InMemory{src2.view(0)}, InMemory{dst.view(0)}, order);
+        else solveByCall(factor, src2.view(0), dst.view(0), order);
         return vonkOk;
     } else {
         const SolveWords words{src1.words(order), src2.words(1), dst.words(1)};
         const auto plainly = [&]() VONKK3_INLINED { return solvePlainly<T, throughTables>(words, order, 0, count); };
-        if constexpr (std::is_same_v<T, Real32>)
+        if constexpr (worksInBatches<Solution>)
             if (count >= packWidth)
                 return withFixedOrder(
                     order,

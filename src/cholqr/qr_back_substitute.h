@@ -208,7 +208,7 @@ VONKK3_NOINLINE VonkStatus solvePlainly(const LeastSquaresWords<T> &words, Colum
     return vonkOk;
 }
 
-// Real32 of fixed order is unrolled where rows are contiguous.
+// A fixed order is unrolled where rows are contiguous.
 template <class T, bool throughTables, class Columns, class Rows>
 VONKK3_INLINE VonkStatus solvePlainly(const LeastSquaresWords<T> &words, Columns columns, Rows rows, std::size_t from,
                                       std::size_t to) {
@@ -217,8 +217,7 @@ VONKK3_INLINE VonkStatus solvePlainly(const LeastSquaresWords<T> &words, Columns
         if (areRowsContiguous<T>(words.src1, words.src2, words.dst)) {
             using Source = ContiguousOperand<const T>;
             using Solution = ContiguousOperand<T>;
-            if constexpr (Columns::isFixed && std::is_same_v<T, Real32>)
-                return solvePlainly<Source, Solution>(words, columns, rows, from, to);
+            if constexpr (Columns::isFixed) return solvePlainly<Source, Solution>(words, columns, rows, from, to);
             else return solvePlainly<Source, Solution>(words, width, height, from, to);
         }
     using Source = SharedOperand<const T, throughTables>;
@@ -244,9 +243,9 @@ VONKK3_INLINE VonkStatus qrBackSubstitute(const Factors &src1, T *work, const Ri
     if (columns.isZero() || rows.isZero()) return vonkErrSize;
     if (anyTableEntryNull(columns * rows, src1)) return vonkErrNullPtr;
     if (anyTableEntryNull(columns, src2, dst)) return vonkErrNullPtr;
-    if constexpr (!Count::isArray) {
-        const auto factors = src1.view(0, columns);
-        if constexpr (Columns::isFixed && std::is_same_v<decltype(dst.view(0)), RowsView<Real32>>)
+    if constexpr (!Count::isArray && Solution::layout == Layout::Standard) {
+        const auto factors = src1.view(0);
+        if constexpr (Columns::isFixed && std::is_same_v<T, Real32>)
             solveObject<false>(factors, factors, work, src2.view(0), dst.view(0), columns, rows);
         else
             solveByCall<copiesInBlocks<RightSide, Columns>>(factors, factors, work, src2.view(0), dst.view(0),
@@ -259,7 +258,7 @@ VONKK3_INLINE VonkStatus qrBackSubstitute(const Factors &src1, T *work, const Ri
         const auto plainly = [&]() VONKK3_INLINED {
             return solvePlainly<T, throughTables>(words, columns, rows, 0, count);
         };
-        if constexpr (std::is_same_v<T, Real32>)
+        if constexpr (worksInBatches<Solution>)
             if (count >= packWidth && columns == rows)
                 return withFixedOrder(
                     columns,

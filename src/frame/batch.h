@@ -47,7 +47,11 @@ template <class Batch> inline constexpr std::size_t objectsOfChain = packWidth;
 template <class Batch>
 requires(Batch::lanesWithinObject) inline constexpr std::size_t objectsOfChain<Batch> = 1;
 
-// Kernels that are never given contiguous positions, or nothing that goes element by element, say so.
+// Kernels that are never given contiguous rows, contiguous positions, or what goes element by element, say so.
+template <class Batch> inline constexpr bool takesRows = true;
+template <class Batch>
+requires requires { Batch::takesRows; }
+inline constexpr bool takesRows<Batch> = Batch::takesRows;
 template <class Batch> inline constexpr bool takesPositions = true;
 template <class Batch>
 requires requires { Batch::takesPositions; }
@@ -83,7 +87,8 @@ VONKK3_INLINE std::size_t workBatches(Access access, Batch &batch, const Aliasin
     if constexpr (objectsOfChain<Batch> == 1) return workBatches<Access::any>(batch, aliasing, n, count);
     else {
         constexpr bool takesOthers = takesPositions<Batch> || takesAny<Batch>;
-        if (!takesOthers || access == Access::rows) return workBatches<Access::rows>(batch, aliasing, n, count);
+        if constexpr (takesRows<Batch>)
+            if (!takesOthers || access == Access::rows) return workBatches<Access::rows>(batch, aliasing, n, count);
         if constexpr (takesPositions<Batch>)
             if (!takesAny<Batch> || access == Access::positions)
                 return workBatches<Access::positions>(batch, aliasing, n, count);
