@@ -133,15 +133,15 @@ template <class T> struct ReflectWords {
 };
 
 // `work` is left as the last object leaves it.
-template <std::size_t order, bool throughTables> struct ReflectBatch {
+template <std::size_t order> struct ReflectBatch {
     static constexpr std::size_t chains = 1;
-    static constexpr bool takesRows = !throughTables, takesPositions = throughTables;
     MatricesOfBatch<order> src, dst;
     ObjectsView workspace;
 
-    VONKK3_INLINE ReflectBatch(const ReflectWords<Real32> &words, std::size_t count)
-        : src(words.src, count, std::bool_constant<throughTables>()),
-          dst(words.dst, count, std::bool_constant<throughTables>()), workspace(packedBlocks(words.work, order, 1)) {}
+    template <class Tables>
+    VONKK3_INLINE ReflectBatch(const ReflectWords<Real32> &words, std::size_t count, Tables throughTables)
+        : src(words.src, count, throughTables), dst(words.dst, count, throughTables),
+          workspace(packedBlocks(words.work, order, 1)) {}
 
     Access access() const { return accessOf(src.view, dst.view); }
     template <Access access> VONKK3_INLINE void hoist() {
@@ -205,7 +205,7 @@ VONKK3_NOINLINE VonkStatus reflectInBatches(const ReflectWords<Real32> &words, s
         return reflectPlainly<Real32, throughTables>(words, fixed<order>, fixed<order>, from, to);
     };
     if (!RoundingControl().bothRoundToNearest()) return plainly(0, count);
-    ReflectBatch<order, throughTables> batch(words, count);
+    ReflectBatch<order> batch(words, count, std::bool_constant<throughTables>());
     const Aliasing aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view), writes(batch.workspace));
     return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
 }

@@ -459,7 +459,7 @@ public:
     template <class... Operands>
     VONKK3_INLINE explicit Aliasing(std::size_t count, const Operands &...each) : operands{each...} {
         if (aliasing::isPlainlyIndependent(operands)) answer = {count, false};
-        else answer = aliasing::askOnce(operands, number, count);
+        else answer = aliasing::askOnce(operands, opaque(number), count);
     }
 
     bool rulesOutBatches() const { return answer.allowed == 0 && !answer.asksByBatch; }
@@ -467,7 +467,7 @@ public:
     // For so many objects from n on.
     VONKK3_INLINE bool allowsBatch(std::size_t n, std::size_t objects) const {
         if (n + objects <= answer.allowed) return true;
-        return answer.asksByBatch && aliasing::askForBatch(operands, number, n, objects);
+        return answer.asksByBatch && aliasing::askForBatch(operands, opaque(number), n, opaque(objects));
     }
 
 private:

@@ -60,9 +60,9 @@ template <class T> inline std::byte *resultCell(T *dst, std::size_t n) { return 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
 // Of fixed order, where Real32 is worked in Real32.
-template <std::size_t order, bool throughTables> struct DeterminantBatch {
+template <std::size_t order> struct DeterminantBatch {
     static constexpr std::size_t chains = 1;
-    static constexpr bool takesRows = !throughTables, takesPositions = throughTables, takesAny = order >= 5;
+    static constexpr bool takesAny = order >= 5;
     MatricesOfBatch<order> src;
     ObjectsView results;
 
@@ -115,8 +115,7 @@ VONKK3_NOINLINE VonkStatus determinantsInBatches(const OperandWords &src, Real32
     const auto plainly = [&](std::size_t from, std::size_t to) VONKK3_INLINED {
         return determinantsPlainly<false, SharedOperand<const Real32, throughTables>, order>(src, dst, from, to);
     };
-    DeterminantBatch<order, throughTables> batch{{src, count, std::bool_constant<throughTables>()},
-                                                 packedBlocks(dst, 1, count)};
+    DeterminantBatch<order> batch{{src, count, std::bool_constant<throughTables>()}, packedBlocks(dst, 1, count)};
     if (count < leastForDeterminants<order>(batch.src.view, batch.access())) return plainly(0, count);
     const Aliasing aliasing(count, writes(batch.results), reads(batch.src.view));
     return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });

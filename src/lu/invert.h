@@ -66,14 +66,14 @@ struct InvertWords {
 // there.
 template <bool builtForSpeed, std::size_t order> inline constexpr bool isWorthInverting = !builtForSpeed || order >= 5;
 
-template <bool builtForSpeed, bool throughTables, std::size_t order> struct InvertBatch {
+template <bool builtForSpeed, std::size_t order> struct InvertBatch {
     static constexpr std::size_t chains = order == 3 ? 2 : 1; // the larger ones fill the registers
-    static constexpr bool takesRows = !throughTables, takesPositions = throughTables, takesAny = !builtForSpeed;
+    static constexpr bool takesPositions = !builtForSpeed, takesAny = !builtForSpeed;
     MatricesOfBatch<order> src, dst;
 
-    VONKK3_INLINE InvertBatch(const InvertWords &words, std::size_t count)
-        : src(words.src, count, std::bool_constant<throughTables>()),
-          dst(words.dst, count, std::bool_constant<throughTables>()) {}
+    template <class Tables>
+    VONKK3_INLINE InvertBatch(const InvertWords &words, std::size_t count, Tables throughTables)
+        : src(words.src, count, throughTables), dst(words.dst, count, throughTables) {}
 
     Access access() const { return accessOf(src.view, dst.view); }
     template <Access access> VONKK3_INLINE void hoist() {
@@ -148,7 +148,7 @@ VONKK3_INLINE VonkStatus invertPlainly(const InvertWords &words, std::size_t fro
 
 template <bool builtForSpeed, bool throughTables, std::size_t order>
 VONKK3_NOINLINE VonkStatus invertInBatches(const InvertWords &words, std::size_t count) {
-    InvertBatch<builtForSpeed, throughTables, order> batch(words, count);
+    InvertBatch<builtForSpeed, order> batch(words, count, std::bool_constant<throughTables>());
     const Aliasing aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view));
     return forEachBatch(batch, aliasing, count, [&](std::size_t n) {
         return invertPlainly<Real32, builtForSpeed, throughTables, order>(words, n, n + 1);
