@@ -3,9 +3,7 @@
 #pragma once
 
 #include "cholqr/elements.h"
-#include "cholqr/single_calls.h"
-#include "frame/batch.h"
-#include "frame/shared_operand.h"
+#include "frame/shared_batch.h"
 
 namespace vonkk3::cholqr {
 
@@ -44,28 +42,11 @@ VONKK3_NOINLINE void solveByCall(Factor factor, RightSide b, Solution x, Order o
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Of a call. One factor serves all right-hand sides (mva), or each has its own (mava).
-struct SolveWords {
-    OperandWords src1, src2, dst;
-};
-
 // Real32 sums are the same in every layout and for every order.
-template <std::size_t order, bool isArray> struct SolveBatch {
+template <std::size_t order, bool isArray> struct SolveBatch : SystemBatch<order, isArray, Triangle::lower> {
+    using System = SystemBatch<order, isArray, Triangle::lower>;
+    using System::System, System::src1, System::src2, System::dst;
     static constexpr std::size_t chains = 2;
-    MatricesOfBatch<order, isArray, Triangle::lower> src1;
-    VectorsOfBatch<order> src2, dst;
-
-    template <class Tables>
-    VONKK3_INLINE SolveBatch(const SolveWords &words, std::size_t count, Tables throughTables)
-        : src1(words.src1, count, throughTables), src2(words.src2, count, throughTables),
-          dst(words.dst, count, throughTables) {}
-
-    Access access() const { return accessOf(src1.view, src2.view, dst.view); }
-    template <Access access> VONKK3_INLINE void hoist() {
-        src1.template hoist<access>();
-        src2.template hoist<access>();
-        dst.template hoist<access>();
-    }
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> b[1][order], x[1][order];
         src2.template gather<access>(n, b);
@@ -89,7 +70,7 @@ private:
 
 // An object is passed over if one of its operands begins at null.
 template <class Source, class Solution, class Order>
-VONKK3_NOINLINE void solvePlainly(const SolveWords &words, Order sizes, std::size_t n, std::size_t to) {
+VONKK3_NOINLINE void solvePlainly(const SystemWords &words, Order sizes, std::size_t n, std::size_t to) {
     const Source src1(words.src1), src2(words.src2);
     const Solution dst(words.dst);
     const Order order = sizes;
@@ -100,7 +81,7 @@ VONKK3_NOINLINE void solvePlainly(const SolveWords &words, Order sizes, std::siz
 
 // Unrolled where rows are contiguous.
 template <class T, bool throughTables, class Order>
-VONKK3_INLINE VonkStatus solvePlainly(const SolveWords &words, Order order, std::size_t from, std::size_t to) {
+VONKK3_INLINE VonkStatus solvePlainly(const SystemWords &words, Order order, std::size_t from, std::size_t to) {
     if constexpr (Order::isFixed && !throughTables)
         if (areRowsContiguous<T>(words.src1, words.src2, words.dst)) {
             solvePlainly<ContiguousOperand<const T>, ContiguousOperand<T>>(words, order, from, to);
@@ -112,7 +93,7 @@ VONKK3_INLINE VonkStatus solvePlainly(const SolveWords &words, Order order, std:
 }
 
 template <std::size_t order, bool isArray, bool throughTables>
-VONKK3_NOINLINE VonkStatus solveInBatches(const SolveWords &words, std::size_t count) {
+VONKK3_NOINLINE VonkStatus solveInBatches(const SystemWords &words, std::size_t count) {
     SolveBatch<order, isArray> batch(words, count, std::bool_constant<throughTables>());
     const Aliasing aliasing(count, writes(batch.dst.view), reads(batch.src1.view), readsInPlace(batch.src2.view));
     return forEachBatch(batch, aliasing, count, [&](std::size_t n) {
@@ -137,7 +118,7 @@ VONKK3_INLINE VonkStatus choleskyBackSubstitute(const Factor &src1, const RightS
         else solveByCall(factor, src2.view(0), dst.view(0), order);
         return vonkOk;
     } else {
-        const SolveWords words{src1.words(order), src2.words(1), dst.words(1)};
+        const SystemWords words{src1.words(order), src2.words(1), dst.words(1)};
         const auto plainly = [&]() VONKK3_INLINED { return solvePlainly<T, throughTables>(words, order, 0, count); };
         if constexpr (worksInBatches<Solution>)
             if (count >= packWidth)

@@ -5,9 +5,7 @@
 
 #include "cholqr/elements.h"
 #include "cholqr/roots.h"
-#include "cholqr/single_calls.h"
-#include "frame/batch.h"
-#include "frame/shared_operand.h"
+#include "frame/shared_batch.h"
 
 namespace vonkk3::cholqr {
 
@@ -111,32 +109,18 @@ VONKK3_NOINLINE VonkStatus factorByCall(Source source, Factor view, Order order)
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Of a call.
-struct FactorWords {
-    OperandWords src, dst;
-};
-
 // Unrolled orders, and all that is in tables. Where roots round once, they are filtered; if one is doubtful, all are
-// taken anew.
-template <std::size_t order, bool throughTables> struct FactorBatch {
+// recomputed.
+template <std::size_t order, bool throughTables> struct FactorBatch : MatrixBatch<order, Triangle::lower> {
+    using Matrices = MatrixBatch<order, Triangle::lower>;
+    using Matrices::Matrices, Matrices::src, Matrices::dst;
     static constexpr std::size_t chains = 2; // a root waits for the one before it
     static constexpr bool takesRows = !throughTables, takesPositions = throughTables;
-    MatricesOfBatch<order, true, Triangle::lower> src, dst;
-
-    VONKK3_INLINE FactorBatch(const FactorWords &words, std::size_t count)
-        : src(words.src, count, std::bool_constant<throughTables>()),
-          dst(words.dst, count, std::bool_constant<throughTables>()) {}
-
-    Access access() const { return accessOf(src.view, dst.view); }
-    template <Access access> VONKK3_INLINE void hoist() {
-        src.template hoist<access>();
-        dst.template hoist<access>();
-    }
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> f[order][order];
         src.template gather<access>(n, f);
         const Outcome outcome = chains > 1 ? factorGathered(f) : factorByCall(f);
-        if (outcome == Outcome::failed || (outcome == Outcome::doubtful && !factorAnew(n, f))) return false;
+        if (outcome == Outcome::failed || (outcome == Outcome::doubtful && !factorExactly(n, f))) return false;
         dst.template scatter<access>(n, f);
         return true;
     }
@@ -163,7 +147,7 @@ private:
         return factorGathered(f);
     }
     template <std::size_t chains>
-    VONKK3_NOINLINE bool factorAnew(std::size_t n, Packs<chains> (&f)[order][order]) const {
+    VONKK3_NOINLINE bool factorExactly(std::size_t n, Packs<chains> (&f)[order][order]) const {
         src.template gather<Access::any>(n, f);
         return factorWith(f, LaneByLane());
     }
@@ -174,7 +158,7 @@ private:
 // An array is a walk of calls for one object, each with its own argument checks: an object is refused if it begins at
 // null, and the entries of tables and lists are not looked at.
 template <class Source, class Factor, class Order>
-VONKK3_NOINLINE VonkStatus factorPlainly(const FactorWords &words, Order sizes, std::size_t n, std::size_t to) {
+VONKK3_NOINLINE VonkStatus factorPlainly(const MatrixWords &words, Order sizes, std::size_t n, std::size_t to) {
     const Source src(words.src);
     const Factor dst(words.dst);
     const Order order = sizes;
@@ -187,7 +171,7 @@ VONKK3_NOINLINE VonkStatus factorPlainly(const FactorWords &words, Order sizes, 
 }
 
 template <class T, bool throughTables, class Order>
-VONKK3_INLINE VonkStatus factorPlainly(const FactorWords &words, Order order, std::size_t from, std::size_t to) {
+VONKK3_INLINE VonkStatus factorPlainly(const MatrixWords &words, Order order, std::size_t from, std::size_t to) {
     if constexpr (Order::isFixed && std::is_same_v<T, Real32> && !throughTables)
         if (areRowsContiguous<T>(words.src, words.dst))
             return factorPlainly<ContiguousOperand<const T>, ContiguousOperand<T>>(words, order, from, to);
@@ -198,14 +182,14 @@ VONKK3_INLINE VonkStatus factorPlainly(const FactorWords &words, Order order, st
 }
 
 template <std::size_t order, bool throughTables>
-VONKK3_NOINLINE VonkStatus factorInBatches(const FactorWords &words, std::size_t count) {
+VONKK3_NOINLINE VonkStatus factorInBatches(const MatrixWords &words, std::size_t count) {
     const auto plainly = [&](std::size_t from, std::size_t to) VONKK3_INLINED {
         return factorPlainly<Real32, throughTables>(words, fixed<order>, from, to);
     };
     if constexpr (!throughTables)
         if (const RoundingControl control; !control.bothRoundToNearest() || !control.wideHas53Bits())
             return plainly(0, count);
-    FactorBatch<order, throughTables> batch(words, count);
+    FactorBatch<order, throughTables> batch(words, count, std::bool_constant<throughTables>());
     return forEachBatch(batch, Aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view)), count,
                         [&](std::size_t n) { return plainly(n, n + 1); });
 }
@@ -227,7 +211,7 @@ VONKK3_INLINE VonkStatus choleskyDecompose(const Source &src, const Factor &dst,
                 order, [&](auto size) VONKK3_INLINED { return factorByCall(source, target, size); },
                 [&]() VONKK3_INLINED { return factorByCall(source, target, RunTime{std::uint32_t(order)}); });
     } else {
-        FactorWords words{src.words(order), dst.words(order)};
+        MatrixWords words{src.words(order), dst.words(order)};
         return withFixedOrder(
             order,
             [&](auto size) VONKK3_INLINED {

@@ -5,9 +5,7 @@
 
 #include "cholqr/copy_in_blocks.h"
 #include "cholqr/elements.h"
-#include "cholqr/reflectors.h"
-#include "frame/batch.h"
-#include "frame/shared_operand.h"
+#include "frame/shared_batch.h"
 
 namespace vonkk3::cholqr {
 
@@ -21,7 +19,7 @@ inline constexpr bool stepsHalfColumns =
     Solution::isArray;
 
 // A Real64 matrix for each right-hand side, in the list layout, of every size: the reflectors are found where they are,
-// but row i of R is taken to begin i + 1 bytes behind the matrix, less one row stride.
+// but row i of R is read i + 1 bytes past the beginning of the matrix, less one row stride.
 template <class Factors>
 inline constexpr bool strayInTriangle =
     std::is_same_v<typename Factors::Element, Real64> &&Factors::layout == Layout::L &&Factors::isArray;
@@ -115,32 +113,26 @@ VONKK3_NOINLINE void solveByCall(Reflectors reflectors, Triangle triangle, T *wo
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Of a call. One matrix serves all right-hand sides (mva), or each has its own (mava).
-template <class T> struct LeastSquaresWords {
-    OperandWords src1;
+// Of a call.
+template <class T> struct LeastSquaresWords : SystemWords {
     T *work;
-    OperandWords src2, dst;
     bool strays; // see strayInTriangle
 };
 
 // `work` is left as the last object leaves it.
-template <std::size_t order, bool isArray> struct LeastSquaresBatch {
+template <std::size_t order, bool isArray> struct LeastSquaresBatch : SystemBatch<order, isArray> {
+    using System = SystemBatch<order, isArray>;
+    using System::src1, System::src2, System::dst;
     static constexpr std::size_t chains = 2;
-    MatricesOfBatch<order, isArray> src1;
-    VectorsOfBatch<order> src2, dst;
     ObjectsView workspace;
     Pack betasOfSingle[order];
 
     template <class Tables>
     VONKK3_INLINE LeastSquaresBatch(const LeastSquaresWords<Real32> &words, std::size_t count, Tables throughTables)
-        : src1(words.src1, count, throughTables), src2(words.src2, count, throughTables),
-          dst(words.dst, count, throughTables), workspace(packedBlocks(words.work, order, 1)) {}
+        : System(words, count, throughTables), workspace(packedBlocks(words.work, order, 1)) {}
 
-    Access access() const { return accessOf(src1.view, src2.view, dst.view); }
     template <Access access> VONKK3_INLINE void hoist() {
-        src1.template hoist<access>();
-        src2.template hoist<access>();
-        dst.template hoist<access>();
+        System::template hoist<access>();
         if constexpr (!isArray) findBetas(src1.broadcast(), betasOfSingle);
     }
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
@@ -253,7 +245,7 @@ VONKK3_INLINE VonkStatus qrBackSubstitute(const Factors &src1, T *work, const Ri
                                                             RunTime{std::uint32_t(rows)});
         return vonkOk;
     } else {
-        LeastSquaresWords<T> words{src1.words(columns), work, src2.words(1), dst.words(1), strayInTriangle<Factors>};
+        LeastSquaresWords<T> words{{src1.words(columns), src2.words(1), dst.words(1)}, work, strayInTriangle<Factors>};
         if (stepsHalfColumns<Factors, Solution>) words.src1.elementStride = sizeof(Real64) / 2;
         const auto plainly = [&]() VONKK3_INLINED {
             return solvePlainly<T, throughTables>(words, columns, rows, 0, count);

@@ -4,10 +4,8 @@
 #pragma once
 
 #include "cholqr/elements.h"
-#include "cholqr/reflectors.h"
 #include "cholqr/roots.h"
-#include "frame/batch.h"
-#include "frame/shared_operand.h"
+#include "frame/shared_batch.h"
 
 namespace vonkk3::cholqr {
 
@@ -126,28 +124,18 @@ VONKK3_INLINE VonkStatus reflectObject(const Source &source, const Factors &fact
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
 // Of a call.
-template <class T> struct ReflectWords {
-    OperandWords src;
-    T *work;
-    OperandWords dst;
-};
+template <class T> struct ReflectWords : MatrixWords { T *work; };
 
 // `work` is left as the last object leaves it.
-template <std::size_t order> struct ReflectBatch {
+template <std::size_t order> struct ReflectBatch : MatrixBatch<order> {
+    using MatrixBatch<order>::src, MatrixBatch<order>::dst;
     static constexpr std::size_t chains = 1;
-    MatricesOfBatch<order> src, dst;
     ObjectsView workspace;
 
     template <class Tables>
     VONKK3_INLINE ReflectBatch(const ReflectWords<Real32> &words, std::size_t count, Tables throughTables)
-        : src(words.src, count, throughTables), dst(words.dst, count, throughTables),
-          workspace(packedBlocks(words.work, order, 1)) {}
+        : MatrixBatch<order>(words, count, throughTables), workspace(packedBlocks(words.work, order, 1)) {}
 
-    Access access() const { return accessOf(src.view, dst.view); }
-    template <Access access> VONKK3_INLINE void hoist() {
-        src.template hoist<access>();
-        dst.template hoist<access>();
-    }
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> d[order][order], v[1][order];
         src.template gather<access>(n, d);
@@ -220,7 +208,7 @@ VONKK3_INLINE VonkStatus qrDecompose(const Source &src, T *work, const Factors &
     if constexpr (!Count::isArray && Factors::layout == Layout::Standard)
         return reflectObject(src.view(0), dst.view(0), work, columns, rows);
     else {
-        const ReflectWords<T> words{src.words(columns), work, dst.words(columns)};
+        const ReflectWords<T> words{{src.words(columns), dst.words(columns)}, work};
         const auto plainly = [&]() VONKK3_INLINED {
             return reflectPlainly<T, throughTables>(words, columns, rows, 0, count);
         };

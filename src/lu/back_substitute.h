@@ -3,8 +3,7 @@
 // Nothing about the numbers is tested: a zero pivot divides through.
 #pragma once
 
-#include "frame/batch.h"
-#include "frame/shared_operand.h"
+#include "frame/shared_batch.h"
 #include "lu/arithmetic.h"
 #include "lu/local_block.h"
 #include "lu/permutation.h"
@@ -93,34 +92,27 @@ VONKK3_INLINE void solveObject(const Factors &factors, const Rows &rows, const R
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Of a call. One factored matrix serves all right-hand sides (mva), or each has its own (mava), with its own block of
-// pivots.
-struct SolveWords {
-    OperandWords src1;
+// Of a call. Each matrix has its own block of pivots.
+struct SolveWords : SystemWords {
     const std::uint32_t *pivots;
-    OperandWords src2, dst;
 };
 
 // Rows and right-hand sides are gathered in their logical order. Pivots that are no row indices take the plain path.
-template <std::size_t order, bool isArray> struct SolveBatch {
+template <std::size_t order, bool isArray> struct SolveBatch : SystemBatch<order, true> {
+    using System = SystemBatch<order, true>;
+    using System::src1, System::src2, System::dst;
     static constexpr std::size_t chains = 2; // a quotient waits for the one before it
-    MatricesOfBatch<order> src1;
-    VectorsOfBatch<order> src2, dst;
     ObjectsView pivots;
     Pack single[order][order]; // the one matrix, in its logical order
     bool singleIsTrusted = false;
 
     template <class Tables>
     VONKK3_INLINE SolveBatch(const SolveWords &words, std::size_t count, Tables throughTables)
-        : src1(words.src1, count, throughTables), src2(words.src2, count, throughTables),
-          dst(words.dst, count, throughTables), pivots(packedBlocks(words.pivots, order, isArray ? count : 1)) {}
+        : System(words, count, throughTables), pivots(packedBlocks(words.pivots, order, isArray ? count : 1)) {}
 
-    Access access() const { return accessOf(src1.view, src2.view, dst.view); }
     template <Access access> VONKK3_INLINE void hoist() {
-        src2.template hoist<access>();
-        dst.template hoist<access>();
-        if constexpr (isArray) src1.template hoist<access>();
-        else holdSingle();
+        System::template hoist<access>();
+        if constexpr (!isArray) holdSingle();
     }
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) {
         Packs<chains> b[1][order], x[1][order];
@@ -243,7 +235,7 @@ VONKK3_INLINE VonkStatus backSubstitute(const Factors &src1, const std::uint32_t
         solveObject<keepsWide, T>(src1.view(0, order), rows, src2.view(0), dst.view(0), order);
         return vonkOk;
     } else {
-        SolveWords words{src1.words(order), pivots, src2.words(1), dst.words(1)};
+        SolveWords words{{src1.words(order), src2.words(1), dst.words(1)}, pivots};
         if (stepsHalfColumns<Factors, Solution>) words.src1.elementStride = halfColumn;
         if constexpr (std::is_same_v<T, Real32>)
             if (count >= 2 * packWidth)

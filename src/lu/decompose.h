@@ -2,8 +2,7 @@
 // permutation instead of row exchanges. The factors stay in the rows where the matrix had them.
 #pragma once
 
-#include "frame/batch.h"
-#include "frame/shared_operand.h"
+#include "frame/shared_batch.h"
 #include "lu/arithmetic.h"
 #include "lu/last_pivots.h"
 #include "lu/rows.h"
@@ -159,29 +158,21 @@ VONKK3_INLINE VonkStatus decomposeObject(const Source &source, const Factors &fa
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
 // Of a call.
-struct DecomposeWords {
-    OperandWords src;
+struct DecomposeWords : MatrixWords {
     std::uint32_t *pivots;
-    OperandWords dst;
 };
 
-template <std::size_t order> struct DecomposeBatch {
+template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
+    using MatrixBatch<order>::src, MatrixBatch<order>::dst;
     static constexpr std::size_t chains = 1;
     static constexpr bool takesPositions = order >= 5, takesAny = order >= 5;
-    MatricesOfBatch<order> src, dst;
     VectorsOfBatch<order> pivots;
     LastPivots<order> lastPivots;
 
     template <class Tables>
     VONKK3_INLINE DecomposeBatch(const DecomposeWords &words, std::size_t count, Tables throughTables)
-        : src(words.src, count, throughTables), dst(words.dst, count, throughTables),
-          pivots(packedBlocks(words.pivots, order, count)), lastPivots(dst.view, pivots.view) {}
-
-    Access access() const { return accessOf(src.view, dst.view); }
-    template <Access access> VONKK3_INLINE void hoist() {
-        src.template hoist<access>();
-        dst.template hoist<access>();
-    }
+        : MatrixBatch<order>(words, count, throughTables), pivots(packedBlocks(words.pivots, order, count)),
+          lastPivots(dst.view, pivots.view) {}
 
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         RowsOfBatch<chains, order> rows;
@@ -281,7 +272,7 @@ VONKK3_INLINE VonkStatus decompose(const Source &src, std::uint32_t *pivots, con
     if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
     if constexpr (!Count::isArray)
         return decomposeObject(src.view(0, order), dst.view(0, order), pivotBlock(pivots, 0, order), order, 0, false);
-    const DecomposeWords words{src.words(order), pivots, dst.words(order)};
+    const DecomposeWords words{{src.words(order), dst.words(order)}, pivots};
     const auto plainly = [&]() VONKK3_INLINED { return decomposePlainly<T, Factors::isTable>(words, order, 0, count); };
     if constexpr (worksInBatches<Factors>)
         if (count >= 2 * packWidth)

@@ -7,7 +7,6 @@
 #include "lu/local_block.h"
 #include "lu/minors.h"
 #include "lu/scratch_elimination.h"
-#include "lu/small.h"
 
 namespace vonkk3::lu {
 

@@ -3,8 +3,7 @@
 // inverts.
 #pragma once
 
-#include "frame/batch.h"
-#include "frame/shared_operand.h"
+#include "frame/shared_batch.h"
 #include "lu/batch_of_six.h"
 #include "lu/block_inverse.h"
 #include "lu/closed_inverse.h"
@@ -57,30 +56,14 @@ VONKK3_INLINE bool invertObject(const Source &source, const View &inverse, Fixed
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Of a call.
-struct InvertWords {
-    OperandWords src, dst;
-};
-
 // A matrix that is singular takes the plain path. Of the forms that are built for speed, 3x3 and 4x4 are as quick
 // there.
 template <bool builtForSpeed, std::size_t order> inline constexpr bool isWorthInverting = !builtForSpeed || order >= 5;
 
-template <bool builtForSpeed, std::size_t order> struct InvertBatch {
+template <bool builtForSpeed, std::size_t order> struct InvertBatch : MatrixBatch<order> {
+    using MatrixBatch<order>::MatrixBatch, MatrixBatch<order>::src, MatrixBatch<order>::dst;
     static constexpr std::size_t chains = order == 3 ? 2 : 1; // the larger ones fill the registers
     static constexpr bool takesPositions = !builtForSpeed, takesAny = !builtForSpeed;
-    MatricesOfBatch<order> src, dst;
-
-    template <class Tables>
-    VONKK3_INLINE InvertBatch(const InvertWords &words, std::size_t count, Tables throughTables)
-        : src(words.src, count, throughTables), dst(words.dst, count, throughTables) {}
-
-    Access access() const { return accessOf(src.view, dst.view); }
-    template <Access access> VONKK3_INLINE void hoist() {
-        src.template hoist<access>();
-        dst.template hoist<access>();
-    }
-
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         constexpr bool isInlined = builtForSpeed || access == Access::positions || order == 4 || chains > 1;
         Packs<chains> matrices[order][order], inverses[order][order];
@@ -118,7 +101,7 @@ inline bool anyListEntryNull(std::size_t objects, const Source &src, const Desti
 
 // The first singular object ends the call.
 template <bool builtForSpeed, class Source, class Destination, std::size_t order>
-VONKK3_NOINLINE VonkStatus invertPlainly(const InvertWords &words, std::size_t n, std::size_t to) {
+VONKK3_NOINLINE VonkStatus invertPlainly(const MatrixWords &words, std::size_t n, std::size_t to) {
     return knowingLists < builtForSpeed &&
            isLight < Fixed < order >>> (words.dst.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
                Source src(words.src);
@@ -132,7 +115,7 @@ VONKK3_NOINLINE VonkStatus invertPlainly(const InvertWords &words, std::size_t n
 }
 
 template <class T, bool builtForSpeed, bool throughTables, std::size_t order>
-VONKK3_INLINE VonkStatus invertPlainly(const InvertWords &words, std::size_t from, std::size_t to) {
+VONKK3_INLINE VonkStatus invertPlainly(const MatrixWords &words, std::size_t from, std::size_t to) {
     using Source = SharedOperand<const T, throughTables>;
     using Destination = SharedOperand<T, throughTables>;
     using Rows = ContiguousOperand<const T>;
@@ -147,7 +130,7 @@ VONKK3_INLINE VonkStatus invertPlainly(const InvertWords &words, std::size_t fro
 }
 
 template <bool builtForSpeed, bool throughTables, std::size_t order>
-VONKK3_NOINLINE VonkStatus invertInBatches(const InvertWords &words, std::size_t count) {
+VONKK3_NOINLINE VonkStatus invertInBatches(const MatrixWords &words, std::size_t count) {
     InvertBatch<builtForSpeed, order> batch(words, count, std::bool_constant<throughTables>());
     const Aliasing aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view));
     return forEachBatch(batch, aliasing, count, [&](std::size_t n) {
@@ -165,7 +148,7 @@ VONKK3_INLINE VonkStatus invert(const Source &src, Fixed<order> size, const Dest
     if constexpr (!Count::isArray)
         return invertObject<builtForSpeed>(src.view(0, order), dst.view(0, order), size) ? vonkOk : vonkErrSingular;
     else {
-        const InvertWords words{src.words(order), dst.words(order)};
+        const MatrixWords words{src.words(order), dst.words(order)};
         if constexpr (worksInBatches<Destination> && isWorthInverting<builtForSpeed, order>)
             if (count >= (order == 3 ? 2 : 1) * packWidth)
                 return invertInBatches<builtForSpeed, throughTables, order>(words, count);
@@ -175,7 +158,7 @@ VONKK3_INLINE VonkStatus invert(const Source &src, Fixed<order> size, const Dest
 
 // Run-time order. Entries of a single matrix's tables are tested here.
 template <class T, bool throughTables>
-VONKK3_NOINLINE VonkStatus invertInScratch(const InvertWords &words, std::size_t order, void *scratch,
+VONKK3_NOINLINE VonkStatus invertInScratch(const MatrixWords &words, std::size_t order, void *scratch,
                                            std::size_t count, bool testsEntries) {
     const SharedOperand<const T, throughTables> src(words.src);
     const SharedOperand<T, throughTables> dst(words.dst);
@@ -195,7 +178,7 @@ VONKK3_INLINE VonkStatus invert(const Source &src, RunTime order, void *scratch,
     if (anyNull(src, scratch, dst)) return vonkErrNullPtr;
     if (order.isZero()) return vonkErrSize;
     if (scansTablesFirst<Count> && anyTableEntryNull(std::size_t(order) * order, src, dst)) return vonkErrNullPtr;
-    const InvertWords words{src.words(order), dst.words(order)};
+    const MatrixWords words{src.words(order), dst.words(order)};
     return invertInScratch<typename Source::Element, Destination::isTable>(words, order, scratch, count,
                                                                            !scansTablesFirst<Count>);
 }
