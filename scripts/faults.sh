@@ -52,12 +52,14 @@ fault 'the scan of tables leaves out its last entry' src/frame/walk.h 's/positio
 fault 'count 0 wins over a null table entry' src/lu/back_substitute.h \
     's/if \(anyTableEntryNull\(order, src2/if (count != 0 \&\& anyTableEntryNull(order, src2/'
 fault 'list entries are not tested' src/frame/operands.h 's/return loadAt<T \*>\(listSlot\(n\)\) == nullptr/return n == ~std::size_t(0)/'
+fault 'list entries are not tested in shared bodies' src/frame/shared_operand.h 's/isList && listEntry\(n\) == 0/false/'
 fault 'a table entry of a single vector is tested after its element' src/vector/elementwise.h \
     's/\(sources\.hasNullEntry\(j\) \|\| \.\.\.\) \|\| d\.hasNullEntry\(j\)/j + 1 < length \&\& ((sources.hasNullEntry(j + 1) || ...) || d.hasNullEntry(j + 1))/'
 
 # Addressing
 fault 'row and element stride are swapped' src/frame/views.h \
     's/strides\(row, rowStride\) \+ strides\(column, elementStride\)/strides(row, elementStride) + strides(column, rowStride)/'
+fault 'the shift is not added to lists in shared bodies' src/frame/shared_operand.h 's/listEntry\(n\) \+ std::uintptr_t\(step\)/listEntry(n)/'
 fault 'the shift is not added in list layouts' src/frame/operands.h 's/\(loadAt<T \*>\(listSlot\(n\)\), shift\)/(loadAt<T *>(listSlot(n)), 0)/'
 fault 'strides lose their sign' src/frame/operands.h 's/objectStride = \*next\+\+/objectStride = std::uint32_t(*next++)/'
 fault 'a table is read by columns' src/frame/views.h 's/at\(row \* columns \+ column\)/at(column * columns + row)/'
@@ -165,6 +167,7 @@ fault 'roots of tables round once' src/cholqr/roots.h '/struct RoundedTwice/,/^}
 fault 'what pairs leave stays wide' src/cholqr/cholesky_decompose.h 's/^( +)s = f\.rounded\(s\);/\1(void)f;/'
 fault 'an object at address 0 is taken for any other' src/frame/operands.h \
     's/else return reinterpret_cast<std::uintptr_t>\(pointer\) \+ std::uintptr_t\(strides\(n, objectStride\)\) == 0/else return false/'
+fault 'an object at address 0 is taken for any other in shared bodies' src/frame/shared_operand.h 's/&& address\(n\) == 0/\&\& false/'
 fault 'the tolerance is on the norm, not its square' src/cholqr/qr_decompose.h 's/squaredNormTolerance = 0x1p-23F/squaredNormTolerance = 0x1p-46F/'
 fault 'the scale of a reflector stays wide' src/cholqr/qr_decompose.h 's/return d\.rounded\(-2 \/ squares\)/return -2 \/ squares/'
 

@@ -205,7 +205,7 @@ private:
         pivots.template scatter<Access::rows>(n, rows.rows);
         return true;
     }
-    // Of larger matrices one body serves all layouts.
+    // One body where rows are not contiguous.
     template <std::size_t chains>
     VONKK3_NOINLINE bool factorByCall(std::size_t n, RowsOfBatch<chains, order> &rows,
                                       std::uint32_t (&physical)[chains * packWidth][order]) const {
