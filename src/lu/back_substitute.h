@@ -111,8 +111,10 @@ template <std::size_t order, bool isArray> struct SolveBatch : SystemBatch<order
         : System(words, count, throughTables), pivots(packedBlocks(words.pivots, order, isArray ? count : 1)) {}
 
     template <Access access> VONKK3_INLINE void hoist() {
-        System::template hoist<access>();
-        if constexpr (!isArray) holdSingle();
+        if constexpr (isArray) src1.template hoist<access>();
+        else holdSingle();
+        src2.template hoist<access>();
+        dst.template hoist<access>();
     }
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) {
         Packs<chains> b[1][order], x[1][order];
@@ -181,20 +183,21 @@ VONKK3_NOINLINE VonkStatus solvePlainly(const SolveWords &words, Order sizes, st
     const std::uint32_t *const pivots = words.pivots;
     const std::size_t blockLength = words.src1.isArray ? sizes : 0;
     const Order order = sizes;
-    return knowingLists<isLight<Order>>(words.dst.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
-        Factors src1(words.src1);
-        RightSide src2(words.src2);
-        Solution dst(words.dst);
-        src1.isList = areLists && src1.isArray, src2.isList = dst.isList = areLists;
-        for (; n < to; ++n) {
-            if (src1.listHasNull(n) || src2.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
-                return vonkErrNullPtr;
-            const Permutation<Order> rows(pivotBlock(pivots, n, blockLength), order);
-            solveObject<keepsWide, typename Solution::Element>(src1.view(n, order), rows, src2.view(n, 1),
-                                                               dst.view(n, 1), order);
-        }
-        return vonkOk;
-    });
+    return knowingLists < isLight<Order> &&
+           !Solution::isTable > (words.dst.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
+               Factors src1(words.src1);
+               RightSide src2(words.src2);
+               Solution dst(words.dst);
+               src1.isList = areLists && src1.isArray, src2.isList = dst.isList = areLists;
+               for (; n < to; ++n) {
+                   if (src1.listHasNull(n) || src2.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
+                       return vonkErrNullPtr;
+                   const Permutation<Order> rows(pivotBlock(pivots, n, blockLength), order);
+                   solveObject<keepsWide, typename Solution::Element>(src1.view(n, order), rows, src2.view(n, 1),
+                                                                      dst.view(n, 1), order);
+               }
+               return vonkOk;
+           });
 }
 
 template <class T, bool keepsWide, bool throughTables, class Order>

@@ -228,19 +228,20 @@ template <class Source, class Factors, class Order>
 VONKK3_NOINLINE VonkStatus decomposePlainly(const DecomposeWords &words, Order sizes, std::size_t n, std::size_t to) {
     std::uint32_t *const pivots = words.pivots;
     const Order order = sizes;
-    return knowingLists<Order::value == 3>(words.dst.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
-        Source src(words.src);
-        Factors dst(words.dst);
-        src.isList = dst.isList = areLists;
-        for (; n < to; ++n) {
-            if (src.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
-                return vonkErrNullPtr;
-            const VonkStatus status =
-                decomposeObject(src.view(n, order), dst.view(n, order), pivotBlock(pivots, n, order), order, n, true);
-            if (status != vonkOk) return status;
-        }
-        return vonkOk;
-    });
+    return knowingLists < isLight<Order> &&
+           !Factors::isTable > (words.dst.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
+               Source src(words.src);
+               Factors dst(words.dst);
+               src.isList = dst.isList = areLists;
+               for (; n < to; ++n) {
+                   if (src.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
+                       return vonkErrNullPtr;
+                   const VonkStatus status = decomposeObject(src.view(n, order), dst.view(n, order),
+                                                             pivotBlock(pivots, n, order), order, n, true);
+                   if (status != vonkOk) return status;
+               }
+               return vonkOk;
+           });
 }
 
 template <class T, bool throughTables, class Order>

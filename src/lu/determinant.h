@@ -97,16 +97,18 @@ template <bool workedWide, class Source, std::size_t order>
 VONKK3_NOINLINE VonkStatus determinantsPlainly(const OperandWords &words, typename Source::Element *dst, std::size_t n,
                                                std::size_t to) {
     using T = typename Source::Element;
-    return knowingLists<isLight<Fixed<order>>>(words.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
-        Source src(words);
-        src.isList = areLists;
-        for (; n < to; ++n) {
-            if (src.listHasNull(n)) [[unlikely]]
-                return vonkErrNullPtr;
-            storeAt(resultCell(dst, n), static_cast<T>(closedForm<workedWide>(src.view(n, order), fixed<order>)));
-        }
-        return vonkOk;
-    });
+    return knowingLists < isLight<Fixed<order>> &&
+           !Source::isTable > (words.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
+               Source src(words);
+               src.isList = areLists;
+               for (; n < to; ++n) {
+                   if (src.listHasNull(n)) [[unlikely]]
+                       return vonkErrNullPtr;
+                   storeAt(resultCell(dst, n),
+                           static_cast<T>(closedForm<workedWide>(src.view(n, order), fixed<order>)));
+               }
+               return vonkOk;
+           });
 }
 
 template <std::size_t order, bool throughTables>
