@@ -52,12 +52,14 @@ fault 'the scan of tables leaves out its last entry' src/frame/walk.h 's/positio
 fault 'count 0 wins over a null table entry' src/lu/back_substitute.h \
     's/if \(anyTableEntryNull\(order, src2/if (count != 0 \&\& anyTableEntryNull(order, src2/'
 fault 'list entries are not tested' src/frame/operands.h 's/return loadAt<T \*>\(listSlot\(n\)\) == nullptr/return n == ~std::size_t(0)/'
+fault 'list entries are not tested in shared bodies' src/frame/shared_operand.h 's/isList && listEntry\(n\) == 0/isList \&\& n == ~std::size_t(0)/'
 fault 'a table entry of a single vector is tested after its element' src/frame/elementwise.h \
     's/\(sources\.hasNullEntry\(i, j\) \|\| \.\.\.\) \|\| d\.hasNullEntry\(i, j\)/j + 1 < columns \&\& ((sources.hasNullEntry(i, j + 1) || ...) || d.hasNullEntry(i, j + 1))/'
 
 # Addressing
 fault 'row and element stride are swapped' src/frame/views.h \
     's/strides\(row, rowStride\) \+ strides\(column, elementStride\)/strides(row, elementStride) + strides(column, rowStride)/'
+fault 'the shift is not added to lists in shared bodies' src/frame/shared_operand.h 's/listEntry\(n\) \+ std::uintptr_t\(step\)/listEntry(n)/'
 fault 'the shift is not added in list layouts' src/frame/operands.h 's/\(loadAt<T \*>\(listSlot\(n\)\), shift\)/(loadAt<T *>(listSlot(n)), 0)/'
 fault 'strides lose their sign' src/frame/operands.h 's/objectStride = \*next\+\+/objectStride = std::uint32_t(*next++)/'
 fault 'a table is read by columns' src/frame/views.h 's/at\(row \* columns \+ column\)/at(column * columns + row)/'
@@ -81,7 +83,7 @@ fault 'a zero multiplier keeps its sign' src/lu/arithmetic.h 's/return 0\.0F - m
 
 # Irregular members
 fault 'a tie moves the pivot' src/lu/decompose.h 's/replacesValue = candidate > best/replacesValue = candidate >= best/'
-fault 'an unordered candidate counts as a smaller one' src/lu/decompose.h 's/return \{true, isArray\}/return {false, false}/'
+fault 'an unordered candidate counts as a smaller one' src/lu/decompose.h 's/return \{true, isArray\}/return {false, isArray \&\& false}/'
 fault 'every object has its own last pivot tested' src/lu/last_pivots.h 's/return order - 1 \+ n \* order/return order - 1 + 0 * n/'
 fault 'the tolerance is relative to the type' src/lu/decompose.h 's/W\(pivotTolerance\)/(sizeof(W) > 4 ? W(0x1p-52) : W(pivotTolerance))/'
 fault 'the half column step is levelled' src/lu/back_substitute.h 's/sizeof\(Real64\) \/ 2/sizeof(Real64)/'
@@ -170,13 +172,14 @@ fault 'roots of tables round once' src/cholqr/roots.h '/struct RoundedTwice/,/^}
 fault 'what pairs leave stays wide' src/cholqr/cholesky_decompose.h 's/^( +)s = f\.rounded\(s\);/\1(void)f;/'
 fault 'an object at address 0 is taken for any other' src/frame/operands.h \
     's/else return reinterpret_cast<std::uintptr_t>\(pointer\) \+ std::uintptr_t\(strides\(n, objectStride\)\) == 0/else return false/'
+fault 'an object at address 0 is taken for any other in shared bodies' src/frame/shared_operand.h 's/&& address\(n\) == 0/\&\& n == ~std::size_t(0)/'
 fault 'the tolerance is on the norm, not its square' src/cholqr/qr_decompose.h 's/squaredNormTolerance = 0x1p-23F/squaredNormTolerance = 0x1p-46F/'
 fault 'the scale of a reflector stays wide' src/cholqr/qr_decompose.h 's/return d\.rounded\(-2 \/ squares\)/return -2 \/ squares/'
 
 # Loads, stores, blocks
 fault 'three lanes store a fourth' src/frame/lanes.h '/void store3/,/^}/s/store1\(address, lanes\);/_mm_storeu_ps(floats(address), lanes);/'
 fault 'five lanes load an eighth' src/frame/lanes.h 's/length == 5\) return \{load4<alignment>\(address\), load1\(address \+ 16\)\}/length == 5) return {load4<alignment>(address), load4(address + 16)}/'
-fault 'registers are used whatever the matrices overlap' src/lu/rows.h 's/return disjoint\(.*/return true;/'
+fault 'registers are used whatever the matrices overlap' src/lu/rows.h 's/return disjoint\(.*/return order != 0;/'
 
 # The caller's floating-point state
 fault 'the precision control is left changed' src/lu/decompose.h \

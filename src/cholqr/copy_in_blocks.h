@@ -12,7 +12,7 @@ inline constexpr std::size_t blockThreshold = 11;
 inline constexpr std::size_t blockBytes = 2 * laneBytes;
 inline constexpr std::size_t prefetchDistance = 64; // bytes ahead of the block's first element
 
-// Where a target runs ahead of its source it sees elements already written.
+// Where a target overlaps later elements of its source, these have been overwritten when they are read.
 inline void copyElements(const std::byte *source, std::byte *target, std::size_t from, std::size_t to) {
     for (std::size_t at = from; at < to; at += sizeof(Real32)) storeAt(target + at, loadAt<Real32>(source + at));
 }

@@ -52,7 +52,7 @@ VONKK3_INLINE void storeLast(const ObjectsView &workspace, const Number (&vector
     for (std::size_t i = 0; i < length; ++i) workspace.store(0, i, vector[i].last());
 }
 
-// start + Σ term(i) for i from `from` to `to` - 1. Real64 sums are rounded behind the pairs of terms, and again behind
+// start + Σ term(i) for i from `from` to `to` - 1. Real64 sums are rounded after the pairs of terms, and again after
 // an odd last one.
 template <class Elements, class Extent, class Number, class Term>
 VONKK3_INLINE Number sumInPairs(const Elements &elements, Number start, std::size_t from, std::size_t to, Extent extent,
@@ -63,6 +63,24 @@ VONKK3_INLINE Number sumInPairs(const Elements &elements, Number start, std::siz
     sum = elements.rounded(sum);
     if (endOfPairs < to) sum = elements.rounded(sum + term(endOfPairs));
     return sum;
+}
+
+// ---- What two families have in common
+// --------------------------------------------------------------------------------
+
+// QR: how many reflections there are: one for each column, but for the last column of a square matrix, which has
+// nothing below its diagonal.
+template <class Columns, class Rows> inline std::size_t reflections(Columns columns, Rows rows) {
+    return columns == rows ? columns - 1 : std::size_t(columns);
+}
+
+// Cholesky: sizes that are signed are negative then.
+inline bool hasTopBit(std::size_t size) { return size >> 31 != 0; }
+
+// The test for null that every single call makes: whether an operand has object n at null. In the pointer layouts it is
+// a test of the table, which has been made by then.
+template <class... Operands> VONKK3_INLINE bool anyBeginsAtNull(std::size_t n, const Operands &...operands) {
+    return (operands.beginsAtNull(n) || ...);
 }
 
 } // namespace vonkk3::cholqr

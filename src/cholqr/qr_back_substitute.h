@@ -1,16 +1,15 @@
 // Solving A x = b with a QR decomposition, in the sense of least squares if there are more rows than columns: the
-// reflectors are replayed on a copy of b, their beta = -2 / (v'v) being reckoned anew, then R is solved. Nothing about
+// reflectors are replayed on a copy of b, their beta = -2 / (v'v) recomputed, then R is solved. Nothing about
 // the numbers is tested: a zero on the diagonal divides through.
 #pragma once
 
 #include "cholqr/copy_in_blocks.h"
 #include "cholqr/elements.h"
-#include "cholqr/reflectors.h"
-#include "frame/batch.h"
+#include "frame/shared_batch.h"
 
 namespace vonkk3::cholqr {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // One Real64 matrix for all right-hand sides, in the list layout, of every size: its columns are stepped through by 4
 // bytes instead of 8.
@@ -20,7 +19,7 @@ inline constexpr bool stepsHalfColumns =
     Solution::isArray;
 
 // A Real64 matrix for each right-hand side, in the list layout, of every size: the reflectors are found where they are,
-// but row i of R is taken to begin i + 1 bytes behind the matrix, less one row stride.
+// but row i of R is read i + 1 bytes past the beginning of the matrix, less one row stride.
 template <class Factors>
 inline constexpr bool strayInTriangle =
     std::is_same_v<typename Factors::Element, Real64> &&Factors::layout == Layout::L &&Factors::isArray;
@@ -32,22 +31,6 @@ template <class RightSide, class Columns>
 inline constexpr bool copiesInBlocks =
     std::is_same_v<typename RightSide::Element, Real32> &&RightSide::layout == Layout::Standard &&
     !RightSide::isArray && !Columns::isFixed;
-
-// Where the reflectors of an object are read, and where R is.
-template <class Solution, class Factors>
-VONKK3_INLINE auto reflectorsOfObject(const Factors &factors, std::size_t n, std::size_t columns) {
-    const auto view = factors.view(n, columns);
-    if constexpr (stepsHalfColumns<Factors, Solution>)
-        return StridedView<const Real64>(view.base, view.rowStride, sizeof(Real64) / 2);
-    else return view;
-}
-
-template <class Solution, class Factors>
-VONKK3_INLINE auto triangleOfObject(const Factors &factors, std::size_t n, std::size_t columns) {
-    const auto view = reflectorsOfObject<Solution>(factors, n, columns);
-    if constexpr (strayInTriangle<Factors>) return RowsView<const Real64>(view.base + 1 - view.rowStride, 1);
-    else return view;
-}
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
@@ -112,51 +95,44 @@ VONKK3_INLINE void solveTriangle(const Triangle &r, const Work &work, const Solu
     });
 }
 
-template <bool inBlocks, class Reflectors, class Triangle, class RightSide, class Solution, class T>
-[[gnu::noinline]] void replayAndSolveByLoops(Reflectors reflectors, Triangle triangle, T *work, RightSide b, Solution x,
-                                             RunTime columns, RunTime rows) {
-    const RowsView<T> copy = workSpace(work);
-    if constexpr (inBlocks) copyInBlocks(b.at(0), copy.at(0), rows);
-    else
-        for (std::size_t i = 0; i < rows; ++i) copy.store(i, b.load(i));
-    replay(InMemory{reflectors}, InMemory{copy}, columns, rows);
-    solveTriangle(InMemory{triangle}, InMemory{copy}, InMemory{x}, columns);
-}
-
 template <bool inBlocks, class Reflectors, class Triangle, class RightSide, class Solution, class T, class Columns,
           class Rows>
 VONKK3_INLINE void solveObject(const Reflectors &reflectors, const Triangle &triangle, T *work, const RightSide &b,
                                const Solution &x, Columns columns, Rows rows) {
-    if constexpr (Columns::isFixed && std::is_same_v<Solution, RowsView<Real32>>) {
-        const RowsView<T> copy = workSpace(work);
-        forIndices(0, rows, rows, [&](std::size_t i) VONKK3_INLINED { copy.store(i, b.load(i)); });
-        replay(InMemory{reflectors}, InMemory{copy}, columns, rows);
-        solveTriangle(InMemory{triangle}, InMemory{copy}, InMemory{x}, columns);
-    } else
-        replayAndSolveByLoops<inBlocks>(reflectors, triangle, work, b, x, RunTime{std::uint32_t(columns)},
-                                        RunTime{std::uint32_t(rows)});
+    const RowsView<T> copy = workSpace(work);
+    if constexpr (inBlocks) copyInBlocks(b.at(0), copy.at(0), rows);
+    else forIndices(0, rows, rows, [&](std::size_t i) VONKK3_INLINED { copy.store(i, b.load(i)); });
+    replay(InMemory{reflectors}, InMemory{copy}, columns, rows);
+    solveTriangle(InMemory{triangle}, InMemory{copy}, InMemory{x}, columns);
+}
+template <bool inBlocks, class Reflectors, class Triangle, class RightSide, class Solution, class T>
+VONKK3_NOINLINE void solveByCall(Reflectors reflectors, Triangle triangle, T *work, RightSide b, Solution x,
+                                 RunTime columns, RunTime rows) {
+    solveObject<inBlocks>(reflectors, triangle, work, b, x, columns, rows);
 }
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
+// Of a call.
+template <class T> struct LeastSquaresWords : SystemWords {
+    T *work;
+    bool strays; // see strayInTriangle
+};
+
 // `work` is left as the last object leaves it.
-template <std::size_t order, bool isArray> struct LeastSquaresBatch {
+template <std::size_t order, bool isArray> struct LeastSquaresBatch : SystemBatch<order, isArray> {
+    using System = SystemBatch<order, isArray>;
+    using System::src1, System::src2, System::dst;
     static constexpr std::size_t chains = 2;
-    MatricesOfBatch<order, isArray> src1;
-    VectorsOfBatch<order> src2, dst;
     ObjectsView workspace;
     Pack betasOfSingle[order];
 
-    template <class Factors, class RightSide, class Solution>
-    VONKK3_INLINE LeastSquaresBatch(const Factors &src1, Real32 *work, const RightSide &src2, const Solution &dst,
-                                    std::size_t count)
-        : src1(src1, count), src2(src2, count), dst(dst, count), workspace(packedBlocks(work, order, 1)) {}
+    template <class Tables>
+    VONKK3_INLINE LeastSquaresBatch(const LeastSquaresWords<Real32> &words, std::size_t count, Tables throughTables)
+        : System(words, count, throughTables), workspace(packedBlocks(words.work, order, 1)) {}
 
-    Access access() const { return accessOf(src1.view, src2.view, dst.view); }
     template <Access access> VONKK3_INLINE void hoist() {
-        src1.template hoist<access>();
-        src2.template hoist<access>();
-        dst.template hoist<access>();
+        System::template hoist<access>();
         if constexpr (!isArray) findBetas(src1.broadcast(), betasOfSingle);
     }
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
@@ -164,10 +140,10 @@ template <std::size_t order, bool isArray> struct LeastSquaresBatch {
         src2.template gather<access>(n, b);
         src1.template with<access, chains>(n, [&](auto &f) VONKK3_INLINED {
             if constexpr (isArray) {
-                Packs<chains> betas[order];
-                findBetas(f, betas);
-                solveWith(f, betas, b, x);
-            } else solveWith(f, betasOfSingle, b, x);
+                if constexpr (chains > 1) solveWithOwn(f, b, x);
+                else solveWithOwnByCall(f, b, x);
+            } else if constexpr (chains > 1) solveWith(f, betasOfSingle, b, x);
+            else solveWithByCall(f, betasOfSingle, b, x);
         });
         dst.template scatter<access>(n, x);
         storeLast(workspace, b[0]);
@@ -175,10 +151,27 @@ template <std::size_t order, bool isArray> struct LeastSquaresBatch {
     }
 
 private:
+    // What is left over is worked by one body for all layouts.
     template <class Factors, class Number>
     VONKK3_INLINE static void findBetas(const Factors &f, Number (&betas)[order]) {
         forIndices(0, order - 1, fixed<order>,
                    [&](std::size_t k) VONKK3_INLINED { betas[k] = betaOf(Local{f}, k, fixed<order>); });
+    }
+    template <class Number>
+    VONKK3_INLINE static void solveWithOwn(const Number (&f)[order][order], Number (&b)[1][order],
+                                           Number (&x)[1][order]) {
+        Number betas[order];
+        findBetas(f, betas);
+        solveWith(f, betas, b, x);
+    }
+    template <class Number>
+    VONKK3_NOINLINE static void solveWithOwnByCall(const Number (&f)[order][order], Number (&b)[1][order],
+                                                   Number (&x)[1][order]) {
+        solveWithOwn(f, b, x);
+    }
+    template <class Factors, class Betas, class Vector>
+    VONKK3_NOINLINE static void solveWithByCall(const Factors &f, const Betas &betas, Vector &b, Vector &x) {
+        solveWith(f, betas, b, x);
     }
     template <class Factors, class Betas, class Vector>
     VONKK3_INLINE static void solveWith(const Factors &f, const Betas &betas, Vector &b, Vector &x) {
@@ -187,41 +180,85 @@ private:
     }
 };
 
-template <class Factors, class RightSide, class Solution, std::size_t order, class One>
-VONKK3_INLINE VonkStatus leastSquaresInBatches(const Factors &src1, Real32 *work, const RightSide &src2,
-                                               const Solution &dst, Fixed<order>, std::size_t count, const One &one) {
-    LeastSquaresBatch<order, Factors::isArray> batch(src1, work, src2, dst, count);
-    const Aliasing aliasing(count, writes(batch.dst.view), reads(batch.src1.view), readsInPlace(batch.src2.view),
-                            writes(batch.workspace));
-    return forEachBatch(batch, aliasing, count, one);
-}
-
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-// One matrix serves all right-hand sides (mva), or each has its own (mava). Entries of the table of `src2` from
-// `columns` on are used but not tested.
+template <class Source, class Solution, class T, class Columns, class Rows>
+VONKK3_NOINLINE VonkStatus solvePlainly(const LeastSquaresWords<T> &words, Columns columns, Rows rows, std::size_t n,
+                                        std::size_t to) {
+    const Source src1(words.src1), src2(words.src2);
+    const Solution dst(words.dst);
+    T *const work = words.work;
+    const bool strays = words.strays;
+    for (; n < to; ++n) {
+        if (src1.listHasNull(n) || src2.listHasNull(n) || dst.listHasNull(n)) return vonkErrNullPtr;
+        const auto reflectors = src1.view(n, columns);
+        auto triangle = reflectors;
+        if constexpr (std::is_same_v<T, Real64> && !Source::isTable)
+            if (strays) triangle.base += 1 - reflectors.rowStride, triangle.rowStride = 1;
+        solveObject<false>(reflectors, triangle, work, src2.view(n, 1), dst.view(n, 1), columns, rows);
+    }
+    return vonkOk;
+}
+
+// A fixed order is unrolled where rows are contiguous.
+template <class T, bool throughTables, class Columns, class Rows>
+VONKK3_INLINE VonkStatus solvePlainly(const LeastSquaresWords<T> &words, Columns columns, Rows rows, std::size_t from,
+                                      std::size_t to) {
+    const RunTime width{std::uint32_t(columns)}, height{std::uint32_t(rows)};
+    if constexpr (!throughTables)
+        if (areRowsContiguous<T>(words.src1, words.src2, words.dst)) {
+            using Source = ContiguousOperand<const T>;
+            using Solution = ContiguousOperand<T>;
+            if constexpr (Columns::isFixed) return solvePlainly<Source, Solution>(words, columns, rows, from, to);
+            else return solvePlainly<Source, Solution>(words, width, height, from, to);
+        }
+    using Source = SharedOperand<const T, throughTables>;
+    return solvePlainly<Source, SharedOperand<T, throughTables>>(words, width, height, from, to);
+}
+
+template <std::size_t order, bool isArray, bool throughTables>
+VONKK3_NOINLINE VonkStatus solveInBatches(const LeastSquaresWords<Real32> &words, std::size_t count) {
+    LeastSquaresBatch<order, isArray> batch(words, count, std::bool_constant<throughTables>());
+    const Aliasing aliasing(count, writes(batch.dst.view), reads(batch.src1.view), readsInPlace(batch.src2.view),
+                            writes(batch.workspace));
+    return forEachBatch(batch, aliasing, count, [&](std::size_t n) {
+        return solvePlainly<Real32, throughTables>(words, fixed<order>, fixed<order>, n, n + 1);
+    });
+}
+
+// Entries of the table of `src2` from `columns` on are used but not tested.
 template <class Factors, class T, class RightSide, class Solution, class Columns, class Rows, class Count>
 VONKK3_INLINE VonkStatus qrBackSubstitute(const Factors &src1, T *work, const RightSide &src2, const Solution &dst,
                                           Columns columns, Rows rows, Count count) {
+    constexpr bool throughTables = Solution::isTable;
     if (anyNull(src1, work, src2, dst)) return vonkErrNullPtr;
     if (columns.isZero() || rows.isZero()) return vonkErrSize;
     if (anyTableEntryNull(columns * rows, src1)) return vonkErrNullPtr;
     if (anyTableEntryNull(columns, src2, dst)) return vonkErrNullPtr;
-    const auto one = [&](std::size_t n) VONKK3_INLINED {
-        if (src1.listHasNull(n) || src2.listHasNull(n) || dst.listHasNull(n)) return VonkStatus(vonkErrNullPtr);
-        solveObject<copiesInBlocks<RightSide, Columns>>(reflectorsOfObject<Solution>(src1, n, columns),
-                                                        triangleOfObject<Solution>(src1, n, columns), work,
-                                                        src2.view(n), dst.view(n), columns, rows);
-        return VonkStatus(vonkOk);
-    };
-    if constexpr (worksInBatches<Solution>)
-        if (count >= packWidth && columns == rows)
-            return withFixedOrder(
-                columns,
-                [&](auto order)
-                    VONKK3_INLINED { return leastSquaresInBatches(src1, work, src2, dst, order, count, one); },
-                [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-    return forEachObject(count, one);
+    if constexpr (!Count::isArray && Solution::layout == Layout::Standard) {
+        const auto factors = src1.view(0);
+        if constexpr (Columns::isFixed && std::is_same_v<T, Real32>)
+            solveObject<false>(factors, factors, work, src2.view(0), dst.view(0), columns, rows);
+        else
+            solveByCall<copiesInBlocks<RightSide, Columns>>(factors, factors, work, src2.view(0), dst.view(0),
+                                                            RunTime{std::uint32_t(columns)},
+                                                            RunTime{std::uint32_t(rows)});
+        return vonkOk;
+    } else {
+        LeastSquaresWords<T> words{{src1.words(columns), src2.words(1), dst.words(1)}, work, strayInTriangle<Factors>};
+        if (stepsHalfColumns<Factors, Solution>) words.src1.elementStride = sizeof(Real64) / 2;
+        const auto plainly = [&]() VONKK3_INLINED {
+            return solvePlainly<T, throughTables>(words, columns, rows, 0, count);
+        };
+        if constexpr (worksInBatches<Solution>)
+            if (count >= packWidth && columns == rows)
+                return withFixedOrder(
+                    columns,
+                    [&](auto order)
+                        VONKK3_INLINED { return solveInBatches<order, Factors::isArray, throughTables>(words, count); },
+                    plainly);
+        return plainly();
+    }
 }
 
 } // namespace vonkk3::cholqr

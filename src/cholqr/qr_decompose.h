@@ -4,13 +4,12 @@
 #pragma once
 
 #include "cholqr/elements.h"
-#include "cholqr/reflectors.h"
 #include "cholqr/roots.h"
-#include "frame/batch.h"
+#include "frame/shared_batch.h"
 
 namespace vonkk3::cholqr {
 
-// A column whose SQUARED norm from the diagonal down is below this is taken for zero: an absolute number, and the same
+// The singularity tolerance of the SQUARED norm of a column from the diagonal down: an absolute number, and the same
 // for both element types.
 inline constexpr Real32 squaredNormTolerance = 0x1p-23F;
 
@@ -74,11 +73,17 @@ VONKK3_INLINE bool reflectAll(const Matrix &d, const Work &work, Columns columns
     });
 }
 
-template <class Source, class Factors, class T>
-[[gnu::noinline]] VonkStatus reflectByLoops(Source source, Factors factors, T *work, RunTime columns, RunTime rows) {
+// Every step is stored at once.
+template <class Source, class Factors, class T, class Columns, class Rows>
+VONKK3_INLINE VonkStatus reflectInMemory(const Source &source, const Factors &factors, T *work, Columns columns,
+                                         Rows rows) {
     for (std::size_t i = 0; i < rows; ++i)
         for (std::size_t j = 0; j < columns; ++j) factors.store(i, j, source.load(i, j));
     return reflectAll(InMemory{factors}, InMemory{workSpace(work)}, columns, rows) ? vonkOk : vonkErrSingular;
+}
+template <class Source, class Factors, class T>
+VONKK3_NOINLINE VonkStatus reflectByCall(Source source, Factors factors, T *work, RunTime columns, RunTime rows) {
+    return reflectInMemory(source, factors, work, columns, rows);
 }
 
 // Real32 of fixed order in rows of adjacent elements is worked on a local copy, where operands are disjoint or in
@@ -108,62 +113,113 @@ VONKK3_INLINE bool reflectLocally(const RowsView<const Real32> &source, const Ro
 template <class Source, class Factors, class T, class Columns, class Rows>
 VONKK3_INLINE VonkStatus reflectObject(const Source &source, const Factors &factors, T *work, Columns columns,
                                        Rows rows) {
-    if constexpr (Columns::isFixed && std::is_same_v<Factors, RowsView<Real32>>)
+    constexpr bool hasRows = std::is_same_v<Factors, RowsView<T>>;
+    if constexpr (Columns::isFixed && std::is_same_v<T, Real32> && hasRows)
         if (reflectLocally(source, factors, work, columns)) return vonkOk;
-    return reflectByLoops(source, factors, work, RunTime{std::uint32_t(columns)}, RunTime{std::uint32_t(rows)});
+    if constexpr (hasRows)
+        return reflectByCall(source, factors, work, RunTime{std::uint32_t(columns)}, RunTime{std::uint32_t(rows)});
+    else return reflectInMemory(source, factors, work, columns, rows);
 }
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
+// Of a call.
+template <class T> struct ReflectWords : MatrixWords { T *work; };
+
 // `work` is left as the last object leaves it.
-template <std::size_t order> struct ReflectBatch {
+template <std::size_t order> struct ReflectBatch : MatrixBatch<order> {
+    using MatrixBatch<order>::src, MatrixBatch<order>::dst;
     static constexpr std::size_t chains = 1;
-    MatricesOfBatch<order> src, dst;
     ObjectsView workspace;
 
-    Access access() const { return accessOf(src.view, dst.view); }
-    template <Access access> VONKK3_INLINE void hoist() {
-        src.template hoist<access>();
-        dst.template hoist<access>();
-    }
+    template <class Tables>
+    VONKK3_INLINE ReflectBatch(const ReflectWords<Real32> &words, std::size_t count, Tables throughTables)
+        : MatrixBatch<order>(words, count, throughTables), workspace(packedBlocks(words.work, order, 1)) {}
+
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> d[order][order], v[1][order];
         src.template gather<access>(n, d);
-        if (!reflectAll(Local{d}, Local{v}, fixed<order>, fixed<order>)) return false;
+        if (!(access == Access::rows || order <= 4 ? reflect(d, v) : reflectByCall(d, v))) return false;
         dst.template scatter<access>(n, d);
         storeLast(workspace, v[0]);
         return true;
     }
-};
 
-template <class Source, class Factors, std::size_t order, class One>
-VONKK3_INLINE VonkStatus reflectInBatches(const Source &src, Real32 *work, const Factors &dst, Fixed<order>,
-                                          std::size_t count, const One &one) {
-    if (!RoundingControl().bothRoundToNearest()) return forEachPlainly(count, one);
-    ReflectBatch<order> batch{{src, count}, {dst, count}, packedBlocks(work, order, 1)};
-    const Aliasing aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view), writes(batch.workspace));
-    return forEachBatch(batch, aliasing, count, one);
-}
+private:
+    template <class Number> VONKK3_INLINE static bool reflect(Number (&d)[order][order], Number (&v)[1][order]) {
+        return reflectAll(Local{d}, Local{v}, fixed<order>, fixed<order>);
+    }
+    template <class Number>
+    VONKK3_NOINLINE static bool reflectByCall(Number (&d)[order][order], Number (&v)[1][order]) {
+        return reflect(d, v);
+    }
+};
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 // Objects one after the other, each through all its steps; the first singular one ends the call.
+template <class Source, class Factors, class T, class Columns, class Rows>
+VONKK3_NOINLINE VonkStatus reflectPlainly(const ReflectWords<T> &words, Columns columns, Rows rows, std::size_t n,
+                                          std::size_t to) {
+    const Source src(words.src);
+    const Factors dst(words.dst);
+    T *const work = words.work;
+    for (; n < to; ++n) {
+        if (src.listHasNull(n) || dst.listHasNull(n)) return vonkErrNullPtr;
+        const VonkStatus status = reflectObject(src.view(n, columns), dst.view(n, columns), work, columns, rows);
+        if (status != vonkOk) return status;
+    }
+    return vonkOk;
+}
+
+template <class T, bool throughTables, class Columns, class Rows>
+VONKK3_INLINE VonkStatus reflectPlainly(const ReflectWords<T> &words, Columns columns, Rows rows, std::size_t from,
+                                        std::size_t to) {
+    if constexpr (Columns::isFixed && std::is_same_v<T, Real32> && !throughTables)
+        if (areRowsContiguous<T>(words.src, words.dst))
+            return reflectPlainly<ContiguousOperand<const T>, ContiguousOperand<T>>(words, columns, rows, from, to);
+    using Source = SharedOperand<const T, throughTables>;
+    using Factors = SharedOperand<T, throughTables>;
+    // A few small objects of Real32 are not worth code of their own.
+    constexpr bool isShared = std::is_same_v<T, Real32> && isLight<Columns>;
+    const auto size = [](std::size_t given)
+                          VONKK3_INLINED { return RunTime{std::uint32_t(isShared ? opaque(given) : given)}; };
+    return reflectPlainly<Source, Factors>(words, size(columns), size(rows), from, to);
+}
+
+template <std::size_t order, bool throughTables>
+VONKK3_NOINLINE VonkStatus reflectInBatches(const ReflectWords<Real32> &words, std::size_t count) {
+    const auto plainly = [&](std::size_t from, std::size_t to) VONKK3_INLINED {
+        return reflectPlainly<Real32, throughTables>(words, fixed<order>, fixed<order>, from, to);
+    };
+    if (!RoundingControl().bothRoundToNearest()) return plainly(0, count);
+    ReflectBatch<order> batch(words, count, std::bool_constant<throughTables>());
+    const Aliasing aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view), writes(batch.workspace));
+    return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
+}
+
 template <class Source, class T, class Factors, class Columns, class Rows, class Count>
 VONKK3_INLINE VonkStatus qrDecompose(const Source &src, T *work, const Factors &dst, Columns columns, Rows rows,
                                      Count count) {
+    constexpr bool throughTables = Factors::isTable;
     if (anyNull(src, work, dst)) return vonkErrNullPtr;
     if (columns.isZero() || rows.isZero()) return vonkErrSize;
     if (anyTableEntryNull(columns * rows, src, dst)) return vonkErrNullPtr;
-    const auto one = [&](std::size_t n) VONKK3_INLINED {
-        if (src.listHasNull(n) || dst.listHasNull(n)) return VonkStatus(vonkErrNullPtr);
-        return reflectObject(src.view(n, columns), dst.view(n, columns), work, columns, rows);
-    };
-    if constexpr (worksInBatches<Factors>)
-        if (count >= packWidth && columns == rows)
-            return withFixedOrder(
-                columns, [&](auto order) VONKK3_INLINED { return reflectInBatches(src, work, dst, order, count, one); },
-                [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-    return forEachObject(count, one);
+    if constexpr (!Count::isArray && Factors::layout == Layout::Standard)
+        return reflectObject(src.view(0), dst.view(0), work, columns, rows);
+    else {
+        const ReflectWords<T> words{{src.words(columns), dst.words(columns)}, work};
+        const auto plainly = [&]() VONKK3_INLINED {
+            return reflectPlainly<T, throughTables>(words, columns, rows, 0, count);
+        };
+        if constexpr (worksInBatches<Factors>)
+            if (count >= packWidth && columns == rows)
+                return withFixedOrder(
+                    columns,
+                    [&](auto order) VONKK3_INLINED { return reflectInBatches<order, throughTables>(words, count); },
+                    plainly);
+        return plainly();
+    }
 }
 
 } // namespace vonkk3::cholqr

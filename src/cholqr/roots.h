@@ -11,7 +11,7 @@ namespace vonkk3::cholqr {
 inline Wide root(Wide s) { return __builtin_sqrtl(s); }
 inline Real32 root(Real32 s) { return Real32(__builtin_sqrtl(Wide(s))); }
 
-// In Real32 at once: rounding to at least twice the digits and two more on the way, or to as many, changes no root.
+// In Real32 at once: rounding first to at least twice the digits and two more, or to as many, changes no root.
 template <std::size_t chains> VONKK3_INLINE Packs<chains> root(const Packs<chains> &s) { return squareRoot(s); }
 
 // 1 / root, both steps taken wide.
@@ -19,7 +19,7 @@ inline Wide reciprocalRoot(Wide s) { return 1.0L / __builtin_sqrtl(s); }
 inline Real32 reciprocalRoot(Real32 s) { return Real32(1.0L / __builtin_sqrtl(Wide(s))); }
 
 // The units for 80-bit and for SIMD arithmetic each have their own control word, and both are the caller's. Where they
-// do not round alike, roots of packs are not what is promised; nor are reciprocal roots by way of 53 bits unless the
+// do not round alike, roots of packs are not what is promised; nor are reciprocal roots through 53 bits unless the
 // 80-bit unit has at least as many and rounds to nearest.
 struct RoundingControl {
     std::uint16_t wide;

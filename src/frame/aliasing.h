@@ -39,6 +39,11 @@ template <class T> inline Extent extentOf(const T *block, std::size_t length) {
 template <class T> VONKK3_INLINE Extent extentOf(const RowsView<T> &view, std::size_t rows, std::size_t columns) {
     return extentOf(view.base, columns * sizeof(T)).extendedBy(strides(rows - 1, view.rowStride));
 }
+template <class T> VONKK3_INLINE Extent extentOf(const StridedView<T> &view, std::size_t rows, std::size_t columns) {
+    return extentOf(view.base, sizeof(T))
+        .extendedBy(strides(rows - 1, view.rowStride))
+        .extendedBy(strides(columns - 1, view.elementStride));
+}
 
 // Of all objects of an operand with contiguous rows.
 template <class Operand>
@@ -130,7 +135,7 @@ private:
             .extendedBy(strides(view.rows - 1, view.rowStride))
             .extendedBy(strides(view.columns - 1, view.elementStride));
     }
-    Extent extentOfPositions() const {
+    VONKK3_NOINLINE Extent extentOfPositions() const {
         Extent all = part(0);
         for (std::size_t i = 0; i < view.rows; ++i)
             for (std::size_t j = 0; j < view.columns; ++j) {
@@ -532,7 +537,7 @@ public:
     template <class... Operands>
     VONKK3_INLINE explicit Aliasing(std::size_t count, const Operands &...each) : operands{each...} {
         if (aliasing::isPlainlyIndependent(operands)) answer = {count, false};
-        else answer = aliasing::askOnce(operands, number, count);
+        else answer = aliasing::askOnce(operands, opaque(number), count);
     }
 
     bool rulesOutBatches() const { return answer.allowed == 0 && !answer.asksByBatch; }
@@ -540,7 +545,7 @@ public:
     // For so many objects from n on.
     VONKK3_INLINE bool allowsBatch(std::size_t n, std::size_t objects) const {
         if (n + objects <= answer.allowed) return true;
-        return answer.asksByBatch && aliasing::askForBatch(operands, number, n, objects);
+        return answer.asksByBatch && aliasing::askForBatch(operands, opaque(number), n, opaque(objects));
     }
 
 private:

@@ -47,7 +47,11 @@ template <class Batch> inline constexpr std::size_t objectsOfChain = packWidth;
 template <class Batch>
 requires(Batch::lanesWithinObject) inline constexpr std::size_t objectsOfChain<Batch> = 1;
 
-// Kernels that are never given contiguous positions, or nothing but contiguous rows, say so.
+// Kernels that are never given contiguous rows, contiguous positions, or what goes element by element, say so.
+template <class Batch> inline constexpr bool takesRows = true;
+template <class Batch>
+requires requires { Batch::takesRows; }
+inline constexpr bool takesRows<Batch> = Batch::takesRows;
 template <class Batch> inline constexpr bool takesPositions = true;
 template <class Batch>
 requires requires { Batch::takesPositions; }
@@ -87,10 +91,12 @@ VONKK3_INLINE std::size_t workBatches(Access access, Batch &batch, const Aliasin
                                       std::size_t count) {
     if constexpr (objectsOfChain<Batch> == 1) return workBatches<Access::any>(batch, aliasing, n, count);
     else {
+        constexpr bool takesOthers = takesPositions<Batch> || takesAny<Batch>;
         if constexpr (takesRows<Batch>)
-            if (!takesAny<Batch> || access == Access::rows) return workBatches<Access::rows>(batch, aliasing, n, count);
+            if (!takesOthers || access == Access::rows) return workBatches<Access::rows>(batch, aliasing, n, count);
         if constexpr (takesPositions<Batch>)
-            if (access == Access::positions) return workBatches<Access::positions>(batch, aliasing, n, count);
+            if (!takesAny<Batch> || access == Access::positions)
+                return workBatches<Access::positions>(batch, aliasing, n, count);
         if constexpr (takesAny<Batch>) return workBatches<Access::any>(batch, aliasing, n, count);
     }
 }

@@ -167,6 +167,9 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
     VONKK3_INLINE BatchOperand(const Operand &operand, std::size_t count)
         : BatchOperand(objectsOf(operand, rows, columns, count)) {}
     VONKK3_INLINE explicit BatchOperand(const ObjectsView &view) : view(view) {}
+    template <bool throughTables>
+    VONKK3_INLINE BatchOperand(const OperandWords &words, std::size_t count, std::bool_constant<throughTables>)
+        : view(objectsOf<Real32, throughTables>(words, rows, columns, count)) {}
 
     // What is the same for all batches: a single object is broadcast, the pointers of a table are read. Nothing that is
     // written overlaps either.
@@ -284,54 +287,49 @@ VONKK3_INLINE const std::byte *laneOf(const Packs<1> (&block)[rows][columns], st
     return reinterpret_cast<const std::byte *>(block) + (i * columns + j) * sizeof(Pack) + k * sizeof(Real32);
 }
 
-// Row i of the block is row rowOf(k, i) of object n + k, which must be one of its `rows`.
-template <Access access, std::size_t chains, std::size_t rows, std::size_t columns, class RowOf>
+// Row i of the block is row rowOf(k, i) of object n + k, which must be one of its `rows`. There are `step` packs
+// between one element of the block and the next.
+template <Access access, std::size_t rows, std::size_t columns, class RowOf>
 VONKK3_INLINE void gatherRowsInOrder(const BatchOperand<rows, columns, true> &operand, std::size_t n,
-                                     const RowOf &rowOf, Packs<chains> (&block)[rows][columns]) {
+                                     const RowOf &rowOf, Pack *block, std::size_t step) {
     const ObjectsView &view = operand.view;
     const bool isPermutedLocally = access == Access::positions || (access == Access::any && view.isTable());
-    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
-        const std::size_t first = c * packWidth;
-        const ElementsOfPack<const std::byte> elements(view, n + first);
-        Packs<1> unordered[rows][columns];
-        if (isPermutedLocally) operand.template gather<access>(n + first, unordered);
-        forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
-            const auto rowOfLane = [&](std::size_t k) VONKK3_INLINED { return rowOf(first + k, i); };
-            Pack row[columns];
-            PackSources from;
-            if (isPermutedLocally)
-                for (std::size_t k = 0; k < packWidth; ++k) from[k] = laneOf(unordered, rowOfLane(k), 0, k);
-            else elements.findOwn(rowOfLane, view.rowStride, from);
-            if constexpr (access == Access::rows) gatherRow(from, columns, row);
-            else {
-                const std::ptrdiff_t step = isPermutedLocally ? std::ptrdiff_t(sizeof(Pack)) : view.elementStride;
-                for (std::size_t j = 0; j < columns; ++j) row[j] = gatherElement(from, strides(j, step));
-            }
-            for (std::size_t j = 0; j < columns; ++j) block[i][j].chain[c] = row[j];
-        });
+    const ElementsOfPack<const std::byte> elements(view, n);
+    Packs<1> unordered[rows][columns];
+    if (isPermutedLocally) operand.template gather<access>(n, unordered);
+    forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
+        const auto rowOfLane = [&](std::size_t k) VONKK3_INLINED { return rowOf(k, i); };
+        Pack row[columns];
+        PackSources from;
+        if (isPermutedLocally)
+            for (std::size_t k = 0; k < packWidth; ++k) from[k] = laneOf(unordered, rowOfLane(k), 0, k);
+        else elements.findOwn(rowOfLane, view.rowStride, from);
+        if constexpr (access == Access::rows) gatherRow(from, columns, row);
+        else {
+            const std::ptrdiff_t stride = isPermutedLocally ? std::ptrdiff_t(sizeof(Pack)) : view.elementStride;
+            for (std::size_t j = 0; j < columns; ++j) row[j] = gatherElement(from, strides(j, stride));
+        }
+        for (std::size_t j = 0; j < columns; ++j) block[(i * columns + j) * step] = row[j];
     });
 }
 
 // Element i of the block is element indexOf(k, i) of the vector of object n + k, which must be one of its `length`.
-template <Access access, std::size_t chains, std::size_t length, class IndexOf>
+template <Access access, std::size_t length, class IndexOf>
 VONKK3_INLINE void gatherElementsInOrder(const VectorsOfBatch<length> &operand, std::size_t n, const IndexOf &indexOf,
-                                         Packs<chains> (&block)[1][length]) {
+                                         Pack *block, std::size_t step) {
     const ObjectsView &view = operand.view;
     const bool isPermutedLocally = access == Access::positions || (access == Access::any && view.isTable());
     const std::ptrdiff_t stride = access == Access::rows ? sizeof(Real32) : view.elementStride;
-    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
-        const std::size_t first = c * packWidth;
-        const ElementsOfPack<const std::byte> elements(view, n + first);
-        Packs<1> unordered[1][length];
-        if (isPermutedLocally) operand.template gather<access>(n + first, unordered);
-        forIndices(0, length, fixed<length>, [&](std::size_t i) VONKK3_INLINED {
-            const auto indexOfLane = [&](std::size_t k) VONKK3_INLINED { return indexOf(first + k, i); };
-            PackSources from;
-            if (isPermutedLocally)
-                for (std::size_t k = 0; k < packWidth; ++k) from[k] = laneOf(unordered, 0, indexOfLane(k), k);
-            else elements.findOwn(indexOfLane, stride, from);
-            block[0][i].chain[c] = gatherElement(from, 0);
-        });
+    const ElementsOfPack<const std::byte> elements(view, n);
+    Packs<1> unordered[1][length];
+    if (isPermutedLocally) operand.template gather<access>(n, unordered);
+    forIndices(0, length, fixed<length>, [&](std::size_t i) VONKK3_INLINED {
+        const auto indexOfLane = [&](std::size_t k) VONKK3_INLINED { return indexOf(k, i); };
+        PackSources from;
+        if (isPermutedLocally)
+            for (std::size_t k = 0; k < packWidth; ++k) from[k] = laneOf(unordered, 0, indexOfLane(k), k);
+        else elements.findOwn(indexOfLane, stride, from);
+        block[i * step] = gatherElement(from, 0);
     });
 }
 

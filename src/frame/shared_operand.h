@@ -35,14 +35,35 @@ template <class T, bool throughTables, bool isTransposed = false> struct SharedO
                 isList, isTransposed};
     }
     bool listHasNull(std::size_t n) const { return !throughTables && isList && listEntry(n) == 0; }
+    bool beginsAtNull(std::size_t n) const { return !throughTables && address(n) == 0; }
 
 private:
     std::uintptr_t listEntry(std::size_t n) const { return ObjectsView::pointerAt(begin + n * sizeof(void *)); }
-    ByteOf<T> *object(std::size_t n) const {
-        const std::uintptr_t address =
-            isList ? listEntry(n) + std::uintptr_t(step) : begin + std::uintptr_t(strides(n, step));
-        return reinterpret_cast<ByteOf<T> *>(address);
+    std::uintptr_t address(std::size_t n) const {
+        return isList ? listEntry(n) + std::uintptr_t(step) : begin + std::uintptr_t(strides(n, step));
+    }
+    ByteOf<T> *object(std::size_t n) const { return reinterpret_cast<ByteOf<T> *>(address(n)); }
+};
+
+// Of strided layouts where rows are known to be contiguous.
+template <class T> struct ContiguousOperand : SharedOperand<T, false> {
+    using SharedOperand<T, false>::SharedOperand;
+    auto view(std::size_t n, std::size_t columns = 0) const {
+        const StridedView<T> strided = SharedOperand<T, false>::view(n, columns);
+        return RowsView<T>(strided.base, strided.rowStride);
     }
 };
+
+// work(areLists), in a copy for either answer where that pays: where the work of an object is a few instructions.
+template <class Order> inline constexpr bool isLight = Order::value == 3 || Order::value == 4;
+template <bool inTwoCopies, class Work> VONKK3_INLINE auto knowingLists(bool areLists, const Work &work) {
+    if constexpr (inTwoCopies) return areLists ? work(std::true_type()) : work(std::false_type());
+    else return work(areLists);
+}
+
+// Whether elements of rows are contiguous, where they are not found through a table.
+template <class T, class... Words> inline bool areRowsContiguous(const Words &...operands) {
+    return ((operands.elementStride == std::int32_t(sizeof(T))) && ...);
+}
 
 } // namespace vonkk3

@@ -28,6 +28,12 @@
 
 namespace vonkk3 {
 
+// A constant argument that a function is not to be compiled for in a copy of its own.
+inline std::size_t opaque(std::size_t value) {
+    __asm__("" : "+r"(value));
+    return value;
+}
+
 // In the body of a loop of a few rounds: without it, a compiler adds more code for lanes than the loop takes time.
 inline void keepLoopPlain() { __asm__ volatile(""); }
 

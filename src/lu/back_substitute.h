@@ -3,14 +3,14 @@
 // Nothing about the numbers is tested: a zero pivot divides through.
 #pragma once
 
-#include "frame/batch.h"
+#include "frame/shared_batch.h"
 #include "lu/arithmetic.h"
 #include "lu/local_block.h"
 #include "lu/permutation.h"
 
 namespace vonkk3::lu {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // Real64 sums: the unrolled forms never round them; the looped ones round after the pairs of terms and again after an
 // odd last term. Unrolled are the array forms of fixed size but for the list layouts. The rounding shows at the full
@@ -25,14 +25,7 @@ template <class Factors, class Solution>
 inline constexpr bool stepsHalfColumns =
     std::is_same_v<typename Factors::Element, Real64> &&Factors::layout == Layout::L && !Factors::isArray &&
     Solution::isArray;
-
-template <class Solution, class Factors, class Order>
-inline auto factorsOfObject(const Factors &factors, std::size_t n, Order order) {
-    const auto view = factors.view(n, order);
-    if constexpr (stepsHalfColumns<Factors, Solution>)
-        return StridedView<const Real64>(view.base, view.rowStride, sizeof(Real64) / 2);
-    else return view;
-}
+inline constexpr std::int32_t halfColumn = sizeof(Real64) / 2;
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
@@ -99,51 +92,46 @@ VONKK3_INLINE void solveObject(const Factors &factors, const Rows &rows, const R
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Rows and right-hand sides are gathered in their logical order. Pivots that are no row indices go the plain way.
-template <std::size_t order, bool isArray> struct SolveBatch {
+// Of a call. Each matrix has its own block of pivots.
+struct SolveWords : SystemWords {
+    const std::uint32_t *pivots;
+};
+
+// Rows and right-hand sides are gathered in their logical order. Pivots that are no row indices take the plain path.
+template <std::size_t order, bool isArray> struct SolveBatch : SystemBatch<order, true> {
+    using System = SystemBatch<order, true>;
+    using System::src1, System::src2, System::dst;
     static constexpr std::size_t chains = 2; // a quotient waits for the one before it
-    MatricesOfBatch<order> src1;
-    VectorsOfBatch<order> src2, dst;
     ObjectsView pivots;
     Pack single[order][order]; // the one matrix, in its logical order
     bool singleIsTrusted = false;
 
-    template <class Factors, class RightSide, class Solution>
-    VONKK3_INLINE SolveBatch(const Factors &src1, const std::uint32_t *pivots, const RightSide &src2,
-                             const Solution &dst, std::size_t count)
-        : src1(src1, count), src2(src2, count), dst(dst, count),
-          pivots(packedBlocks(pivots, order, isArray ? count : 1)) {}
+    template <class Tables>
+    VONKK3_INLINE SolveBatch(const SolveWords &words, std::size_t count, Tables throughTables)
+        : System(words, count, throughTables), pivots(packedBlocks(words.pivots, order, isArray ? count : 1)) {}
 
-    Access access() const { return accessOf(src1.view, src2.view, dst.view); }
     template <Access access> VONKK3_INLINE void hoist() {
+        if constexpr (isArray) src1.template hoist<access>();
+        else holdSingle();
         src2.template hoist<access>();
         dst.template hoist<access>();
-        if constexpr (isArray) src1.template hoist<access>();
-        else {
-            singleIsTrusted = areRowIndices(pivotsOf(0), order, order);
-            if (!singleIsTrusted) return;
-            for (std::size_t i = 0; i < order; ++i)
-                for (std::size_t j = 0; j < order; ++j)
-                    single[i][j] = src1.view.template load<Real32>(loadPivot(pivotsOf(0), i), j);
-        }
     }
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) {
         Packs<chains> b[1][order], x[1][order];
         if constexpr (isArray) {
-            const std::byte *const rows = pivotsOf(n);
-            if (!areRowIndices(rows, chains * packWidth * order, order)) return false;
-            const auto rowOf = [&](std::size_t k, std::size_t i)
-                                   VONKK3_INLINED { return loadPivot(rows, k * order + i); };
+            if (!areRowIndices(pivotsOf(n), chains * packWidth * order, order)) return false;
             Packs<chains> factors[order][order];
-            gatherElementsInOrder<access>(src2, n, rowOf, b);
-            gatherRowsInOrder<access>(src1, n, rowOf, factors);
-            solveGathered(factors, b, x);
+            for (std::size_t c = 0; c < chains; ++c)
+                gatherSystem<access>(n + c * packWidth, &factors[0][0].chain[c], &b[0][0].chain[c], opaque(chains));
+            if constexpr (chains > 1) solveGathered(factors, b, x);
+            else solveByCall(factors, b, x);
         } else {
             if (!singleIsTrusted) return false;
             Packs<chains> unordered[1][order];
             src2.template gather<access>(n, unordered);
             for (std::size_t i = 0; i < order; ++i) b[0][i] = unordered[0][loadPivot(pivotsOf(0), i)];
-            solveGathered(single, b, x);
+            if constexpr (chains > 1) solveGathered(single, b, x);
+            else solveByCall(single, b, x);
         }
         dst.template scatter<access>(n, x);
         return true;
@@ -152,6 +140,29 @@ template <std::size_t order, bool isArray> struct SolveBatch {
 private:
     const std::byte *pivotsOf(std::size_t n) const { return reinterpret_cast<const std::byte *>(pivots.object(n)); }
 
+    VONKK3_NOINLINE void holdSingle() {
+        singleIsTrusted = areRowIndices(pivotsOf(0), order, order);
+        if (!singleIsTrusted) return;
+        for (std::size_t i = 0; i < order; ++i)
+            for (std::size_t j = 0; j < order; ++j)
+                single[i][j] = src1.view.template load<Real32>(loadPivot(pivotsOf(0), i), j);
+    }
+
+    // Of the objects of one pack.
+    template <Access access>
+    VONKK3_NOINLINE void gatherSystem(std::size_t n, Pack *factors, Pack *b, std::size_t step) const {
+        const std::byte *const rows = pivotsOf(n);
+        const auto rowOf = [&](std::size_t k, std::size_t i) VONKK3_INLINED { return loadPivot(rows, k * order + i); };
+        gatherElementsInOrder<access>(src2, n, rowOf, b, step);
+        gatherRowsInOrder<access>(src1, n, rowOf, factors, step);
+    }
+
+    // What is left over is worked by one body for all layouts.
+    template <class Number, class Factor>
+    VONKK3_NOINLINE static void solveByCall(Factor (&factors)[order][order], Number (&b)[1][order],
+                                            Number (&x)[1][order]) {
+        solveGathered(factors, b, x);
+    }
     template <class Number, class Factor>
     VONKK3_INLINE static void solveGathered(Factor (&factors)[order][order], Number (&b)[1][order],
                                             Number (&x)[1][order]) {
@@ -161,45 +172,83 @@ private:
 
 // Where batches are quicker than one by one, if objects are not few: pivots to follow and lists to look at are time
 // that small matrices do not save.
-template <class Factors, class Solution, std::size_t order>
-inline constexpr bool isWorthSolving = Factors::isTable || order >= 3U + Factors::isArray + Solution::isList;
-
-template <class Factors, class RightSide, class Solution, std::size_t order, class One>
-VONKK3_INLINE VonkStatus solveInBatches(const Factors &src1, const std::uint32_t *pivots, const RightSide &src2,
-                                        const Solution &dst, Fixed<order>, std::size_t count, const One &one) {
-    if constexpr (isWorthSolving<Factors, Solution, order>) {
-        SolveBatch<order, Factors::isArray> batch(src1, pivots, src2, dst, count);
-        const Aliasing aliasing(count, writes(batch.dst.view), reads(batch.src1.view), reads(batch.src2.view),
-                                reads(batch.pivots));
-        return forEachBatch(batch, aliasing, count, one);
-    } else return forEachPlainly(count, one);
+template <std::size_t order> inline bool isWorthSolving(const SolveWords &words, bool throughTables) {
+    return throughTables || order >= 3U + words.src1.isArray + words.dst.isList;
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-// One factored matrix serves all right-hand sides (mva), or each has its own, with its own block of pivots (mava).
+template <class Factors, class RightSide, class Solution, bool keepsWide, class Order>
+VONKK3_NOINLINE VonkStatus solvePlainly(const SolveWords &words, Order sizes, std::size_t n, std::size_t to) {
+    const std::uint32_t *const pivots = words.pivots;
+    const std::size_t blockLength = words.src1.isArray ? sizes : 0;
+    const Order order = sizes;
+    return knowingLists < isLight<Order> &&
+           !Solution::isTable > (words.dst.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
+               Factors src1(words.src1);
+               RightSide src2(words.src2);
+               Solution dst(words.dst);
+               src1.isList = areLists && src1.isArray, src2.isList = dst.isList = areLists;
+               for (; n < to; ++n) {
+                   if (src1.listHasNull(n) || src2.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
+                       return vonkErrNullPtr;
+                   const Permutation<Order> rows(pivotBlock(pivots, n, blockLength), order);
+                   solveObject<keepsWide, typename Solution::Element>(src1.view(n, order), rows, src2.view(n, 1),
+                                                                      dst.view(n, 1), order);
+               }
+               return vonkOk;
+           });
+}
+
+template <class T, bool keepsWide, bool throughTables, class Order>
+VONKK3_INLINE VonkStatus solvePlainly(const SolveWords &words, Order order, std::size_t from, std::size_t to) {
+    if constexpr (std::is_same_v<T, Real32> && !throughTables)
+        if (areRowsContiguous<T>(words.src1, words.src2, words.dst)) {
+            using Source = ContiguousOperand<const T>;
+            return solvePlainly<Source, Source, ContiguousOperand<T>, keepsWide>(words, order, from, to);
+        }
+    using Source = SharedOperand<const T, throughTables>;
+    return solvePlainly<Source, Source, SharedOperand<T, throughTables>, keepsWide>(words, order, from, to);
+}
+
+template <std::size_t order, bool isArray, bool throughTables>
+VONKK3_NOINLINE VonkStatus solveInBatches(const SolveWords &words, std::size_t count) {
+    const auto plainly = [&](std::size_t from, std::size_t to) VONKK3_INLINED {
+        return solvePlainly<Real32, true, throughTables>(words, fixed<order>, from, to);
+    };
+    if (!isWorthSolving<order>(words, throughTables)) return plainly(0, count);
+    SolveBatch<order, isArray> batch(words, count, std::bool_constant<throughTables>());
+    const Aliasing aliasing(count, writes(batch.dst.view), reads(batch.src1.view), reads(batch.src2.view),
+                            reads(batch.pivots));
+    return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
+}
+
 template <class Factors, class RightSide, class Solution, class Order, class Count>
 VONKK3_INLINE VonkStatus backSubstitute(const Factors &src1, const std::uint32_t *pivots, const RightSide &src2,
                                         const Solution &dst, Order order, Count count) {
+    using T = typename Solution::Element;
+    constexpr bool throughTables = Solution::isTable;
     if (anyNull(src1, pivots, src2, dst)) return vonkErrNullPtr;
     if (order.isZero()) return vonkErrSize;
     if (anyTableEntryNull(order * order, src1)) return vonkErrNullPtr;
     if (anyTableEntryNull(order, src2, dst)) return vonkErrNullPtr;
-    const auto one = [&](std::size_t n) VONKK3_INLINED {
-        if (src1.listHasNull(n) || src2.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
-            return VonkStatus(vonkErrNullPtr);
-        const Permutation<Order> rows(pivotBlock(pivots, Factors::isArray ? n : 0, order), order);
-        solveObject<keepsSumWide<Solution, Order>, typename Solution::Element>(
-            factorsOfObject<Solution>(src1, n, order), rows, src2.view(n), dst.view(n), order);
-        return VonkStatus(vonkOk);
-    };
-    if constexpr (worksInBatches<Solution>)
-        if (count >= 2 * packWidth)
-            return withFixedOrder(
-                order,
-                [&](auto size) VONKK3_INLINED { return solveInBatches(src1, pivots, src2, dst, size, count, one); },
-                [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-    return forEachObject(count, one);
+    constexpr bool keepsWide = std::is_same_v<T, Real32> || keepsSumWide<Solution, Order>;
+    if constexpr (!Count::isArray) {
+        const Permutation<Order> rows(pivotBlock(pivots, 0, order), order);
+        solveObject<keepsWide, T>(src1.view(0, order), rows, src2.view(0), dst.view(0), order);
+        return vonkOk;
+    } else {
+        SolveWords words{{src1.words(order), src2.words(1), dst.words(1)}, pivots};
+        if (stepsHalfColumns<Factors, Solution>) words.src1.elementStride = halfColumn;
+        if constexpr (std::is_same_v<T, Real32>)
+            if (count >= 2 * packWidth)
+                return withFixedOrder(
+                    order,
+                    [&](auto size)
+                        VONKK3_INLINED { return solveInBatches<size, Factors::isArray, throughTables>(words, count); },
+                    [&]() VONKK3_INLINED { return solvePlainly<T, keepsWide, throughTables>(words, order, 0, count); });
+        return solvePlainly<T, keepsWide, throughTables>(words, order, 0, count);
+    }
 }
 
 } // namespace vonkk3::lu

@@ -1,4 +1,4 @@
-// The inverses of a batch of Real32 6x6 matrices with adjacent elements, to the same bits as lane_blocks.h makes them
+// The inverses of a batch of Real32 6x6 matrices with contiguous rows, to the same bits as lane_blocks.h makes them
 // one by one: any column may be chosen for the leading block, and the others stay in order.
 #pragma once
 
@@ -6,8 +6,7 @@
 
 namespace vonkk3::lu {
 
-// The choice of columns: a chosen column moves to its place, those before it move on, so
-// that they stay in order.
+// The choice of columns: a chosen column moves to its place, those before it move on, so that they stay in order.
 template <std::size_t chains> class ColumnsOfBatchOfSix {
 public:
     using Block = Packs<chains>[6][6];

@@ -15,8 +15,8 @@
 
 namespace vonkk3::lu {
 
-// Column 5 is never among the candidates of the leading places: a 6x6 matrix whose row 0 is zero but for that column is
-// taken for singular, though it may be regular.
+// Column 5 is never among the candidates of the leading places: a 6x6 matrix whose row 0 is zero but for that column
+// counts as singular, though it may be regular.
 inline constexpr std::size_t candidateColumns = 5;
 
 // Which column stands at which place.
@@ -104,7 +104,7 @@ VONKK3_INLINE void multiplyBlocks(const W (&a)[rows][inner], const W (&b)[inner]
         }
 }
 
-// The inverse of a block of 2 or 3 rows; false if its determinant is in the interval that is taken for zero.
+// The inverse of a block of 2 or 3 rows; false if its determinant is in the singular interval.
 template <class W, class Reciprocal>
 VONKK3_INLINE bool invertBlock(const W (&block)[3][3], W (&inverse)[3][3], const Reciprocal &reciprocal) {
     return invertThree<W>([&](std::size_t i, std::size_t j) VONKK3_INLINED { return block[i][j]; }, reciprocal,
@@ -174,7 +174,7 @@ private:
 };
 
 // In the working type throughout, rounded at the results. False, and nothing stored, if either determinant is in the
-// interval that is taken for zero.
+// singular interval.
 template <class T, std::size_t order>
 [[gnu::noinline]] bool invertByBlocks(const SmallMatrix<T, order> &matrix, RowsView<T> inverse) {
     using W = Working<T>;
@@ -189,7 +189,7 @@ template <class T, std::size_t order>
     return true;
 }
 
-// The same for the matrices of a batch. Their columns are exchanged on the way.
+// The same for the matrices of a batch. Their columns are exchanged.
 template <std::size_t chains, std::size_t order, class Reciprocal>
 VONKK3_INLINE bool invertByBlocks(Packs<chains> (&matrices)[order][order], Packs<chains> (&inverses)[order][order],
                                   const Reciprocal &reciprocal) {

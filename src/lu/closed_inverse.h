@@ -5,13 +5,12 @@
 #include "lu/local_block.h"
 #include "lu/minors.h"
 #include "lu/reciprocal.h"
-#include "lu/small.h"
 
 namespace vonkk3::lu {
 
 // The elements of the inverse go to `store` one by one, row and column first. They are worked in W from elements that
 // are multiplied where they are, and a block of five or six is no more to them than a matrix. False, and nothing
-// stored, if the determinant is in the interval that is taken for zero. `a` must not lie where results go.
+// stored, if the determinant is in the singular interval. `a` must not lie where results go.
 template <class W, class A, class Reciprocal, class Store>
 VONKK3_INLINE bool invertThree(const A &a, const Reciprocal &reciprocal, const Store &store) {
     const W c00 = a(1, 1) * a(2, 2) - a(1, 2) * a(2, 1);

@@ -2,19 +2,19 @@
 // permutation instead of row exchanges. The factors stay in the rows where the matrix had them.
 #pragma once
 
-#include "frame/batch.h"
+#include "frame/shared_batch.h"
 #include "lu/arithmetic.h"
 #include "lu/last_pivots.h"
 #include "lu/rows.h"
 
 namespace vonkk3::lu {
 
-// Pivots below this are taken for zero: an absolute number, and the same for both element types.
+// The singularity tolerance of pivots: an absolute number, and the same for both element types.
 inline constexpr Real32 pivotTolerance = 0x1p-23F;
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
-// In two ways Real64 of 3x3, 4x4 and 5x5 goes apart from run-time size and 6x6.
+// Real64 of 3x3, 4x4 and 5x5 differs from run-time size and 6x6 in two respects.
 template <class Order> inline constexpr bool isSmallFixed = Order::isFixed &&Order::value != 6;
 
 // The first: the Real64 search takes candidates in pairs. When the first of a pair and the best so far are unordered
@@ -24,7 +24,7 @@ struct UnorderedCandidate {
     bool replacesPosition;
 };
 
-template <class T, bool isArray, class Order> constexpr UnorderedCandidate unorderedCandidate() {
+template <class T, class Order> VONKK3_INLINE UnorderedCandidate unorderedCandidate(bool isArray) {
     if (std::is_same_v<T, Real32>) return {false, false};
     if (isSmallFixed<Order>) return {false, true};
     return {true, isArray};
@@ -46,10 +46,10 @@ template <std::size_t chains> VONKK3_INLINE bool passesAsPivot(const Packs<chain
 
 // The position from k on of the row whose element in column k is largest in magnitude; the first of equals. Candidates
 // are selected without branches: which one wins is as good as random.
-template <bool isArray, class T, class Rows, class Order>
-VONKK3_INLINE std::size_t findPivot(const Rows &rows, std::size_t k, Order order) {
+template <class T, class Rows, class Order>
+VONKK3_INLINE std::size_t findPivot(const Rows &rows, std::size_t k, Order order, bool isArray) {
     using W = Working<T>;
-    constexpr UnorderedCandidate unordered = unorderedCandidate<T, isArray, Order>();
+    const UnorderedCandidate unordered = unorderedCandidate<T, Order>(isArray);
     W best = magnitude(W(rows.load(k, k)));
     std::size_t position = k;
     forIndices(k + 1, order, order, [&](std::size_t i) VONKK3_INLINED {
@@ -81,85 +81,104 @@ VONKK3_INLINE void eliminateRow(Rows &rows, std::size_t i, std::size_t k, Order 
     });
 }
 
-template <bool isArray, class T, class Rows, class Order>
-VONKK3_INLINE void bringPivot(Rows &rows, std::size_t k, Order order) {
+// Brings the pivot of column k to position k.
+template <class T, class Rows, class Order>
+VONKK3_INLINE void bringPivot(Rows &rows, std::size_t k, Order order, bool isArray) {
     if constexpr (isPacks<T>) {
         typename Rows::Mask isPivot[Order::value];
         findLargest(
             k, order, [&](std::size_t i) VONKK3_INLINED { return magnitude(rows.load(i, k)); }, isPivot);
         rows.exchange(k, isPivot);
-    } else rows.exchange(k, findPivot<isArray, T>(rows, k, order));
+    } else rows.exchange(k, findPivot<T>(rows, k, order, isArray));
 }
 
-// Brings the pivot of column k to position k and clears the column below it; false if the pivot is too small.
-template <bool isArray, class T, class Rows, class Order>
-VONKK3_INLINE bool eliminateColumn(Rows &rows, std::size_t k, Order order) {
-    bringPivot<isArray, T>(rows, k, order);
-    const WorkedAs<T> pivot = rows.load(k, k);
-    if (!passesAsPivot(pivot)) return false;
-    forIndices(k + 1, order, order, [&](std::size_t i) VONKK3_INLINED { eliminateRow<T>(rows, i, k, order, pivot); });
-    return true;
+// Column by column: brings the pivot and clears the column below it. False if a pivot is too small.
+template <class T, class Rows, class Order> VONKK3_INLINE bool eliminateColumns(Rows &rows, Order order, bool isArray) {
+    return everyIndex(0, order - 1, order, [&](std::size_t k) VONKK3_INLINED {
+        bringPivot<T>(rows, k, order, isArray);
+        const WorkedAs<T> pivot = rows.load(k, k);
+        if (!passesAsPivot(pivot)) return false;
+        forIndices(k + 1, order, order,
+                   [&](std::size_t i) VONKK3_INLINED { eliminateRow<T>(rows, i, k, order, pivot); });
+        return true;
+    });
 }
 
-template <bool isArray, class T, class Rows, class Order> VONKK3_INLINE bool eliminateColumns(Rows &rows, Order order) {
-    return everyIndex(0, order - 1, order,
-                      [&](std::size_t k) VONKK3_INLINED { return eliminateColumn<isArray, T>(rows, k, order); });
-}
-
-template <bool isArray, class T, class Rows, class Factors, class Order>
-VONKK3_INLINE VonkStatus eliminate(Rows &rows, const Factors &factors, Order order, std::size_t n) {
-    const bool regular = eliminateColumns<isArray, T>(rows, order);
-    rows.finish();
-    if (!regular) return vonkErrSingular;
-    const Working<T> last = factors.load(rows.physical(order - 1), testedLastColumn(order, n));
+template <class T, class Factors>
+VONKK3_INLINE VonkStatus testLastPivot(const Factors &factors, std::size_t row, std::size_t order, std::size_t n) {
+    const Working<T> last = factors.load(row, testedLastColumn(order, n));
     return passesAsPivot(last) ? vonkOk : vonkErrSingular;
 }
 
-template <bool isArray, class Source, class Factors, class Order>
-VONKK3_INLINE VonkStatus decomposeObject(const Source &source, const Factors &factors, std::byte *pivots, Order order,
-                                         std::size_t n) {
+// In memory: right for all operands, whatever they overlap.
+template <class Source, class Factors, class Order>
+VONKK3_INLINE VonkStatus decomposeInMemory(const Source &source, const Factors &factors, std::byte *pivots, Order order,
+                                           std::size_t n, bool isArray) {
     using T = typename Factors::Element;
-    if constexpr (fitsRegisters<Factors, Order>)
-        if (mayWorkInRegisters(source, factors, order)) {
-            RowsInRegisters<T, Factors, Order::value> rows(source, factors, pivots);
-            return eliminate<isArray, T>(rows, factors, order, n);
-        }
     RowsInMemory<T, Factors, Order> rows(source, factors, pivots, order);
-    return eliminate<isArray, T>(rows, factors, order, n);
+    if (!eliminateColumns<T>(rows, order, isArray)) return vonkErrSingular;
+    return testLastPivot<T>(factors, rows[order - 1], order, n);
+}
+template <class Source, class Factors>
+VONKK3_NOINLINE VonkStatus decomposeInMemoryByCall(Source source, Factors factors, std::byte *pivots, RunTime order,
+                                                   std::size_t n) {
+    return decomposeInMemory(source, factors, pivots, order, n, true);
+}
+
+// From order 5 on one body serves all views.
+template <std::size_t order> VONKK3_NOINLINE bool eliminateByCall(LocalRows<order> &rows) {
+    return eliminateColumns<Real32>(rows, fixed<order>, true);
+}
+
+template <bool copiesAsItReads, class Source, class Factors, std::size_t order>
+VONKK3_INLINE VonkStatus decomposeLocally(const Source &source, const Factors &factors, std::byte *pivots,
+                                          Fixed<order> size, std::size_t n) {
+    LocalRows<order> rows;
+    rows.template load<copiesAsItReads>(source, factors);
+    const bool regular = order < 5 ? eliminateColumns<Real32>(rows, size, true) : eliminateByCall(rows);
+    rows.store(factors, pivots);
+    return regular ? testLastPivot<Real32>(factors, rows[order - 1], order, n) : vonkErrSingular;
+}
+
+template <class Source, class Factors, class Order>
+VONKK3_INLINE VonkStatus decomposeObject(const Source &source, const Factors &factors, std::byte *pivots, Order order,
+                                         std::size_t n, bool isArray) {
+    using T = typename Factors::Element;
+    if constexpr (!Order::isFixed || std::is_same_v<T, Real64>)
+        return decomposeInMemory(source, factors, pivots, order, n, isArray);
+    else if constexpr (std::is_same_v<Factors, TableView<T>>)
+        return decomposeLocally<true>(source, factors, pivots, order, n);
+    else {
+        if (!mayReadFirst(source, factors, order)) [[unlikely]]
+            return decomposeInMemoryByCall(strided(source), strided(factors), pivots, RunTime{order}, n);
+        return decomposeLocally<false>(source, factors, pivots, order, n);
+    }
 }
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-template <std::size_t order> struct DecomposeBatch {
+// Of a call.
+struct DecomposeWords : MatrixWords {
+    std::uint32_t *pivots;
+};
+
+template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
+    using MatrixBatch<order>::src, MatrixBatch<order>::dst;
     static constexpr std::size_t chains = 1;
-    MatricesOfBatch<order> src, dst;
+    static constexpr bool takesPositions = order >= 5, takesAny = order >= 5;
     VectorsOfBatch<order> pivots;
     LastPivots<order> lastPivots;
 
-    template <class Source, class Factors>
-    VONKK3_INLINE DecomposeBatch(const Source &src, std::uint32_t *pivots, const Factors &dst, std::size_t count)
-        : src(src, count), dst(dst, count), pivots(packedBlocks(pivots, order, count)),
-          lastPivots(this->dst.view, this->pivots.view) {}
-
-    Access access() const { return accessOf(src.view, dst.view); }
-    template <Access access> VONKK3_INLINE void hoist() {
-        src.template hoist<access>();
-        dst.template hoist<access>();
-    }
+    template <class Tables>
+    VONKK3_INLINE DecomposeBatch(const DecomposeWords &words, std::size_t count, Tables throughTables)
+        : MatrixBatch<order>(words, count, throughTables), pivots(packedBlocks(words.pivots, order, count)),
+          lastPivots(dst.view, pivots.view) {}
 
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         RowsOfBatch<chains, order> rows;
-        src.template gather<access>(n, rows.elements);
-        if (!eliminateColumns<true, Packs<chains>>(rows, fixed<order>)) return false;
-
         std::uint32_t physical[chains * packWidth][order];
-        const VectorsOfBatch<order> blocks(packedBlocks(&physical[0][0], order, chains * packWidth));
-        blocks.template scatter<Access::rows>(0, rows.rows);
-        const auto own = [&](std::size_t k, std::size_t i, std::size_t j)
-                             VONKK3_INLINED { return rows.element(k, i, j); };
-        if (!lastPivots.pass(n, physical, own, [](Real32 last) { return passesAsPivot(last); })) return false;
-
-        pivots.template scatter<Access::rows>(n, rows.rows);
+        src.template gather<access>(n, rows.elements);
+        if (!(access == Access::rows ? factor(n, rows, physical) : factorByCall(n, rows, physical))) return false;
         if constexpr (access == Access::rows)
             scatterRowsInOrder(
                 dst.view, n, [&](std::size_t k, std::size_t i) VONKK3_INLINED { return physical[k][i]; },
@@ -170,49 +189,102 @@ template <std::size_t order> struct DecomposeBatch {
         }
         return true;
     }
+
+private:
+    // Stores the row indices if all is well.
+    template <std::size_t chains>
+    VONKK3_INLINE bool factor(std::size_t n, RowsOfBatch<chains, order> &rows,
+                              std::uint32_t (&physical)[chains * packWidth][order]) const {
+        rows.begin();
+        if (!eliminateColumns<Packs<chains>>(rows, fixed<order>, true)) return false;
+        const VectorsOfBatch<order> blocks(packedBlocks(&physical[0][0], order, chains * packWidth));
+        blocks.template scatter<Access::rows>(0, rows.rows);
+        const auto own = [&](std::size_t k, std::size_t i, std::size_t j)
+                             VONKK3_INLINED { return rows.element(k, i, j); };
+        if (!lastPivots.pass(n, physical, own, [](Real32 last) { return passesAsPivot(last); })) return false;
+        pivots.template scatter<Access::rows>(n, rows.rows);
+        return true;
+    }
+    // One body where rows are not contiguous.
+    template <std::size_t chains>
+    VONKK3_NOINLINE bool factorByCall(std::size_t n, RowsOfBatch<chains, order> &rows,
+                                      std::uint32_t (&physical)[chains * packWidth][order]) const {
+        return factor(n, rows, physical);
+    }
 };
 
 // From how many objects on batches are quicker than one by one. Small matrices are quick enough; and the alias test of
 // lists and tables costs as much as several objects.
 template <std::size_t order> std::size_t leastToDecompose(const ObjectsView &factors, Access access) {
-    if (access == Access::any) return order < 5 ? std::size_t(-1) : 16 * packWidth;
+    if (access != Access::rows && order < 5) return std::size_t(-1);
+    if (access == Access::any) return 16 * packWidth;
     return factors.indirection == ObjectsView::Indirection::none ? 2 * packWidth : 8 * packWidth;
-}
-
-template <class Source, class Factors, std::size_t order, class One>
-VONKK3_INLINE VonkStatus decomposeInBatches(const Source &src, std::uint32_t *pivots, const Factors &dst, Fixed<order>,
-                                            std::size_t count, const One &one) {
-    DecomposeBatch<order> batch(src, pivots, dst, count);
-    if (count < leastToDecompose<order>(batch.dst.view, batch.access())) return forEachPlainly(count, one);
-    const Aliasing aliasing(count, writes(batch.dst.view), writes(batch.pivots.view), readsInPlace(batch.src.view));
-    return forEachBatch(batch, aliasing, count, one);
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
 // Objects one after the other, each through all its steps; the first singular one ends the call.
+template <class Source, class Factors, class Order>
+VONKK3_NOINLINE VonkStatus decomposePlainly(const DecomposeWords &words, Order sizes, std::size_t n, std::size_t to) {
+    std::uint32_t *const pivots = words.pivots;
+    const Order order = sizes;
+    return knowingLists < isLight<Order> &&
+           !Factors::isTable > (words.dst.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
+               Source src(words.src);
+               Factors dst(words.dst);
+               src.isList = dst.isList = areLists;
+               for (; n < to; ++n) {
+                   if (src.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
+                       return vonkErrNullPtr;
+                   const VonkStatus status = decomposeObject(src.view(n, order), dst.view(n, order),
+                                                             pivotBlock(pivots, n, order), order, n, true);
+                   if (status != vonkOk) return status;
+               }
+               return vonkOk;
+           });
+}
+
+template <class T, bool throughTables, class Order>
+VONKK3_INLINE VonkStatus decomposePlainly(const DecomposeWords &words, Order order, std::size_t from, std::size_t to) {
+    if constexpr (std::is_same_v<T, Real32> && !throughTables && (Order::value == 3 || Order::value == 4))
+        if (areRowsContiguous<T>(words.src, words.dst))
+            return decomposePlainly<ContiguousOperand<const T>, ContiguousOperand<T>>(words, order, from, to);
+    using Source = SharedOperand<const T, throughTables>;
+    return decomposePlainly<Source, SharedOperand<T, throughTables>>(words, order, from, to);
+}
+
+template <std::size_t order, bool throughTables>
+VONKK3_NOINLINE VonkStatus decomposeInBatches(const DecomposeWords &words, std::size_t count) {
+    const auto plainly = [&](std::size_t from, std::size_t to) VONKK3_INLINED {
+        return decomposePlainly<Real32, throughTables>(words, fixed<order>, from, to);
+    };
+    DecomposeBatch<order> batch(words, count, std::bool_constant<throughTables>());
+    if (count < leastToDecompose<order>(batch.dst.view, batch.access())) return plainly(0, count);
+    const Aliasing aliasing(count, writes(batch.dst.view), writes(batch.pivots.view), readsInPlace(batch.src.view));
+    return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
+}
+
 template <class Source, class Factors, class Order, class Count>
 VONKK3_INLINE VonkStatus decompose(const Source &src, std::uint32_t *pivots, const Factors &dst, Order order,
                                    Count count) {
+    using T = typename Factors::Element;
     if (anyNull(src, pivots, dst)) return vonkErrNullPtr;
     if (order.isZero()) return vonkErrSize;
     if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
-    const auto one = [&](std::size_t n) VONKK3_INLINED {
-        if (src.listHasNull(n) || dst.listHasNull(n)) [[unlikely]]
-            return VonkStatus(vonkErrNullPtr);
-        return decomposeObject<Count::isArray>(src.view(n, order), dst.view(n, order), pivotBlock(pivots, n, order),
-                                               order, n);
-    };
+    if constexpr (!Count::isArray)
+        return decomposeObject(src.view(0, order), dst.view(0, order), pivotBlock(pivots, 0, order), order, 0, false);
+    const DecomposeWords words{{src.words(order), dst.words(order)}, pivots};
+    const auto plainly = [&]() VONKK3_INLINED { return decomposePlainly<T, Factors::isTable>(words, order, 0, count); };
     if constexpr (worksInBatches<Factors>)
         if (count >= 2 * packWidth)
             return withFixedOrder(
                 order,
                 [&](auto size) VONKK3_INLINED {
-                    if constexpr (size < 4) return forEachPlainly(count, one);
-                    else return decomposeInBatches(src, pivots, dst, size, count, one);
+                    if constexpr (size < 4) return decomposePlainly<T, Factors::isTable>(words, size, 0, count);
+                    else return decomposeInBatches<size, Factors::isTable>(words, count);
                 },
-                [&]() VONKK3_INLINED { return forEachPlainly(count, one); });
-    return forEachObject(count, one);
+                plainly);
+    return plainly();
 }
 
 } // namespace vonkk3::lu

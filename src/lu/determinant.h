@@ -3,33 +3,29 @@
 #pragma once
 
 #include "frame/batch.h"
+#include "frame/shared_operand.h"
 #include "lu/local_block.h"
 #include "lu/minors.h"
 #include "lu/scratch_elimination.h"
-#include "lu/small.h"
 
 namespace vonkk3::lu {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // Fixed order: the standard and list layouts work both types in 80 bits and round once, at the result. The others work
 // Real32 in Real32. So the two may differ in the last place.
 template <class Source>
 inline constexpr bool isWorkedWide = Source::layout == Layout::Standard || Source::layout == Layout::L;
 
-template <class Source>
-using WorkedIn = std::conditional_t<isWorkedWide<Source>, Wide, Working<typename Source::Element>>;
-
 // 3x3: those of them that are worked in 80 bits have an expansion of their own for each type.
-template <class Source, class A> VONKK3_INLINE auto determinantOfThree(const A &a) {
-    if constexpr (!isWorkedWide<Source>) return determinantInOrder(a);
-    else if constexpr (std::is_same_v<typename Source::Element, Real32>) return determinantAlongRow(a);
+template <class T, bool workedWide, class A> VONKK3_INLINE auto determinantOfThree(const A &a) {
+    if constexpr (!workedWide) return determinantInOrder(a);
+    else if constexpr (std::is_same_v<T, Real32>) return determinantAlongRow(a);
     else return determinantAlongColumn(a);
 }
 
 // Run-time order, one matrix: a pivot that is too small ends the work with 0. In arrays the last pivot is still looked
 // at, whatever it is by then, and the 0 is multiplied by it: it may become -0, or NaN if that pivot is infinite.
-template <class Count> inline constexpr bool multipliesZeroByLastPivot = Count::isArray;
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
@@ -38,23 +34,23 @@ template <class W, class T, std::size_t order> [[gnu::noinline]] W determinantBy
     return determinantByLevels<W, order>(Elements<W, RowsView<const T>>(view));
 }
 
-template <class Source, class View, std::size_t order>
-VONKK3_INLINE WorkedIn<Source> closedForm(const View &view, Fixed<order>) {
-    using W = WorkedIn<Source>;
-    using T = typename Source::Element;
+template <bool workedWide, class View, std::size_t order>
+VONKK3_INLINE auto closedForm(const View &view, Fixed<order>) {
+    using T = typename View::Element;
+    using W = std::conditional_t<workedWide, Wide, Working<T>>;
     const Elements<W, View> a(view);
-    if constexpr (order == 3) return determinantOfThree<Source>(a);
+    if constexpr (order == 3) return determinantOfThree<T, workedWide>(a);
     else if constexpr (order == 4) return determinantOfFour(a);
-    else if constexpr (isWorkedWide<Source>) return determinantByLevels<W, T, order>(view);
+    else if constexpr (workedWide) return determinantByLevels<W, T, order>(view);
     else return determinantByLevels<W, T, order>(SmallMatrix<T, order>(view).view());
 }
 
-template <class T, class Count>
-inline void determinantInScratch(const ScratchMatrix<T> &matrix, std::size_t order, std::byte *cell, Count) {
+template <class T>
+inline void determinantInScratch(const ScratchMatrix<T> &matrix, std::size_t order, std::byte *cell, bool isArray) {
     ProductInCell<T> product(cell);
     const Elimination done = eliminate(matrix, order, product);
     if (!done.isRegular) product.set(0);
-    if (done.isRegular || multipliesZeroByLastPivot<Count>) multiplyLastPivot(matrix, order, done.sign, product);
+    if (done.isRegular || isArray) multiplyLastPivot(matrix, order, done.sign, product);
 }
 
 // The results are packed, whatever the layout.
@@ -65,6 +61,7 @@ template <class T> inline std::byte *resultCell(T *dst, std::size_t n) { return 
 // Of fixed order, where Real32 is worked in Real32.
 template <std::size_t order> struct DeterminantBatch {
     static constexpr std::size_t chains = 1;
+    static constexpr bool takesAny = order >= 5;
     MatricesOfBatch<order> src;
     ObjectsView results;
 
@@ -94,30 +91,67 @@ template <std::size_t order> std::size_t leastForDeterminants(const ObjectsView 
     return 4 * packWidth;
 }
 
-template <class Source, std::size_t order, class One>
-VONKK3_INLINE VonkStatus determinantsInBatches(const Source &src, Fixed<order>, Real32 *dst, std::size_t count,
-                                               const One &one) {
-    DeterminantBatch<order> batch{{src, count}, packedBlocks(dst, 1, count)};
-    if (count < leastForDeterminants<order>(batch.src.view, batch.access())) return forEachPlainly(count, one);
-    const Aliasing aliasing(count, writes(batch.results), reads(batch.src.view));
-    return forEachBatch(batch, aliasing, count, one);
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+template <bool workedWide, class Source, std::size_t order>
+VONKK3_NOINLINE VonkStatus determinantsPlainly(const OperandWords &words, typename Source::Element *dst, std::size_t n,
+                                               std::size_t to) {
+    using T = typename Source::Element;
+    return knowingLists < isLight<Fixed<order>> &&
+           !Source::isTable > (words.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
+               Source src(words);
+               src.isList = areLists;
+               for (; n < to; ++n) {
+                   if (src.listHasNull(n)) [[unlikely]]
+                       return vonkErrNullPtr;
+                   storeAt(resultCell(dst, n),
+                           static_cast<T>(closedForm<workedWide>(src.view(n, order), fixed<order>)));
+               }
+               return vonkOk;
+           });
 }
 
-// ---- All objects ----------------------------------------------------------------------------------------------------
+template <std::size_t order, bool throughTables>
+VONKK3_NOINLINE VonkStatus determinantsInBatches(const OperandWords &src, Real32 *dst, std::size_t count) {
+    const auto plainly = [&](std::size_t from, std::size_t to) VONKK3_INLINED {
+        return determinantsPlainly<false, SharedOperand<const Real32, throughTables>, order>(src, dst, from, to);
+    };
+    DeterminantBatch<order> batch{{src, count, std::bool_constant<throughTables>()}, packedBlocks(dst, 1, count)};
+    if (count < leastForDeterminants<order>(batch.src.view, batch.access())) return plainly(0, count);
+    const Aliasing aliasing(count, writes(batch.results), reads(batch.src.view));
+    return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
+}
 
 template <class Source, std::size_t order, class T, class Count>
 VONKK3_INLINE VonkStatus determinant(const Source &src, Fixed<order> size, T *dst, Count count) {
+    constexpr bool workedWide = isWorkedWide<Source>;
     if (anyNull(src, dst)) return vonkErrNullPtr;
     if (anyTableEntryNull(order * order, src)) return vonkErrNullPtr;
-    const auto one = [&](std::size_t n) VONKK3_INLINED {
-        if (src.listHasNull(n)) [[unlikely]]
-            return VonkStatus(vonkErrNullPtr);
-        storeAt(resultCell(dst, n), static_cast<T>(closedForm<Source>(src.view(n, order), size)));
-        return VonkStatus(vonkOk);
-    };
-    if constexpr (worksInBatches<Source> && !isWorkedWide<Source>)
-        if (count >= packWidth) return determinantsInBatches(src, size, dst, count, one);
-    return forEachObject(count, one);
+    if constexpr (!Count::isArray) {
+        storeAt(resultCell(dst, 0), static_cast<T>(closedForm<workedWide>(src.view(0, order), size)));
+        return vonkOk;
+    } else {
+        const OperandWords words = src.words(order);
+        if constexpr (worksInBatches<Source> && !workedWide)
+            if (count >= packWidth) return determinantsInBatches<order, Source::isTable>(words, dst, count);
+        using Shared =
+            std::conditional_t<workedWide, ContiguousOperand<const T>, SharedOperand<const T, Source::isTable>>;
+        return determinantsPlainly<workedWide, Shared, order>(words, dst, 0, count);
+    }
+}
+
+// Run-time order. Entries of a single matrix's table are tested here.
+template <class T, bool throughTables>
+VONKK3_NOINLINE VonkStatus determinantsInScratch(const OperandWords &words, std::size_t order, void *scratch, T *dst,
+                                                 std::size_t count, bool isArray) {
+    const SharedOperand<const T, throughTables> src(words);
+    const ScratchMatrix<T> matrix(scratch, order);
+    for (std::size_t n = 0; n < count; ++n) {
+        if (src.listHasNull(n)) return vonkErrNullPtr;
+        if (!copyToScratch(matrix, order, !isArray, src.view(n, order))) return vonkErrNullPtr;
+        determinantInScratch(matrix, order, resultCell(dst, n), isArray);
+    }
+    return vonkOk;
 }
 
 template <class Source, class T, class Count>
@@ -125,15 +159,7 @@ VONKK3_INLINE VonkStatus determinant(const Source &src, RunTime order, void *scr
     if (anyNull(src, scratch, dst)) return vonkErrNullPtr;
     if (order.isZero()) return vonkErrSize;
     if (scansTablesFirst<Count> && anyTableEntryNull(std::size_t(order) * order, src)) return vonkErrNullPtr;
-    const ScratchMatrix<T> matrix(scratch, order);
-    return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED {
-            if (!copyToScratch<!scansTablesFirst<Count>>(matrix, order, src.view(n, order))) return vonkErrNullPtr;
-            determinantInScratch(matrix, order, resultCell(dst, n), count);
-            return vonkOk;
-        },
-        src);
+    return determinantsInScratch<T, Source::isTable>(src.words(order), order, scratch, dst, count, Count::isArray);
 }
 
 } // namespace vonkk3::lu

@@ -49,7 +49,7 @@ private:
 };
 
 // The elements of a view, to be worked in W. What is worked in 80 bits has few registers: there, elements stay where
-// they are until they are used, for each use anew.
+// they are until they are used, and are loaded again for each use.
 template <class W, class View> class Elements {
 public:
     VONKK3_INLINE explicit Elements(const View &view) : view(view) {}

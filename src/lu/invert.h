@@ -3,7 +3,7 @@
 // inverts.
 #pragma once
 
-#include "frame/batch.h"
+#include "frame/shared_batch.h"
 #include "lu/batch_of_six.h"
 #include "lu/block_inverse.h"
 #include "lu/closed_inverse.h"
@@ -13,7 +13,7 @@
 
 namespace vonkk3::lu {
 
-// ---- Members that behave unlike their siblings ----------------------------------------------------------------------
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
 
 // Real32 of fixed order in the standard and list layouts is built for speed: reciprocals are estimated; 3x3 and 4x4 are
 // singular only if their determinant is exactly zero; 5x5 and 6x6 pass through the destination, so that a failure at
@@ -24,28 +24,29 @@ inline constexpr bool isBuiltForSpeed = std::is_same_v<typename Source::Element,
                                         (Source::layout == Layout::Standard || Source::layout == Layout::L);
 
 // When the entries of lists are tested in arrays of fixed order: in Real32 `L` never, in the other two all of them
-// ahead of the first object. At run-time order it is each object's when its turn comes.
+// before the first object. At run-time order each object's entries are tested when its turn comes.
 template <class Source> inline constexpr bool scansListsFirst = Source::isList && !isBuiltForSpeed<Source>;
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
-template <class Source, class SourceView, class View, std::size_t order>
-VONKK3_INLINE bool invertObject(const SourceView &source, const View &inverse, Fixed<order>) {
-    if constexpr (isBuiltForSpeed<Source> && order == 3) return invertThreeInLanes(source, inverse);
-    else if constexpr (isBuiltForSpeed<Source> && order == 4) return invertFourInLanes(source, inverse);
-    else if constexpr (isBuiltForSpeed<Source> && order == 6) return invertSixInLanes(source, inverse);
-    else if constexpr (isBuiltForSpeed<Source>) return invertFiveThroughDestination(source, inverse);
+template <bool builtForSpeed, class Source, class View, std::size_t order>
+VONKK3_INLINE bool invertObject(const Source &source, const View &inverse, Fixed<order>) {
+    using T = typename View::Element;
+    if constexpr (builtForSpeed && order == 3) return invertThreeInLanes(source, inverse);
+    else if constexpr (builtForSpeed && order == 4) return invertFourInLanes(source, inverse);
+    else if constexpr (builtForSpeed && order == 6) return invertSixInLanes(source, inverse);
+    else if constexpr (builtForSpeed) return invertFiveThroughDestination(source, inverse);
     else {
-        // One body of each method serves all layouts. It works on a copy, and stores through rows of adjacent elements:
-        // straight to where they are such, or they would be read back before they have settled.
-        const SmallMatrix<typename Source::Element, order> matrix(source);
+        // One body of each method serves all layouts. It works on a copy, and stores through contiguous rows: directly
+        // where the destination has them, or they would be read back before they have settled.
+        const SmallMatrix<T, order> matrix(source);
         const auto invertTo = [&](const auto &rows) VONKK3_INLINED {
             if constexpr (order <= 4) return invertClosed(matrix, rows);
             else return invertByBlocks(matrix, rows);
         };
-        if constexpr (std::is_same_v<View, RowsView<typename Source::Element>>) return invertTo(inverse);
+        if constexpr (std::is_same_v<View, RowsView<T>>) return invertTo(inverse);
         else {
-            SmallMatrix<typename Source::Element, order> result;
+            SmallMatrix<T, order> result;
             if (!invertTo(result.writableView())) return false;
             result.store(inverse);
             return true;
@@ -55,24 +56,19 @@ VONKK3_INLINE bool invertObject(const SourceView &source, const View &inverse, F
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-// A matrix that is singular goes the plain way. Of the forms that are built for speed, 3x3 and 4x4 are as quick there.
-template <class Source, std::size_t order>
-inline constexpr bool isWorthInverting = !isBuiltForSpeed<Source> || order >= 5;
+// A matrix that is singular takes the plain path. Of the forms that are built for speed, 3x3 and 4x4 are as quick
+// there.
+template <bool builtForSpeed, std::size_t order> inline constexpr bool isWorthInverting = !builtForSpeed || order >= 5;
 
-template <bool builtForSpeed, std::size_t order> struct InvertBatch {
+template <bool builtForSpeed, std::size_t order> struct InvertBatch : MatrixBatch<order> {
+    using MatrixBatch<order>::MatrixBatch, MatrixBatch<order>::src, MatrixBatch<order>::dst;
     static constexpr std::size_t chains = order == 3 ? 2 : 1; // the larger ones fill the registers
-    MatricesOfBatch<order> src, dst;
-
-    Access access() const { return accessOf(src.view, dst.view); }
-    template <Access access> VONKK3_INLINE void hoist() {
-        src.template hoist<access>();
-        dst.template hoist<access>();
-    }
-
+    static constexpr bool takesPositions = !builtForSpeed, takesAny = !builtForSpeed;
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
+        constexpr bool isInlined = builtForSpeed || access == Access::positions || order == 4 || chains > 1;
         Packs<chains> matrices[order][order], inverses[order][order];
         src.template gather<access>(n, matrices);
-        if (!invertGathered(matrices, inverses)) return false;
+        if (!(isInlined ? invertGathered(matrices, inverses) : invertByCall(matrices, inverses))) return false;
         dst.template scatter<access>(n, inverses);
         return true;
     }
@@ -88,15 +84,11 @@ private:
         else if constexpr (order == 6 && builtForSpeed) return invertSixOfBatch(matrices, inverses);
         else return invertByBlocks(matrices, inverses, reciprocal);
     }
+    template <class Number>
+    VONKK3_NOINLINE static bool invertByCall(Number (&matrices)[order][order], Number (&inverses)[order][order]) {
+        return invertGathered(matrices, inverses);
+    }
 };
-
-template <class Source, class Destination, std::size_t order, class One>
-VONKK3_INLINE VonkStatus invertInBatches(const Source &src, const Destination &dst, Fixed<order>, std::size_t count,
-                                         const One &one) {
-    InvertBatch<isBuiltForSpeed<Source>, order> batch{{src, count}, {dst, count}};
-    const Aliasing aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view));
-    return forEachBatch(batch, aliasing, count, one);
-}
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -108,17 +100,77 @@ inline bool anyListEntryNull(std::size_t objects, const Source &src, const Desti
 }
 
 // The first singular object ends the call.
+template <bool builtForSpeed, class Source, class Destination, std::size_t order>
+VONKK3_NOINLINE VonkStatus invertPlainly(const MatrixWords &words, std::size_t n, std::size_t to) {
+    return knowingLists < builtForSpeed &&
+           isLight < Fixed < order >>> (words.dst.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
+               Source src(words.src);
+               Destination dst(words.dst);
+               src.isList = dst.isList = areLists;
+               for (; n < to; ++n)
+                   if (!invertObject<builtForSpeed>(src.view(n, order), dst.view(n, order), fixed<order>))
+                       return vonkErrSingular;
+               return vonkOk;
+           });
+}
+
+template <class T, bool builtForSpeed, bool throughTables, std::size_t order>
+VONKK3_INLINE VonkStatus invertPlainly(const MatrixWords &words, std::size_t from, std::size_t to) {
+    using Source = SharedOperand<const T, throughTables>;
+    using Destination = SharedOperand<T, throughTables>;
+    using Rows = ContiguousOperand<const T>;
+    using WrittenRows = ContiguousOperand<T>;
+    if constexpr (builtForSpeed) return invertPlainly<true, Rows, WrittenRows, order>(words, from, to);
+    else if constexpr (std::is_same_v<T, Real32> || throughTables)
+        return invertPlainly<false, Source, Destination, order>(words, from, to);
+    else
+        return areRowsContiguous<T>(words.src, words.dst)
+                   ? invertPlainly<false, Rows, WrittenRows, order>(words, from, to)
+                   : invertPlainly<false, Source, Destination, order>(words, from, to);
+}
+
+template <bool builtForSpeed, bool throughTables, std::size_t order>
+VONKK3_NOINLINE VonkStatus invertInBatches(const MatrixWords &words, std::size_t count) {
+    InvertBatch<builtForSpeed, order> batch(words, count, std::bool_constant<throughTables>());
+    const Aliasing aliasing(count, writes(batch.dst.view), readsInPlace(batch.src.view));
+    return forEachBatch(batch, aliasing, count, [&](std::size_t n) {
+        return invertPlainly<Real32, builtForSpeed, throughTables, order>(words, n, n + 1);
+    });
+}
+
 template <class Source, class Destination, std::size_t order, class Count>
 VONKK3_INLINE VonkStatus invert(const Source &src, Fixed<order> size, const Destination &dst, Count count) {
+    using T = typename Destination::Element;
+    constexpr bool builtForSpeed = isBuiltForSpeed<Source>, throughTables = Destination::isTable;
     if (anyNull(src, dst)) return vonkErrNullPtr;
     if (anyTableEntryNull(order * order, src, dst)) return vonkErrNullPtr;
     if (scansListsFirst<Source> && anyListEntryNull(count, src, dst)) return vonkErrNullPtr;
-    const auto one = [&](std::size_t n) VONKK3_INLINED {
-        return invertObject<Source>(src.view(n, order), dst.view(n, order), size) ? vonkOk : vonkErrSingular;
-    };
-    if constexpr (worksInBatches<Destination> && isWorthInverting<Source, order>)
-        if (count >= (order == 3 ? 2 : 1) * packWidth) return invertInBatches(src, dst, size, count, one);
-    return forEachObject(count, one);
+    if constexpr (!Count::isArray)
+        return invertObject<builtForSpeed>(src.view(0, order), dst.view(0, order), size) ? vonkOk : vonkErrSingular;
+    else {
+        const MatrixWords words{src.words(order), dst.words(order)};
+        if constexpr (worksInBatches<Destination> && isWorthInverting<builtForSpeed, order>)
+            if (count >= (order == 3 ? 2 : 1) * packWidth)
+                return invertInBatches<builtForSpeed, throughTables, order>(words, count);
+        return invertPlainly<T, builtForSpeed, throughTables, order>(words, 0, count);
+    }
+}
+
+// Run-time order. Entries of a single matrix's tables are tested here.
+template <class T, bool throughTables>
+VONKK3_NOINLINE VonkStatus invertInScratch(const MatrixWords &words, std::size_t order, void *scratch,
+                                           std::size_t count, bool testsEntries) {
+    const SharedOperand<const T, throughTables> src(words.src);
+    const SharedOperand<T, throughTables> dst(words.dst);
+    const ScratchMatrix<T> matrix(scratch, order);
+    for (std::size_t n = 0; n < count; ++n) {
+        if (src.listHasNull(n) || dst.listHasNull(n)) return vonkErrNullPtr;
+        const auto source = src.view(n, order);
+        const auto inverse = dst.view(n, order);
+        if (!copyToScratch(matrix, order, testsEntries, source, inverse)) return vonkErrNullPtr;
+        if (const VonkStatus status = invertByMinors(matrix, order, source, inverse); status != vonkOk) return status;
+    }
+    return vonkOk;
 }
 
 template <class Source, class Destination, class Count>
@@ -126,16 +178,9 @@ VONKK3_INLINE VonkStatus invert(const Source &src, RunTime order, void *scratch,
     if (anyNull(src, scratch, dst)) return vonkErrNullPtr;
     if (order.isZero()) return vonkErrSize;
     if (scansTablesFirst<Count> && anyTableEntryNull(std::size_t(order) * order, src, dst)) return vonkErrNullPtr;
-    const ScratchMatrix<typename Source::Element> matrix(scratch, order);
-    return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
-            const auto source = src.view(n, order);
-            const auto inverse = dst.view(n, order);
-            if (!copyToScratch<!scansTablesFirst<Count>>(matrix, order, source, inverse)) return vonkErrNullPtr;
-            return invertByMinors(matrix, order, source, inverse);
-        },
-        src, dst);
+    const MatrixWords words{src.words(order), dst.words(order)};
+    return invertInScratch<typename Source::Element, Destination::isTable>(words, order, scratch, count,
+                                                                           !scansTablesFirst<Count>);
 }
 
 } // namespace vonkk3::lu

@@ -1,6 +1,6 @@
 // The inverse of run-time order as the adjugate divided by the determinant: one elimination for the determinant and one
 // for the minor of every element, all in the caller's scratch memory. The work is of the fifth order, and the matrix is
-// read anew for every minor.
+// read again for every minor.
 #pragma once
 
 #include "lu/scratch_elimination.h"

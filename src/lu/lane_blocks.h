@@ -1,5 +1,5 @@
-// The inverse of Real32 6x6 with adjacent elements: the block inversion of block_inverse.h in blocks of 3x3, whose rows
-// lie in four lanes. Any column may be chosen for the leading block.
+// The inverse of Real32 6x6 with contiguous rows: the block inversion of block_inverse.h in blocks of 3x3, whose rows
+// lie in four SIMD lanes. Any column may be chosen for the leading block.
 #pragma once
 
 #include "lu/lane_inverse.h"
@@ -102,18 +102,18 @@ struct LaneBlock {
         return {{_mm_xor_ps(rows[0], sign), _mm_xor_ps(rows[1], sign), _mm_xor_ps(rows[2], sign)}};
     }
 
-    // Makes this the inverse of a block; false if its determinant is in the interval that is taken for zero.
+    // Makes this the inverse of a block; false if its determinant is in the singular interval.
     VONKK3_INLINE bool becomeInverse(const LaneBlock &block) {
         const auto left = [](__m128 row) VONKK3_INLINED { return pick<1, 2, 0, 3>(row); };
         const __m128 row0 = block.rows[0], row1 = block.rows[1], row2 = block.rows[2];
         const __m128 left0 = left(row0), left1 = left(row1), left2 = left(row2);
-        const __m128 column0 = crossTurned(row1, left1, row2, left2); // z, x, y
+        const __m128 column0 = crossRotated(row1, left1, row2, left2); // z, x, y
         const __m128 terms = _mm_mul_ps(column0, pick<2, 0, 1, 3>(row0));
         const __m128 determinant = // (x + y) + z, in all lanes
             _mm_add_ps(_mm_add_ps(pick<1, 1, 1, 1>(terms), pick<2, 2, 2, 2>(terms)), pick<0, 0, 0, 0>(terms));
         if (isInSingularInterval(_mm_cvtss_f32(determinant))) return false;
         const __m128 r = reciprocalByEstimate(determinant);
-        const __m128 column1 = crossTurned(row2, left2, row0, left0), column2 = crossTurned(row0, left0, row1, left1);
+        const __m128 column1 = crossRotated(row2, left2, row0, left0), column2 = crossRotated(row0, left0, row1, left1);
         const __m128 zx = _mm_unpacklo_ps(column0, column1), y = _mm_unpackhi_ps(column0, column1);
         rows[0] = _mm_mul_ps(pick<2, 3, 1, 3>(zx, column2), r);
         rows[1] = _mm_mul_ps(pick<0, 1, 2, 3>(y, column2), r);

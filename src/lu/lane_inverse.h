@@ -1,5 +1,5 @@
-// Inverses of Real32 3x3 and 4x4 with adjacent elements, in four lanes that hold parts of one matrix. The determinant
-// is taken for zero only if it is zero, and its reciprocal comes from the processor's estimate. A matrix is loaded
+// Inverses of Real32 3x3 and 4x4 with contiguous rows, in four SIMD lanes that hold parts of one matrix. Only a
+// determinant of exactly zero is singular, and its reciprocal comes from the processor's estimate. A matrix is loaded
 // whole before any of its inverse is stored.
 #pragma once
 
@@ -9,7 +9,7 @@
 
 namespace vonkk3::lu {
 
-// Lane k of the result is lane k of the arguments as told, from the lowest lane up.
+// Lane i of the result is lane ki of the argument, from the lowest lane up.
 template <int k0, int k1, int k2, int k3> VONKK3_INLINE __m128 pick(__m128 lanes) {
     return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(lanes), _MM_SHUFFLE(k3, k2, k1, k0)));
 }
@@ -19,11 +19,11 @@ template <int a0, int a1, int b2, int b3> VONKK3_INLINE __m128 pick(__m128 a, __
 
 // ---- 3x3: a row (x, y, z) lies in lanes 0, 2 and 3, where it goes to and fro without shuffling ----------------------
 
-VONKK3_INLINE __m128 turnedLeft(__m128 row) { return pick<2, 1, 3, 0>(row); }  // (y, z, x)
-VONKK3_INLINE __m128 turnedRight(__m128 row) { return pick<3, 1, 0, 2>(row); } // (z, x, y)
+VONKK3_INLINE __m128 rotatedLeft(__m128 row) { return pick<2, 1, 3, 0>(row); }  // (y, z, x)
+VONKK3_INLINE __m128 rotatedRight(__m128 row) { return pick<3, 1, 0, 2>(row); } // (z, x, y)
 
-// The cross product of two rows, turned right: from the rows and the same turned left.
-VONKK3_INLINE __m128 crossTurned(__m128 u, __m128 uLeft, __m128 v, __m128 vLeft) {
+// The cross product of two rows, rotated right: from the rows and the same rotated left.
+VONKK3_INLINE __m128 crossRotated(__m128 u, __m128 uLeft, __m128 v, __m128 vLeft) {
     return _mm_sub_ps(_mm_mul_ps(u, vLeft), _mm_mul_ps(uLeft, v));
 }
 
@@ -31,13 +31,13 @@ VONKK3_INLINE __m128 crossTurned(__m128 u, __m128 uLeft, __m128 v, __m128 vLeft)
 // the determinant is zero.
 VONKK3_INLINE bool invertThreeInLanes(const RowsView<const Real32> &matrix, const RowsView<Real32> &inverse) {
     const __m128 row0 = load3(matrix.at(0, 0)), row1 = load3(matrix.at(1, 0)), row2 = load3(matrix.at(2, 0));
-    const __m128 left0 = turnedLeft(row0), left1 = turnedLeft(row1), left2 = turnedLeft(row2);
-    const __m128 column0 = crossTurned(row1, left1, row2, left2);
-    const __m128 column1 = crossTurned(row2, left2, row0, left0);
-    const __m128 column2 = crossTurned(row0, left0, row1, left1);
+    const __m128 left0 = rotatedLeft(row0), left1 = rotatedLeft(row1), left2 = rotatedLeft(row2);
+    const __m128 column0 = crossRotated(row1, left1, row2, left2);
+    const __m128 column1 = crossRotated(row2, left2, row0, left0);
+    const __m128 column2 = crossRotated(row0, left0, row1, left1);
 
-    const __m128 terms = _mm_mul_ps(column0, turnedRight(row0)); // z, x, y
-    const __m128 determinant =                                   // (x + y) + z, in all lanes
+    const __m128 terms = _mm_mul_ps(column0, rotatedRight(row0)); // z, x, y
+    const __m128 determinant =                                    // (x + y) + z, in all lanes
         _mm_add_ps(_mm_add_ps(pick<2, 2, 2, 2>(terms), pick<3, 3, 3, 3>(terms)), pick<0, 0, 0, 0>(terms));
     if (_mm_cvtss_f32(determinant) == 0) return false;
     const __m128 r = reciprocalByEstimateOfThree(determinant);
@@ -56,27 +56,27 @@ VONKK3_INLINE bool invertThreeInLanes(const RowsView<const Real32> &matrix, cons
 
 // ---- 4x4: a row lies in its lanes, and column indices count round from 3 to 0 ---------------------------------------
 
-VONKK3_INLINE __m128 turnedByOne(__m128 row) { return pick<1, 2, 3, 0>(row); }
-VONKK3_INLINE __m128 turnedByTwo(__m128 row) { return pick<2, 3, 0, 1>(row); }
+VONKK3_INLINE __m128 rotatedByOne(__m128 row) { return pick<1, 2, 3, 0>(row); }
+VONKK3_INLINE __m128 rotatedByTwo(__m128 row) { return pick<2, 3, 0, 1>(row); }
 
-// A row, and the same turned.
-struct TurnedRow {
+// A row, and the same rotated.
+struct RotatedRow {
     __m128 row, byOne, byTwo;
-    VONKK3_INLINE explicit TurnedRow(__m128 row) : row(row), byOne(turnedByOne(row)), byTwo(turnedByTwo(row)) {}
+    VONKK3_INLINE explicit RotatedRow(__m128 row) : row(row), byOne(rotatedByOne(row)), byTwo(rotatedByTwo(row)) {}
 };
 
 // The 2x2 minors of two rows on columns k and k + 1, and on columns k and k + 2, in lane k.
 struct PairMinors {
     __m128 near, nearByOne, far;
-    VONKK3_INLINE PairMinors(const TurnedRow &u, const TurnedRow &v)
-        : near(_mm_sub_ps(_mm_mul_ps(u.row, v.byOne), _mm_mul_ps(u.byOne, v.row))), nearByOne(turnedByOne(near)) {
+    VONKK3_INLINE PairMinors(const RotatedRow &u, const RotatedRow &v)
+        : near(_mm_sub_ps(_mm_mul_ps(u.row, v.byOne), _mm_mul_ps(u.byOne, v.row))), nearByOne(rotatedByOne(near)) {
         far = _mm_sub_ps(_mm_mul_ps(u.row, v.byTwo), _mm_mul_ps(u.byTwo, v.row));
     }
 };
 
 // In lane k the 3x3 minor of a row and of the two rows of other minors that leaves out column k - 1.
 // The signs of the cofactors come with the reciprocal.
-VONKK3_INLINE __m128 minorsOfThree(const TurnedRow &v, const PairMinors &m) {
+VONKK3_INLINE __m128 minorsOfThree(const RotatedRow &v, const PairMinors &m) {
     return _mm_add_ps(_mm_sub_ps(_mm_mul_ps(v.row, m.nearByOne), _mm_mul_ps(v.byOne, m.far)),
                       _mm_mul_ps(v.byTwo, m.near));
 }
@@ -85,18 +85,18 @@ VONKK3_INLINE __m128 minorsOfThree(const TurnedRow &v, const PairMinors &m) {
 // adjugate. The determinant is that of row 0 and its minors, (p0 + p2) - (p1 + p3). False, and nothing stored, if it is
 // zero.
 VONKK3_INLINE bool invertFourInLanes(const RowsView<const Real32> &matrix, const RowsView<Real32> &inverse) {
-    const TurnedRow row2(load4(matrix.at(2, 0))), row3(load4(matrix.at(3, 0)));
+    const RotatedRow row2(load4(matrix.at(2, 0))), row3(load4(matrix.at(3, 0)));
     const PairMinors lower(row2, row3);
-    const TurnedRow row0(load4(matrix.at(0, 0))), row1(load4(matrix.at(1, 0)));
+    const RotatedRow row0(load4(matrix.at(0, 0))), row1(load4(matrix.at(1, 0)));
     __m128 column0 = minorsOfThree(row1, lower), column1 = minorsOfThree(row0, lower);
     const PairMinors upper(row0, row1);
     __m128 column2 = minorsOfThree(row3, upper), column3 = minorsOfThree(row2, upper);
 
-    const __m128 terms = _mm_mul_ps(row0.row, turnedByOne(column0)); // by minors
-    const __m128 pairs = _mm_add_ps(terms, turnedByTwo(terms));
-    const __m128 determinant = _mm_sub_ps(pairs, turnedByOne(pairs)); // D, -D, D, -D
+    const __m128 terms = _mm_mul_ps(row0.row, rotatedByOne(column0)); // by minors
+    const __m128 pairs = _mm_add_ps(terms, rotatedByTwo(terms));
+    const __m128 determinant = _mm_sub_ps(pairs, rotatedByOne(pairs)); // D, -D, D, -D
     if (_mm_cvtss_f32(determinant) == 0) return false;
-    const __m128 r = reciprocalByEstimate(determinant), negatedR = turnedByOne(r);
+    const __m128 r = reciprocalByEstimate(determinant), negatedR = rotatedByOne(r);
 
     _MM_TRANSPOSE4_PS(column0, column1, column2, column3);
     store4(inverse.at(0, 0), _mm_mul_ps(column1, r));

@@ -8,7 +8,7 @@
 namespace vonkk3::lu {
 
 // The last pivot test of object n in an array does not look at that pivot but n * order columns beyond it: in another
-// row, in another object, or behind the array. Only object 0 has its own last pivot tested.
+// row, in another object, or past the end of the array. Only object 0 has its own last pivot tested.
 inline std::size_t testedLastColumn(std::size_t order, std::size_t n) { return order - 1 + n * order; }
 
 template <std::size_t order> class LastPivots {
@@ -57,7 +57,8 @@ private:
         return address - extent.begin + (sizeof(Real32) - 1) < extent.bytes() + (sizeof(Real32) - 1);
     }
 
-    // The address of what is looked at for object n. False if that is behind an entry of the table that may be stored.
+    // The address of what is looked at for object n. False if the entry of the table that leads there may be
+    // overwritten.
     VONKK3_INLINE bool findTested(std::size_t n, std::size_t row, std::uintptr_t &address) const {
         const ObjectsView &view = factors.view;
         const auto offset =

@@ -70,7 +70,7 @@ VONKK3_INLINE W minorTerm(const A &a, const Minors<W, order> &below) {
     else return a(row, column) * below.of[others];
 }
 
-// Terms in pairs, (t0 - t1) + (t2 - t3) + ...: of the ways to add them the one with the least error.
+// Terms in pairs, (t0 - t1) + (t2 - t3) + ...: of all orders of addition the one with the least error.
 template <Columns columns, std::size_t term, class A, class W, std::size_t order>
 VONKK3_INLINE W minorPair(const A &a, const Minors<W, order> &below) {
     const W first = minorTerm<columns, term>(a, below);

@@ -21,7 +21,7 @@ inline void storePivot(std::byte *block, std::size_t k, std::size_t row) {
 }
 
 // The permutation of one decomposition while it grows: begins as the identity in the caller's block, which follows
-// every exchange. Of run-time order it lives there alone; of fixed order a copy stays at hand.
+// every exchange. Of run-time order it lives there alone; of fixed order a local copy serves the reads.
 template <class Order> class GrowingPermutation {
 public:
     GrowingPermutation(std::byte *block, Order order) : block(block) {

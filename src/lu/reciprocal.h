@@ -1,4 +1,4 @@
-// The divisor of an inverse: when it is taken for zero, and how its reciprocal is made.
+// The divisor of an inverse: when it is too close to zero, and how its reciprocal is made.
 #pragma once
 
 #include "frame/pack.h"
@@ -7,8 +7,8 @@
 
 namespace vonkk3::lu {
 
-// Inside this interval around zero a divisor is taken for zero; its ends and a NaN are not. The bounds are Real64
-// numbers for both types.
+// Inside this interval around zero a divisor is below the singularity tolerance; its ends and a NaN are not. The bounds
+// are Real64 numbers for both types.
 template <class T> inline constexpr Real64 singularBelow = std::is_same_v<T, Real32> ? 1e-7 : 1e-15;
 
 inline bool isInSingularInterval(Real32 divisor) {

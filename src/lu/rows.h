@@ -1,5 +1,6 @@
 // The rows of a matrix while it is factored, by position: position k is logical row k, wherever it lies. They begin as
-// a copy of the source in the order of the source.
+// a copy of the source in the order of the source. Row indices overlap neither matrix, and elements of the destination
+// do not overlap each other, so nothing else tells what is kept in registers from what is in memory.
 #pragma once
 
 #include "frame/aliasing.h"
@@ -8,8 +9,21 @@
 
 namespace vonkk3::lu {
 
-// Every step goes to the caller's memory at once, and rows stay where they are. Right for all operands, whatever they
-// overlap.
+template <class T> inline StridedView<T> strided(const RowsView<T> &view) {
+    return {view.base, view.rowStride, sizeof(T)};
+}
+template <class T> inline const StridedView<T> &strided(const StridedView<T> &view) { return view; }
+
+// Whether all of a source may be read before any of the destination is stored.
+template <class Source, class Factors>
+VONKK3_INLINE bool mayReadFirst(const Source &source, const Factors &factors, std::size_t order) {
+    if (source.base == factors.base && source.rowStride == factors.rowStride &&
+        strided(source).elementStride == strided(factors).elementStride)
+        return true;
+    return disjoint(extentOf(source, order, order), extentOf(factors, order, order));
+}
+
+// Every step is stored at once, and rows stay where they are.
 template <class T, class Factors, class Order> class RowsInMemory {
 public:
     template <class Source>
@@ -19,8 +33,7 @@ public:
     T load(std::size_t position, std::size_t column) const { return factors.load(rows[position], column); }
     void store(std::size_t position, std::size_t column, T value) { factors.store(rows[position], column, value); }
     VONKK3_INLINE void exchange(std::size_t a, std::size_t b) { rows.exchange(a, b); }
-    std::size_t physical(std::size_t position) const { return rows[position]; }
-    void finish() const {}
+    std::size_t operator[](std::size_t position) const { return rows[position]; }
 
 private:
     template <class Source>
@@ -35,25 +48,34 @@ private:
     GrowingPermutation<Order> rows;
 };
 
-// The matrix is worked on in a local copy, where rows can be exchanged in fact, and stored when all is done. For
-// destinations whose rows are disjoint from each other and from the source, or in place.
-template <class T, class Factors, std::size_t order> class RowsInRegisters {
+// A Real32 matrix of fixed order is worked in a local copy, where rows are exchanged in fact, and stored when all is
+// done.
+template <std::size_t order> class LocalRows {
 public:
-    template <class Source>
-    VONKK3_INLINE RowsInRegisters(const Source &source, const Factors &factors, std::byte *pivots)
-        : factors(factors), pivots(pivots) {
+    // Where the source may overlap the destination it is copied there, element by element, as it is read.
+    template <bool copiesAsItReads, class Source, class Factors>
+    VONKK3_INLINE void load(const Source &source, const Factors &factors) {
         forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
             rows[i] = i;
+            forIndices(0, order, fixed<order>, [&](std::size_t j) VONKK3_INLINED {
+                elements[i][j] = source.load(i, j);
+                if (copiesAsItReads) factors.store(i, j, elements[i][j]);
+            });
+        });
+    }
+    template <class Factors> VONKK3_INLINE void store(const Factors &factors, std::byte *pivots) const {
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+            storePivot(pivots, i, rows[i]);
             forIndices(0, order, fixed<order>,
-                       [&](std::size_t j) VONKK3_INLINED { elements[i][j] = source.load(i, j); });
+                       [&](std::size_t j) VONKK3_INLINED { factors.store(rows[i], j, elements[i][j]); });
         });
     }
 
-    T load(std::size_t position, std::size_t column) const { return elements[position][column]; }
-    void store(std::size_t position, std::size_t column, T value) { elements[position][column] = value; }
-    std::size_t physical(std::size_t position) const { return rows[position]; }
+    Real32 load(std::size_t position, std::size_t column) const { return elements[position][column]; }
+    void store(std::size_t position, std::size_t column, Real32 value) { elements[position][column] = value; }
+    std::size_t operator[](std::size_t position) const { return rows[position]; }
 
-    // Position a is known when compiling, b is not: asking for every b leaves all elements in registers.
+    // Position a is known when compiling, b is not: comparing b with every index leaves all elements in registers.
     VONKK3_INLINE void exchange(std::size_t a, std::size_t b) {
         forIndices(a + 1, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
             if (k != b) return;
@@ -63,18 +85,8 @@ public:
         });
     }
 
-    VONKK3_INLINE void finish() const {
-        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
-            storePivot(pivots, i, rows[i]);
-            forIndices(0, order, fixed<order>,
-                       [&](std::size_t j) VONKK3_INLINED { factors.store(rows[i], j, elements[i][j]); });
-        });
-    }
-
 private:
-    const Factors &factors;
-    std::byte *pivots;
-    T elements[order][order];
+    Real32 elements[order][order];
     std::size_t rows[order];
 };
 
@@ -84,7 +96,7 @@ public:
     using Mask = PackMasks<chains>;
     static constexpr std::size_t objects = chains * packWidth;
 
-    VONKK3_INLINE RowsOfBatch() {
+    VONKK3_INLINE void begin() {
         forIndices(0, order, fixed<order>,
                    [&](std::size_t i) VONKK3_INLINED { rows[0][i] = packOfIndex(std::uint32_t(i)); });
     }
@@ -103,7 +115,7 @@ public:
     }
 
     // Back to where they lie.
-    VONKK3_INLINE void takeBackExchanges() {
+    VONKK3_NOINLINE void takeBackExchanges() {
         forIndices(1, order, fixed<order>, [&](std::size_t later) VONKK3_INLINED {
             const std::size_t a = order - 1 - later;
             forIndices(a + 1, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { exchangeElements(a, i); });
@@ -133,17 +145,5 @@ private:
         });
     }
 };
-
-// Worth it for Real32 of fixed order with adjacent elements; Real64 goes through memory anyway, as its roundings do.
-template <class Factors, class Order> inline constexpr bool fitsRegisters = false;
-template <std::size_t order> inline constexpr bool fitsRegisters<RowsView<Real32>, Fixed<order>> = true;
-
-VONKK3_INLINE bool mayWorkInRegisters(const RowsView<const Real32> &source, const RowsView<Real32> &factors,
-                                      std::size_t order) {
-    const auto rowBytes = std::ptrdiff_t(order * sizeof(Real32));
-    if (factors.rowStride < rowBytes && factors.rowStride > -rowBytes) return false;
-    if (source.base == factors.base && source.rowStride == factors.rowStride) return true;
-    return disjoint(extentOf(source, order, order), extentOf(factors, order, order));
-}
 
 } // namespace vonkk3::lu

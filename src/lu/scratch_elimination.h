@@ -1,4 +1,4 @@
-// Elimination with partial pivoting in the caller's scratch memory: a dense matrix, row after row, and behind it the
+// Elimination with partial pivoting in the caller's scratch memory: a dense matrix, row after row, and after it the
 // row indices. Its product of pivots is a determinant. Rows are never moved, and nothing but scratch is written.
 #pragma once
 
@@ -7,7 +7,7 @@
 
 namespace vonkk3::lu {
 
-// Pivots below this are taken for zero; the last one even if it is equal.
+// The singularity tolerance of pivots; the last one is below it even if it is equal.
 template <class T> inline constexpr Real32 determinantTolerance = std::is_same_v<T, Real32> ? 0x1p-23F : 0x1p-52F;
 
 // The matrix in scratch by position: position k is logical row k. `order` is that of the matrix that the memory was
@@ -84,13 +84,13 @@ inline void eliminateRow(std::byte *row, const std::byte *pivotRow, std::size_t 
         storeAt(row + j * sizeof(T), round<T>(element(pivotRow, j) * factor + element(row, j)));
 }
 
-// Entries of tables are scanned ahead of everything in arrays. A lone matrix in a table has them tested one by one as
-// it is copied.
+// Entries of tables are scanned before all else in arrays. A single matrix in a table has them tested one by one as it
+// is copied.
 template <class Count> inline constexpr bool scansTablesFirst = Count::isArray;
 
-// The whole matrix, with the rows in order; false at a null entry of its table, or of another one beside it.
-template <bool testsEntries, class T, class Source, class... Others>
-inline bool copyToScratch(const ScratchMatrix<T> &matrix, std::size_t order, const Source &source,
+// The whole matrix, with the rows in order; false at a null entry of its table, or of another table.
+template <class T, class Source, class... Others>
+inline bool copyToScratch(const ScratchMatrix<T> &matrix, std::size_t order, bool testsEntries, const Source &source,
                           const Others &...others) {
     for (std::size_t i = 0; i < order; ++i)
         for (std::size_t j = 0; j < order; ++j) {
