@@ -61,11 +61,6 @@ template <class Batch>
 requires requires { Batch::takesAny; }
 inline constexpr bool takesAny<Batch> = Batch::takesAny;
 
-template <class Batch> inline constexpr bool takesRows = true;
-template <class Batch>
-requires requires { Batch::takesRows; }
-inline constexpr bool takesRows<Batch> = Batch::takesRows;
-
 // Batches from object n on, as long as they can be had; the first object that they leave.
 template <Access access, std::size_t chains, BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
