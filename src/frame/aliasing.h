@@ -82,6 +82,8 @@ struct AliasOperand {
     Extent whole;  // of all objects; in a list, where it ascends
 
     VONKK3_INLINE AliasOperand(const ObjectsView &view, Use use) : view(view), use(use) {}
+    VONKK3_INLINE AliasOperand(const AliasOperand &other)
+        : view(other.view), use(other.use) {} // before extents are found
 
     void findExtents() {
         object = view.isTable() ? extentOfPositions() : extentOfStrides();
@@ -406,7 +408,7 @@ VONKK3_INLINE bool isClearOf(const AliasOperand &written, const Extent &whole, c
 }
 
 template <std::size_t number> VONKK3_INLINE bool isPlainlyIndependent(const AliasOperand (&operands)[number]) {
-    Extent whole[number] = {};
+    Extent whole[number];
     VONKK3_UNROLL_WHOLE
     for (std::size_t k = 0; k < number; ++k)
         if (!isAscending(operands[k].view, whole[k])) return false;
