@@ -128,7 +128,7 @@ VONKK3_SHARED VonkStatus streamOrWorkObjects(const Operation &operation, Rows ro
     const auto work = [&](auto fixedColumns) VONKK3_INLINED {
         return workObjects<T, entries>(operation, rows, fixedColumns, count, dst, src...);
     };
-    if constexpr (anyTable) return work(columns);
+    if constexpr (anyTable && entries == Entries::tested) return work(columns);
     else return withFixedColumns<T>(columns, work);
 }
 

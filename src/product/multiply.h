@@ -179,6 +179,16 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
         else {
             const ProductWords words{src1.words(P::firstTransposed ? rows1 : cols1),
                                      src2.words(P::secondTransposed ? rows2 : cols2), dst.words(columns)};
+            if constexpr (std::is_same_v<T, Real64> && P::layout == Layout::Standard) {
+                // Addresses within rows are constants here, which keeps the 80-bit unit busy.
+                const ObjectsView a = objectsOf(src1, rows, terms, count), b = objectsOf(src2, terms, columns, count);
+                const ObjectsView d = objectsOf(dst, rows, columns, count);
+                if (count != 0 && Aliasing(count, writes(d), reads(a), reads(b)).allowsBatch(0, count)) {
+                    for (std::size_t n = 0; n < count; ++n)
+                        sumOnce<T>(src1.view(n), src2.view(n), dst.view(n), rows, columns, terms);
+                    return vonkOk;
+                }
+            }
             if constexpr (scheme == Scheme::rowBroadcast) {
                 using Shared =
                     Pattern<P::firstArray, P::firstTransposed, P::secondArray, P::secondTransposed,

@@ -85,6 +85,16 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
     else if constexpr (Count::isArray) {
         const ProductWords words{src1.words(A::isTransposed ? std::size_t(rows) : std::size_t(cols)), columnWords(src2),
                                  columnWords(dst)};
+        if constexpr (std::is_same_v<T, Real64> && D::layout == Layout::Standard) {
+            // Addresses within rows are constants here, which keeps the 80-bit unit busy.
+            const ObjectsView a = objectsOf(src1, rows, cols, count), v = objectsOf(src2, 1, cols, count);
+            const ObjectsView d = objectsOf(dst, 1, rows, count);
+            if (count != 0 && Aliasing(count, writes(d), reads(a), reads(v)).allowsBatch(0, count)) {
+                for (std::size_t n = 0; n < count; ++n)
+                    sumOnce<T>(src1.view(n), ColumnView{src2.view(n)}, ColumnView{dst.view(n)}, rows, 1, cols);
+                return vonkOk;
+            }
+        }
         return sumProducts<T, accumulatesInCell<T, D::layout>, D::isTable>(
             words, SumShape<Cols::value, true>{rows, 1, cols}, count);
     } else {
