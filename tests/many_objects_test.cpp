@@ -71,6 +71,23 @@ TEST(ManyObjects, AreAddedWithResultsOnTheirSourcesNeighbours) {
     }
 }
 
+// A column of the sum is a row of the transposed table. What lies past the end of that table would tell of other
+// places.
+TEST(ManyObjects, AreAddedThroughATransposedTableOfOneRow) {
+    for (const std::ptrdiff_t shifted : {-1, 1}) {
+        SCOPED_TRACE(shifted);
+        expectSameObjectByObject([shifted](Arena &arena, std::int32_t n, std::uint32_t count) {
+            std::array<const float *, 25> a{};
+            for (std::size_t k = 0; k < a.size(); ++k) a[k] = arena.numbers.data() + 2600 + 64 * k;
+            for (std::size_t k = 1; k < 5; ++k) a[k] = arena.numbers.data() + 1000 + 64 * k;
+            const auto b = tableFrom<5>(static_cast<const float *>(arena.numbers.data()), 64);
+            const auto d = tableFrom<5>(arena.numbers.data() + 1064 + shifted, 64);
+            ASSERT_EQ(vonkAdd_maTma_32f_P(a.data(), n * bytes, b.data(), n * bytes, d.data(), n * bytes, 1, 5, count),
+                      vonkOk);
+        });
+    }
+}
+
 TEST(ManyObjects, AreScaledWithPositionsInAnotherOrder) {
     expectSameObjectByObject([](Arena &arena, std::int32_t n, std::uint32_t count) {
         const auto a = tableFrom<4>(static_cast<const float *>(arena.numbers.data()), 64);

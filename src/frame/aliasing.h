@@ -476,8 +476,9 @@ struct EntriesRead {
 VONKK3_INLINE bool areEquallySpaced(const OperandWords &table, std::size_t rows, std::size_t columns,
                                     EntriesRead &entries) {
     const std::size_t entriesToRow = std::uint32_t(table.elementStride);
-    entries = {rows * columns, columns == 1 ? entriesToRow * sizeof(void *) : sizeof(void *)};
-    return columns == 1 || entriesToRow == (table.isTransposed ? rows : columns);
+    const std::size_t length = table.isTransposed ? rows : columns, number = table.isTransposed ? columns : rows;
+    entries = {rows * columns, (length == 1 ? entriesToRow : 1) * sizeof(void *)};
+    return length == 1 || number == 1 || entriesToRow == length; // rows of the table as it lies
 }
 
 // Where the positions lie, each of so many bytes, if they ascend; else nothing.
