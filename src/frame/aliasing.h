@@ -528,9 +528,12 @@ VONKK3_INLINE bool isPlainlyDisjoint(const Extent &written, const OperandWords &
     return !aliasing::isEmpty(read) && disjoint(written, read);
 }
 
-// Or the same table. Elements of an object keep their order, so it does not matter which are transposed.
-inline bool isInPlace(const OperandWords &d, const OperandWords &source) {
-    return source.begin == d.begin && source.rowStride == d.rowStride && source.step == d.step && source.isArray;
+// Or the same entries. Elements of an object keep their order, so it does not matter which are transposed.
+VONKK3_INLINE bool isInPlace(const OperandWords &d, const OperandWords &source, std::size_t rows, std::size_t columns) {
+    aliasing::EntriesRead written, read;
+    return source.begin == d.begin && source.rowStride == d.rowStride && source.step == d.step && source.isArray &&
+           aliasing::areEquallySpaced(d, rows, columns, written) &&
+           aliasing::areEquallySpaced(source, rows, columns, read) && written.step == read.step;
 }
 
 // The operands of a call, and whether its objects may be worked in batches. Entries of lists are looked at object by

@@ -298,7 +298,7 @@ VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::
                                 const Destination &d, const Sources &...sources) {
     const Extent written = plainlyWritten(d, rows, columns, count);
     if (!((isPlainlyDisjoint(written, sources, rows, columns, count) ||
-           (isInPlace(d, sources) && !aliasing::isEmpty(written))) &&
+           (isInPlace(d, sources, rows, columns) && !aliasing::isEmpty(written))) &&
           ...))
         return false;
     const Operation operation = shared;
