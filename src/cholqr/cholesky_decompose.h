@@ -148,7 +148,7 @@ private:
     }
     template <std::size_t chains>
     VONKK3_NOINLINE bool factorExactly(std::size_t n, Packs<chains> (&f)[order][order]) const {
-        src.template gather<Access::any>(n, f);
+        src.gatherAnew(n, f);
         return factorWith(f, LaneByLane());
     }
 };

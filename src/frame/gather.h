@@ -13,6 +13,8 @@ namespace vonkk3 {
 using PackSources = const std::byte *[packWidth];
 using PackTargets = std::byte *[packWidth];
 
+inline std::byte *address(std::uintptr_t bytes) { return reinterpret_cast<std::byte *>(bytes); }
+
 // ---- Rows of contiguous elements, up to 6 ---------------------------------------------------------------------------
 
 inline Pack gatherElement(const PackSources &from, std::ptrdiff_t offset) {
@@ -86,7 +88,7 @@ constexpr std::size_t rowLength(Triangle triangle, std::size_t columns, std::siz
 // Elements of objects n to n + packWidth - 1 of a view, by their addresses.
 template <class Byte> class ElementsOfPack {
 public:
-    VONKK3_INLINE ElementsOfPack(const ObjectsView &view, std::size_t n) : view(view), n(n) {
+    VONKK3_INLINE ElementsOfPack(const ObjectsView &view, std::size_t n) : view(view) {
         if (view.isTable()) return;
         const std::uintptr_t first = view.isList() ? 0 : view.object(n);
         for (std::size_t k = 0; k < packWidth; ++k)
@@ -103,19 +105,9 @@ public:
     VONKK3_INLINE void findOwn(const IndexOf &indexOf, std::ptrdiff_t stride, Byte *(&own)[packWidth]) const {
         for (std::size_t k = 0; k < packWidth; ++k) own[k] = object[k] + strides(indexOf(k), stride);
     }
-    VONKK3_INLINE void findElement(std::size_t i, std::size_t j, Byte *(&element)[packWidth]) const {
-        if (view.isTable()) {
-            Byte *const first = reinterpret_cast<Byte *>(view.position(i, j, n));
-            for (std::size_t k = 0; k < packWidth; ++k) element[k] = first + strides(k, view.objectStride);
-        } else {
-            const std::ptrdiff_t offset = strides(i, view.rowStride) + strides(j, view.elementStride);
-            for (std::size_t k = 0; k < packWidth; ++k) element[k] = object[k] + offset;
-        }
-    }
 
 private:
     const ObjectsView &view;
-    std::size_t n;
     Byte *object[packWidth] = {};
 };
 
@@ -136,27 +128,46 @@ template <class... Views> inline Access accessOf(const Views &...views) {
     return all(isContiguous) ? Access::positions : Access::any;
 }
 
+// Element (i, j) of object n lies at offset[i][j] + origin(n). Through a table the offset is the position; by strides
+// it is the distance from the object.
+using Origins = std::uintptr_t[packWidth];
+
+template <std::size_t rows, std::size_t columns> using Offsets = std::uintptr_t[rows][columns];
+
+// body(i, j) for all elements that are moved.
+template <std::size_t rows, std::size_t columns, Triangle triangle, class Body>
+VONKK3_INLINE void forEachMoved(const Body &body) {
+    forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
+        forIndices(0, rowLength(triangle, columns, i), fixed<columns>,
+                   [&](std::size_t j) VONKK3_INLINED { body(i, j); });
+    });
+}
+
+template <std::size_t rows, std::size_t columns>
+VONKK3_SHARED void findOffsets(const ObjectsView &view, Offsets<rows, columns> &offset) {
+    for (std::size_t i = 0; i < rows; ++i)
+        for (std::size_t j = 0; j < columns; ++j)
+            offset[i][j] = view.isTable() ? view.position(i, j)
+                                          : std::uintptr_t(strides(i, view.rowStride) + strides(j, view.elementStride));
+}
+
 // Element by element, for `step` packs between one element of the block and the next.
 template <std::size_t rows, std::size_t columns, Triangle triangle>
-VONKK3_NOINLINE void gatherElements(const ObjectsView &view, std::size_t n, Pack *block, std::size_t step) {
-    const ElementsOfPack<const std::byte> elements(view, n);
-    for (std::size_t i = 0; i < rows; ++i)
-        for (std::size_t j = 0; j < rowLength(triangle, columns, i); ++j) {
-            PackSources from;
-            elements.findElement(i, j, from);
-            block[(i * columns + j) * step] = gatherElement(from, 0);
-        }
+VONKK3_SHARED void gatherElements(const Offsets<rows, columns> &offset, const Origins &origin, Pack *block,
+                                  std::size_t step) {
+    const std::byte *const first[] = {address(origin[0]), address(origin[1]), address(origin[2]), address(origin[3])};
+    forEachMoved<rows, columns, triangle>([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+        block[(i * columns + j) * step] = gatherElement(first, std::ptrdiff_t(offset[i][j]));
+    });
 }
 
 template <std::size_t rows, std::size_t columns, Triangle triangle>
-VONKK3_NOINLINE void scatterElements(const ObjectsView &view, std::size_t n, const Pack *block, std::size_t step) {
-    const ElementsOfPack<std::byte> elements(view, n);
-    for (std::size_t i = 0; i < rows; ++i)
-        for (std::size_t j = 0; j < rowLength(triangle, columns, i); ++j) {
-            PackTargets to;
-            elements.findElement(i, j, to);
-            scatterElement(to, 0, block[(i * columns + j) * step]);
-        }
+VONKK3_SHARED void scatterElements(const Offsets<rows, columns> &offset, const Origins &origin, const Pack *block,
+                                   std::size_t step) {
+    std::byte *const first[] = {address(origin[0]), address(origin[1]), address(origin[2]), address(origin[3])};
+    forEachMoved<rows, columns, triangle>([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+        scatterElement(first, offset[i][j], block[(i * columns + j) * step]);
+    });
 }
 
 // An operand of a batch: rows by columns Real32 elements of every object, or of the one object that serves all.
@@ -174,10 +185,12 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
     // What is the same for all batches: a single object is broadcast, the pointers of a table are read. Nothing that is
     // written overlaps either.
     template <Access access> VONKK3_INLINE void hoist() {
-        forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
-            if constexpr (!isArray) single[i][j] = view.load<Real32>(i, j);
-            else if constexpr (access == Access::positions) position[i][j] = view.position(i, j);
-        });
+        if constexpr (isArray && access == Access::any) findOffsets(view, offset);
+        else if constexpr (!isArray || access == Access::positions)
+            forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+                if constexpr (isArray) offset[i][j] = view.position(i, j);
+                else single[i][j] = view.load<Real32>(i, j);
+            });
     }
 
     // Each chain stands for packWidth objects, from the objects n on.
@@ -185,16 +198,11 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
     VONKK3_INLINE void gather(std::size_t n, Packs<chains> (&block)[rows][columns]) const {
         forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
             const std::size_t first = n + c * packWidth;
-            if constexpr (access == Access::any && rows == 1) {
-                const ElementsOfPack<const std::byte> elements(view, first);
-                forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
-                    PackSources from;
-                    elements.findElement(i, j, from);
-                    block[i][j].chain[c] = gatherElement(from, 0);
-                });
-            } else if constexpr (access == Access::any)
-                gatherElements<rows, columns, triangle>(view, first, &block[0][0].chain[c], chains);
-            else if constexpr (access == Access::positions)
+            if constexpr (access == Access::any) {
+                Origins origin;
+                findOrigins(first, origin);
+                gatherElements<rows, columns, triangle>(offset, origin, &block[0][0].chain[c], chains);
+            } else if constexpr (access == Access::positions)
                 forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
                     block[i][j].chain[c] = load4(addressOf<const std::byte>(i, j, first));
                 });
@@ -213,20 +221,23 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
         });
     }
 
+    // The same for any access, and whatever was hoisted.
+    template <std::size_t chains>
+    VONKK3_INLINE void gatherAnew(std::size_t n, Packs<chains> (&block)[rows][columns]) const {
+        BatchOperand anew(view);
+        anew.template hoist<Access::any>();
+        anew.template gather<Access::any>(n, block);
+    }
+
     template <Access access, std::size_t chains>
     VONKK3_INLINE void scatter(std::size_t n, const Packs<chains> (&block)[rows][columns]) const {
         forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
             const std::size_t first = n + c * packWidth;
-            if constexpr (access == Access::any && rows == 1) {
-                const ElementsOfPack<std::byte> elements(view, first);
-                forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
-                    PackTargets to;
-                    elements.findElement(i, j, to);
-                    scatterElement(to, 0, block[i][j].chain[c]);
-                });
-            } else if constexpr (access == Access::any)
-                scatterElements<rows, columns, triangle>(view, first, &block[0][0].chain[c], chains);
-            else if constexpr (access == Access::positions)
+            if constexpr (access == Access::any) {
+                Origins origin;
+                findOrigins(first, origin);
+                scatterElements<rows, columns, triangle>(offset, origin, &block[0][0].chain[c], chains);
+            } else if constexpr (access == Access::positions)
                 forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
                     store4(addressOf<std::byte>(i, j, first), block[i][j].chain[c].lanes);
                 });
@@ -260,18 +271,21 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
 
 private:
     union {
-        std::uintptr_t position[rows][columns];
+        Offsets<rows, columns> offset;
         Pack single[rows][columns];
     };
 
+    VONKK3_INLINE void findOrigins(std::size_t n, Origins &origin) const {
+        const std::uintptr_t first = (view.isTable() ? 0 : view.begin) + std::uintptr_t(strides(n, view.objectStride));
+        for (std::size_t k = 0; k < packWidth; ++k)
+            origin[k] = view.isList() ? view.object(n + k) : first + std::uintptr_t(strides(k, view.objectStride));
+    }
+
     template <class Byte> Byte *addressOf(std::size_t i, std::size_t j, std::size_t n) const {
-        return reinterpret_cast<Byte *>(position[i][j] + n * sizeof(Real32));
+        return reinterpret_cast<Byte *>(offset[i][j] + n * sizeof(Real32));
     }
     template <class Body> VONKK3_INLINE static void forEachElement(const Body &body) {
-        forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
-            forIndices(0, rowLength(triangle, columns, i), fixed<columns>,
-                       [&](std::size_t j) VONKK3_INLINED { body(i, j); });
-        });
+        forEachMoved<rows, columns, triangle>(body);
     }
 };
 template <std::size_t order, bool isArray = true, Triangle triangle = Triangle::both>
