@@ -9,6 +9,7 @@
 #include "frame/objects_view.h"
 
 #include <limits>
+#include <utility>
 
 namespace vonkk3 {
 
@@ -208,23 +209,16 @@ inline bool areIndependent(const AliasOperand &written, const AliasOperand &othe
 
 // Whether no two elements overlap, of one object or of two: strides, from the smallest, each step over all before it.
 inline bool areStridesDisjoint(const ObjectsView &view) {
-    struct Dimension {
-        std::uintptr_t stride;
-        std::size_t number;
-    };
-    Dimension dimensions[] = {{magnitudeOf(view.elementStride), view.columns},
-                              {magnitudeOf(view.rowStride), view.rows},
-                              {magnitudeOf(view.objectStride), view.isList() ? 1 : view.count}};
+    std::uintptr_t stride[] = {magnitudeOf(view.elementStride), magnitudeOf(view.rowStride),
+                               magnitudeOf(view.objectStride)};
+    std::size_t number[] = {view.columns, view.rows, view.isList() ? 1 : view.count};
     std::uintptr_t covered = view.elementBytes;
-    for (std::size_t left = 3; left > 0; --left) {
-        Dimension *least = dimensions;
-        for (Dimension *each = dimensions; each < dimensions + left; ++each)
-            if (each->stride < least->stride) least = each;
-        if (least->number > 1) {
-            if (least->stride < covered) return false;
-            covered += least->stride * (least->number - 1);
-        }
-        *least = dimensions[left - 1];
+    for (std::size_t first = 0; first < 3; ++first) {
+        for (std::size_t k = 2; k > first; --k)
+            if (stride[k] < stride[k - 1]) std::swap(stride[k], stride[k - 1]), std::swap(number[k], number[k - 1]);
+        if (number[first] <= 1) continue;
+        if (stride[first] < covered) return false;
+        covered += stride[first] * (number[first] - 1);
     }
     return true;
 }
@@ -465,7 +459,7 @@ VONKK3_NOINLINE inline bool askForBatch(const AliasOperand *operands, std::size_
     return true;
 }
 
-// ---- Tables whose objects are packed, from the words of a call ------------------------------------------------------
+// ---- Tables, from the words of a call -------------- ------------------------------------------------------
 
 // The entries that are read for an object: `positions` of them, so many bytes apart.
 struct EntriesRead {
@@ -481,18 +475,24 @@ VONKK3_INLINE bool areEquallySpaced(const OperandWords &table, std::size_t rows,
     return length == 1 || number == 1 || entriesToRow == length; // rows of the table as it lies
 }
 
-// Where the positions lie, each of so many bytes, if they ascend; else nothing.
-VONKK3_INLINE Extent extentOfAscending(const OperandWords &table, const EntriesRead &entries, std::size_t bytes) {
+// Where so many objects lie, if positions ascend, and each position's objects lie before the next one's, or each object
+// before the next one; else nothing.
+VONKK3_INLINE Extent extentOfAscending(const OperandWords &table, const EntriesRead &entries, std::size_t count) {
+    constexpr std::ptrdiff_t elementBytes = sizeof(Real32);
+    const std::ptrdiff_t step = table.isArray ? std::ptrdiff_t(table.step) : elementBytes;
+    const std::ptrdiff_t ofPosition = (table.isArray ? strides(count - 1, step) : 0) + elementBytes;
     const std::uintptr_t first = ObjectsView::pointerAt(table.begin);
     std::uintptr_t last = first;
-    bool ascends = true;
+    std::ptrdiff_t least = std::numeric_limits<std::ptrdiff_t>::max(); // below 0 where entries descend
     for (std::size_t k = 1; k < entries.positions; ++k) {
         const std::uintptr_t next = ObjectsView::pointerAt(table.begin + k * entries.step);
-        ascends &= std::ptrdiff_t(next - last) >= std::ptrdiff_t(bytes);
+        const auto distance = std::ptrdiff_t(next - last);
+        least = distance < least ? distance : least;
         last = next;
     }
-    return ascends ? Extent{first, last + bytes}.movedBy(std::uintptr_t(std::ptrdiff_t(table.rowStride)))
-                   : Extent{1, 0};
+    if (step < elementBytes || least < elementBytes) return {1, 0};
+    if (least < ofPosition && std::ptrdiff_t(last - first) + elementBytes > step) return {1, 0};
+    return Extent{first, last + std::uintptr_t(ofPosition)}.movedBy(std::uintptr_t(std::ptrdiff_t(table.rowStride)));
 }
 
 inline bool isEmpty(const Extent &extent) { return extent.begin >= extent.end; }
@@ -511,8 +511,8 @@ inline bool arePacked(const OperandWords &table) {
 // Aliasing tells. First where the positions of the result lie; nothing, if it is not that.
 VONKK3_INLINE Extent plainlyWritten(const OperandWords &d, std::size_t rows, std::size_t columns, std::size_t count) {
     aliasing::EntriesRead entries;
-    if (!arePacked(d) || !aliasing::areEquallySpaced(d, rows, columns, entries)) return {1, 0};
-    const Extent written = aliasing::extentOfAscending(d, entries, count * sizeof(Real32));
+    if (!aliasing::areEquallySpaced(d, rows, columns, entries)) return {1, 0};
+    const Extent written = aliasing::extentOfAscending(d, entries, count);
     return disjoint(written, aliasing::extentOfEntries(d, entries)) ? written : Extent{1, 0};
 }
 
@@ -520,11 +520,10 @@ VONKK3_INLINE Extent plainlyWritten(const OperandWords &d, std::size_t rows, std
 VONKK3_INLINE bool isPlainlyDisjoint(const Extent &written, const OperandWords &source, std::size_t rows,
                                      std::size_t columns, std::size_t count) {
     aliasing::EntriesRead entries;
-    if (aliasing::isEmpty(written) || !arePacked(source) ||
-        !aliasing::areEquallySpaced(source, rows, columns, entries) ||
+    if (aliasing::isEmpty(written) || !aliasing::areEquallySpaced(source, rows, columns, entries) ||
         !disjoint(written, aliasing::extentOfEntries(source, entries)))
         return false;
-    const Extent read = aliasing::extentOfAscending(source, entries, (source.isArray ? count : 1) * sizeof(Real32));
+    const Extent read = aliasing::extentOfAscending(source, entries, count);
     return !aliasing::isEmpty(read) && disjoint(written, read);
 }
 

@@ -114,7 +114,8 @@ VONKK3_SHARED VonkStatus streamOrWorkObjects(const Operation &operation, Rows ro
     constexpr bool anyTable = (areOfTable<Destination> || ... || areOfTable<Sources>);
     if constexpr (!(areOfList<Destination> || ... || areOfList<Sources>)) {
         if constexpr (areOfTable<Destination> && (areOfTable<Sources> && ...))
-            if (count >= worthStreamingTables && streamTables(operation, rows, columns, count, dst, src...))
+            if (count >= (arePacked(dst) ? worthStreamingTables : worthStreamingStrided) &&
+                streamTables(operation, rows, columns, count, dst, src...))
                 return vonkOk;
         const auto stream = [&](const auto &...views) VONKK3_INLINED {
             if constexpr (anyTable) return streamPositions(operation, views...);

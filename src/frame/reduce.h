@@ -45,13 +45,13 @@ VONKK3_INLINE std::size_t reduceTables(const Kernel &kernel, std::byte *results,
 template <class Kernel, class... Words>
 VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results, std::size_t rows, std::size_t columns,
                                        std::size_t count, const Words &...src) {
-    if (count < 3 * packWidth) return 0; // not worth the alias test
+    if (count < 3 * packWidth || !(arePacked(src) && ...)) return 0; // fewer are not worth the alias test
     if (!(isPlainlyDisjoint(extentOf(results, count * sizeof(Real32)), src, rows, columns, count) && ...)) {
         const ObjectsView packed = packedBlocks(reinterpret_cast<Real32 *>(results), 1, count);
         const auto mayWork = [&](const auto &...views) VONKK3_INLINED {
             return Aliasing(count, writes(packed), reads(views)...).allowsBatch(0, count);
         };
-        if (!(arePacked(src) && ...) || !mayWork(objectsOf<Real32, true>(src, rows, columns, count)...)) return 0;
+        if (!mayWork(objectsOf<Real32, true>(src, rows, columns, count)...)) return 0;
     }
     return reduceTables(kernel, results, rows, columns, count, TablePositions(src)...);
 }

@@ -214,8 +214,8 @@ VONKK3_INLINE void streamPosition(const Operation &operation, std::byte *d, std:
 // Where positions share cache lines, so many objects are worked at one of them before the next one's turn as stay in
 // the first-level cache.
 inline constexpr std::size_t bytesPerBlock = 1 << 13;
-inline std::size_t objectsPerBlock(const ObjectsView &d) {
-    const std::size_t objects = bytesPerBlock / (magnitudeOf(d.objectStride) | 1);
+inline std::size_t objectsPerBlock(std::ptrdiff_t objectStride) {
+    const std::size_t objects = bytesPerBlock / (magnitudeOf(objectStride) | 1);
     return objects < 16 ? 16 : objects;
 }
 
@@ -273,7 +273,7 @@ VONKK3_SHARED bool streamPositions(const Operation &shared, const ObjectsView &d
         return !view.isArray || view.objectStride == std::ptrdiff_t(sizeof(Real32));
     };
     const bool areContiguous = isContiguous(d) && (isContiguous(sources) && ...);
-    const std::size_t count = d.count, block = areContiguous ? count : objectsPerBlock(d);
+    const std::size_t count = d.count, block = areContiguous ? count : objectsPerBlock(d.objectStride);
     for (std::size_t n = 0; n < count; n += block) {
         const std::size_t objects = count - n < block ? count - n : block;
         for (std::size_t i = 0; i < d.rows; ++i)
@@ -291,8 +291,8 @@ VONKK3_SHARED bool streamPositions(const Operation &shared, const ObjectsView &d
     return true;
 }
 
-// The usual case of it, tables of packed objects. False, with nothing done, where a look at the words does not show
-// that they are independent.
+// The usual case of it, tables alone. False, with nothing done, where a look at the words does not show that they are
+// independent.
 template <class Operation, class Destination, class... Sources>
 VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::size_t columns, std::size_t count,
                                 const Destination &d, const Sources &...sources) {
@@ -302,21 +302,34 @@ VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::
           ...))
         return false;
     const Operation operation = shared;
-    for (std::size_t i = 0; i < rows; ++i)
-        for (std::size_t j = 0; j < columns; ++j) {
-            const auto address = [&](const auto &table) VONKK3_INLINED {
-                constexpr bool isTransposed = areOfTransposedTable<std::remove_cvref_t<decltype(table)>>;
-                const std::size_t entriesToRow = std::uint32_t(table.elementStride);
-                const std::size_t entry = isTransposed ? j * entriesToRow + i : i * entriesToRow + j;
-                return ObjectsView::pointerAt(table.begin + entry * sizeof(void *)) +
-                       std::uintptr_t(std::ptrdiff_t(table.rowStride));
-            };
-            streamPosition(operation, reinterpret_cast<std::byte *>(address(d)), count,
-                           PositionSource{reinterpret_cast<const std::byte *>(address(sources)), sources.isArray}...);
-        }
+    const auto forEachPosition = [&](const auto &work) VONKK3_INLINED {
+        const auto address = [&](const auto &table, std::size_t i, std::size_t j) VONKK3_INLINED {
+            constexpr bool isTransposed = areOfTransposedTable<std::remove_cvref_t<decltype(table)>>;
+            const std::size_t entriesToRow = std::uint32_t(table.elementStride);
+            const std::size_t entry = isTransposed ? j * entriesToRow + i : i * entriesToRow + j;
+            return reinterpret_cast<std::byte *>(ObjectsView::pointerAt(table.begin + entry * sizeof(void *)) +
+                                                 std::uintptr_t(std::ptrdiff_t(table.rowStride)));
+        };
+        for (std::size_t i = 0; i < rows; ++i)
+            for (std::size_t j = 0; j < columns; ++j) work(address(d, i, j), address(sources, i, j)...);
+    };
+    if (arePacked(d) && (arePacked(sources) && ...)) {
+        forEachPosition([&](std::byte *target, const auto *...first) VONKK3_INLINED {
+            streamPosition(operation, target, count, PositionSource{first, sources.isArray}...);
+        });
+        return true;
+    }
+    const auto stride = [](const OperandWords &table) { return table.isArray ? std::ptrdiff_t(table.step) : 0; };
+    const std::size_t block = objectsPerBlock(d.step);
+    for (std::size_t n = 0; n < count; n += block)
+        forEachPosition([&](std::byte *target, const auto *...first) VONKK3_INLINED {
+            streamStrided(operation, count - n < block ? count - n : block,
+                          StridedElements<std::byte>{target + strides(n, d.step), d.step},
+                          StridedElements<const std::byte>{first + strides(n, stride(sources)), stride(sources)}...);
+        });
     return true;
 }
-inline constexpr std::size_t worthStreamingTables = 12; // objects
+inline constexpr std::size_t worthStreamingTables = 12, worthStreamingStrided = 48; // objects
 
 // Fewer objects are done before the alias test is answered and the first position is set up. Positions gain more where
 // they are contiguous.
