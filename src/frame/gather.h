@@ -153,7 +153,7 @@ VONKK3_SHARED void findOffsets(const ObjectsView &view, Offsets<rows, columns> &
 
 // Element by element, for `step` packs between one element of the block and the next.
 template <std::size_t rows, std::size_t columns, Triangle triangle>
-VONKK3_SHARED void gatherElements(const Offsets<rows, columns> &offset, const Origins &origin, Pack *block,
+VONKK3_INLINE void gatherElements(const Offsets<rows, columns> &offset, const Origins &origin, Pack *block,
                                   std::size_t step) {
     const std::byte *const first[] = {address(origin[0]), address(origin[1]), address(origin[2]), address(origin[3])};
     forEachMoved<rows, columns, triangle>([&](std::size_t i, std::size_t j) VONKK3_INLINED {
@@ -162,12 +162,25 @@ VONKK3_SHARED void gatherElements(const Offsets<rows, columns> &offset, const Or
 }
 
 template <std::size_t rows, std::size_t columns, Triangle triangle>
-VONKK3_SHARED void scatterElements(const Offsets<rows, columns> &offset, const Origins &origin, const Pack *block,
+VONKK3_INLINE void scatterElements(const Offsets<rows, columns> &offset, const Origins &origin, const Pack *block,
                                    std::size_t step) {
     std::byte *const first[] = {address(origin[0]), address(origin[1]), address(origin[2]), address(origin[3])};
     forEachMoved<rows, columns, triangle>([&](std::size_t i, std::size_t j) VONKK3_INLINED {
         scatterElement(first, offset[i][j], block[(i * columns + j) * step]);
     });
+}
+
+// Of matrices, in a function that all their batches share.
+template <std::size_t rows, std::size_t columns, Triangle triangle>
+VONKK3_SHARED void gatherMatrices(const Offsets<rows, columns> &offset, const Origins &origin, Pack *block,
+                                  std::size_t step) {
+    gatherElements<rows, columns, triangle>(offset, origin, block, step);
+}
+
+template <std::size_t rows, std::size_t columns, Triangle triangle>
+VONKK3_SHARED void scatterMatrices(const Offsets<rows, columns> &offset, const Origins &origin, const Pack *block,
+                                   std::size_t step) {
+    scatterElements<rows, columns, triangle>(offset, origin, block, step);
 }
 
 // An operand of a batch: rows by columns Real32 elements of every object, or of the one object that serves all.
@@ -201,7 +214,9 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
             if constexpr (access == Access::any) {
                 Origins origin;
                 findOrigins(first, origin);
-                gatherElements<rows, columns, triangle>(offset, origin, &block[0][0].chain[c], chains);
+                Pack *const elements = &block[0][0].chain[c];
+                if constexpr (rows == 1) gatherElements<rows, columns, triangle>(offset, origin, elements, chains);
+                else gatherMatrices<rows, columns, triangle>(offset, origin, elements, chains);
             } else if constexpr (access == Access::positions)
                 forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
                     block[i][j].chain[c] = load4(addressOf<const std::byte>(i, j, first));
@@ -236,7 +251,9 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
             if constexpr (access == Access::any) {
                 Origins origin;
                 findOrigins(first, origin);
-                scatterElements<rows, columns, triangle>(offset, origin, &block[0][0].chain[c], chains);
+                const Pack *const elements = &block[0][0].chain[c];
+                if constexpr (rows == 1) scatterElements<rows, columns, triangle>(offset, origin, elements, chains);
+                else scatterMatrices<rows, columns, triangle>(offset, origin, elements, chains);
             } else if constexpr (access == Access::positions)
                 forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
                     store4(addressOf<std::byte>(i, j, first), block[i][j].chain[c].lanes);
