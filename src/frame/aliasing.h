@@ -535,6 +535,18 @@ VONKK3_INLINE bool isInPlace(const OperandWords &d, const OperandWords &source, 
            aliasing::areEquallySpaced(source, rows, columns, read) && written.step == read.step;
 }
 
+// All of it, for sources of the size of what is written.
+template <bool mayBeInPlace, class... Words>
+VONKK3_INLINE bool arePlainlyIndependent(std::size_t rows, std::size_t columns, std::size_t count,
+                                         const OperandWords &d, const Words &...sources) {
+    const Extent written = plainlyWritten(d, rows, columns, count);
+    const auto isIndependent = [&](const OperandWords &source) VONKK3_INLINED {
+        return isPlainlyDisjoint(written, source, rows, columns, count) ||
+               (mayBeInPlace && !aliasing::isEmpty(written) && isInPlace(d, source, rows, columns));
+    };
+    return (isIndependent(sources) && ...);
+}
+
 // The operands of a call, and whether its objects may be worked in batches. Entries of lists are looked at object by
 // object, and none after the first that is null.
 template <std::size_t number> class Aliasing {

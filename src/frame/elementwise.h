@@ -133,8 +133,6 @@ VONKK3_SHARED VonkStatus streamOrWorkObjects(const Operation &operation, Rows ro
     else return withFixedColumns<T>(columns, work);
 }
 
-inline RunTime atRunTime(std::size_t extent) { return {std::uint32_t(extent)}; }
-
 // Arrays of `rows` by `columns` elements, after the argument checks. Fixed sizes of strided layouts are unrolled on the
 // plain path, which is as fast as a stream; Real64 is no faster for a fixed size.
 template <class T, Entries entries = Entries::tested, class Rows, class Columns, class Operation, class Destination,

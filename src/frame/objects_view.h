@@ -87,14 +87,14 @@ private:
     }
 };
 
-// Where the positions of a table lead, for objects that are packed behind them.
+// Where the positions of a table lead: to object 0, and the others a step after it.
 struct TablePositions {
     std::uintptr_t begin;
-    std::ptrdiff_t rowStride, elementStride, shift;
+    std::ptrdiff_t rowStride, elementStride, shift, step;
     bool isArray;
 
     VONKK3_INLINE explicit TablePositions(const OperandWords &words)
-        : begin(words.begin), shift(words.rowStride), isArray(words.isArray) {
+        : begin(words.begin), shift(words.rowStride), step(words.step), isArray(words.isArray) {
         const auto entries = std::ptrdiff_t(std::uint32_t(words.elementStride) * sizeof(void *));
         rowStride = words.isTransposed ? std::ptrdiff_t(sizeof(void *)) : entries;
         elementStride = words.isTransposed ? entries : std::ptrdiff_t(sizeof(void *));

@@ -26,6 +26,9 @@ struct RunTime {
     constexpr bool isZero() const { return extent == 0; }
 };
 
+// What a call shares with others does not know even a fixed one.
+constexpr RunTime atRunTime(std::size_t extent) { return {std::uint32_t(extent)}; }
+
 // How many objects a call works on: `count` of the array forms, or the one of the others.
 struct Objects {
     static constexpr bool isArray = true;

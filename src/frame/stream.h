@@ -296,11 +296,7 @@ VONKK3_SHARED bool streamPositions(const Operation &shared, const ObjectsView &d
 template <class Operation, class Destination, class... Sources>
 VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::size_t columns, std::size_t count,
                                 const Destination &d, const Sources &...sources) {
-    const Extent written = plainlyWritten(d, rows, columns, count);
-    if (!((isPlainlyDisjoint(written, sources, rows, columns, count) ||
-           (isInPlace(d, sources, rows, columns) && !aliasing::isEmpty(written))) &&
-          ...))
-        return false;
+    if (!arePlainlyIndependent<true>(rows, columns, count, d, sources...)) return false;
     const Operation operation = shared;
     const auto forEachPosition = [&](const auto &work) VONKK3_INLINED {
         const auto address = [&](const auto &table, std::size_t i, std::size_t j) VONKK3_INLINED {

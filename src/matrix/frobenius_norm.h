@@ -3,7 +3,7 @@
 #pragma once
 
 #include "frame/operations.h"
-#include "frame/reduce.h"
+#include "frame/positions.h"
 #include "matrix/norm_kernels.h"
 
 namespace vonkk3::matrix {
@@ -57,9 +57,8 @@ VONKK3_INLINE Number sumOfSquares(const Element &element, std::size_t columns, s
 
 // Of arrays in the pointer layout.
 template <NormOrder way> struct FrobeniusOfPacks {
-    template <class Number, class A>
-    VONKK3_INLINE Number operator()(std::size_t rows, std::size_t columns, const A &a) const {
-        return squareRoot(sumOfSquares<way, Number>(
+    template <class A> VONKK3_INLINE auto operator()(std::size_t rows, std::size_t columns, const A &a) const {
+        return squareRoot(sumOfSquares<way, typename A::Number>(
             [&](std::size_t i, std::size_t j) VONKK3_INLINED { return a.load(i, j); }, columns, rows));
     }
 };
@@ -166,7 +165,10 @@ VONKK3_INLINE VonkStatus frobeniusNorm(const A &a, Columns columns, RowCount row
             return VonkStatus(vonkOk);
         };
         std::size_t done = 0;
-        if constexpr (std::is_same_v<T, Real32> && A::isArray && A::layout == Layout::P)
+        if constexpr (std::is_same_v<T, Real32> && A::isArray && A::isTable && Columns::value > 4) // not unrolled
+            done = reduceArrays(FrobeniusOfPacks<way>(), cells, atRunTime(rows), atRunTime(columns), count,
+                                a.words(columns));
+        else if constexpr (std::is_same_v<T, Real32> && A::isArray && A::isTable)
             done = reduceArrays(FrobeniusOfPacks<way>(), cells, rows, columns, count, a.words(columns));
         return forEachObjectFrom(done, count, one, a);
     }

@@ -1,7 +1,7 @@
 // The sum of a diagonal, of single matrices and arrays. Results are packed in every layout.
 #pragma once
 
-#include "frame/reduce.h"
+#include "frame/positions.h"
 #include "frame/straight.h"
 
 namespace vonkk3::matrix {
@@ -51,8 +51,8 @@ template <class View, std::size_t order> VONKK3_INLINE Real32 diagonalSum(const 
 
 // A diagonal is a column of its own.
 struct TraceOfPacks {
-    template <class Number, class A>
-    VONKK3_INLINE Number operator()(std::size_t order, std::size_t, const A &diagonal) const {
+    template <class A> VONKK3_INLINE auto operator()(std::size_t order, std::size_t, const A &diagonal) const {
+        using Number = typename A::Number;
         Number sum = Number(0.0F) + diagonal.load(0, 0);
         for (std::size_t i = 1; i < order; ++i) sum = sum + diagonal.load(i, 0);
         return sum;
@@ -80,8 +80,8 @@ VONKK3_INLINE VonkStatus trace(const A &a, Order order, T *results, Count count)
             return sumDiagonal<goesInPairs<T, A, Order>, !Count::isArray>(a.view(n, order), order, results + n);
         };
         std::size_t done = 0;
-        if constexpr (std::is_same_v<T, Real32> && A::isArray && A::layout == Layout::P)
-            done = reduceArrays(TraceOfPacks(), reinterpret_cast<std::byte *>(results), order, 1, count,
+        if constexpr (std::is_same_v<T, Real32> && A::isArray && A::isTable)
+            done = reduceArrays(TraceOfPacks(), reinterpret_cast<std::byte *>(results), order, fixed<1>, count,
                                 a.words(order + 1)); // from one diagonal element to the next
         return forEachObjectFrom(done, count, one, a);
     }

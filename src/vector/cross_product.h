@@ -1,8 +1,8 @@
 // Cross product of vectors of three elements, single ones or arrays.
 #pragma once
 
-#include "frame/batch.h"
 #include "frame/four_objects.h"
+#include "frame/positions.h"
 
 namespace vonkk3::vector {
 
@@ -69,46 +69,24 @@ inline std::size_t crossInBlocks(const A &a, const B &b, const D &d, std::size_t
     return withKnownSpacing<3>(work, a, b, d);
 }
 
-// ---- Batches: the pointer layout with packed objects ----------------------------------------------------------------
-
-template <CrossForm form, bool firstIsArray, bool secondIsArray> struct CrossBatch {
-    static constexpr std::size_t chains = 1;
-    VectorsOfBatch<3, firstIsArray> src1;
-    VectorsOfBatch<3, secondIsArray> src2;
-    VectorsOfBatch<3> dst;
-
-    Access access() const { return accessOf(src1.view, src2.view, dst.view); }
-    template <Access access> VONKK3_INLINE void hoist() {
-        src1.template hoist<access>();
-        src2.template hoist<access>();
-        dst.template hoist<access>();
-    }
-    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
-        using Number = Packs<chains>;
-        src1.template with<access, chains>(n, [&](const auto &a) VONKK3_INLINED {
-            src2.template with<access, chains>(n, [&](const auto &b) VONKK3_INLINED {
-                Number d[1][3];
-                forIndices(0, 3, fixed<3>, [&](std::size_t i) VONKK3_INLINED {
-                    const std::size_t j = (i + 1) % 3, k = (i + 2) % 3;
-                    const Number u = a[0][j], w = a[0][k];
-                    if constexpr (form == CrossForm::difference) d[0][i] = u * b[0][k] - w * b[0][j];
-                    else d[0][i] = u * b[0][k] + (Number(0.0F) - w) * b[0][j];
-                });
-                dst.template scatter<access>(n, d);
-            });
-        });
-        return true;
-    }
-};
+// ---- Arrays in the pointer layouts
+// -----------------------------------------------------------------------------------
 
 // In place is for the plain form alone: the others store a component before they load for the next.
-template <CrossForm form, class A, class B, class D, class One>
-VONKK3_INLINE VonkStatus crossInBatches(const A &a, const B &b, const D &d, std::size_t count, const One &one) {
-    CrossBatch<form, A::isArray, B::isArray> batch{{a, count}, {b, count}, {d, count}};
-    const auto source = form == CrossForm::difference ? readsInPlace : reads;
-    const Aliasing aliasing(count, writes(batch.dst.view), source(batch.src1.view), source(batch.src2.view));
-    return forEachBatch(batch, aliasing, count, one);
-}
+template <CrossForm form> struct CrossOfPacks {
+    static constexpr bool mayBeInPlace = form == CrossForm::difference;
+
+    template <class A, class B, class D> VONKK3_INLINE void operator()(const D &d, const A &a, const B &b) const {
+        using Number = typename D::Number;
+        const Number u[] = {a.load(0, 0), a.load(0, 1), a.load(0, 2)};
+        const Number v[] = {b.load(0, 0), b.load(0, 1), b.load(0, 2)};
+        forIndices(0, 3, fixed<3>, [&](std::size_t i) VONKK3_INLINED {
+            const std::size_t j = (i + 1) % 3, k = (i + 2) % 3;
+            if constexpr (form == CrossForm::difference) d.store(0, i, u[j] * v[k] - u[k] * v[j]);
+            else d.store(0, i, u[j] * v[k] + (Number(0.0F) - u[k]) * v[j]);
+        });
+    }
+};
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
@@ -127,8 +105,9 @@ VONKK3_INLINE VonkStatus crossProduct(const A &a, const B &b, const D &d, Count 
         else crossByComponent<T, form>(a.view(n), b.view(n), d.view(n));
         return VonkStatus(vonkOk);
     };
-    if constexpr (worksInBatches<D> && D::layout == Layout::P)
-        if (count >= worthBatches) return crossInBatches<form>(a, b, d, count, work);
+    if constexpr (std::is_same_v<T, Real32> && D::isArray && D::isTable)
+        done = workPositions<1, 3, CrossOfPacks<form>::mayBeInPlace>(CrossOfPacks<form>(), count, d.words(3),
+                                                                     a.words(3), b.words(3));
     return forEachObjectFrom(done, count, work, a, b, d);
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/four_objects.h"
-#include "frame/reduce.h"
+#include "frame/positions.h"
 #include "vector/block_walk.h"
 
 namespace vonkk3::vector {
@@ -156,8 +156,9 @@ inline std::size_t dotInBlocks(const A &a, const B &b, Real32 *dst, Objects coun
 // ---- Arrays in the pointer layout: left to right; run-time lengths begin with +0 ------------------------------------
 
 template <bool beginsWithZero> struct DotOfPacks {
-    template <class Number, class A, class B>
-    VONKK3_INLINE Number operator()(std::size_t, std::size_t length, const A &a, const B &b) const {
+    template <class A, class B>
+    VONKK3_INLINE auto operator()(std::size_t, std::size_t length, const A &a, const B &b) const {
+        using Number = typename A::Number;
         Number sum = a.load(0, 0) * b.load(0, 0);
         if constexpr (beginsWithZero) sum = Number(0.0F) + sum;
         for (std::size_t j = 1; j < length; ++j) sum = sum + a.load(0, j) * b.load(0, j);
@@ -179,8 +180,9 @@ VONKK3_INLINE VonkStatus dotProduct(const A &a, const B &b, T *dst, Length lengt
     std::byte *results = reinterpret_cast<std::byte *>(dst);
     std::size_t done = 0;
     if constexpr (takesFourAgainstOne<F> || mayTakeBlocks<F>) done = dotInBlocks<F>(a, b, dst, count);
-    if constexpr (F::isReal32 && F::isArray && F::layout == Layout::P)
-        done = reduceArrays(DotOfPacks<!F::isFixed>(), results, 1, length, count, a.words(length), b.words(length));
+    if constexpr (F::isReal32 && F::isArray && A::isTable)
+        done =
+            reduceArrays(DotOfPacks<!F::isFixed>(), results, fixed<1>, length, count, a.words(length), b.words(length));
     const auto work = [&](std::size_t n) VONKK3_INLINED {
         Working<T> sum;
         if constexpr (sumsInBlocks<F>) sum = sumInBlocks(ProductTerm{}, length, b.view(0).base, a.view(0).base);

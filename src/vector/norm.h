@@ -4,7 +4,7 @@
 #include "frame/estimate.h"
 #include "frame/four_objects.h"
 #include "frame/operations.h"
-#include "frame/reduce.h"
+#include "frame/positions.h"
 #include "vector/block_walk.h"
 
 namespace vonkk3::vector {
@@ -101,8 +101,8 @@ inline std::size_t normInBlocks(const Source &source, std::byte *results, Object
 
 // A square is never -0, so a sum from +0 may as well begin with the first.
 struct NormOfPacks {
-    template <class Number, class A>
-    VONKK3_INLINE Number operator()(std::size_t, std::size_t length, const A &a) const {
+    template <class A> VONKK3_INLINE auto operator()(std::size_t, std::size_t length, const A &a) const {
+        using Number = typename A::Number;
         const auto square = [&](std::size_t j) VONKK3_INLINED {
             const Number element = a.load(0, j);
             return element * element;
@@ -127,8 +127,8 @@ VONKK3_INLINE VonkStatus norm(const Source &source, T *dst, Length length, Count
     std::size_t done = 0;
     if constexpr (rootsByEstimate<Source, Length> && Count::isArray)
         done = normInBlocks<Length::value, testsEntries>(source, results, count);
-    if constexpr (std::is_same_v<T, Real32> && Source::isArray && Source::layout == Layout::P)
-        done = reduceArrays(NormOfPacks(), results, 1, length, count, source.words(length));
+    if constexpr (std::is_same_v<T, Real32> && Source::isArray && Source::isTable)
+        done = reduceArrays(NormOfPacks(), results, fixed<1>, length, count, source.words(length));
     const auto work = [&](std::size_t n) VONKK3_INLINED {
         T result;
         if constexpr (rootsByEstimate<Source, Length>) result = normByEstimate<Length::value>(source.view(n));

@@ -1,0 +1,135 @@
+// The fast path of arrays in the pointer layouts whose work is a few operations: any size is worked along its
+// positions, with objects in SIMD lanes. Packed objects lie there as they are stored, others are gathered.
+#pragma once
+
+#include "frame/aliasing.h"
+#include "frame/gather.h"
+#include "frame/walk.h"
+
+namespace vonkk3 {
+
+// The same as TablePositions, of a small object; nothing that is written overlaps the table.
+template <std::size_t rows, std::size_t columns> struct HoistedPositions {
+    Offsets<rows, columns> hoisted;
+    std::ptrdiff_t step;
+    bool isArray;
+
+    VONKK3_INLINE explicit HoistedPositions(const OperandWords &words) : step(words.step), isArray(words.isArray) {
+        const TablePositions table(words);
+        forEachMoved<rows, columns, Triangle::both>([&](std::size_t i, std::size_t j)
+                                                        VONKK3_INLINED { hoisted[i][j] = table.position(i, j); });
+    }
+    std::uintptr_t position(std::size_t i, std::size_t j) const { return hoisted[i][j]; }
+};
+
+// Hoisted where they are few enough to stay in registers.
+template <class Rows, class Columns>
+using PositionsOf = std::conditional_t<Rows::isFixed && Columns::isFixed && Rows::value * Columns::value <= 6,
+                                       HoistedPositions<Rows::value, Columns::value>, TablePositions>;
+
+// The elements of the objects from n on, as packs; a single object is broadcast.
+template <std::size_t chains, bool arePacked, class Table> struct PacksOfPositions {
+    using Number = Packs<chains>;
+    const Table &table;
+    std::size_t n;
+
+    VONKK3_INLINE Number load(std::size_t i, std::size_t j) const {
+        if (!table.isArray) return loadAt<Real32>(address(table.position(i, j)));
+        const std::byte *const first = at(i, j);
+        return Number::each([&](std::size_t c) VONKK3_INLINED -> Pack {
+            if constexpr (arePacked) return load4(first + c * laneBytes);
+            const std::byte *const pack = first + strides(c * packWidth, table.step);
+            const PackSources from = {pack, pack + table.step, pack + 2 * table.step, pack + 3 * table.step};
+            return gatherElement(from, 0);
+        });
+    }
+    VONKK3_INLINE void store(std::size_t i, std::size_t j, const Number &value) const {
+        std::byte *const first = at(i, j);
+        for (std::size_t c = 0; c < chains; ++c)
+            if constexpr (arePacked) store4(first + c * laneBytes, value.chain[c].lanes);
+            else {
+                std::byte *const pack = first + strides(c * packWidth, table.step);
+                const PackTargets to = {pack, pack + table.step, pack + 2 * table.step, pack + 3 * table.step};
+                scatterElement(to, 0, value.chain[c]);
+            }
+    }
+
+private:
+    VONKK3_INLINE std::byte *at(std::size_t i, std::size_t j) const {
+        return address(table.position(i, j)) + strides(n, arePacked ? sizeof(Real32) : table.step);
+    }
+};
+
+// work(n, operands...) for as many packs of objects as there are, some of them side by side; how many objects were
+// done.
+template <std::size_t chains, bool arePacked, class Work, class... Tables>
+VONKK3_INLINE std::size_t workPacks(std::size_t count, const Work &work, const Tables &...tables) {
+    std::size_t n = 0;
+    const auto inChains = [&]<std::size_t number>() VONKK3_INLINED {
+        for (; count - n >= number * packWidth; n += number * packWidth)
+            work(n, PacksOfPositions<number, arePacked, Tables>{tables, n}...);
+    };
+    if constexpr (chains > 1) inChains.template operator()<chains>();
+    inChains.template operator()<1>();
+    return n;
+}
+
+template <class Table, std::size_t chains, class Work, class... Words>
+VONKK3_INLINE std::size_t workPacksOf(std::size_t count, const Work &work, const Words &...words) {
+    if ((arePacked(words) && ...)) return workPacks<chains, true>(count, work, Table(words)...);
+    return workPacks<1, false>(count, work, Table(words)...);
+}
+
+// Fewer objects are not worth the alias test.
+inline constexpr std::size_t worthPositions = 3 * packWidth;
+
+// Whether packed results are disjoint from all sources, where it is not plain.
+template <class... Words>
+VONKK3_SHARED bool mayReduce(std::byte *results, std::size_t rows, std::size_t columns, std::size_t count,
+                             const Words &...src) {
+    const ObjectsView packed = packedBlocks(reinterpret_cast<Real32 *>(results), 1, count);
+    const auto mayWork = [&](const auto &...views) VONKK3_INLINED {
+        return Aliasing(count, writes(packed), reads(views)...).allowsBatch(0, count);
+    };
+    return mayWork(objectsOf<Real32, true>(src, rows, columns, count)...);
+}
+
+// One number for each object, packed. How many objects were done. A family gives kernel<Number>(rows, columns,
+// sources...) of sources that are asked for load(i, j).
+template <class Kernel, class Rows, class Columns, class... Words>
+VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results, Rows rows, Columns columns,
+                                       std::size_t count, const Words &...src) {
+    if (count < worthPositions) return 0;
+    const Extent written = extentOf(results, count * sizeof(Real32));
+    if (!(isPlainlyDisjoint(written, src, rows, columns, count) && ...) &&
+        !mayReduce(results, rows, columns, count, src...))
+        return 0;
+    constexpr std::size_t chains = 4; // sums wait for their last term
+    const auto work = [&](std::size_t n, const auto &...sources) VONKK3_INLINED {
+        const auto values = kernel(rows, columns, sources...);
+        for (std::size_t c = 0; c < sizeof(values) / sizeof(Pack); ++c)
+            store4(results + (n + c * packWidth) * sizeof(Real32), values.chain[c].lanes);
+    };
+    return workPacksOf<PositionsOf<Rows, Columns>, chains>(count, work, src...);
+}
+
+// Small objects of `rows` by `columns` elements from objects of the same size. A family gives kernel(d, sources...),
+// and says whether it loads all before it stores, and so may work in place.
+template <std::size_t rows, std::size_t columns, bool mayBeInPlace, class Kernel, class... Words>
+VONKK3_SHARED std::size_t workPositions(const Kernel &kernel, std::size_t count, const OperandWords &d,
+                                        const Words &...src) {
+    if (count < worthPositions) return 0;
+    if (!arePlainlyIndependent<mayBeInPlace>(rows, columns, count, d, src...)) {
+        const auto mayWork = [&](const ObjectsView &written, const auto &...views) VONKK3_INLINED {
+            const auto use = mayBeInPlace ? readsInPlace : reads;
+            return Aliasing(count, writes(written), use(views)...).allowsBatch(0, count);
+        };
+        if (!mayWork(objectsOf<Real32, true>(d, rows, columns, count),
+                     objectsOf<Real32, true>(src, rows, columns, count)...))
+            return 0;
+    }
+    return workPacksOf<HoistedPositions<rows, columns>, 1>(
+        count, [&](std::size_t, const auto &...operands) VONKK3_INLINED { kernel(operands...); }, d, src...);
+}
+
+} // namespace vonkk3
