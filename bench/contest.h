@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -35,6 +36,10 @@ struct Contest {
     std::function<std::string(const Values &expected, const Values &found)> complaint;
 
     std::vector<Contestant> contestants; // the library first
+
+    // Fills the sources anew, where branches depend on them: then no run is timed on data that was seen before, and no
+    // branch predictor knows it by heart.
+    std::function<void(std::uint32_t seed)> renew = nullptr;
 };
 
 // A row of the table, and how to set it up when its turn comes.

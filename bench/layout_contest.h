@@ -195,6 +195,8 @@ template <Layout layout, class KernelOfFamily> struct Family {
     using Count = std::uint32_t;
     static constexpr Agreement agreement = Agreement::bits;
 
+    static constexpr bool branchesOnData = false;
+
     static void prepare(Data &) {}
     static void spoil(Data &data) { data.spoil(); }
 
@@ -272,6 +274,7 @@ template <Layout layout, class F, class Call> Contest layoutContest(std::size_t 
              ...);
         },
         F::others());
+    if constexpr (F::branchesOnData) contest.renew = [=](std::uint32_t seed) { data->operands[0].fillRandomly(seed); };
     return contest;
 }
 

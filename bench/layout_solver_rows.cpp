@@ -67,6 +67,7 @@ template <Layout layout, std::size_t order> struct Inverses : Family<layout, pla
 template <Layout layout, std::size_t order> struct LuDecompositions : Family<layout, plain::LuDecomposition<order>> {
     using Data = LayoutData<layout, plain::LuDecomposition<order>>;
     static constexpr std::size_t factors = 1; // the operand that is a decomposition's result
+    static constexpr bool branchesOnData = true;
     static void prepare(Data &data) { data.places[1] = data.own.asPlace(); }
     static void spoil(Data &data) {
         data.destination().fill(1); // see Operand

@@ -222,6 +222,7 @@ template <class C> Contest decomposition(std::size_t count) {
                                        C::EigenLu::decompose(data->source.data(), data->eigenly.data(), data->count);
                                    }),
                                    eigenValues});
+    contest.renew = [=](std::uint32_t seed) { data->source.fillRandomly(seed); };
     return contest;
 }
 
