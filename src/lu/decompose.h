@@ -146,10 +146,12 @@ VONKK3_INLINE VonkStatus decomposeObject(const Source &source, const Factors &fa
     using T = typename Factors::Element;
     if constexpr (!Order::isFixed || std::is_same_v<T, Real64>)
         return decomposeInMemory(source, factors, pivots, order, n, isArray);
-    else if constexpr (std::is_same_v<Factors, TableView<T>>)
+    else if constexpr (std::is_same_v<Factors, TableView<T>>) {
+        if (!areElementsDisjoint(factors, order)) [[unlikely]]
+            return decomposeInMemoryByCall(source, factors, pivots, RunTime{order}, n);
         return decomposeLocally<true>(source, factors, pivots, order, n);
-    else {
-        if (!mayReadFirst(source, factors, order)) [[unlikely]]
+    } else {
+        if (!areElementsDisjoint(factors, order) || !mayReadFirst(source, factors, order)) [[unlikely]]
             return decomposeInMemoryByCall(strided(source), strided(factors), pivots, RunTime{order}, n);
         return decomposeLocally<false>(source, factors, pivots, order, n);
     }
@@ -165,7 +167,6 @@ struct DecomposeWords : MatrixWords {
 template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
     using MatrixBatch<order>::src, MatrixBatch<order>::dst;
     static constexpr std::size_t chains = 1;
-    static constexpr bool takesPositions = order >= 5, takesAny = order >= 5;
     VectorsOfBatch<order> pivots;
     LastPivots<order> lastPivots;
 
@@ -213,12 +214,11 @@ private:
     }
 };
 
-// From how many objects on batches are quicker than one by one. Small matrices are quick enough; and the alias test of
-// lists and tables costs as much as several objects.
-template <std::size_t order> std::size_t leastToDecompose(const ObjectsView &factors, Access access) {
-    if (access != Access::rows && order < 5) return std::size_t(-1);
-    if (access == Access::any) return 16 * packWidth;
-    return factors.indirection == ObjectsView::Indirection::none ? 2 * packWidth : 8 * packWidth;
+// From how many objects on batches are quicker than one by one, where branches depend on pivots. The alias test of
+// lists and tables costs as much as several small objects.
+template <std::size_t order> constexpr std::size_t leastToDecompose(bool areIndirect) {
+    if (order >= 5 || !areIndirect) return packWidth;
+    return (order == 4 ? 2 : 3) * packWidth;
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
@@ -258,8 +258,8 @@ VONKK3_NOINLINE VonkStatus decomposeInBatches(const DecomposeWords &words, std::
     const auto plainly = [&](std::size_t from, std::size_t to) VONKK3_INLINED {
         return decomposePlainly<Real32, throughTables>(words, fixed<order>, from, to);
     };
+    if (count < leastToDecompose<order>(throughTables || words.dst.isList)) return plainly(0, count);
     DecomposeBatch<order> batch(words, count, std::bool_constant<throughTables>());
-    if (count < leastToDecompose<order>(batch.dst.view, batch.access())) return plainly(0, count);
     const Aliasing aliasing(count, writes(batch.dst.view), writes(batch.pivots.view), readsInPlace(batch.src.view));
     return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
 }
@@ -276,13 +276,10 @@ VONKK3_INLINE VonkStatus decompose(const Source &src, std::uint32_t *pivots, con
     const DecomposeWords words{{src.words(order), dst.words(order)}, pivots};
     const auto plainly = [&]() VONKK3_INLINED { return decomposePlainly<T, Factors::isTable>(words, order, 0, count); };
     if constexpr (worksInBatches<Factors>)
-        if (count >= 2 * packWidth)
+        if (count >= packWidth)
             return withFixedOrder(
                 order,
-                [&](auto size) VONKK3_INLINED {
-                    if constexpr (size < 4) return decomposePlainly<T, Factors::isTable>(words, size, 0, count);
-                    else return decomposeInBatches<size, Factors::isTable>(words, count);
-                },
+                [&](auto size) VONKK3_INLINED { return decomposeInBatches<size, Factors::isTable>(words, count); },
                 plainly);
     return plainly();
 }

@@ -18,6 +18,8 @@ public:
         : factors(writes(factors)), pivots(writes(pivots)) {
         this->factors.findExtents();
         this->pivots.findExtents();
+        mayOverwriteEntries = factors.isTable() && !(disjoint(testedEntries(), this->factors.whole) &&
+                                                     disjoint(testedEntries(), this->pivots.whole));
     }
 
     // Whether they pass, in ascending order: after one that does not, none is looked at. physical[k] are the rows of
@@ -51,6 +53,7 @@ private:
     };
 
     AliasOperand factors, pivots;
+    bool mayOverwriteEntries;
 
     // The bytes of an element.
     static bool overlaps(std::uintptr_t address, const Extent &extent) {
@@ -68,10 +71,20 @@ private:
             return true;
         }
         const std::uintptr_t entry = view.begin + offset;
-        const Extent bytes{entry, entry + sizeof(void *)};
-        if (!disjoint(bytes, factors.whole) || !disjoint(bytes, pivots.whole)) return false;
+        if (mayOverwriteEntries) {
+            const Extent bytes{entry, entry + sizeof(void *)};
+            if (!disjoint(bytes, factors.whole) || !disjoint(bytes, pivots.whole)) return false;
+        }
         address = ObjectsView::pointerAt(entry) + std::uintptr_t(view.shift + strides(n, view.objectStride));
         return true;
+    }
+
+    // All entries of a table that lead to what is looked at.
+    Extent testedEntries() const {
+        const ObjectsView &view = factors.view;
+        return Extent{view.begin, view.begin + sizeof(void *)}
+            .extendedBy(strides(order - 1, view.rowStride))
+            .extendedBy(strides(testedLastColumn(order, view.count - 1), view.elementStride));
     }
 
     // The element of object n at an address, with its logical row; row `order` if there is none.

@@ -1,6 +1,5 @@
 // The rows of a matrix while it is factored, by position: position k is logical row k, wherever it lies. They begin as
-// a copy of the source in the order of the source. Row indices overlap neither matrix, and elements of the destination
-// do not overlap each other, so nothing else tells what is kept in registers from what is in memory.
+// a copy of the source in the order of the source. Row indices overlap neither matrix.
 #pragma once
 
 #include "frame/aliasing.h"
@@ -21,6 +20,31 @@ VONKK3_INLINE bool mayReadFirst(const Source &source, const Factors &factors, st
         strided(source).elementStride == strided(factors).elementStride)
         return true;
     return disjoint(extentOf(source, order, order), extentOf(factors, order, order));
+}
+
+// Whether elements of the destination do not overlap each other. Then nothing tells what is kept in registers from what
+// is in memory.
+template <class T> VONKK3_INLINE bool areElementsDisjoint(const RowsView<T> &factors, std::size_t order) {
+    return areRowsDisjoint(factors, order);
+}
+template <class T> VONKK3_INLINE bool areElementsDisjoint(const StridedView<T> &factors, std::size_t order) {
+    const std::uintptr_t row = magnitudeOf(factors.rowStride), element = magnitudeOf(factors.elementStride);
+    return row < element ? row >= sizeof(T) && element >= row * (order - 1) + sizeof(T)
+                         : element >= sizeof(T) && row >= element * (order - 1) + sizeof(T);
+}
+template <class T> VONKK3_INLINE bool areElementsDisjoint(const TableView<T> &factors, std::size_t order) {
+    const auto distance = [&](std::size_t from, std::size_t to) { return factors.at(to) - factors.at(from); };
+    std::ptrdiff_t least = sizeof(T);
+    for (std::size_t k = 1; k < order * order; ++k) {
+        const std::ptrdiff_t step = distance(k - 1, k);
+        least = step < least ? step : least;
+    }
+    if (least >= std::ptrdiff_t(sizeof(T))) [[likely]]
+        return true; // they ascend
+    for (std::size_t k = 1; k < order * order; ++k)
+        for (std::size_t l = 0; l < k; ++l)
+            if (magnitudeOf(distance(k, l)) < sizeof(T)) return false;
+    return true;
 }
 
 // Every step is stored at once, and rows stay where they are.
