@@ -1,5 +1,5 @@
 // Matrix by vector and Gaxpy of disjoint Real32 operands, running sums from +0, with objects in SIMD lanes: one matrix
-// for all vectors, or matrices whose rows are contiguous.
+// for all vectors, matrices whose rows are contiguous, or small ones found through a table.
 #pragma once
 
 #include "frame/batch.h"
@@ -10,7 +10,7 @@ template <std::size_t order, bool throughTables, bool firstIsArray, bool secondI
 struct VectorBatch {
     static constexpr std::size_t chains = 1;
     static constexpr bool takesPositions = false; // products through tables have a faster path
-    static constexpr bool takesAny = !firstIsArray;
+    static constexpr bool takesAny = !firstIsArray || throughTables;
     static constexpr bool takesRows = !throughTables;
     MatricesOfBatch<order, firstIsArray> a;
     VectorsOfBatch<order, secondIsArray> v;
