@@ -37,7 +37,7 @@ using Roots = std::conditional_t<std::is_same_v<View, TableView<Real32>>, Rounde
 // A NaN is not.
 template <class Number> inline bool isPositive(Number s) { return s > 0; }
 template <std::size_t chains> VONKK3_INLINE bool isPositive(const Packs<chains> &s) {
-    return inAllLanes(s, [](Pack a) VONKK3_INLINED { return a > Pack(0); });
+    return inAllLanes(s, [](auto a) VONKK3_INLINED { return a > decltype(a)(0); });
 }
 
 template <std::size_t order, class Number> VONKK3_INLINE bool isPositiveFirst(const Number &s) {

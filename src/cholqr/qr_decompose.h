@@ -16,7 +16,7 @@ inline constexpr Real32 squaredNormTolerance = 0x1p-23F;
 // A NaN does not pass.
 template <class Number> inline bool passesAsSquaredNorm(Number s) { return s >= Number(squaredNormTolerance); }
 template <std::size_t chains> VONKK3_INLINE bool passesAsSquaredNorm(const Packs<chains> &s) {
-    return inAllLanes(s, [](Pack a) VONKK3_INLINED { return a >= Pack(squaredNormTolerance); });
+    return inAllLanes(s, [](auto a) VONKK3_INLINED { return a >= decltype(a)(squaredNormTolerance); });
 }
 
 // With the sign of the diagonal element, so that their sum cancels nothing; of zero and NaN the minus sign.
@@ -24,7 +24,7 @@ template <class Number> inline Number withSignOf(Number diagonal, Number norm) {
 template <std::size_t chains>
 VONKK3_INLINE Packs<chains> withSignOf(const Packs<chains> &diagonal, const Packs<chains> &norm) {
     return Packs<chains>::each([&](std::size_t c) VONKK3_INLINED {
-        return select(diagonal.chain[c] > Pack(0), norm.chain[c], -norm.chain[c]);
+        return select(diagonal.chain[c] > typename Packs<chains>::Value(0), norm.chain[c], -norm.chain[c]);
     });
 }
 

@@ -45,11 +45,12 @@ struct LaneByLane {
     }
 
 private:
-    VONKK3_NOINLINE static Pack ofPack(Pack s) {
-        alignas(laneBytes) Real32 each[packWidth];
-        _mm_store_ps(each, s.lanes);
+    template <std::size_t width> VONKK3_NOINLINE static PackOf<width> ofPack(PackOf<width> s) {
+        Real32 each[width];
+        const auto memory = reinterpret_cast<std::byte *>(each);
+        storeLanes(memory, s.lanes);
         for (Real32 &number : each) number = reciprocalRoot(number);
-        return _mm_load_ps(each);
+        return loadLanes<Register<width>>(memory);
     }
 };
 
@@ -61,7 +62,7 @@ private:
 class Filtered {
 public:
     template <std::size_t chains> VONKK3_INLINE Packs<chains> operator()(const Packs<chains> &s) {
-        return Packs<chains>::each([&](std::size_t c) VONKK3_INLINED { return ofPack(s.chain[c].lanes); });
+        return Packs<chains>::each([&](std::size_t c) VONKK3_INLINED { return ofPack(s.chain[c]); });
     }
 
     // Of any root so far.
@@ -72,7 +73,10 @@ private:
     __m128i doubts = _mm_setzero_si128();
     __m128 outside = _mm_setzero_ps();
 
-    VONKK3_INLINE Pack ofPack(__m128 s) {
+    template <std::size_t width> VONKK3_INLINE PackOf<width> ofPack(PackOf<width> s) {
+        return ofQuarters<Register<width>>([&](auto q) VONKK3_INLINED { return ofQuarter(quarter<q>(s.lanes)); });
+    }
+    VONKK3_INLINE __m128 ofQuarter(__m128 s) {
         const __m128 r = refined(s, _mm_rsqrt_ps(s));
         const __m128d ab = refined(_mm_cvtps_pd(s), _mm_cvtps_pd(r));
         const __m128d cd = refined(_mm_cvtps_pd(_mm_movehl_ps(s, s)), _mm_cvtps_pd(_mm_movehl_ps(r, r)));

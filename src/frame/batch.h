@@ -31,9 +31,9 @@ VONKK3_INLINE VonkStatus withFixedOrder(Order order, const Work &work, const Oth
         }
 }
 
-// What a family gives: `chains`, how many packs its work takes together; access(), how its arrays are reached; and
-// work<access, chains>(n) for the objects from n on, which returns false, with nothing stored, if they must go the
-// plain way.
+// What a family gives: `chains`, how many registers of packs its work takes together; access(), how its arrays are
+// reached; and work<access, packs>(n) for so many packs of objects from n on, which returns false, with nothing stored,
+// if they must go the plain way.
 template <class Batch>
 concept BatchKernel = requires(Batch &batch, std::size_t n) {
     { Batch::chains } -> std::convertible_to<std::size_t>;
@@ -62,12 +62,12 @@ requires requires { Batch::takesAny; }
 inline constexpr bool takesAny<Batch> = Batch::takesAny;
 
 // Batches from object n on, as long as they can be had; the first object that they leave.
-template <Access access, std::size_t chains, BatchKernel Batch, std::size_t operands>
+template <Access access, std::size_t packs, BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                            std::size_t count) {
-    constexpr std::size_t objects = chains * objectsOfChain<Batch>;
+    constexpr std::size_t objects = packs * objectsOfChain<Batch>;
     while (count - n >= objects) {
-        if (!aliasing.allowsBatch(n, objects) || !batch.template work<access, chains>(n)) break;
+        if (!aliasing.allowsBatch(n, objects) || !batch.template work<access, packs>(n)) break;
         n += objects;
     }
     return n;
@@ -77,7 +77,10 @@ template <Access access, BatchKernel Batch, std::size_t operands>
 VONKK3_NOINLINE std::size_t workBatches(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                         std::size_t count) {
     batch.template hoist<access>(); // again after every plain object, which may have written there
-    if constexpr (Batch::chains > 1) n = workWhileAllowed<access, Batch::chains>(batch, aliasing, n, count);
+    constexpr std::size_t toRegister = objectsOfChain<Batch> == 1 ? 1 : packsToRegister;
+    if constexpr (Batch::chains > 1)
+        n = workWhileAllowed<access, Batch::chains * toRegister>(batch, aliasing, n, count);
+    if constexpr (toRegister > 1) n = workWhileAllowed<access, toRegister>(batch, aliasing, n, count);
     return workWhileAllowed<access, 1>(batch, aliasing, n, count);
 }
 

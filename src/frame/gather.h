@@ -1,78 +1,119 @@
-// Blocks of objects to and from packs: element (i, j) of packWidth objects becomes one pack. Contiguous positions of a
-// table are one load, contiguous rows a transpose in registers, anything else goes element by element. Exactly the
-// bytes of the elements are moved.
+// Blocks of objects to and from packs: element (i, j) of packWidth objects becomes one pack, of more objects several in
+// a register. Contiguous positions of a table are one load, contiguous rows a transpose in registers, anything else
+// goes element by element. Exactly the bytes of the elements are moved.
 #pragma once
 
 #include "frame/lanes.h"
 #include "frame/objects_view.h"
 #include "frame/pack.h"
+#include "frame/straight.h"
 
 namespace vonkk3 {
 
-// Addresses of one row, or of one element, of the objects of a pack.
-using PackSources = const std::byte *[packWidth];
-using PackTargets = std::byte *[packWidth];
+// Addresses of one row, or of one element, of the objects of a register.
+template <std::size_t width> using SourcesOf = const std::byte *[width];
+template <std::size_t width> using TargetsOf = std::byte *[width];
+using PackSources = SourcesOf<packWidth>;
+using PackTargets = TargetsOf<packWidth>;
 
 inline std::byte *address(std::uintptr_t bytes) { return reinterpret_cast<std::byte *>(bytes); }
 
 // ---- Rows of contiguous elements, up to 6 ---------------------------------------------------------------------------
 
-inline Pack gatherElement(const PackSources &from, std::ptrdiff_t offset) {
-    const __m128 ab = _mm_unpacklo_ps(load1(from[0] + offset), load1(from[1] + offset));
-    const __m128 cd = _mm_unpacklo_ps(load1(from[2] + offset), load1(from[3] + offset));
-    return _mm_movelh_ps(ab, cd);
+// Quarter q of a register is of the objects 4 q to 4 q + 3, and a transpose stays within quarters.
+
+template <std::size_t width>
+VONKK3_INLINE PackOf<width> gatherElement(const std::byte *const (&from)[width], std::ptrdiff_t offset) {
+    return ofQuarters<Register<width>>([&](std::size_t q) VONKK3_INLINED {
+        const auto one = [&](std::size_t k) VONKK3_INLINED { return load1(from[4 * q + k] + offset); };
+        return _mm_movelh_ps(_mm_unpacklo_ps(one(0), one(1)), _mm_unpacklo_ps(one(2), one(3)));
+    });
 }
 
-inline void gatherTwo(const PackSources &from, std::size_t offset, Pack *elements) {
-    const __m128 ab = _mm_loadh_pi(load2(from[0] + offset), pair(from[1] + offset));
-    const __m128 cd = _mm_loadh_pi(load2(from[2] + offset), pair(from[3] + offset));
-    elements[0] = _mm_shuffle_ps(ab, cd, _MM_SHUFFLE(2, 0, 2, 0));
-    elements[1] = _mm_shuffle_ps(ab, cd, _MM_SHUFFLE(3, 1, 3, 1));
+template <std::size_t width>
+VONKK3_INLINE void gatherTwo(const std::byte *const (&from)[width], std::size_t offset, PackOf<width> *elements) {
+    const auto pairs = [&](std::size_t k) VONKK3_INLINED { // of objects k and k + 1
+        return ofQuarters<Register<width>>([&](std::size_t q) VONKK3_INLINED {
+            return _mm_loadh_pi(load2(from[4 * q + k] + offset), pair(from[4 * q + k + 1] + offset));
+        });
+    };
+    const auto ab = pairs(0), cd = pairs(2);
+    elements[0] = evenOf(ab, cd);
+    elements[1] = oddOf(ab, cd);
 }
 
-inline void gatherFour(const PackSources &from, std::size_t offset, Pack *elements) {
-    __m128 a = load4(from[0] + offset), b = load4(from[1] + offset);
-    __m128 c = load4(from[2] + offset), d = load4(from[3] + offset);
-    _MM_TRANSPOSE4_PS(a, b, c, d);
+// Rows become columns, quarter by quarter.
+template <class Lanes> VONKK3_INLINE void transpose(Lanes &a, Lanes &b, Lanes &c, Lanes &d) {
+    const Lanes lowOfAb = unpackLow(a, b), lowOfCd = unpackLow(c, d);
+    const Lanes highOfAb = unpackHigh(a, b), highOfCd = unpackHigh(c, d);
+    a = lowPairs(lowOfAb, lowOfCd), b = highPairs(lowOfAb, lowOfCd);
+    c = lowPairs(highOfAb, highOfCd), d = highPairs(highOfAb, highOfCd);
+}
+
+template <std::size_t width>
+VONKK3_INLINE void gatherFour(const std::byte *const (&from)[width], std::size_t offset, PackOf<width> *elements) {
+    const auto row = [&](std::size_t k) VONKK3_INLINED {
+        return ofQuarters<Register<width>>([&](std::size_t q)
+                                               VONKK3_INLINED { return load4(from[4 * q + k] + offset); });
+    };
+    auto a = row(0), b = row(1), c = row(2), d = row(3);
+    transpose(a, b, c, d);
     elements[0] = a, elements[1] = b, elements[2] = c, elements[3] = d;
 }
 
-inline void scatterElement(const PackTargets &to, std::size_t offset, Pack element) {
-    const __m128 lanes = element.lanes;
-    store1(to[0] + offset, lanes);
-    store1(to[1] + offset, _mm_shuffle_ps(lanes, lanes, 1));
-    store1(to[2] + offset, _mm_movehl_ps(lanes, lanes));
-    store1(to[3] + offset, _mm_shuffle_ps(lanes, lanes, 3));
+// body(q) for the quarters of a register.
+template <std::size_t width, class Body> VONKK3_INLINE void forEachQuarter(const Body &body) {
+    forEachBelow<width / 4>(body);
 }
 
-inline void scatterTwo(const PackTargets &to, std::size_t offset, Pack first, Pack second) {
-    const __m128 ab = _mm_unpacklo_ps(first.lanes, second.lanes);
-    const __m128 cd = _mm_unpackhi_ps(first.lanes, second.lanes);
-    _mm_storel_pi(pair(to[0] + offset), ab);
-    _mm_storeh_pi(pair(to[1] + offset), ab);
-    _mm_storel_pi(pair(to[2] + offset), cd);
-    _mm_storeh_pi(pair(to[3] + offset), cd);
+template <std::size_t width>
+VONKK3_INLINE void scatterElement(std::byte *const (&to)[width], std::size_t offset, PackOf<width> element) {
+    forEachQuarter<width>([&](auto q) VONKK3_INLINED {
+        const __m128 lanes = quarter<q>(element.lanes);
+        store1(to[4 * q] + offset, lanes);
+        store1(to[4 * q + 1] + offset, _mm_shuffle_ps(lanes, lanes, 1));
+        store1(to[4 * q + 2] + offset, _mm_movehl_ps(lanes, lanes));
+        store1(to[4 * q + 3] + offset, _mm_shuffle_ps(lanes, lanes, 3));
+    });
 }
 
-inline void scatterFour(const PackTargets &to, std::size_t offset, Pack first, Pack second, Pack third, Pack fourth) {
-    __m128 a = first.lanes, b = second.lanes, c = third.lanes, d = fourth.lanes;
-    _MM_TRANSPOSE4_PS(a, b, c, d);
-    store4(to[0] + offset, a);
-    store4(to[1] + offset, b);
-    store4(to[2] + offset, c);
-    store4(to[3] + offset, d);
+template <std::size_t width>
+VONKK3_INLINE void scatterTwo(std::byte *const (&to)[width], std::size_t offset, PackOf<width> first,
+                              PackOf<width> second) {
+    const auto low = unpackLow(first.lanes, second.lanes), high = unpackHigh(first.lanes, second.lanes);
+    forEachQuarter<width>([&](auto q) VONKK3_INLINED {
+        const __m128 ab = quarter<q>(low), cd = quarter<q>(high);
+        _mm_storel_pi(pair(to[4 * q] + offset), ab);
+        _mm_storeh_pi(pair(to[4 * q + 1] + offset), ab);
+        _mm_storel_pi(pair(to[4 * q + 2] + offset), cd);
+        _mm_storeh_pi(pair(to[4 * q + 3] + offset), cd);
+    });
 }
 
-VONKK3_INLINE void gatherRow(const PackSources &from, std::size_t length, Pack *row) {
+template <std::size_t width>
+VONKK3_INLINE void scatterFour(std::byte *const (&to)[width], std::size_t offset, const PackOf<width> *elements) {
+    auto a = elements[0].lanes, b = elements[1].lanes, c = elements[2].lanes, d = elements[3].lanes;
+    transpose(a, b, c, d);
+    forEachQuarter<width>([&](auto q) VONKK3_INLINED {
+        store4(to[4 * q] + offset, quarter<q>(a));
+        store4(to[4 * q + 1] + offset, quarter<q>(b));
+        store4(to[4 * q + 2] + offset, quarter<q>(c));
+        store4(to[4 * q + 3] + offset, quarter<q>(d));
+    });
+}
+
+template <std::size_t width>
+VONKK3_INLINE void gatherRow(const std::byte *const (&from)[width], std::size_t length, PackOf<width> *row) {
     const std::size_t whole = length / 4 * 4;
     if (whole != 0) gatherFour(from, 0, row);
     if (length - whole >= 2) gatherTwo(from, whole * sizeof(Real32), row + whole);
     if (length % 2 != 0) row[length - 1] = gatherElement(from, (length - 1) * sizeof(Real32));
 }
 
-VONKK3_INLINE void scatterRow(const PackTargets &to, std::size_t length, const Pack *row) {
+template <std::size_t width>
+VONKK3_INLINE void scatterRow(std::byte *const (&to)[width], std::size_t length, const PackOf<width> *row) {
     const std::size_t whole = length / 4 * 4;
-    if (whole != 0) scatterFour(to, 0, row[0], row[1], row[2], row[3]);
+    if (whole != 0) scatterFour(to, 0, row);
     if (length - whole >= 2) scatterTwo(to, whole * sizeof(Real32), row[whole], row[whole + 1]);
     if (length % 2 != 0) scatterElement(to, (length - 1) * sizeof(Real32), row[length - 1]);
 }
@@ -85,30 +126,30 @@ constexpr std::size_t rowLength(Triangle triangle, std::size_t columns, std::siz
     return triangle == Triangle::lower ? i + 1 : columns;
 }
 
-// Elements of objects n to n + packWidth - 1 of a view, by their addresses.
-template <class Byte> class ElementsOfPack {
+// Elements of `width` objects of a view from object n on, by their addresses.
+template <class Byte, std::size_t width> class ElementsOf {
 public:
-    VONKK3_INLINE ElementsOfPack(const ObjectsView &view, std::size_t n) : view(view) {
+    VONKK3_INLINE ElementsOf(const ObjectsView &view, std::size_t n) : view(view) {
         if (view.isTable()) return;
         const std::uintptr_t first = view.isList() ? 0 : view.object(n);
-        for (std::size_t k = 0; k < packWidth; ++k)
+        for (std::size_t k = 0; k < width; ++k)
             object[k] = reinterpret_cast<Byte *>(view.isList() ? view.object(n + k)
                                                                : first + std::uintptr_t(strides(k, view.objectStride)));
     }
 
     // Of row i, where the elements of rows are contiguous.
-    VONKK3_INLINE void findRow(std::size_t i, Byte *(&row)[packWidth]) const {
-        for (std::size_t k = 0; k < packWidth; ++k) row[k] = object[k] + strides(i, view.rowStride);
+    VONKK3_INLINE void findRow(std::size_t i, Byte *(&row)[width]) const {
+        for (std::size_t k = 0; k < width; ++k) row[k] = object[k] + strides(i, view.rowStride);
     }
     // Element indexOf(k) of object k, where elements, or rows, are so many bytes apart.
     template <class IndexOf>
-    VONKK3_INLINE void findOwn(const IndexOf &indexOf, std::ptrdiff_t stride, Byte *(&own)[packWidth]) const {
-        for (std::size_t k = 0; k < packWidth; ++k) own[k] = object[k] + strides(indexOf(k), stride);
+    VONKK3_INLINE void findOwn(const IndexOf &indexOf, std::ptrdiff_t stride, Byte *(&own)[width]) const {
+        for (std::size_t k = 0; k < width; ++k) own[k] = object[k] + strides(indexOf(k), stride);
     }
 
 private:
     const ObjectsView &view;
-    Byte *object[packWidth] = {};
+    Byte *object[width] = {};
 };
 
 // How the elements of a call's arrays are reached, which is known before the first batch: a kernel is compiled for
@@ -130,7 +171,7 @@ template <class... Views> inline Access accessOf(const Views &...views) {
 
 // Element (i, j) of object n lies at offset[i][j] + origin(n). Through a table the offset is the position; by strides
 // it is the distance from the object.
-using Origins = std::uintptr_t[packWidth];
+template <std::size_t width> using Origins = std::uintptr_t[width];
 
 template <std::size_t rows, std::size_t columns> using Offsets = std::uintptr_t[rows][columns];
 
@@ -151,36 +192,38 @@ VONKK3_SHARED void findOffsets(const ObjectsView &view, Offsets<rows, columns> &
                                           : std::uintptr_t(strides(i, view.rowStride) + strides(j, view.elementStride));
 }
 
-// Element by element, for `step` packs between one element of the block and the next.
-template <std::size_t rows, std::size_t columns, Triangle triangle>
-VONKK3_INLINE void gatherElements(const Offsets<rows, columns> &offset, const Origins &origin, Pack *block,
-                                  std::size_t step) {
-    const std::byte *const first[] = {address(origin[0]), address(origin[1]), address(origin[2]), address(origin[3])};
+// Element by element, for `step` registers between one element of the block and the next.
+template <Triangle triangle, std::size_t rows, std::size_t columns, std::size_t width>
+VONKK3_INLINE void gatherElements(const Offsets<rows, columns> &offset, const Origins<width> &origin,
+                                  PackOf<width> *block, std::size_t step) {
+    SourcesOf<width> first;
+    for (std::size_t k = 0; k < width; ++k) first[k] = address(origin[k]);
     forEachMoved<rows, columns, triangle>([&](std::size_t i, std::size_t j) VONKK3_INLINED {
         block[(i * columns + j) * step] = gatherElement(first, std::ptrdiff_t(offset[i][j]));
     });
 }
 
-template <std::size_t rows, std::size_t columns, Triangle triangle>
-VONKK3_INLINE void scatterElements(const Offsets<rows, columns> &offset, const Origins &origin, const Pack *block,
-                                   std::size_t step) {
-    std::byte *const first[] = {address(origin[0]), address(origin[1]), address(origin[2]), address(origin[3])};
+template <Triangle triangle, std::size_t rows, std::size_t columns, std::size_t width>
+VONKK3_INLINE void scatterElements(const Offsets<rows, columns> &offset, const Origins<width> &origin,
+                                   const PackOf<width> *block, std::size_t step) {
+    TargetsOf<width> first;
+    for (std::size_t k = 0; k < width; ++k) first[k] = address(origin[k]);
     forEachMoved<rows, columns, triangle>([&](std::size_t i, std::size_t j) VONKK3_INLINED {
         scatterElement(first, offset[i][j], block[(i * columns + j) * step]);
     });
 }
 
 // Of matrices, in a function that all their batches share.
-template <std::size_t rows, std::size_t columns, Triangle triangle>
-VONKK3_SHARED void gatherMatrices(const Offsets<rows, columns> &offset, const Origins &origin, Pack *block,
-                                  std::size_t step) {
-    gatherElements<rows, columns, triangle>(offset, origin, block, step);
+template <Triangle triangle, std::size_t rows, std::size_t columns, std::size_t width>
+VONKK3_SHARED void gatherMatrices(const Offsets<rows, columns> &offset, const Origins<width> &origin,
+                                  PackOf<width> *block, std::size_t step) {
+    gatherElements<triangle>(offset, origin, block, step);
 }
 
-template <std::size_t rows, std::size_t columns, Triangle triangle>
-VONKK3_SHARED void scatterMatrices(const Offsets<rows, columns> &offset, const Origins &origin, const Pack *block,
-                                   std::size_t step) {
-    scatterElements<rows, columns, triangle>(offset, origin, block, step);
+template <Triangle triangle, std::size_t rows, std::size_t columns, std::size_t width>
+VONKK3_SHARED void scatterMatrices(const Offsets<rows, columns> &offset, const Origins<width> &origin,
+                                   const PackOf<width> *block, std::size_t step) {
+    scatterElements<triangle>(offset, origin, block, step);
 }
 
 // An operand of a batch: rows by columns Real32 elements of every object, or of the one object that serves all.
@@ -206,27 +249,28 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
             });
     }
 
-    // Each chain stands for packWidth objects, from the objects n on.
-    template <Access access, std::size_t chains>
-    VONKK3_INLINE void gather(std::size_t n, Packs<chains> (&block)[rows][columns]) const {
-        forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
-            const std::size_t first = n + c * packWidth;
+    // For so many packs of objects from n on.
+    template <Access access, std::size_t packs>
+    VONKK3_INLINE void gather(std::size_t n, Packs<packs> (&block)[rows][columns]) const {
+        constexpr std::size_t width = Packs<packs>::width, registers = Packs<packs>::registers;
+        forIndices(0, registers, fixed<registers>, [&](std::size_t c) VONKK3_INLINED {
+            const std::size_t first = n + c * width;
             if constexpr (access == Access::any) {
-                Origins origin;
+                Origins<width> origin;
                 findOrigins(first, origin);
-                Pack *const elements = &block[0][0].chain[c];
-                if constexpr (rows == 1) gatherElements<rows, columns, triangle>(offset, origin, elements, chains);
-                else gatherMatrices<rows, columns, triangle>(offset, origin, elements, chains);
+                PackOf<width> *const elements = &block[0][0].chain[c];
+                if constexpr (rows == 1) gatherElements<triangle>(offset, origin, elements, registers);
+                else gatherMatrices<triangle>(offset, origin, elements, registers);
             } else if constexpr (access == Access::positions)
                 forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
-                    block[i][j].chain[c] = load4(addressOf<const std::byte>(i, j, first));
+                    block[i][j].chain[c] = loadLanes<Register<width>>(addressOf<const std::byte>(i, j, first));
                 });
             else {
-                const ElementsOfPack<const std::byte> elements(view, first);
+                const ElementsOf<const std::byte, width> elements(view, first);
                 forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
                     const std::size_t length = rowLength(triangle, columns, i);
-                    Pack row[columns];
-                    PackSources from;
+                    PackOf<width> row[columns];
+                    SourcesOf<width> from;
                     elements.findRow(i, from);
                     gatherRow(from, length, row);
                     forIndices(0, length, fixed<columns>,
@@ -237,33 +281,34 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
     }
 
     // The same for any access, and whatever was hoisted.
-    template <std::size_t chains>
-    VONKK3_INLINE void gatherAnew(std::size_t n, Packs<chains> (&block)[rows][columns]) const {
+    template <std::size_t packs>
+    VONKK3_INLINE void gatherAnew(std::size_t n, Packs<packs> (&block)[rows][columns]) const {
         BatchOperand anew(view);
         anew.template hoist<Access::any>();
         anew.template gather<Access::any>(n, block);
     }
 
-    template <Access access, std::size_t chains>
-    VONKK3_INLINE void scatter(std::size_t n, const Packs<chains> (&block)[rows][columns]) const {
-        forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
-            const std::size_t first = n + c * packWidth;
+    template <Access access, std::size_t packs>
+    VONKK3_INLINE void scatter(std::size_t n, const Packs<packs> (&block)[rows][columns]) const {
+        constexpr std::size_t width = Packs<packs>::width, registers = Packs<packs>::registers;
+        forIndices(0, registers, fixed<registers>, [&](std::size_t c) VONKK3_INLINED {
+            const std::size_t first = n + c * width;
             if constexpr (access == Access::any) {
-                Origins origin;
+                Origins<width> origin;
                 findOrigins(first, origin);
-                const Pack *const elements = &block[0][0].chain[c];
-                if constexpr (rows == 1) scatterElements<rows, columns, triangle>(offset, origin, elements, chains);
-                else scatterMatrices<rows, columns, triangle>(offset, origin, elements, chains);
+                const PackOf<width> *const elements = &block[0][0].chain[c];
+                if constexpr (rows == 1) scatterElements<triangle>(offset, origin, elements, registers);
+                else scatterMatrices<triangle>(offset, origin, elements, registers);
             } else if constexpr (access == Access::positions)
                 forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
-                    store4(addressOf<std::byte>(i, j, first), block[i][j].chain[c].lanes);
+                    storeLanes(addressOf<std::byte>(i, j, first), block[i][j].chain[c].lanes);
                 });
             else {
-                const ElementsOfPack<std::byte> elements(view, first);
+                const ElementsOf<std::byte, width> elements(view, first);
                 forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
                     const std::size_t length = rowLength(triangle, columns, i);
-                    Pack row[columns];
-                    PackTargets to;
+                    PackOf<width> row[columns];
+                    TargetsOf<width> to;
                     forIndices(0, length, fixed<columns>,
                                [&](std::size_t j) VONKK3_INLINED { row[j] = block[i][j].chain[c]; });
                     elements.findRow(i, to);
@@ -274,10 +319,10 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
     }
 
     // work(block) with the elements of the objects from n on, or of the one object.
-    template <Access access, std::size_t chains, class Work>
+    template <Access access, std::size_t packs, class Work>
     VONKK3_INLINE void with(std::size_t n, const Work &work) const {
         if constexpr (isArray) {
-            Packs<chains> block[rows][columns];
+            Packs<packs> block[rows][columns];
             gather<access>(n, block);
             work(block);
         } else work(single);
@@ -292,9 +337,9 @@ private:
         Pack single[rows][columns];
     };
 
-    VONKK3_INLINE void findOrigins(std::size_t n, Origins &origin) const {
+    template <std::size_t width> VONKK3_INLINE void findOrigins(std::size_t n, Origins<width> &origin) const {
         const std::uintptr_t first = (view.isTable() ? 0 : view.begin) + std::uintptr_t(strides(n, view.objectStride));
-        for (std::size_t k = 0; k < packWidth; ++k)
+        for (std::size_t k = 0; k < width; ++k)
             origin[k] = view.isList() ? view.object(n + k) : first + std::uintptr_t(strides(k, view.objectStride));
     }
 
@@ -311,33 +356,34 @@ template <std::size_t length, bool isArray = true> using VectorsOfBatch = BatchO
 
 // ---- Rows and elements in an order of each object's own -------------------------------------------------------------
 
-// Element (i, j) of lane k in a block of one chain.
-template <std::size_t rows, std::size_t columns>
-VONKK3_INLINE const std::byte *laneOf(const Packs<1> (&block)[rows][columns], std::size_t i, std::size_t j,
-                                      std::size_t k) {
-    return reinterpret_cast<const std::byte *>(block) + (i * columns + j) * sizeof(Pack) + k * sizeof(Real32);
+// Element (i, j) of object k in a block of one register.
+template <class Number, std::size_t rows, std::size_t columns>
+VONKK3_INLINE const std::byte *elementOf(const Number (&block)[rows][columns], std::size_t i, std::size_t j,
+                                         std::size_t k) {
+    return reinterpret_cast<const std::byte *>(block) + (i * columns + j) * sizeof(Number) + k * sizeof(Real32);
 }
 
-// Row i of the block is row rowOf(k, i) of object n + k, which must be one of its `rows`. There are `step` packs
+// Row i of the block is row rowOf(k, i) of object n + k, which must be one of its `rows`. There are `step` registers
 // between one element of the block and the next.
-template <Access access, std::size_t rows, std::size_t columns, class RowOf>
+template <Access access, std::size_t rows, std::size_t columns, std::size_t width, class RowOf>
 VONKK3_INLINE void gatherRowsInOrder(const BatchOperand<rows, columns, true> &operand, std::size_t n,
-                                     const RowOf &rowOf, Pack *block, std::size_t step) {
+                                     const RowOf &rowOf, PackOf<width> *block, std::size_t step) {
+    using Number = Packs<width / packWidth>;
     const ObjectsView &view = operand.view;
     const bool isPermutedLocally = access == Access::positions || (access == Access::any && view.isTable());
-    const ElementsOfPack<const std::byte> elements(view, n);
-    Packs<1> unordered[rows][columns];
+    const ElementsOf<const std::byte, width> elements(view, n);
+    Number unordered[rows][columns];
     if (isPermutedLocally) operand.template gather<access>(n, unordered);
     forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
         const auto rowOfLane = [&](std::size_t k) VONKK3_INLINED { return rowOf(k, i); };
-        Pack row[columns];
-        PackSources from;
+        PackOf<width> row[columns];
+        SourcesOf<width> from;
         if (isPermutedLocally)
-            for (std::size_t k = 0; k < packWidth; ++k) from[k] = laneOf(unordered, rowOfLane(k), 0, k);
+            for (std::size_t k = 0; k < width; ++k) from[k] = elementOf(unordered, rowOfLane(k), 0, k);
         else elements.findOwn(rowOfLane, view.rowStride, from);
         if constexpr (access == Access::rows) gatherRow(from, columns, row);
         else {
-            const std::ptrdiff_t stride = isPermutedLocally ? std::ptrdiff_t(sizeof(Pack)) : view.elementStride;
+            const std::ptrdiff_t stride = isPermutedLocally ? std::ptrdiff_t(sizeof(Number)) : view.elementStride;
             for (std::size_t j = 0; j < columns; ++j) row[j] = gatherElement(from, strides(j, stride));
         }
         for (std::size_t j = 0; j < columns; ++j) block[(i * columns + j) * step] = row[j];
@@ -345,35 +391,36 @@ VONKK3_INLINE void gatherRowsInOrder(const BatchOperand<rows, columns, true> &op
 }
 
 // Element i of the block is element indexOf(k, i) of the vector of object n + k, which must be one of its `length`.
-template <Access access, std::size_t length, class IndexOf>
+template <Access access, std::size_t length, std::size_t width, class IndexOf>
 VONKK3_INLINE void gatherElementsInOrder(const VectorsOfBatch<length> &operand, std::size_t n, const IndexOf &indexOf,
-                                         Pack *block, std::size_t step) {
+                                         PackOf<width> *block, std::size_t step) {
     const ObjectsView &view = operand.view;
     const bool isPermutedLocally = access == Access::positions || (access == Access::any && view.isTable());
     const std::ptrdiff_t stride = access == Access::rows ? sizeof(Real32) : view.elementStride;
-    const ElementsOfPack<const std::byte> elements(view, n);
-    Packs<1> unordered[1][length];
+    const ElementsOf<const std::byte, width> elements(view, n);
+    Packs<width / packWidth> unordered[1][length];
     if (isPermutedLocally) operand.template gather<access>(n, unordered);
     forIndices(0, length, fixed<length>, [&](std::size_t i) VONKK3_INLINED {
         const auto indexOfLane = [&](std::size_t k) VONKK3_INLINED { return indexOf(k, i); };
-        PackSources from;
+        SourcesOf<width> from;
         if (isPermutedLocally)
-            for (std::size_t k = 0; k < packWidth; ++k) from[k] = laneOf(unordered, 0, indexOfLane(k), k);
+            for (std::size_t k = 0; k < width; ++k) from[k] = elementOf(unordered, 0, indexOfLane(k), k);
         else elements.findOwn(indexOfLane, stride, from);
         block[i * step] = gatherElement(from, 0);
     });
 }
 
 // Row i of the block becomes row rowOf(k, i) of object n + k. Its elements must be contiguous.
-template <std::size_t chains, std::size_t rows, std::size_t columns, class RowOf>
+template <std::size_t packs, std::size_t rows, std::size_t columns, class RowOf>
 VONKK3_INLINE void scatterRowsInOrder(const ObjectsView &view, std::size_t n, const RowOf &rowOf,
-                                      const Packs<chains> (&block)[rows][columns]) {
-    forIndices(0, chains, fixed<chains>, [&](std::size_t c) VONKK3_INLINED {
-        const std::size_t first = c * packWidth;
-        const ElementsOfPack<std::byte> elements(view, n + first);
+                                      const Packs<packs> (&block)[rows][columns]) {
+    constexpr std::size_t width = Packs<packs>::width, registers = Packs<packs>::registers;
+    forIndices(0, registers, fixed<registers>, [&](std::size_t c) VONKK3_INLINED {
+        const std::size_t first = c * width;
+        const ElementsOf<std::byte, width> elements(view, n + first);
         forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
-            Pack row[columns];
-            PackTargets to;
+            PackOf<width> row[columns];
+            TargetsOf<width> to;
             for (std::size_t j = 0; j < columns; ++j) row[j] = block[i][j].chain[c];
             elements.findOwn([&](std::size_t k) VONKK3_INLINED { return rowOf(first + k, i); }, view.rowStride, to);
             scatterRow(to, columns, row);
@@ -381,11 +428,16 @@ VONKK3_INLINE void scatterRowsInOrder(const ObjectsView &view, std::size_t n, co
     });
 }
 
+// Packed numbers of objects.
+template <std::size_t packs> VONKK3_INLINE void storePacks(std::byte *to, const Packs<packs> &values) {
+    for (std::size_t c = 0; c < Packs<packs>::registers; ++c)
+        storeLanes(to + c * sizeof(values.chain[c]), values.chain[c].lanes);
+}
+
 // One packed result per object.
-template <std::size_t chains>
-VONKK3_INLINE void storeResults(const ObjectsView &results, std::size_t n, const Packs<chains> &values) {
-    const auto to = reinterpret_cast<std::byte *>(results.object(n));
-    for (std::size_t c = 0; c < chains; ++c) store4(to + c * packWidth * sizeof(Real32), values.chain[c].lanes);
+template <std::size_t packs>
+VONKK3_INLINE void storeResults(const ObjectsView &results, std::size_t n, const Packs<packs> &values) {
+    storePacks(reinterpret_cast<std::byte *>(results.object(n)), values);
 }
 
 } // namespace vonkk3

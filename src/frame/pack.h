@@ -1,94 +1,118 @@
 // Numbers of several objects worked like one number: lane k of a pack belongs to object k, and is rounded as the number
-// would be by itself. Only the target knows how wide a pack is.
+// would be by itself.
 #pragma once
 
-#include "frame/real.h"
+#include "frame/registers.h"
 #include "frame/unroll.h"
 
-#include <emmintrin.h>
+#include <bit>
 
 namespace vonkk3 {
 
-// Lanes of a pack: how many objects a batch works together.
+// Objects of a pack. Batches work packs in the widest registers of the target, several packs to a register, and what is
+// left over in a single one.
 inline constexpr std::size_t packWidth = 4;
+inline constexpr std::size_t packsToRegister = widestRegister / packWidth;
 
 constexpr std::size_t inWholePacks(std::size_t count) { return count / packWidth * packWidth; }
 
 // The outcome of a comparison, lane by lane: all bits set or none.
-struct PackMask {
-    __m128 lanes;
+template <std::size_t width> struct MaskOf {
+    Register<width> lanes;
 
-    friend PackMask operator&(PackMask a, PackMask b) { return {_mm_and_ps(a.lanes, b.lanes)}; }
-    friend PackMask operator|(PackMask a, PackMask b) { return {_mm_or_ps(a.lanes, b.lanes)}; }
-    friend PackMask operator^(PackMask a, PackMask b) { return {_mm_xor_ps(a.lanes, b.lanes)}; }
+    friend MaskOf operator&(MaskOf a, MaskOf b) { return {bitAnd(a.lanes, b.lanes)}; }
+    friend MaskOf operator|(MaskOf a, MaskOf b) { return {bitOr(a.lanes, b.lanes)}; }
+    friend MaskOf operator^(MaskOf a, MaskOf b) { return {bitXor(a.lanes, b.lanes)}; }
 
-    static PackMask none() { return {_mm_setzero_ps()}; }
-    bool any() const { return _mm_movemask_ps(lanes) != 0; }
-    bool all() const { return _mm_movemask_ps(lanes) == 0xf; }
+    static MaskOf none() { return {broadcast<Register<width>>(0)}; }
+    bool any() const { return signBits(lanes) != 0; }
+    bool all() const { return signBits(lanes) == (1U << width) - 1; }
 };
 
-struct Pack {
-    __m128 lanes;
+template <std::size_t width> struct PackOf {
+    using Lanes = Register<width>;
+    Lanes lanes;
 
-    Pack() = default;
-    Pack(__m128 lanes) : lanes(lanes) {}
-    Pack(Real32 value) : lanes(_mm_set1_ps(value)) {} // broadcast
+    PackOf() = default;
+    PackOf(Lanes lanes) : lanes(lanes) {}
+    PackOf(Real32 value) : lanes(broadcast<Lanes>(value)) {}
 
-    Real32 last() const { return _mm_cvtss_f32(_mm_shuffle_ps(lanes, lanes, 3)); }
+    Real32 last() const { // of the last object
+        const __m128 quarter = vonkk3::quarter<width / 4 - 1>(lanes);
+        return _mm_cvtss_f32(_mm_shuffle_ps(quarter, quarter, 3));
+    }
 
-    friend Pack operator+(Pack a, Pack b) { return _mm_add_ps(a.lanes, b.lanes); }
-    friend Pack operator-(Pack a, Pack b) { return _mm_sub_ps(a.lanes, b.lanes); }
-    friend Pack operator*(Pack a, Pack b) { return _mm_mul_ps(a.lanes, b.lanes); }
-    friend Pack operator/(Pack a, Pack b) { return _mm_div_ps(a.lanes, b.lanes); }
-    friend Pack operator-(Pack a) { return _mm_xor_ps(a.lanes, _mm_set1_ps(-0.0F)); }
+    friend PackOf operator+(PackOf a, PackOf b) { return a.lanes + b.lanes; }
+    friend PackOf operator-(PackOf a, PackOf b) { return a.lanes - b.lanes; }
+    friend PackOf operator*(PackOf a, PackOf b) { return a.lanes * b.lanes; }
+    friend PackOf operator/(PackOf a, PackOf b) { return a.lanes / b.lanes; }
+    friend PackOf operator-(PackOf a) { return bitXor(a.lanes, broadcast<Lanes>(-0.0F)); }
 
     // False in lanes with a NaN.
-    friend PackMask operator>(Pack a, Pack b) { return {_mm_cmpgt_ps(a.lanes, b.lanes)}; }
-    friend PackMask operator>=(Pack a, Pack b) { return {_mm_cmpge_ps(a.lanes, b.lanes)}; }
-    friend PackMask operator==(Pack a, Pack b) { return {_mm_cmpeq_ps(a.lanes, b.lanes)}; }
+    friend MaskOf<width> operator>(PackOf a, PackOf b) { return {isGreater(a.lanes, b.lanes)}; }
+    friend MaskOf<width> operator>=(PackOf a, PackOf b) { return {isAtLeast(a.lanes, b.lanes)}; }
+    friend MaskOf<width> operator==(PackOf a, PackOf b) { return {isEqual(a.lanes, b.lanes)}; }
 };
+using Pack = PackOf<packWidth>;
 
-inline Pack squareRoot(Pack s) { return _mm_sqrt_ps(s.lanes); }
-inline Pack magnitude(Pack a) { return _mm_andnot_ps(_mm_set1_ps(-0.0F), a.lanes); }
+template <std::size_t width> inline PackOf<width> squareRoot(PackOf<width> s) { return rootOf(s.lanes); }
+template <std::size_t width> inline PackOf<width> magnitude(PackOf<width> a) {
+    return bitAndNot(a.lanes, broadcast<Register<width>>(-0.0F));
+}
 
 // The larger one; b if they are equal or one is a NaN.
-inline Pack larger(Pack a, Pack b) { return _mm_max_ps(a.lanes, b.lanes); }
+template <std::size_t width> inline PackOf<width> larger(PackOf<width> a, PackOf<width> b) {
+    return largerOf(a.lanes, b.lanes);
+}
 
 // Where the first is set and the second is not.
-inline PackMask without(PackMask a, PackMask b) { return {_mm_andnot_ps(b.lanes, a.lanes)}; }
+template <std::size_t width> inline MaskOf<width> without(MaskOf<width> a, MaskOf<width> b) {
+    return {bitAndNot(a.lanes, b.lanes)};
+}
 
 // Exchanges a and b where the mask is set.
-inline void exchangeWhere(PackMask mask, Pack &a, Pack &b) {
-    const __m128 difference = _mm_and_ps(_mm_xor_ps(a.lanes, b.lanes), mask.lanes);
-    a.lanes = _mm_xor_ps(a.lanes, difference);
-    b.lanes = _mm_xor_ps(b.lanes, difference);
+template <std::size_t width> inline void exchangeWhere(MaskOf<width> mask, PackOf<width> &a, PackOf<width> &b) {
+    const auto difference = bitAnd(bitXor(a.lanes, b.lanes), mask.lanes);
+    a.lanes = bitXor(a.lanes, difference);
+    b.lanes = bitXor(b.lanes, difference);
 }
-
-// An index in every lane, as bits.
-inline Pack packOfIndex(std::uint32_t index) { return _mm_castsi128_ps(_mm_set1_epi32(std::int32_t(index))); }
 
 // a where the mask is set, else b.
-inline Pack select(PackMask mask, Pack a, Pack b) {
-    return _mm_or_ps(_mm_and_ps(mask.lanes, a.lanes), _mm_andnot_ps(mask.lanes, b.lanes));
+template <std::size_t width> inline PackOf<width> select(MaskOf<width> mask, PackOf<width> a, PackOf<width> b) {
+    return choose(mask.lanes, a.lanes, b.lanes);
 }
 
-// Several packs, each a chain of operations that does not wait for the others, for work whose limit is latency.
-template <class Value, std::size_t chains> struct Chains {
-    Value chain[chains];
+// Several packs, in as few registers as they fill; each register is a chain of operations that does not wait for the
+// others, for work whose limit is latency.
+template <template <std::size_t> class Of, std::size_t packs> struct Chains {
+    static constexpr std::size_t width = packs % packsToRegister == 0 ? widestRegister : packWidth;
+    static constexpr std::size_t registers = packs * packWidth / width;
+    using Value = Of<width>;
+    Value chain[registers];
 
     Chains() = default;
     VONKK3_INLINE Chains(Value value) {
         for (Value &each : chain) each = value;
     }
     VONKK3_INLINE Chains(Real32 value) : Chains(Value(value)) {}
+    VONKK3_INLINE Chains(Of<packWidth> broadcast) requires(width != packWidth)
+        : Chains(Value(inEveryQuarter<Register<width>>(broadcast.lanes))) {}
+
+    // Register by register: as a whole, compilers copy in pieces of 16 bytes, and a load of 32 waits for two of them.
+    VONKK3_INLINE Chains(const Chains &other) { *this = other; }
+    VONKK3_INLINE Chains &operator=(const Chains &other) {
+        VONKK3_UNROLL_WHOLE
+        for (std::size_t c = 0; c < registers; ++c) chain[c] = other.chain[c];
+        return *this;
+    }
 
     template <class Operation> VONKK3_INLINE static Chains each(const Operation &operation) {
         Chains result;
         VONKK3_UNROLL_WHOLE
-        for (std::size_t c = 0; c < chains; ++c) result.chain[c] = operation(c);
+        for (std::size_t c = 0; c < registers; ++c) result.chain[c] = operation(c);
         return result;
     }
-    Real32 last() const { return chain[chains - 1].last(); }
+    Real32 last() const { return chain[registers - 1].last(); }
 
     VONKK3_INLINE friend Chains operator+(const Chains &a, const Chains &b) {
         return each([&](std::size_t c) VONKK3_INLINED { return a.chain[c] + b.chain[c]; });
@@ -107,65 +131,70 @@ template <class Value, std::size_t chains> struct Chains {
     }
 };
 
-template <std::size_t chains> using Packs = Chains<Pack, chains>;
-template <std::size_t chains> using PackMasks = Chains<PackMask, chains>;
+template <std::size_t packs> using Packs = Chains<PackOf, packs>;
+template <std::size_t packs> using PackMasks = Chains<MaskOf, packs>;
 
 // How many objects a number stands for.
 template <class Number> inline constexpr std::size_t lanesOf = 1;
-template <> inline constexpr std::size_t lanesOf<Pack> = packWidth;
-template <std::size_t chains> inline constexpr std::size_t lanesOf<Packs<chains>> = chains *packWidth;
+template <std::size_t width> inline constexpr std::size_t lanesOf<PackOf<width>> = width;
+template <std::size_t packs> inline constexpr std::size_t lanesOf<Packs<packs>> = packs *packWidth;
 
-template <std::size_t chains> VONKK3_INLINE Packs<chains> squareRoot(const Packs<chains> &s) {
-    return Packs<chains>::each([&](std::size_t c) VONKK3_INLINED { return squareRoot(s.chain[c]); });
+// An index in every lane, as bits.
+template <class Number> inline Number packOfIndex(std::uint32_t index) { return std::bit_cast<Real32>(index); }
+
+template <std::size_t packs> VONKK3_INLINE Packs<packs> squareRoot(const Packs<packs> &s) {
+    return Packs<packs>::each([&](std::size_t c) VONKK3_INLINED { return squareRoot(s.chain[c]); });
 }
 
 // isLargest[t] tells for t above `from` where candidate(t) is the largest of those from `from` to `to` - 1, the first
 // of equals; the others hold where none is. A NaN is never larger, and nothing is larger than it.
-template <std::size_t chains, std::size_t length, class Candidate>
+template <std::size_t packs, std::size_t length, class Candidate>
 VONKK3_INLINE void findLargest(std::size_t from, std::size_t to, const Candidate &candidate,
-                               PackMasks<chains> (&isLargest)[length]) {
-    Packs<chains> largest = candidate(from);
+                               PackMasks<packs> (&isLargest)[length]) {
+    using Mask = typename PackMasks<packs>::Value;
+    constexpr std::size_t registers = Packs<packs>::registers;
+    Packs<packs> largest = candidate(from);
     forIndices(from + 1, to, fixed<length>, [&](std::size_t t) VONKK3_INLINED {
-        const Packs<chains> next = candidate(t);
+        const Packs<packs> next = candidate(t);
         VONKK3_UNROLL_WHOLE
-        for (std::size_t c = 0; c < chains; ++c) {
+        for (std::size_t c = 0; c < registers; ++c) {
             isLargest[t].chain[c] = next.chain[c] > largest.chain[c];
             largest.chain[c] = larger(next.chain[c], largest.chain[c]);
         }
     });
     VONKK3_UNROLL_WHOLE
-    for (std::size_t c = 0; c < chains; ++c) {
-        PackMask later = PackMask::none();
+    for (std::size_t c = 0; c < registers; ++c) {
+        Mask later = Mask::none();
         forIndices(from + 1, to, fixed<length>, [&](std::size_t ahead) VONKK3_INLINED {
-            PackMask &mask = isLargest[from + to - ahead].chain[c];
-            const PackMask wins = mask;
+            Mask &mask = isLargest[from + to - ahead].chain[c];
+            const Mask wins = mask;
             mask = without(wins, later);
             later = later | wins;
         });
     }
 }
 
-template <std::size_t chains>
-VONKK3_INLINE void exchangeWhere(const PackMasks<chains> &mask, Packs<chains> &a, Packs<chains> &b) {
+template <std::size_t packs>
+VONKK3_INLINE void exchangeWhere(const PackMasks<packs> &mask, Packs<packs> &a, Packs<packs> &b) {
     VONKK3_UNROLL_WHOLE
-    for (std::size_t c = 0; c < chains; ++c) exchangeWhere(mask.chain[c], a.chain[c], b.chain[c]);
+    for (std::size_t c = 0; c < Packs<packs>::registers; ++c) exchangeWhere(mask.chain[c], a.chain[c], b.chain[c]);
 }
 
 // Whether a comparison holds in any lane.
-template <std::size_t chains, class Comparison>
-VONKK3_INLINE bool inAnyLane(const Packs<chains> &a, const Comparison &comparison) {
-    PackMask any = comparison(a.chain[0]);
+template <std::size_t packs, class Comparison>
+VONKK3_INLINE bool inAnyLane(const Packs<packs> &a, const Comparison &comparison) {
+    auto any = comparison(a.chain[0]);
     VONKK3_UNROLL_WHOLE
-    for (std::size_t c = 1; c < chains; ++c) any = any | comparison(a.chain[c]);
+    for (std::size_t c = 1; c < Packs<packs>::registers; ++c) any = any | comparison(a.chain[c]);
     return any.any();
 }
 
 // Whether a comparison holds in all lanes.
-template <std::size_t chains, class Comparison>
-VONKK3_INLINE bool inAllLanes(const Packs<chains> &a, const Comparison &comparison) {
-    PackMask all = comparison(a.chain[0]);
+template <std::size_t packs, class Comparison>
+VONKK3_INLINE bool inAllLanes(const Packs<packs> &a, const Comparison &comparison) {
+    auto all = comparison(a.chain[0]);
     VONKK3_UNROLL_WHOLE
-    for (std::size_t c = 1; c < chains; ++c) all = all & comparison(a.chain[c]);
+    for (std::size_t c = 1; c < Packs<packs>::registers; ++c) all = all & comparison(a.chain[c]);
     return all.all();
 }
 

@@ -28,28 +28,29 @@ using PositionsOf = std::conditional_t<Rows::isFixed && Columns::isFixed && Rows
                                        HoistedPositions<Rows::value, Columns::value>, TablePositions>;
 
 // The elements of the objects from n on, as packs; a single object is broadcast.
-template <std::size_t chains, bool arePacked, class Table> struct PacksOfPositions {
-    using Number = Packs<chains>;
+template <std::size_t packs, bool arePacked, class Table> struct PacksOfPositions {
+    using Number = Packs<packs>;
+    static constexpr std::size_t width = Number::width;
     const Table &table;
     std::size_t n;
 
     VONKK3_INLINE Number load(std::size_t i, std::size_t j) const {
         if (!table.isArray) return loadAt<Real32>(address(table.position(i, j)));
         const std::byte *const first = at(i, j);
-        return Number::each([&](std::size_t c) VONKK3_INLINED -> Pack {
-            if constexpr (arePacked) return load4(first + c * laneBytes);
-            const std::byte *const pack = first + strides(c * packWidth, table.step);
-            const PackSources from = {pack, pack + table.step, pack + 2 * table.step, pack + 3 * table.step};
+        return Number::each([&](std::size_t c) VONKK3_INLINED -> PackOf<width> {
+            if constexpr (arePacked) return loadLanes<Register<width>>(first + c * width * sizeof(Real32));
+            SourcesOf<width> from;
+            for (std::size_t k = 0; k < width; ++k) from[k] = first + strides(c * width + k, table.step);
             return gatherElement(from, 0);
         });
     }
     VONKK3_INLINE void store(std::size_t i, std::size_t j, const Number &value) const {
         std::byte *const first = at(i, j);
-        for (std::size_t c = 0; c < chains; ++c)
-            if constexpr (arePacked) store4(first + c * laneBytes, value.chain[c].lanes);
-            else {
-                std::byte *const pack = first + strides(c * packWidth, table.step);
-                const PackTargets to = {pack, pack + table.step, pack + 2 * table.step, pack + 3 * table.step};
+        if constexpr (arePacked) storePacks(first, value);
+        else
+            for (std::size_t c = 0; c < Number::registers; ++c) {
+                TargetsOf<width> to;
+                for (std::size_t k = 0; k < width; ++k) to[k] = first + strides(c * width + k, table.step);
                 scatterElement(to, 0, value.chain[c]);
             }
     }
@@ -69,7 +70,8 @@ VONKK3_INLINE std::size_t workPacks(std::size_t count, const Work &work, const T
         for (; count - n >= number * packWidth; n += number * packWidth)
             work(n, PacksOfPositions<number, arePacked, Tables>{tables, n}...);
     };
-    if constexpr (chains > 1) inChains.template operator()<chains>();
+    if constexpr (chains > 1) inChains.template operator()<chains * packsToRegister>();
+    if constexpr (packsToRegister > 1) inChains.template operator()<packsToRegister>();
     inChains.template operator()<1>();
     return n;
 }
@@ -106,9 +108,7 @@ VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results,
         return 0;
     constexpr std::size_t chains = 4; // sums wait for their last term
     const auto work = [&](std::size_t n, const auto &...sources) VONKK3_INLINED {
-        const auto values = kernel(rows, columns, sources...);
-        for (std::size_t c = 0; c < sizeof(values) / sizeof(Pack); ++c)
-            store4(results + (n + c * packWidth) * sizeof(Real32), values.chain[c].lanes);
+        storePacks(results + n * sizeof(Real32), kernel(rows, columns, sources...));
     };
     return workPacksOf<PositionsOf<Rows, Columns>, chains>(count, work, src...);
 }

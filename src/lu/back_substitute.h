@@ -121,8 +121,10 @@ template <std::size_t order, bool isArray> struct SolveBatch : SystemBatch<order
         if constexpr (isArray) {
             if (!areRowIndices(pivotsOf(n), chains * packWidth * order, order)) return false;
             Packs<chains> factors[order][order];
-            for (std::size_t c = 0; c < chains; ++c)
-                gatherSystem<access>(n + c * packWidth, &factors[0][0].chain[c], &b[0][0].chain[c], opaque(chains));
+            constexpr std::size_t registers = Packs<chains>::registers;
+            for (std::size_t c = 0; c < registers; ++c)
+                gatherSystem<access>(n + c * Packs<chains>::width, &factors[0][0].chain[c], &b[0][0].chain[c],
+                                     opaque(registers));
             if constexpr (chains > 1) solveGathered(factors, b, x);
             else solveByCall(factors, b, x);
         } else {
@@ -148,9 +150,9 @@ private:
                 single[i][j] = src1.view.template load<Real32>(loadPivot(pivotsOf(0), i), j);
     }
 
-    // Of the objects of one pack.
-    template <Access access>
-    VONKK3_NOINLINE void gatherSystem(std::size_t n, Pack *factors, Pack *b, std::size_t step) const {
+    // Of the objects of one register.
+    template <Access access, std::size_t width>
+    VONKK3_NOINLINE void gatherSystem(std::size_t n, PackOf<width> *factors, PackOf<width> *b, std::size_t step) const {
         const std::byte *const rows = pivotsOf(n);
         const auto rowOf = [&](std::size_t k, std::size_t i) VONKK3_INLINED { return loadPivot(rows, k * order + i); };
         gatherElementsInOrder<access>(src2, n, rowOf, b, step);

@@ -39,6 +39,7 @@ public:
     }
 
 private:
+    using Mask = typename PackMasks<chains>::Value;
     Block &matrices;
     PackMasks<chains> moved[3][6]; // whether the column chosen for a place was at t or after it
 
@@ -47,26 +48,26 @@ private:
     template <class Candidate> VONKK3_INLINE bool chooseAt(std::size_t place, const Candidate &candidate) {
         bool ordered = true;
         VONKK3_UNROLL_WHOLE
-        for (std::size_t c = 0; c < chains; ++c) {
-            Pack magnitudes[6];
+        for (std::size_t c = 0; c < Packs<chains>::registers; ++c) {
+            typename Packs<chains>::Value magnitudes[6];
             forIndices(0, 6, fixed<6>, [&](std::size_t t) VONKK3_INLINED {
                 magnitudes[t] = vonkk3::magnitude(Packs<chains>(candidate(t)).chain[c]);
             });
-            Pack largest = magnitudes[0];
-            PackMask comparable = magnitudes[0] == magnitudes[0];
+            auto largest = magnitudes[0];
+            auto comparable = magnitudes[0] == magnitudes[0];
             forIndices(1, 6, fixed<6>, [&](std::size_t t) VONKK3_INLINED {
                 largest = larger(largest, magnitudes[t]);
                 comparable = comparable & (magnitudes[t] == magnitudes[t]);
             });
             ordered = ordered && comparable.all();
-            PackMask after = PackMask::none(); // the first of equals is at t or after it
-            PackMask before = magnitudes[place] == largest;
+            Mask after = Mask::none(); // the first of equals is at t or after it
+            Mask before = magnitudes[place] == largest;
             forIndices(place + 1, 6, fixed<6>, [&](std::size_t t) VONKK3_INLINED {
                 moved[place][t].chain[c] = without(magnitudes[t] == largest, before);
                 before = before | moved[place][t].chain[c];
             });
             forIndices(place + 1, 6, fixed<6>, [&](std::size_t ahead) VONKK3_INLINED {
-                PackMask &mask = moved[place][place + 6 - ahead].chain[c];
+                Mask &mask = moved[place][place + 6 - ahead].chain[c];
                 mask = after = after | mask;
             });
         }

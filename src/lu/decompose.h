@@ -41,7 +41,7 @@ template <class Order> inline constexpr bool updatesWithRoundedMultiplier = !isS
 // A NaN does not pass.
 template <class W> inline bool passesAsPivot(W value) { return magnitude(value) >= W(pivotTolerance); }
 template <std::size_t chains> VONKK3_INLINE bool passesAsPivot(const Packs<chains> &value) {
-    return inAllLanes(magnitude(value), [](Pack a) VONKK3_INLINED { return a >= Pack(pivotTolerance); });
+    return inAllLanes(magnitude(value), [](auto a) VONKK3_INLINED { return a >= decltype(a)(pivotTolerance); });
 }
 
 // The position from k on of the row whose element in column k is largest in magnitude; the first of equals. Candidates

@@ -3,8 +3,6 @@
 
 #include "frame/pack.h"
 
-#include <xmmintrin.h>
-
 namespace vonkk3::lu {
 
 // Inside this interval around zero a divisor is below the singularity tolerance; its ends and a NaN are not. The bounds
@@ -23,22 +21,23 @@ inline bool isInSingularInterval(Wide divisor) {
 template <std::size_t chains> VONKK3_INLINE bool isInSingularInterval(const Packs<chains> &divisor) {
     static constexpr auto bound = Real32(singularBelow<Real32>);
     static_assert(bound >= singularBelow<Real32> && Real64(bound) * (1 - 0x1p-23) < singularBelow<Real32>);
-    return inAnyLane(divisor, [](Pack d) VONKK3_INLINED { return Pack(bound) > magnitude(d); });
+    return inAnyLane(divisor, [](auto d) VONKK3_INLINED { return decltype(d)(bound) > magnitude(d); });
 }
 
 // One Newton step from the processor's estimate x of about 12 bits: x + x - d x^2, which is multiplied in one order for
 // 3x3 and in the other for larger matrices.
-inline __m128 reciprocalByEstimateOfThree(__m128 d) {
-    const __m128 x = _mm_rcp_ps(d);
-    return _mm_sub_ps(_mm_add_ps(x, x), _mm_mul_ps(_mm_mul_ps(d, x), x));
+template <class Lanes> inline Lanes reciprocalByEstimateOfThree(Lanes d) {
+    const Lanes x = reciprocalEstimate(d);
+    return (x + x) - (d * x) * x;
 }
-inline __m128 reciprocalByEstimate(__m128 d) {
-    const __m128 x = _mm_rcp_ps(d);
-    return _mm_sub_ps(_mm_add_ps(x, x), _mm_mul_ps(d, _mm_mul_ps(x, x)));
+template <class Lanes> inline Lanes reciprocalByEstimate(Lanes d) {
+    const Lanes x = reciprocalEstimate(d);
+    return (x + x) - d * (x * x);
 }
-template <std::size_t chains> VONKK3_INLINE Packs<chains> reciprocalByEstimate(const Packs<chains> &d) {
-    return Packs<chains>::each([&](std::size_t c)
-                                   VONKK3_INLINED { return Pack(reciprocalByEstimate(d.chain[c].lanes)); });
+template <std::size_t packs> VONKK3_INLINE Packs<packs> reciprocalByEstimate(const Packs<packs> &d) {
+    using Value = typename Packs<packs>::Value;
+    return Packs<packs>::each([&](std::size_t c)
+                                  VONKK3_INLINED { return Value(reciprocalByEstimate(d.chain[c].lanes)); });
 }
 inline Real32 reciprocalByEstimate(Real32 d) { return _mm_cvtss_f32(reciprocalByEstimate(_mm_set1_ps(d))); }
 

@@ -122,7 +122,7 @@ public:
 
     VONKK3_INLINE void begin() {
         forIndices(0, order, fixed<order>,
-                   [&](std::size_t i) VONKK3_INLINED { rows[0][i] = packOfIndex(std::uint32_t(i)); });
+                   [&](std::size_t i) VONKK3_INLINED { rows[0][i] = packOfIndex<Packs<chains>>(std::uint32_t(i)); });
     }
     const Packs<chains> &load(std::size_t position, std::size_t column) const { return elements[position][column]; }
     void store(std::size_t position, std::size_t column, const Packs<chains> &value) {

@@ -1,0 +1,101 @@
+// Registers of 4 or more Real32, as wide as the target has them, with the same names for every width. Operators are the
+// compilers' own. Shuffles work within each quarter of 16 bytes.
+#pragma once
+
+#include "frame/lanes.h"
+#include "frame/unroll.h"
+
+#include <type_traits>
+
+#ifdef __AVX2__
+#include <immintrin.h>
+#endif
+
+namespace vonkk3 {
+
+template <std::size_t lanes> struct RegisterOf;
+template <> struct RegisterOf<4> { using Type = __m128; };
+
+// The widest that work is done in.
+#ifdef __AVX2__
+template <> struct RegisterOf<8> { using Type = __m256; };
+inline constexpr std::size_t widestRegister = 8;
+#else
+inline constexpr std::size_t widestRegister = 4;
+#endif
+template <std::size_t lanes> using Register = typename RegisterOf<lanes>::Type;
+using WideRegister = Register<widestRegister>;
+
+template <class Lanes> inline constexpr std::size_t lanesIn = sizeof(Lanes) / sizeof(Real32);
+
+inline __m128 bitAnd(__m128 a, __m128 b) { return _mm_and_ps(a, b); }
+inline __m128 bitOr(__m128 a, __m128 b) { return _mm_or_ps(a, b); }
+inline __m128 bitXor(__m128 a, __m128 b) { return _mm_xor_ps(a, b); }
+inline __m128 bitAndNot(__m128 a, __m128 b) { return _mm_andnot_ps(b, a); } // a where b is not set
+inline __m128 isGreater(__m128 a, __m128 b) { return _mm_cmpgt_ps(a, b); }
+inline __m128 isAtLeast(__m128 a, __m128 b) { return _mm_cmpge_ps(a, b); }
+inline __m128 isEqual(__m128 a, __m128 b) { return _mm_cmpeq_ps(a, b); }
+inline __m128 rootOf(__m128 a) { return _mm_sqrt_ps(a); }
+inline __m128 largerOf(__m128 a, __m128 b) { return _mm_max_ps(a, b); } // b if they are equal or one is a NaN
+inline __m128 choose(__m128 mask, __m128 a, __m128 b) { return bitOr(bitAnd(mask, a), bitAndNot(b, mask)); }
+inline unsigned signBits(__m128 a) { return unsigned(_mm_movemask_ps(a)); }
+inline __m128 reciprocalEstimate(__m128 a) { return _mm_rcp_ps(a); }
+inline __m128 rootEstimate(__m128 a) { return _mm_rsqrt_ps(a); } // of 1 / root
+
+inline __m128 unpackLow(__m128 a, __m128 b) { return _mm_unpacklo_ps(a, b); }
+inline __m128 unpackHigh(__m128 a, __m128 b) { return _mm_unpackhi_ps(a, b); }
+inline __m128 lowPairs(__m128 a, __m128 b) { return _mm_movelh_ps(a, b); }
+inline __m128 highPairs(__m128 a, __m128 b) { return _mm_movehl_ps(b, a); }
+inline __m128 evenOf(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
+inline __m128 oddOf(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
+
+// Quarter q, and a register made of as many as it has.
+template <std::size_t q> inline __m128 quarter(__m128 a) { return a; }
+template <class Lanes> inline Lanes broadcast(Real32 value);
+template <> inline __m128 broadcast<__m128>(Real32 value) { return _mm_set1_ps(value); }
+template <class Lanes> inline Lanes inEveryQuarter(__m128 quarter);
+template <> inline __m128 inEveryQuarter<__m128>(__m128 quarter) { return quarter; }
+template <class Lanes, class Quarter> VONKK3_INLINE Lanes ofQuarters(const Quarter &quarter) {
+    if constexpr (lanesIn<Lanes> == 4) return quarter(std::integral_constant<std::size_t, 0>());
+#ifdef __AVX2__
+    else
+        return _mm256_insertf128_ps(_mm256_castps128_ps256(quarter(std::integral_constant<std::size_t, 0>())),
+                                    quarter(std::integral_constant<std::size_t, 1>()), 1);
+#endif
+}
+template <class Lanes> inline Lanes loadLanes(const std::byte *address);
+template <> inline __m128 loadLanes<__m128>(const std::byte *address) { return load4(address); }
+inline void storeLanes(std::byte *address, __m128 lanes) { store4(address, lanes); }
+
+#ifdef __AVX2__
+inline __m256 bitAnd(__m256 a, __m256 b) { return _mm256_and_ps(a, b); }
+inline __m256 bitOr(__m256 a, __m256 b) { return _mm256_or_ps(a, b); }
+inline __m256 bitXor(__m256 a, __m256 b) { return _mm256_xor_ps(a, b); }
+inline __m256 bitAndNot(__m256 a, __m256 b) { return _mm256_andnot_ps(b, a); }
+inline __m256 isGreater(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_GT_OS); }
+inline __m256 isAtLeast(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_GE_OS); }
+inline __m256 isEqual(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_EQ_OQ); }
+inline __m256 rootOf(__m256 a) { return _mm256_sqrt_ps(a); }
+inline __m256 largerOf(__m256 a, __m256 b) { return _mm256_max_ps(a, b); }
+inline __m256 choose(__m256 mask, __m256 a, __m256 b) { return _mm256_blendv_ps(b, a, mask); }
+inline unsigned signBits(__m256 a) { return unsigned(_mm256_movemask_ps(a)); }
+inline __m256 reciprocalEstimate(__m256 a) { return _mm256_rcp_ps(a); }
+inline __m256 rootEstimate(__m256 a) { return _mm256_rsqrt_ps(a); }
+
+inline __m256 unpackLow(__m256 a, __m256 b) { return _mm256_unpacklo_ps(a, b); }
+inline __m256 unpackHigh(__m256 a, __m256 b) { return _mm256_unpackhi_ps(a, b); }
+inline __m256 lowPairs(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_SHUFFLE(1, 0, 1, 0)); }
+inline __m256 highPairs(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_SHUFFLE(3, 2, 3, 2)); }
+inline __m256 evenOf(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
+inline __m256 oddOf(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
+
+template <std::size_t q> inline __m128 quarter(__m256 a) { return _mm256_extractf128_ps(a, q); }
+template <> inline __m256 broadcast<__m256>(Real32 value) { return _mm256_set1_ps(value); }
+template <> inline __m256 inEveryQuarter<__m256>(__m128 quarter) {
+    return _mm256_insertf128_ps(_mm256_castps128_ps256(quarter), quarter, 1);
+}
+template <> inline __m256 loadLanes<__m256>(const std::byte *address) { return _mm256_loadu_ps(floats(address)); }
+inline void storeLanes(std::byte *address, __m256 lanes) { _mm256_storeu_ps(floats(address), lanes); }
+#endif
+
+} // namespace vonkk3
