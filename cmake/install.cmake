@@ -1,10 +1,16 @@
-# cmake --install: library with its links, header, CMake package, pkg-config file and the catalogue as data.
+# cmake --install: library at all levels, with its links, header, CMake package, pkg-config file and the catalogue as data.
 include(CMakePackageConfigHelpers)
 
 install(FILES include/vonkk3.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(TARGETS vonkk3 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(FILES ${PROJECT_BINARY_DIR}/libvonkk3.so.4 ${PROJECT_BINARY_DIR}/libvonkk3.so
         DESTINATION ${CMAKE_INSTALL_LIBDIR})
+# The loader looks for libvonkk3.so.4 below glibc-hwcaps first; the name that one links by is the baseline's alone.
+foreach(level ${VONKK3_WIDE_LEVELS})
+  install(TARGETS vonkk3-${level} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/${level})
+  install(FILES ${PROJECT_BINARY_DIR}/levels/${level}/libvonkk3.so.4
+          DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/${level})
+endforeach()
 install(FILES ${PROJECT_BINARY_DIR}/src/generated/functions.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vonkk3)
 
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/vonkk3)

@@ -7,17 +7,21 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(warnings INTERFACE -Wno-restrict) # GCC 12 suspects the library's own std::string concatenation
 endif()
 
-# What the bits of the results hang on:
+# What the bits of the results hang on, at every instruction set:
 #   no contraction       a product and a sum round twice; a fused operation would round once
 #   rounding-mode aware  the rounding mode is the caller's, so nothing may be folded as if it were "to nearest"
-#   baseline x86-64      Real32 works in the four-lane instructions that every such processor has
+#   SIMD arithmetic      Real32 and Real64 never go through the 80-bit unit unless the source says so
 # -ffast-math and its parts are never given, and -fno-math-errno changes no result.
-add_library(arithmetic INTERFACE)
-target_compile_options(arithmetic INTERFACE -march=x86-64 -mfpmath=sse -ffp-contract=off -frounding-math
-                       -fno-math-errno)
+add_library(rounding INTERFACE)
+target_compile_options(rounding INTERFACE -mfpmath=sse -ffp-contract=off -frounding-math -fno-math-errno)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-  target_compile_options(arithmetic INTERFACE -Wno-unused-command-line-argument)
+  target_compile_options(rounding INTERFACE -Wno-unused-command-line-argument)
 endif()
+
+# The same for what every x86-64 processor runs.
+add_library(arithmetic INTERFACE)
+target_link_libraries(arithmetic INTERFACE rounding)
+target_compile_options(arithmetic INTERFACE -march=x86-64)
 
 # Functions and loops begin at cache lines: placement alone moves short loops by up to 1.8 times. Benchmarks give their
 # peers the same.
@@ -31,6 +35,36 @@ if(VONKK3_SANITIZE)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     add_compile_options(-fno-sanitize=function)
   endif()
+endif()
+
+# The instruction sets that the library is built for: x86-64 is vonkk3.so itself, the others are installed below
+# glibc-hwcaps, where the C library's loader takes the best one that the processor has.
+set(VONKK3_ALL_LEVELS x86-64 x86-64-v3 x86-64-v4)
+if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT VONKK3_SANITIZE AND CMAKE_SYSTEM_NAME STREQUAL "Linux"
+   AND CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+  set(default_levels ${VONKK3_ALL_LEVELS})
+else()
+  set(default_levels x86-64)
+endif()
+set(VONKK3_LEVELS "${default_levels}" CACHE STRING "Instruction sets to build the library for: x86-64 and any of ${VONKK3_ALL_LEVELS}")
+set(VONKK3_SINGLE_LEVEL "" CACHE STRING "One instruction set for one machine, as -march names it; vonkk3.so is built for it alone")
+if(VONKK3_SINGLE_LEVEL)
+  set(VONKK3_BASE_LEVEL ${VONKK3_SINGLE_LEVEL})
+  set(VONKK3_WIDE_LEVELS "")
+else()
+  foreach(level ${VONKK3_LEVELS})
+    if(NOT level IN_LIST VONKK3_ALL_LEVELS)
+      message(FATAL_ERROR "VONKK3_LEVELS: there is no level ${level}; there are ${VONKK3_ALL_LEVELS}. "
+                          "For another instruction set give VONKK3_SINGLE_LEVEL.")
+    endif()
+  endforeach()
+  if(NOT x86-64 IN_LIST VONKK3_LEVELS)
+    message(FATAL_ERROR "VONKK3_LEVELS: x86-64 is missing, which vonkk3.so itself is built for. "
+                        "For another one alone give VONKK3_SINGLE_LEVEL.")
+  endif()
+  set(VONKK3_BASE_LEVEL x86-64)
+  set(VONKK3_WIDE_LEVELS ${VONKK3_LEVELS})
+  list(REMOVE_ITEM VONKK3_WIDE_LEVELS x86-64)
 endif()
 
 set(CMAKE_CXX_FLAGS_RELEASE "-O3")

@@ -3,7 +3,7 @@
 #
 #     --filter REGEX    only the rows whose names match
 #     --rounds N        turns of every contestant in a row (200)
-#     --native          peers compiled for this machine, beside the library as it is
+#     --native          peers compiled for this machine, beside the library built for the best level that it runs
 #     --save FILE       stores the run as JSON
 #     --against FILE    compares with a stored run, ratio by ratio; exit code 1 if a row got slower by more than a tenth
 #
@@ -49,6 +49,7 @@ esac
 
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
+. scripts/levels.sh
 need g++ gcc cmake make python3 libgtest-dev libcli11-dev libbenchmark-dev libeigen3-dev libglm-dev libcglm-dev \
     libxsmm-dev liblapacke-dev libopenblas-dev
 
@@ -61,8 +62,15 @@ fi
 echo "building" >&2
 mkdir -p build
 { cmake --preset bench -DVONKK3_BENCH_NATIVE=$native &&
-    cmake --build --preset bench --target benchmarks --parallel "$(nproc)"; } >build/bench.log 2>&1 ||
-    { tail -n 40 build/bench.log >&2; fail "cannot build the benchmarks"; }
+    cmake --build --preset bench --target benchmarks $([ $native = OFF ] || echo levels) --parallel "$(nproc)"
+} >build/bench.log 2>&1 || { tail -n 40 build/bench.log >&2; fail "cannot build the benchmarks"; }
+
+# The loader takes the library from there.
+if [ $native = ON ]; then
+    level=$(best_level build/bench/levels)
+    [ -z "$level" ] || export LD_LIBRARY_PATH="$PWD/build/bench/levels/$level"
+    echo "library built for ${level:-x86-64}" >&2
+fi
 
 run=$(mktemp)
 trap 'rm -f "$run"' EXIT

@@ -137,6 +137,13 @@ TEST(Control, IsLeftAsFoundOnEveryOccasion) {
                 }
 }
 
+TEST(Control, ShowsUpperHalvesInUse) {
+    if (!support::seesUpperHalves()) GTEST_SKIP() << "this processor does not tell whether upper halves are in use";
+    const auto widen = [] { __asm__ volatile("vcmpps $15, %%ymm0, %%ymm0, %%ymm0" : : : "xmm0"); };
+    EXPECT_NE(changesOf({}, 0, widen), "");
+    EXPECT_EQ(changesOf({}, 0, [&] { widen(), [] { __asm__ volatile("vzeroupper" : : : "memory"); }(); }), "");
+}
+
 TEST(Control, IsLeftAsFoundByTheVersion) {
     EXPECT_EQ(
         changesOf({Precision::bits53, Rounding::down}, flushToZero, [] { ASSERT_NE(vonkGetLibVersion(), nullptr); }),

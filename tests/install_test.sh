@@ -1,6 +1,7 @@
 #!/bin/sh
 # Installs into a scratch prefix and uses the library from there as a stranger would: a C and a C++ program, each by
-# find_package and by pkg-config, and a program that opens the library by its names at run time.
+# find_package and by pkg-config, and a program that opens the library by its names at run time. Of the builds for
+# several instruction sets the loader must take the best that the processor has.
 #
 #     install_test.sh BUILD_FOLDER TESTS_FOLDER C_COMPILER CXX_COMPILER
 set -eu
@@ -36,7 +37,28 @@ readelf -dW "$scratch/c_program" | grep -q 'NEEDED.*\[libvonkk3\.so\.4\]'
 
 echo "by dlopen"
 "$cc" -std=c99 -D_POSIX_C_SOURCE=200809L "$tests/install/opens.c" -ldl -o "$scratch/opens"
-"$scratch/opens" vonkk3.so libvonkk3.so libvonkk3.so.4
+"$scratch/opens" vonkk3.so libvonkk3.so libvonkk3.so.4 >/dev/null
+
+echo "by instruction set"
+. "$tests/../scripts/levels.sh"
+best=$(best_level "$libraries/glibc-hwcaps")
+expected=$(readlink -f "$libraries${best:+/glibc-hwcaps/$best}/vonkk3.so")
+resolved() { sed -n 's/.*libvonkk3\.so\.4 => \(.*\) (0x.*/\1/p' | xargs readlink -f; } # of what the loader lists
+loads() { # WHAT FILE EXPECTED
+    if [ "$2" = "$3" ]; then echo "  $1: ${2#"$prefix"/}"
+    else echo "FAILED: $1 loads $2, not $3"; exit 1; fi
+}
+loads "along LD_LIBRARY_PATH" "$(LD_TRACE_LOADED_OBJECTS=1 "$scratch/c_program" | resolved)" "$expected"
+"$cc" -std=c99 "$tests/install/program.c" $flags -Wl,--enable-new-dtags,-rpath,"$libraries" -o "$scratch/with_runpath"
+loads "along RUNPATH" "$(LD_LIBRARY_PATH= LD_TRACE_LOADED_OBJECTS=1 "$scratch/with_runpath" | resolved)" "$expected"
+test "$(LD_LIBRARY_PATH= "$scratch/with_runpath")" = v4.1
+loads "by dlopen" "$(readlink -f "$("$scratch/opens" libvonkk3.so.4)")" "$expected"
+if command -v qemu-x86_64 >/dev/null; then
+    base=$(readlink -f "$libraries/vonkk3.so")
+    loads "on a processor without AVX2" \
+        "$(qemu-x86_64 -cpu Nehalem -E LD_TRACE_LOADED_OBJECTS=1 "$scratch/c_program" | resolved)" "$base"
+    test "$(qemu-x86_64 -cpu Nehalem "$scratch/c_program")" = v4.1
+else echo "  left out: there is no qemu-x86_64 to stand for a processor without AVX2"; fi
 
 echo "as data"
 cmake -DJSON="$prefix/share/vonkk3/functions.json" -DEXPORTS="$build/src/generated/exports.txt" \

@@ -49,6 +49,11 @@ inline __m128 highPairs(__m128 a, __m128 b) { return _mm_movehl_ps(b, a); }
 inline __m128 evenOf(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
 inline __m128 oddOf(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
 
+template <class Value> inline constexpr bool isRegister = !std::is_arithmetic_v<Value> && sizeof(Value) >= laneBytes;
+
+// The first lanes of a register.
+template <class Lanes> inline Lanes narrowed(Lanes lanes) { return lanes; }
+
 // Quarter q, and a register made of as many as it has.
 template <std::size_t q> inline __m128 quarter(__m128 a) { return a; }
 template <class Lanes> inline Lanes broadcast(Real32 value);
@@ -89,6 +94,8 @@ inline __m256 highPairs(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM
 inline __m256 evenOf(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
 inline __m256 oddOf(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
 
+template <class Lanes>
+requires(lanesIn<Lanes> == 4) inline Lanes narrowed(__m256 lanes) { return _mm256_castps256_ps128(lanes); }
 template <std::size_t q> inline __m128 quarter(__m256 a) { return _mm256_extractf128_ps(a, q); }
 template <> inline __m256 broadcast<__m256>(Real32 value) { return _mm256_set1_ps(value); }
 template <> inline __m256 inEveryQuarter<__m256>(__m128 quarter) {

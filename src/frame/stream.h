@@ -1,11 +1,11 @@
 // The fast path of all that goes element by element, d(n, i, j) = operation(sources(n, i, j)...), for arrays of Real32.
 // Where no overlap shows the order of objects and elements, dimensions that are contiguous in all operands collapse
-// into long ranges, worked four elements at a time, and other loops are interchanged, so that the innermost is the long
+// into long ranges, worked a register at a time, and other loops are interchanged, so that the innermost is the long
 // one, over objects. Exactly the bytes of the elements are read and written.
 #pragma once
 
 #include "frame/aliasing.h"
-#include "frame/lanes.h"
+#include "frame/registers.h"
 #include "frame/straight.h"
 
 #include <concepts>
@@ -16,7 +16,7 @@ namespace vonkk3 {
 template <class Operation, class... Sources>
 concept ElementOperation = requires(const Operation &operation, const Sources &...sources) {
     { operation(sources.one(0)...) } -> std::convertible_to<Real32>;
-    { _mm_cvtss_f32(operation(sources.four(0)...)) } -> std::same_as<Real32>;
+    requires isRegister<decltype(operation(sources.template lanes<WideRegister>(0)...))>;
 };
 
 // A constant of a call: as it is worked with, and for Real32 in all lanes.
@@ -26,21 +26,24 @@ template <class T> struct Constant {
     operator Working<T>() const { return value; }
 };
 template <> struct Constant<Real32> {
-    __m128 lanes;
-    explicit Constant(Real32 value) : lanes(_mm_set1_ps(value)) {}
-    operator Real32() const { return _mm_cvtss_f32(lanes); }
+    WideRegister wide;
+    explicit Constant(Real32 value) : wide(broadcast<WideRegister>(value)) {}
+    operator Real32() const { return _mm_cvtss_f32(quarter<0>(wide)); }
+    template <class Lanes> Lanes lanes() const { return narrowed<Lanes>(wide); }
 };
 
 // An operation with a constant as its second operand.
 template <class T, class Operation> struct WithConstant {
     Constant<T> constant;
     Working<T> operator()(Working<T> a) const { return Operation()(a, Working<T>(constant)); }
-    __m128 operator()(__m128 a) const { return Operation()(a, constant.lanes); }
+    template <class Lanes>
+    requires isRegister<Lanes> Lanes operator()(Lanes a) const {
+        return Operation()(a, constant.template lanes<Lanes>());
+    }
 };
 
 struct Product {
     template <class Real> Real operator()(Real a, Real b) const { return a * b; }
-    __m128 operator()(__m128 a, __m128 b) const { return _mm_mul_ps(a, b); }
 };
 
 // Every bit stays.
@@ -55,14 +58,14 @@ struct Moved {
 struct ContiguousSource {
     const std::byte *base;
     VONKK3_INLINE Real32 one(std::size_t at) const { return loadAt<Real32>(base + at); }
-    VONKK3_INLINE __m128 four(std::size_t at) const { return load4(base + at); }
+    template <class Lanes> VONKK3_INLINE Lanes lanes(std::size_t at) const { return loadLanes<Lanes>(base + at); }
 };
 
 struct BroadcastSource {
-    __m128 value;
-    VONKK3_INLINE explicit BroadcastSource(const std::byte *address) : value(_mm_set1_ps(loadAt<Real32>(address))) {}
-    VONKK3_INLINE Real32 one(std::size_t) const { return _mm_cvtss_f32(value); }
-    VONKK3_INLINE __m128 four(std::size_t) const { return value; }
+    Constant<Real32> value;
+    VONKK3_INLINE explicit BroadcastSource(const std::byte *address) : value(loadAt<Real32>(address)) {}
+    VONKK3_INLINE Real32 one(std::size_t) const { return value; }
+    template <class Lanes> VONKK3_INLINE Lanes lanes(std::size_t) const { return value.template lanes<Lanes>(); }
 };
 
 // Whether results that are written in ascending order overwrite what is yet to be read: they begin after the source's
@@ -80,14 +83,17 @@ template <class Operation, class... Sources>
 requires ElementOperation<Operation, Sources...> VONKK3_INLINE void
 streamInLanes(const Operation &operation, std::byte *d, std::size_t elements, const Sources &...sources) {
     const std::size_t bytes = elements * sizeof(Real32);
-    const auto four = [&](std::size_t at) VONKK3_INLINED {
-        store4(d + at, operation(sources.four(at)...));
+    const auto lanes = [&]<class Lanes>(std::size_t at) VONKK3_INLINED {
+        storeLanes(d + at, operation(sources.template lanes<Lanes>(at)...));
         keepLoopPlain();
     };
+    const auto wide = [&](std::size_t at) VONKK3_INLINED { lanes.template operator()<WideRegister>(at); };
+    constexpr std::size_t step = sizeof(WideRegister);
     std::size_t at = 0;
-    for (; bytes - at >= 4 * laneBytes; at += 4 * laneBytes)
-        four(at), four(at + laneBytes), four(at + 2 * laneBytes), four(at + 3 * laneBytes);
-    for (; bytes - at >= laneBytes; at += laneBytes) four(at);
+    for (; bytes - at >= 4 * step; at += 4 * step) wide(at), wide(at + step), wide(at + 2 * step), wide(at + 3 * step);
+    for (; bytes - at >= step; at += step) wide(at);
+    if constexpr (step > laneBytes)
+        if (bytes - at >= laneBytes) lanes.template operator()<__m128>(at), at += laneBytes;
     for (; at < bytes; at += sizeof(Real32)) {
         keepLoopPlain();
         storeAt<Real32>(d + at, operation(sources.one(at)...));

@@ -10,7 +10,6 @@ namespace vonkk3::vector {
 // Constant less element.
 struct ReversedDifference {
     template <class Real> Real operator()(Real a, Real b) const { return b - a; }
-    __m128 operator()(__m128 a, __m128 b) const { return _mm_sub_ps(b, a); }
 };
 
 using vonkk3::Product; // also by its name here
@@ -19,15 +18,19 @@ using vonkk3::Product; // also by its name here
 template <class T> struct ScaledSum {
     Constant<T> factor;
     Working<T> operator()(Working<T> a, Working<T> b) const { return a * factor + b; }
-    __m128 operator()(__m128 a, __m128 b) const { return _mm_add_ps(_mm_mul_ps(a, factor.lanes), b); }
+    template <class Lanes>
+    requires isRegister<Lanes> Lanes operator()(Lanes a, Lanes b) const {
+        return a * factor.template lanes<Lanes>() + b;
+    }
 };
 
 // Two products, then their sum. A factor of zero is no shortcut: it makes a NaN of an infinity.
 template <class T> struct LinearCombination {
     Constant<T> first, second;
     Working<T> operator()(Working<T> a, Working<T> b) const { return a * first + b * second; }
-    __m128 operator()(__m128 a, __m128 b) const {
-        return _mm_add_ps(_mm_mul_ps(a, first.lanes), _mm_mul_ps(b, second.lanes));
+    template <class Lanes>
+    requires isRegister<Lanes> Lanes operator()(Lanes a, Lanes b) const {
+        return a * first.template lanes<Lanes>() + b * second.template lanes<Lanes>();
     }
 };
 

@@ -1,4 +1,5 @@
-/* Opens the library at run time by each name given and calls a function of it. */
+/* Opens the library at run time by each name given, calls a function of it, and prints the file that it lies in. */
+#define _GNU_SOURCE
 #include <dlfcn.h>
 #include <stdint.h>
 #include <stdio.h>
@@ -14,6 +15,9 @@ int main(int count, char **names) {
         const float a[3] = {1, 2, 3}, b[3] = {10, 20, 30};
         float sum[3] = {0, 0, 0};
         if (add(a, b, sum) != 0 || sum[0] != 11 || sum[1] != 22 || sum[2] != 33) return 2;
+        Dl_info info;
+        if (!dladdr(symbol, &info)) return 4;
+        puts(info.dli_fname);
         dlclose(library);
     }
     return count > 1 ? 0 : 3;

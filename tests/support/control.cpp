@@ -2,6 +2,7 @@
 #include "control.h"
 
 #include <array>
+#include <cpuid.h>
 #include <cstring>
 #include <sstream>
 
@@ -24,6 +25,15 @@ std::uint32_t readMxcsr() {
     __asm__ volatile("stmxcsr %0" : "=m"(word));
     return word;
 }
+
+// State that the processor holds in other than its initial configuration; bit 2 stands for the upper halves.
+std::uint32_t stateInUse() {
+    std::uint32_t low, high;
+    __asm__ volatile("xgetbv" : "=a"(low), "=d"(high) : "c"(1));
+    return low;
+}
+constexpr std::uint32_t upperHalves = 4;
+void clearUpperHalves() { __asm__ volatile("vzeroupper" : : : "memory"); }
 
 // Empties the register stack on the way, whatever a call has left in it.
 void load(std::uint16_t controlWord, std::uint32_t mxcsr) {
@@ -48,7 +58,21 @@ SettingScope::SettingScope(Setting setting) : controlWord(readControlWord()), mx
 
 SettingScope::~SettingScope() { load(controlWord, mxcsr); }
 
+bool seesUpperHalves() {
+    static const bool sees = [] {
+        std::uint32_t a, b, c, d;
+        if (__get_cpuid(1, &a, &b, &c, &d) == 0 || (c & bit_OSXSAVE) == 0 || (c & bit_AVX) == 0) return false;
+        constexpr std::uint32_t tellsStateInUse = 4; // XGETBV of register 1
+        if (__get_cpuid_count(0xd, 1, &a, &b, &c, &d) == 0 || (a & tellsStateInUse) == 0) return false;
+        clearUpperHalves();
+        return (stateInUse() & upperHalves) == 0;
+    }();
+    return sees;
+}
+
 MachineState MachineState::now() {
+    const bool upperHalvesInUse = seesUpperHalves() && (stateInUse() & upperHalves) != 0;
+    if (seesUpperHalves()) clearUpperHalves();
     // The direction flag is looked at and cleared before any other code runs, which takes it for clear. The stack
     // pointer is stepped over the red zone around the push.
     std::uint64_t flags;
@@ -60,6 +84,7 @@ MachineState MachineState::now() {
     std::array<std::uint32_t, 7> environment{};
     __asm__ volatile("fnstenv %0\n\tfldenv %0" : "+m"(environment));
     MachineState state;
+    state.upperHalvesInUse = upperHalvesInUse;
     state.controlWord = static_cast<std::uint16_t>(environment[0]);
     state.top = static_cast<std::uint16_t>((environment[1] >> 11) & 7);
     state.tags = static_cast<std::uint16_t>(environment[2]);
@@ -80,7 +105,10 @@ std::string difference(const MachineState &before, const MachineState &after) {
     if (before.laneControl != after.laneControl)
         text << "MXCSR was 0x" << before.laneControl << " and is 0x" << after.laneControl << ". ";
     if (before.backwards != after.backwards) text << "the direction flag was changed. ";
+    if (after.upperHalvesInUse) text << "the upper halves of wide registers are left in use. ";
     return text.str();
 }
+
+bool MachineState::operator==(const MachineState &other) const { return difference(*this, other).empty(); }
 
 } // namespace support

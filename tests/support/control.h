@@ -37,12 +37,16 @@ struct MachineState {
     std::uint16_t top = 0;         // its stack pointer
     std::uint32_t laneControl = 0; // MXCSR without its flags
     bool backwards = false;        // the direction flag
+    bool upperHalvesInUse = false; // of the registers of 32 bytes and more: code of others then runs slower
 
-    static MachineState now();
-    bool operator==(const MachineState &) const = default;
+    static MachineState now(); // and clears the upper halves
+    bool operator==(const MachineState &other) const;
 };
 
-// One sentence for each thing that differs, or nothing.
+// One sentence for each thing that differs, or nothing. Upper halves are never to be in use afterwards.
 std::string difference(const MachineState &before, const MachineState &after);
+
+// Whether this processor tells if upper halves are in use.
+bool seesUpperHalves();
 
 } // namespace support
