@@ -15,7 +15,7 @@ trap 'rm -rf "$scratch"' EXIT
 cmake --install "$build" --prefix "$scratch/first" >/dev/null
 mv "$scratch/first" "$scratch/moved" # nothing installed may remember where it was put
 prefix=$scratch/moved
-libraries=$(dirname "$(find "$prefix" -name vonkk3.so)")
+libraries=$(dirname "$(find "$prefix" -name libvonkk3.so)") # the baseline alone has that link
 export LD_LIBRARY_PATH="$libraries"
 
 echo "by find_package"
