@@ -428,6 +428,19 @@ VONKK3_INLINE void scatterRowsInOrder(const ObjectsView &view, std::size_t n, co
     });
 }
 
+// One packed row for each object.
+template <std::size_t packs, std::size_t columns>
+VONKK3_INLINE void scatterPacked(std::byte *to, const Packs<packs> (&block)[1][columns]) {
+    constexpr std::size_t width = Packs<packs>::width, registers = Packs<packs>::registers;
+    forIndices(0, registers, fixed<registers>, [&](std::size_t c) VONKK3_INLINED {
+        PackOf<width> row[columns];
+        TargetsOf<width> targets;
+        for (std::size_t j = 0; j < columns; ++j) row[j] = block[0][j].chain[c];
+        for (std::size_t k = 0; k < width; ++k) targets[k] = to + (c * width + k) * columns * sizeof(Real32);
+        scatterRow(targets, columns, row);
+    });
+}
+
 // Packed numbers of objects.
 template <std::size_t packs> VONKK3_INLINE void storePacks(std::byte *to, const Packs<packs> &values) {
     for (std::size_t c = 0; c < Packs<packs>::registers; ++c)

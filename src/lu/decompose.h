@@ -167,13 +167,13 @@ struct DecomposeWords : MatrixWords {
 template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
     using MatrixBatch<order>::src, MatrixBatch<order>::dst;
     static constexpr std::size_t chains = 1;
-    VectorsOfBatch<order> pivots;
+    ObjectsView pivots;
     LastPivots<order> lastPivots;
 
     template <class Tables>
     VONKK3_INLINE DecomposeBatch(const DecomposeWords &words, std::size_t count, Tables throughTables)
         : MatrixBatch<order>(words, count, throughTables), pivots(packedBlocks(words.pivots, order, count)),
-          lastPivots(dst.view, pivots.view) {}
+          lastPivots(dst.view, pivots) {}
 
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         RowsOfBatch<chains, order> rows;
@@ -198,12 +198,13 @@ private:
                               std::uint32_t (&physical)[chains * packWidth][order]) const {
         rows.begin();
         if (!eliminateColumns<Packs<chains>>(rows, fixed<order>, true)) return false;
-        const VectorsOfBatch<order> blocks(packedBlocks(&physical[0][0], order, chains * packWidth));
-        blocks.template scatter<Access::rows>(0, rows.rows);
+        const auto blocks = reinterpret_cast<std::byte *>(physical);
+        scatterPacked(blocks, rows.rows);
         const auto own = [&](std::size_t k, std::size_t i, std::size_t j)
                              VONKK3_INLINED { return rows.element(k, i, j); };
         if (!lastPivots.pass(n, physical, own, [](Real32 last) { return passesAsPivot(last); })) return false;
-        pivots.template scatter<Access::rows>(n, rows.rows);
+        const auto target = reinterpret_cast<std::byte *>(pivots.object(n)); // the blocks of the batch, as they lie
+        for (std::size_t at = 0; at < sizeof physical; at += laneBytes) store4(target + at, load4(blocks + at));
         return true;
     }
     // One body where rows are not contiguous.
@@ -260,7 +261,7 @@ VONKK3_NOINLINE VonkStatus decomposeInBatches(const DecomposeWords &words, std::
     };
     if (count < leastToDecompose<order>(throughTables || words.dst.isList)) return plainly(0, count);
     DecomposeBatch<order> batch(words, count, std::bool_constant<throughTables>());
-    const Aliasing aliasing(count, writes(batch.dst.view), writes(batch.pivots.view), readsInPlace(batch.src.view));
+    const Aliasing aliasing(count, writes(batch.dst.view), writes(batch.pivots), readsInPlace(batch.src.view));
     return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
 }
 
