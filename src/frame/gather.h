@@ -338,9 +338,12 @@ private:
     };
 
     template <std::size_t width> VONKK3_INLINE void findOrigins(std::size_t n, Origins<width> &origin) const {
-        const std::uintptr_t first = (view.isTable() ? 0 : view.begin) + std::uintptr_t(strides(n, view.objectStride));
-        for (std::size_t k = 0; k < width; ++k)
-            origin[k] = view.isList() ? view.object(n + k) : first + std::uintptr_t(strides(k, view.objectStride));
+        if (view.isList()) {
+            for (std::size_t k = 0; k < width; ++k) origin[k] = view.object(n + k);
+            return;
+        }
+        origin[0] = (view.isTable() ? 0 : view.begin) + std::uintptr_t(strides(n, view.objectStride));
+        for (std::size_t k = 1; k < width; ++k) origin[k] = origin[k - 1] + std::uintptr_t(view.objectStride);
     }
 
     template <class Byte> Byte *addressOf(std::size_t i, std::size_t j, std::size_t n) const {

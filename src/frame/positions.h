@@ -39,9 +39,11 @@ template <std::size_t packs, bool arePacked, class Table> struct PacksOfPosition
         const std::byte *const first = at(i, j);
         return Number::each([&](std::size_t c) VONKK3_INLINED -> PackOf<width> {
             if constexpr (arePacked) return loadLanes<Register<width>>(first + c * width * sizeof(Real32));
-            SourcesOf<width> from;
-            for (std::size_t k = 0; k < width; ++k) from[k] = first + strides(c * width + k, table.step);
-            return gatherElement(from, 0);
+            else {
+                const std::byte *const pack = first + strides(c * width, table.step);
+                const PackSources from = {pack, pack + table.step, pack + 2 * table.step, pack + 3 * table.step};
+                return gatherElement(from, 0);
+            }
         });
     }
     VONKK3_INLINE void store(std::size_t i, std::size_t j, const Number &value) const {
@@ -49,8 +51,8 @@ template <std::size_t packs, bool arePacked, class Table> struct PacksOfPosition
         if constexpr (arePacked) storePacks(first, value);
         else
             for (std::size_t c = 0; c < Number::registers; ++c) {
-                TargetsOf<width> to;
-                for (std::size_t k = 0; k < width; ++k) to[k] = first + strides(c * width + k, table.step);
+                std::byte *const pack = first + strides(c * width, table.step);
+                const PackTargets to = {pack, pack + table.step, pack + 2 * table.step, pack + 3 * table.step};
                 scatterElement(to, 0, value.chain[c]);
             }
     }
@@ -71,7 +73,8 @@ VONKK3_INLINE std::size_t workPacks(std::size_t count, const Work &work, const T
             work(n, PacksOfPositions<number, arePacked, Tables>{tables, n}...);
     };
     if constexpr (chains > 1) inChains.template operator()<chains * packsToRegister>();
-    if constexpr (packsToRegister > 1) inChains.template operator()<packsToRegister>();
+    if constexpr (arePacked && packsToRegister > 1)
+        inChains.template operator()<packsToRegister>(); // gathered: no gain
     inChains.template operator()<1>();
     return n;
 }
