@@ -30,7 +30,7 @@ std::string compilerName() {
 
 std::vector<std::pair<std::string, std::string>> circumstances() {
 #ifdef BENCH_NATIVE
-    const char *const peers = "compiled for this machine; the library as built";
+    const char *const peers = "compiled for this machine; the library as the loader finds it";
 #else
     const char *const peers = "compiled for the library's own target";
 #endif
