@@ -40,7 +40,7 @@ endif()
 # The instruction sets that the library is built for: x86-64 is vonkk3.so itself, the others are installed below
 # glibc-hwcaps, where the C library's loader takes the best one that the processor has.
 set(VONKK3_ALL_LEVELS x86-64 x86-64-v3 x86-64-v4)
-if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT VONKK3_SANITIZE AND CMAKE_SYSTEM_NAME STREQUAL "Linux"
+if(PROJECT_IS_TOP_LEVEL AND CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT VONKK3_SANITIZE AND CMAKE_SYSTEM_NAME STREQUAL "Linux"
    AND CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
   set(default_levels ${VONKK3_ALL_LEVELS})
 else()

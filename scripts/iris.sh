@@ -4,6 +4,6 @@ set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 need g++ gcc cmake make
-cmake -S . -B build/iris -DVONKK3_TESTS=OFF >/dev/null
+cmake -S . -B build/iris -DVONKK3_TESTS=OFF -DVONKK3_LEVELS=x86-64 >/dev/null
 cmake --build build/iris --parallel "$(nproc)" >/dev/null
 build/iris/examples/iris
