@@ -5,7 +5,7 @@
 #include "frame/estimate.h"
 #include "frame/four_objects.h"
 #include "frame/lanes.h"
-#include "matrix/runs.h"
+#include "frame/straight.h"
 
 namespace vonkk3::matrix {
 
@@ -76,11 +76,11 @@ VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<6>) {
 // ---- Four objects, one per lane -------------------------------------------------------------------------------------
 
 // (((p00 + p01) + p22) + (p02 + p10)) + ((p11 + p12) + (p20 + p21))
-template <Rows rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<3>) {
+template <bool areAdjacent, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<3>) {
     __m128 first[4], second[4], corner[4]; // p00 p01 p02 p10, p11 p12 p20 p21, p22
     forEachBelow<4>([&](std::size_t k) VONKK3_INLINED {
         const RowsView<const Real32> a = view(k);
-        if constexpr (rows == Rows::adjacent) {
+        if constexpr (areAdjacent) {
             first[k] = square(load4(a.base));
             second[k] = square(load4(a.base + 16));
         } else {
@@ -100,14 +100,14 @@ template <Rows rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const View
 }
 
 // (c0 + c1) + (c2 + c3)
-template <Rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<4>) {
+template <bool, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<4>) {
     const __m128 low = addNeighbours(firstFourRows<4>(view(0)), firstFourRows<4>(view(1)));
     const __m128 high = addNeighbours(firstFourRows<4>(view(2)), firstFourRows<4>(view(3)));
     return addNeighbours(low, high);
 }
 
 // The order of one object, four times over.
-template <Rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<6>) {
+template <bool, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<6>) {
     const auto twoObjects = [&](auto parts, std::size_t k)
                                 VONKK3_INLINED { return addHalves(parts(view(k)), parts(view(k + 1))); };
     const auto heads = [](const auto &a) VONKK3_INLINED { return headsOfSix(a); };

@@ -21,8 +21,7 @@ inline constexpr bool rootsByEstimate = std::is_same_v<typename Source::Element,
 template <class Source, class Length>
 inline constexpr bool normTrustsEntries = rootsByEstimate<Source, Length> &&Source::isList &&Length::value == 4;
 
-// Only the run-time norm of one Real32 vector of adjacent elements is built for length. Its hint differs from that of
-// the dot product: the vector is kept in the caches.
+// Only the run-time norm of one Real32 vector of adjacent elements is built for length.
 template <class Source, class Length>
 inline constexpr bool squaresInBlocks = std::is_same_v<typename Source::Element, Real32> && !Length::isFixed &&
                                         !Source::isArray && Source::layout == Layout::Standard;
@@ -32,7 +31,6 @@ inline constexpr bool squaresInBlocks = std::is_same_v<typename Source::Element,
 struct SquareTerm {
     Real32 operator()(Real32 a) const { return a * a; }
     __m128 operator()(__m128 a) const { return _mm_mul_ps(a, a); }
-    static void hint(const std::byte *address) { prefetch(address); }
 };
 
 template <class T, class View, class Length> VONKK3_INLINE Working<T> sumSquares(const View &view, Length length) {
