@@ -77,29 +77,31 @@ VONKK3_INLINE void workElementsInTurn(std::byte *d, const Operation &operation, 
 
 // ---- Object by object -----------------------------------------------------------------------------------------------
 
-// The plain path, from object n on: `step` elements at once, which shows where results overlap the sources.
+// The plain path of an object: `step` elements at once, which shows where results overlap the sources.
+template <std::size_t length, std::size_t step, class Operation, class... Bytes>
+VONKK3_INLINE void workObjectInSteps(const Operation &operation, std::byte *to, Bytes *...from) {
+    for (const std::byte *const end = to + length * sizeof(Real32); to != end; to += step * sizeof(Real32)) {
+        keepLoopPlain();
+        workElementsAtOnce<step>(to, operation, StoredElements<step>{from}...);
+        (..., (from += step * sizeof(Real32)));
+    }
+}
+
+// The same from object n on.
 template <std::size_t length, std::size_t step, class Operation, class... Words>
 VONKK3_SHARED VonkStatus workInSteps(const Operation &operation, std::size_t n, std::size_t count,
                                      const OperandWords &dst, const Words &...src) {
-    const auto workSteps = [&](std::byte *to, const auto *...from) VONKK3_INLINED {
-        for (const std::byte *const end = to + length * sizeof(Real32); to != end; to += step * sizeof(Real32)) {
-            keepLoopPlain();
-            workElementsAtOnce<step>(to, operation, StoredElements<step>{from}...);
-            (..., (from += step * sizeof(Real32)));
-        }
-    };
-    const auto workObject = [&](const auto &d, const auto &...sources) VONKK3_INLINED {
+    const auto work = [&](const auto &d, const auto &...sources) VONKK3_INLINED {
         if ((sources.listHasNull(n) || ...) || d.listHasNull(n)) return false;
-        return workSteps(d.view(n, 0).base, sources.view(n, 0).base...), true;
+        return workObjectInSteps<length, step>(operation, d.view(n, 0).base, sources.view(n, 0).base...), true;
     };
     for (; n < count; ++n)
-        if (!workObject(SharedOperand<Real32, false>(dst), SharedOperand<const Real32, false>(src)...))
-            return vonkErrNullPtr;
+        if (!work(SharedOperand<Real32, false>(dst), SharedOperand<const Real32, false>(src)...)) return vonkErrNullPtr;
     return vonkOk;
 }
 
-// What gives the elements of object n, as long as results are not at risk of overlapping them too early. A single
-// object is read once, here: for good where it is held, else for as long as nothing overlaps it.
+// What gives the elements of object n. A single object is read once, here: for good where it is held, else for as long
+// as no result overlaps it.
 template <std::size_t length, class Operand> struct StoredObjects {
     const Operand &operand;
     VONKK3_INLINE explicit StoredObjects(const Operand &operand) : operand(operand) {}
@@ -107,16 +109,16 @@ template <std::size_t length, class Operand> struct StoredObjects {
     VONKK3_INLINE bool isAtRisk(std::size_t n, const std::byte *d) const {
         return overwritesAhead(d, operand.view(n).base, length * sizeof(Real32));
     }
-    VONKK3_INLINE OperandWords words(std::byte *) const { return operand.words(length); }
+    VONKK3_INLINE const std::byte *inMemory(std::size_t n, std::byte *) const { return operand.view(n).base; }
+    VONKK3_INLINE OperandWords words() const { return operand.words(length); }
 };
 template <std::size_t length> struct HeldObject {
     HeldElements<length> held;
     template <class Element> VONKK3_INLINE explicit HeldObject(const Element &element) : held(element) {}
     VONKK3_INLINE const HeldElements<length> &object(std::size_t) const { return held; }
     static constexpr bool isAtRisk(std::size_t, const std::byte *) { return false; }
-    VONKK3_INLINE OperandWords words(std::byte *scratch) const {
-        held.store(scratch);
-        return {reinterpret_cast<std::uintptr_t>(scratch), 0, 0, sizeof(Real32), false, false, false};
+    VONKK3_INLINE const std::byte *inMemory(std::size_t, std::byte *scratch) const {
+        return held.store(scratch), scratch;
     }
 };
 template <std::size_t length, class Operand> struct SingleObject : StoredObjects<length, Operand> {
@@ -134,12 +136,13 @@ template <class View, std::size_t columns> VONKK3_INLINE auto elementsOf(const V
     return [view](std::size_t j) VONKK3_INLINED { return view.load(j / columns, j % columns); };
 }
 
-template <std::size_t rows, std::size_t columns, bool isChecked, bool isHeld, class Count, class Operand>
+template <std::size_t rows, std::size_t columns, bool isHeld, class Count, class Operand>
 VONKK3_INLINE auto readingOf(const Operand &operand) {
+    constexpr std::size_t length = rows * columns;
     constexpr bool isSingle = Count::isArray && !Operand::isArray;
-    if constexpr (isSingle && isHeld) return HeldObject<rows * columns>(elementsOf(operand.view(0), fixed<columns>));
-    else if constexpr (isSingle && isChecked) return SingleObject<rows * columns, Operand>(operand);
-    else return StoredObjects<rows * columns, Operand>(operand);
+    if constexpr (isSingle && isHeld) return HeldObject<length>(elementsOf(operand.view(0), fixed<columns>));
+    else if constexpr (isSingle && length > 16) return SingleObject<length, Operand>(operand);
+    else return StoredObjects<length, Operand>(operand);
 }
 
 // d(n) = operation(sources(n)...), `step` elements of an object at once. Only what is held needs no adjacent rows.
@@ -148,29 +151,32 @@ template <std::size_t rows, std::size_t columns, std::size_t step, bool holdsSin
 VONKK3_INLINE VonkStatus workContiguousObjects(const Operation &operation, Count count, const D &d,
                                                const Sources &...sources) {
     constexpr std::size_t length = rows * columns;
-    constexpr bool isChecked = step < length || length > 16; // all of fewer elements are loaded in any case
     const auto walk = [&](const auto &...objects) VONKK3_INLINED {
-        if constexpr (!isChecked) {
+        if constexpr (step == length && length <= 16) { // all of it in registers
             const auto one = [&](std::size_t n) VONKK3_INLINED {
                 return workElementsAtOnce<length>(d.view(n).base, operation, objects.object(n)...), vonkOk;
             };
-            if constexpr (D::isList) return forEachLightObject(count, one, sources..., d);
+            if constexpr (D::isList && length != 9) return forEachLightObject(count, one, sources..., d);
             else return forEachObject(count, one, sources..., d);
         } else {
             for (std::size_t n = 0; n < count; ++n) {
                 if ((sources.listHasNull(n) || ...) || d.listHasNull(n)) [[unlikely]]
                     return VonkStatus(vonkErrNullPtr);
                 std::byte *const to = d.view(n).base;
-                if ((objects.isAtRisk(n, to) || ...)) [[unlikely]] {
+                const bool isAtRisk = (objects.isAtRisk(n, to) || ...);
+                if (!isAtRisk) [[likely]]
+                    workElementsInTurn<length>(to, operation, objects.object(n)...);
+                else if constexpr (length > 16)
+                    return workInSteps<length, step>(operation, n, count, d.words(length), objects.words()...);
+                else {
                     std::byte scratch[length * sizeof(Real32)]; // of the one that is held
-                    return workInSteps<length, step>(operation, n, count, d.words(length), objects.words(scratch)...);
+                    workObjectInSteps<length, step>(operation, to, objects.inMemory(n, scratch)...);
                 }
-                workElementsInTurn<length>(to, operation, objects.object(n)...);
             }
             return VonkStatus(vonkOk);
         }
     };
-    return walk(readingOf<rows, columns, isChecked, holdsSingle, Count>(sources)...);
+    return walk(readingOf<rows, columns, holdsSingle, Count>(sources)...);
 }
 
 // ---- All objects as one range ---------------------------------------------------------------------------------------

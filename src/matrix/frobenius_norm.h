@@ -93,17 +93,18 @@ VONKK3_INLINE VonkStatus normsByFour(const A &a, Fixed<order> size, std::byte *r
 // 6x6 gives the same results one by one or four at a time, but four at a time must not be seen: no result may lie where
 // a later object is read, and objects before a null list entry are complete.
 template <class A> VONKK3_INLINE VonkStatus normsOfSix(const A &a, std::byte *results, std::size_t count) {
-    const bool areDisjoint =
-        !A::isList && disjoint(extentOfAll(a, 6, 6, count), extentOf(results, count * sizeof(Real32)));
     const auto mayWorkBlock = [&](std::size_t n) VONKK3_INLINED {
         const Extent written = extentOf(results + n * sizeof(Real32), four * sizeof(Real32));
         const auto mayWork = [&](std::size_t k) VONKK3_INLINED {
             return !a.listHasNull(k) && disjoint(written, extentOf(a.view(k), 6, 6));
         };
-        return areDisjoint || (mayWork(n) && mayWork(n + 1) && mayWork(n + 2) && mayWork(n + 3));
+        return mayWork(n) && mayWork(n + 1) && mayWork(n + 2) && mayWork(n + 3);
     };
-    for (std::size_t n = 0; n < count;) {
-        if (count - n >= four && mayWorkBlock(n)) {
+    std::size_t n = 0;
+    if (!A::isList && disjoint(extentOf(results, count * sizeof(Real32)), extentOfAll(a, 6, 6, count)))
+        for (; n + four <= count; n += four) normOfBlock<true>(a, n, fixed<6>, results);
+    while (n < count) {
+        if (A::isList && count - n >= four && mayWorkBlock(n)) {
             normOfBlock<true>(a, n, fixed<6>, results);
             n += four;
         } else
