@@ -34,11 +34,12 @@ struct SquareTerm {
 };
 
 template <class T, class View, class Length> VONKK3_INLINE Working<T> sumSquares(const View &view, Length length) {
-    Working<T> sum = 0;
-    for (std::size_t j = 0; j < length; ++j) {
+    const auto square = [&](std::size_t j) VONKK3_INLINED {
         const Working<T> element = view.load(j);
-        sum = sum + element * element;
-    }
+        return element * element;
+    };
+    Working<T> sum = square(0); // as from +0: a square is never -0
+    for (std::size_t j = 1; j < length; ++j) sum = sum + square(j);
     return sum;
 }
 
@@ -95,9 +96,21 @@ inline std::size_t normInBlocks(const Source &source, std::byte *results, Object
     return withKnownSpacing<length>(work, source);
 }
 
+// Sums one by one, but roots four at a time; how many objects were done.
+template <class Source, class Length>
+VONKK3_INLINE std::size_t takeFourRoots(const Source &source, std::byte *results, Length length, Objects count) {
+    if (count < four || !disjoint(extentOf(results, count * sizeof(Real32)), extentOfAll(source, 1, length, count)))
+        return 0;
+    const std::size_t end = inFours(count);
+    for (std::size_t n = 0; n < end; n += four) {
+        const auto sum = [&](std::size_t k) VONKK3_INLINED { return sumSquares<Real32>(source.view(n + k), length); };
+        store4(results + n * sizeof(Real32), _mm_sqrt_ps(_mm_setr_ps(sum(0), sum(1), sum(2), sum(3))));
+    }
+    return end;
+}
+
 // ---- Arrays in the pointer layout -----------------------------------------------------------------------------------
 
-// A square is never -0, so a sum from +0 may as well begin with the first.
 struct NormOfPacks {
     template <class A> VONKK3_INLINE auto operator()(std::size_t, std::size_t length, const A &a) const {
         using Number = typename A::Number;
@@ -125,7 +138,9 @@ VONKK3_INLINE VonkStatus norm(const Source &source, T *dst, Length length, Count
     std::size_t done = 0;
     if constexpr (rootsByEstimate<Source, Length> && Count::isArray)
         done = normInBlocks<Length::value, testsEntries>(source, results, count);
-    if constexpr (std::is_same_v<T, Real32> && Source::isArray && Source::isTable)
+    else if constexpr (std::is_same_v<T, Real32> && Length::isFixed && Source::isArray && Source::layout == Layout::S2)
+        done = takeFourRoots(source, results, length, count);
+    else if constexpr (std::is_same_v<T, Real32> && Source::isArray && Source::isTable)
         done = reduceArrays(NormOfPacks(), results, fixed<1>, length, count, source.words(length));
     const auto work = [&](std::size_t n) VONKK3_INLINED {
         T result;
