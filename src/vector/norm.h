@@ -33,14 +33,18 @@ struct SquareTerm {
     __m128 operator()(__m128 a) const { return _mm_mul_ps(a, a); }
 };
 
-template <class T, class View, class Length> VONKK3_INLINE Working<T> sumSquares(const View &view, Length length) {
+// Left to right. As from +0, since a square is never -0; Number is a number or a pack.
+template <class Number, class Element> VONKK3_INLINE Number sumSquares(const Element &element, std::size_t length) {
     const auto square = [&](std::size_t j) VONKK3_INLINED {
-        const Working<T> element = view.load(j);
-        return element * element;
+        const Number a = element(j);
+        return a * a;
     };
-    Working<T> sum = square(0); // as from +0: a square is never -0
+    Number sum = square(0);
     for (std::size_t j = 1; j < length; ++j) sum = sum + square(j);
     return sum;
+}
+template <class T, class View> VONKK3_INLINE Working<T> sumSquaresOf(const View &view, std::size_t length) {
+    return sumSquares<Working<T>>([&](std::size_t j) VONKK3_INLINED { return view.load(j); }, length);
 }
 
 // The sum of squares q(j) as the forms with an estimated root group it; Reals are one object's or four objects'.
@@ -103,7 +107,7 @@ VONKK3_INLINE std::size_t takeFourRoots(const Source &source, std::byte *results
         return 0;
     const std::size_t end = inFours(count);
     for (std::size_t n = 0; n < end; n += four) {
-        const auto sum = [&](std::size_t k) VONKK3_INLINED { return sumSquares<Real32>(source.view(n + k), length); };
+        const auto sum = [&](std::size_t k) VONKK3_INLINED { return sumSquaresOf<Real32>(source.view(n + k), length); };
         store4(results + n * sizeof(Real32), _mm_sqrt_ps(_mm_setr_ps(sum(0), sum(1), sum(2), sum(3))));
     }
     return end;
@@ -113,14 +117,8 @@ VONKK3_INLINE std::size_t takeFourRoots(const Source &source, std::byte *results
 
 struct NormOfPacks {
     template <class A> VONKK3_INLINE auto operator()(std::size_t, std::size_t length, const A &a) const {
-        using Number = typename A::Number;
-        const auto square = [&](std::size_t j) VONKK3_INLINED {
-            const Number element = a.load(0, j);
-            return element * element;
-        };
-        Number sum = square(0);
-        for (std::size_t j = 1; j < length; ++j) sum = sum + square(j);
-        return squareRoot(sum);
+        return squareRoot(
+            sumSquares<typename A::Number>([&](std::size_t j) VONKK3_INLINED { return a.load(0, j); }, length));
     }
 };
 
@@ -147,7 +145,7 @@ VONKK3_INLINE VonkStatus norm(const Source &source, T *dst, Length length, Count
         if constexpr (rootsByEstimate<Source, Length>) result = normByEstimate<Length::value>(source.view(n));
         else if constexpr (squaresInBlocks<Source, Length>)
             result = squareRoot(sumInBlocks(SquareTerm{}, length, source.view(0).base));
-        else result = round<T>(squareRoot(sumSquares<T>(source.view(n), length)));
+        else result = round<T>(squareRoot(sumSquaresOf<T>(source.view(n), length)));
         storeAt<T>(results + n * sizeof(T), result);
         return VonkStatus(vonkOk);
     };
