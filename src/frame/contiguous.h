@@ -192,7 +192,7 @@ VONKK3_SHARED void workRange(const Operation &shared, std::byte *d, std::size_t 
     std::size_t bytes = elements * sizeof(Real32);
     for (const std::byte *const end = d + bytes / block * block; d != end; d += block, (..., (sources += block)))
         forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { four(k * laneBytes); });
-    bytes %= block;
+    bytes = opaque(bytes % block); // not unrolled
     std::size_t at = 0;
     for (; bytes - at >= laneBytes; at += laneBytes) four(at);
     for (; at < bytes; at += sizeof(Real32)) {

@@ -26,20 +26,12 @@ template <class Columns> inline constexpr bool storesBeforeItHasRead = Columns::
 // Along the rows of the source; an element is read when its turn comes.
 template <bool testsEntries, class A, class D, class Columns>
 VONKK3_INLINE VonkStatus transposeElements(const A &a, const D &d, Columns columns, std::size_t rows) {
-    for (std::size_t i = 0; i < rows; ++i) {
-        const bool noneIsNull = everyIndex(0, columns, columns, [&](std::size_t j) VONKK3_INLINED {
-            if (testsEntries && (a.hasNullEntry(i, j) || d.hasNullEntry(j, i))) return false;
-            d.store(j, i, a.load(i, j));
-            return true;
-        });
-        if (!noneIsNull) return vonkErrNullPtr;
-    }
-    return vonkOk;
+    return workElements<testsEntries>(TransposedView{d}, rows, columns, Moved(), a);
 }
 
 // The same for rows of adjacent elements that something keeps from being transposed in registers.
 template <std::size_t order> VONKK3_NOINLINE void transposeInMemory(RowsView<const Real32> a, RowsView<Real32> d) {
-    transposeElements<false>(a, d, fixed<order>, order);
+    transposeElements<false>(a, d, atRunTime(order), order);
 }
 
 // ---- One object in registers: all of it is read before any of it is written -----------------------------------------
