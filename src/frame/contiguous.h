@@ -207,11 +207,13 @@ template <class Operation> struct Exchanged {
     VONKK3_INLINE __m128 operator()(__m128 a, __m128 b) const { return operation(b, a); }
 };
 
-// A single object beside packed ones: repeated until its elements are back at the lanes where they began.
+// A single object beside packed ones: repeated until its elements are back at the lanes where they began, and on, while
+// eight registers hold it.
 template <std::size_t length, class Operation, class Element>
 VONKK3_INLINE void workBesideSingle(const Operation &operation, std::byte *d, std::size_t count, const std::byte *a,
                                     const Element &element) {
-    constexpr std::size_t copies = length % 4 == 0 ? 1 : length % 2 == 0 ? 2 : 4, period = copies * length;
+    constexpr std::size_t least = length % 4 == 0 ? 1 : length % 2 == 0 ? 2 : 4, most = 32 / (least * length);
+    constexpr std::size_t copies = least * (most > 1 ? most : 1), period = copies * length;
     const HeldElements<period> repeated([&](std::size_t j) VONKK3_INLINED { return element(j % length); });
     for (; count >= copies; count -= copies, a += period * sizeof(Real32), d += period * sizeof(Real32))
         workElementsInTurn<period>(d, operation, StoredElements<period>{a}, repeated);
