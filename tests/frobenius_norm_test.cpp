@@ -363,6 +363,22 @@ TEST(FrobeniusNorm, KeepsObjectsApartInBlocks) {
     }
 }
 
+// Six rows have no blocks: the result of an object that lies in the next one is a part of that one's norm.
+TEST(FrobeniusNorm, OfSixRowsIsSeenByTheNextObject) {
+    for (const char *name : {"vonkFrobNorm_ma_32f_6x6", "vonkFrobNorm_ma_32f_6x6_L"}) {
+        SCOPED_TRACE(name);
+        Call call(name, 6, 5);
+        literal::setAll(call, "src", 0);
+        call.set("src", 0, 0, 0, 3);
+        std::byte *const results = call["src"].address(1, 0, 0);
+        call.pass("dst", reinterpret_cast<std::uintptr_t>(results));
+        ASSERT_EQ(call.run(), vonkOk);
+        const auto first = static_cast<float>(call.getAt(results));
+        EXPECT_EQ(first, rootByEstimate(9));
+        EXPECT_EQ(call.getAt(results + 4), rootByEstimate(first * first));
+    }
+}
+
 // ---- The roads for aligned and unaligned operands
 
 TEST(FrobeniusNormAlignment, ChangesNoResult) {

@@ -6,9 +6,7 @@
 #include "frame/operations.h"
 #include "frame/untested_position.h"
 #include "frame/walk.h"
-#include "matrix/crossed_rows.h"
 #include "matrix/rows.h"
-#include "matrix/runs.h"
 
 namespace vonkk3::matrix {
 
@@ -45,7 +43,7 @@ inline constexpr bool isPipelined =
 // Of these mamT walks the rows of its second operand with the first one's row stride.
 template <class F> inline constexpr bool borrowsRowStride = isPipelined<F> &&F::secondTransposed;
 
-// vonkSub_mTmT_32f_6x6 and vonkSub_maTmaT_32f_6x6 (with its L form) subtract the wrong elements: see CrossedRows.
+// vonkSub_mTmT_32f_6x6 and vonkSub_maTmaT_32f_6x6 (with its L form) subtract the wrong elements: see CrossedView.
 template <class F>
 inline constexpr bool isCrossed = worksInLanes<F> &&F::order == 6 && !F::isSum && F::firstTransposed &&
                                   F::secondTransposed && F::firstArray == F::secondArray;
@@ -57,37 +55,24 @@ inline constexpr bool leavesPosition8Untested =
 
 // ---- Rows in lanes --------------------------------------------------------------------------------------------------
 
-// What gives the rows of an operand's object n; a single one that is held is read once, here.
-template <std::size_t order, bool isHeld, class Operand> struct RowsByObject {
-    const Operand &operand;
-    VONKK3_INLINE explicit RowsByObject(const Operand &operand) : operand(operand) {}
-    VONKK3_INLINE auto at(std::size_t n) const { return rowsOf<order>(operand.view(n)); }
+// The crossed differences: which of the operands' elements, as they are stored, make element (i, j); row and column as
+// two digits. The single one repeats row 2 in row 3, and never uses column 3.
+inline constexpr std::uint8_t repeatedRow[6][6] = {{0, 10, 20, 30, 40, 50}, {1, 11, 21, 31, 41, 51},
+                                                   {2, 12, 22, 32, 42, 52}, {2, 12, 22, 32, 42, 52},
+                                                   {4, 14, 24, 34, 44, 54}, {5, 15, 25, 35, 45, 55}};
+inline constexpr std::uint8_t scattered[6][6] = {{0, 4, 20, 24, 40, 44},   {1, 5, 21, 25, 41, 45},
+                                                 {2, 14, 22, 34, 42, 54},  {2, 14, 22, 34, 42, 54},
+                                                 {10, 12, 30, 32, 50, 52}, {11, 13, 31, 33, 51, 53}};
+
+struct CrossedView {
+    RowsView<const Real32> stored;
+    const std::uint8_t (&from)[6][6];
+    Real32 load(std::size_t i, std::size_t j) const { return stored.load(from[i][j] / 10, from[i][j] % 10); }
 };
 
-template <std::size_t order, class Operand>
-requires(!Operand::isArray) struct RowsByObject<order, true, Operand> {
-    HeldRows<order> held;
-    VONKK3_INLINE explicit RowsByObject(const Operand &operand) : held(rowsOf<order>(operand.view(0))) {}
-    VONKK3_INLINE const HeldRows<order> &at(std::size_t) const { return held; }
-};
-
-template <class F, class A, class B, class D, class Count, class Operation>
-VONKK3_INLINE VonkStatus combineRows(const A &a, const B &b, const D &d, Count count, Operation operation) {
-    if (count == 0) return vonkOk; // nothing is read, a single operand neither
-    const RowsByObject<F::order, holdsSingleOperand<F>, A> first(a);
-    const RowsByObject<F::order, holdsSingleOperand<F>, B> second(b);
-    return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED {
-            workRows<F::order>(d.view(n), operation, first.at(n), second.at(n));
-            return vonkOk;
-        },
-        a, b, d);
-}
-
-// `hold` takes an object out of memory, `work` stores it. The entries of an object are tested together with its loads;
-// that of the destination's last object is tested first of all. At `count` 0 this is the entry before the list, and
-// the one object is stored through it.
+// Each object is loaded before the one before it is stored. `hold` takes it out of memory, `work` stores it. The entry
+// of the destination's last object is tested first of all. At `count` 0 this is the entry before the list, and the one
+// object is stored through it.
 template <class A, class D, class Hold, class Work>
 VONKK3_INLINE VonkStatus pipelined(const A &a, const D &d, std::size_t count, Hold hold, Work work) {
     const std::size_t lastEntry = count - 1;
@@ -99,143 +84,64 @@ VONKK3_INLINE VonkStatus pipelined(const A &a, const D &d, std::size_t count, Ho
             return vonkErrNullPtr;
         const auto second = hold(a.view(n));
         const auto secondTarget = d.view(n);
-        work(first, firstTarget);
-        if (n + 1 == count) return work(second, secondTarget), vonkOk;
+        work(firstTarget, first);
+        if (n + 1 == count) return work(secondTarget, second), vonkOk;
         if (a.listHasNull(n + 1) || d.listHasNull(n + 1)) [[unlikely]]
             return vonkErrNullPtr;
         first = hold(a.view(n + 1));
         firstTarget = d.view(n + 1);
-        work(second, secondTarget);
+        work(secondTarget, second);
     }
-    return work(first, firstTarget), vonkOk;
+    return work(firstTarget, first), vonkOk;
 }
 
-// ---- Runs -----------------------------------------------------------------------------------------------------------
-
-// Whether an operand is read as runs: it lies as it is needed, or is held and has been brought into order.
-template <class F, class Operand> inline constexpr bool isHeld = holdsSingleOperand<F> && !Operand::isArray;
-template <class F, class A, class B>
-inline constexpr bool mayWorkRuns = (isHeld<F, A> || !A::isTransposed) && (isHeld<F, B> || !B::isTransposed);
-
-template <class F, class Operand> VONKK3_INLINE bool isRun(const Operand &operand) {
-    return isHeld<F, Operand> || areRuns<F::order>(operand);
-}
-
-// What gives an operand's object n as a run. A single one is read once, here, and held.
-template <class F, class Operand> VONKK3_INLINE auto runsOf(const Operand &operand) {
-    if constexpr (Operand::isArray || !F::isArray) return ArrayRuns<F::order, Operand>(operand);
-    else if constexpr (isHeld<F, Operand>) return HeldRun<F::order>(operand.view(0));
-    else return SingleRun<F::order>(operand.view(0).base);
-}
-
-// 3x3 and 4x4 are loaded whole before they are stored, beside what is held.
-template <class F> inline constexpr bool fitsRegisters = F::order <= 4;
-
-template <class Runs> VONKK3_INLINE auto objectOf(const Runs &runs, std::size_t n) { return runs.object(n); }
-template <std::size_t order> VONKK3_INLINE const HeldRun<order> &objectOf(const HeldRun<order> &held, std::size_t) {
-    return held;
-}
-
-template <class F, class A, class B, class D, class Count, class Operation>
-VONKK3_INLINE VonkStatus combineRuns(const A &a, const B &b, const D &d, Count count, Operation operation) {
-    auto first = runsOf<F>(a);
-    auto second = runsOf<F>(b);
-    return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED {
-            const auto view = d.view(n);
-            if constexpr (fitsRegisters<F>) {
-                workRun<F::order, Storing::atTheEnd>(view.base, operation, objectOf(first, n), objectOf(second, n));
-            } else if (first.mustGoByRows(n, view.base) || second.mustGoByRows(n, view.base)) [[unlikely]] {
-                workRunByRows<F::order>(view.base, operation, first.stored(n), second.stored(n));
-                first.refresh();
-                second.refresh();
-            } else workRun<F::order, Storing::asTheyCome>(view.base, operation, first.object(n), second.object(n));
-            return vonkOk;
-        },
-        a, b, d);
-}
-
-// Which members may work all matrices as one contiguous range: standard arrays that are read as they lie, beside
-// another such array or a single matrix that can be repeated.
-template <class F>
-inline constexpr bool mayBeOneRun = F::isArray &&F::layout == Layout::Standard &&
-                                    (F::firstArray ? !F::firstTransposed : !F::secondTransposed) &&
-                                    (!(F::firstArray && F::secondArray) || !F::secondTransposed);
-
-// The single matrix y beside all of array x, if nothing overlaps it.
-template <class F, class X, class Y, class D, class Operation>
-VONKK3_INLINE bool repeatSingle(const X &x, const Y &y, const D &d, std::size_t count, const Operation &operation) {
-    const std::size_t bytes = count * objectBytes<F::order>;
-    const std::byte *const from = x.view(0).base;
-    std::byte *const to = d.view(0).base;
-    const auto single = y.view(0);
-    if (count < worthCollapsing || !areOneRun<F::order>(x, d) || overwritesAhead(to, from, bytes) ||
-        !disjoint(extentOf(asStored(single), F::order, F::order), extentOf(to, bytes)))
-        return false;
-    const RepeatedObject<F::order * F::order> repeated(
-        [&](std::size_t k) VONKK3_INLINED { return single.load(k / F::order, k % F::order); });
-    return repeated.stream(operation, to, from, count), true;
-}
-
-// All matrices in one go, if they follow one another and nothing is written that is yet to be read; else false.
-template <class F, class A, class B, class D, class Operation>
-VONKK3_INLINE bool combineAsOneRun(const A &a, const B &b, const D &d, std::size_t count, const Operation &operation) {
-    if constexpr (!F::secondArray) return repeatSingle<F>(a, b, d, count, operation);
-    else if constexpr (!F::firstArray) return repeatSingle<F>(b, a, d, count, Reversed<Operation>{operation});
-    else {
-        const std::size_t bytes = count * objectBytes<F::order>;
-        const ContiguousSource first{a.view(0).base}, second{b.view(0).base};
-        std::byte *const to = d.view(0).base;
-        if (!areOneRun<F::order>(a, b, d) || overwritesAhead(to, first.base, bytes) ||
-            overwritesAhead(to, second.base, bytes))
-            return false;
-        return streamContiguous(operation, to, bytes / sizeof(Real32), first, second), true;
-    }
-}
-
-template <class F, class A, class B, class D, class Operation>
+template <class A, class B, class D, class Operation>
 VONKK3_INLINE VonkStatus combinePipelined(const A &a, const B &b, const D &d, std::size_t count, Operation operation) {
-    if (areRuns<3>(a, d)) [[likely]] {
-        const auto work = [second = HeldRun<3>(b.view(0)), operation](const HeldRun<3> &first, const auto &view)
-                              VONKK3_INLINED { workRun<3, Storing::atTheEnd>(view.base, operation, first, second); };
-        return pipelined(
-            a, d, count, [](const auto &view) VONKK3_INLINED { return HeldRun<3>(StoredRun<3>(view.base)); }, work);
+    if (areAdjacentRows<3>(3, a, d)) [[likely]] {
+        const HeldElements<9> second(elementsOf(b.view(0), fixed<3>));
+        const auto hold = [](const auto &view) VONKK3_INLINED { return HeldElements<9>(StoredElements<9>{view.base}); };
+        return pipelined(a, d, count, hold, [&](const auto &view, const auto &first) VONKK3_INLINED {
+            workElementsAtOnce<9>(view.base, operation, first, second);
+        });
     }
-    const auto work =
-        [second = HeldRows<3>(rowsOf<3>(b.view(0))), operation](const HeldRows<3> &first, const auto &view)
-            VONKK3_INLINED { workRows<3>(view, operation, first, second); };
-    return pipelined(
-        a, d, count, [](const auto &view) VONKK3_INLINED { return HeldRows<3>(rowsOf<3>(view)); }, work);
+    const HeldRows<3> second(rowsOf<3>(b.view(0)));
+    const auto hold = [](const auto &view) VONKK3_INLINED { return HeldRows<3>(rowsOf<3>(view)); };
+    return pipelined(a, d, count, hold, [&](const auto &view, const auto &first) VONKK3_INLINED {
+        workRows<3>(view, operation, first, second);
+    });
 }
 
-// ---- All objects ----------------------------------------------------------------------------------------------------
+// Orders 3 and 4 are loaded whole where rows are adjacent, others row by row.
+template <std::size_t order> inline constexpr std::size_t loadedAtOnce = order <= 4 ? order *order : order;
 
 template <class F, class A, class B, class D, class Count, class Operation>
 VONKK3_INLINE VonkStatus combineByObject(const A &a, const B &b, const D &d, Count count, Operation operation) {
-    if constexpr (isPipelined<F>) return combinePipelined<F>(a, b, d, count, operation);
-    else {
-        if constexpr (mayWorkRuns<F, A, B>)
-            if (isRun<F>(a) && isRun<F>(b) && isRun<F>(d)) [[likely]]
-                return combineRuns<F>(a, b, d, count, operation);
-        return combineRows<F>(a, b, d, count, operation);
-    }
+    if constexpr (isPipelined<F>) return combinePipelined(a, b, d, count, operation);
+    else return workMatrices<F::order, loadedAtOnce<F::order>, holdsSingleOperand<F>>(operation, count, d, a, b);
 }
-
 template <class F, class A, class B, class D, class Count, class Operation>
 VONKK3_NOINLINE VonkStatus combineByObjectApart(A a, B b, D d, Count count, Operation operation) {
     return combineByObject<F>(a, b, d, count, operation);
 }
 
+// Which members may work all matrices as one range: standard arrays that are read as they lie, beside another such
+// array or a single matrix, which may be read transposed.
+template <class F>
+inline constexpr bool mayBeOneRange =
+    F::isArray &&F::layout == Layout::Standard && !(F::firstArray && F::firstTransposed) &&
+    !(F::secondArray && F::secondTransposed);
+
 template <class F, class A, class B, class D, class Count, class Operation>
 VONKK3_INLINE VonkStatus combineInLanes(const A &a, const B &b, const D &d, Count count, Operation operation) {
     if (count == 0 && !isPipelined<F>) return vonkOk; // nothing is read, a single operand neither
-    if constexpr (mayBeOneRun<F>) {
-        if (combineAsOneRun<F>(a, b, d, count, operation)) [[likely]]
+    if constexpr (mayBeOneRange<F>) {
+        if (workAsOneRange<F::order>(operation, fixed<F::order>, count, d, a, b)) [[likely]]
             return vonkOk;
         return combineByObjectApart<F>(a, b, d, count, operation);
     } else return combineByObject<F>(a, b, d, count, operation);
 }
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
 
 // The view of an operand's object n in the shape of the result.
 template <class F, class Operand>

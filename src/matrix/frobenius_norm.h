@@ -2,6 +2,7 @@
 // layout.
 #pragma once
 
+#include "frame/contiguous.h"
 #include "frame/operations.h"
 #include "frame/positions.h"
 #include "matrix/norm_kernels.h"
@@ -65,12 +66,10 @@ template <NormOrder way> struct FrobeniusOfPacks {
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-constexpr std::size_t block = 4;
-
-template <Rows rows, class A, std::size_t order>
+template <bool areAdjacent, class A, std::size_t order>
 VONKK3_INLINE void normOfBlock(const A &a, std::size_t n, Fixed<order> size, std::byte *results) {
     const auto view = [&](std::size_t k) VONKK3_INLINED { return a.view(n + k); };
-    store4(results + n * sizeof(Real32), rootByEstimate(sumsOfSquares<rows>(view, size)));
+    store4(results + n * sizeof(Real32), rootByEstimate(sumsOfSquares<areAdjacent>(view, size)));
 }
 
 template <class A, std::size_t order>
@@ -78,20 +77,14 @@ VONKK3_INLINE void normOfOne(const A &a, std::size_t n, Fixed<order> size, std::
     storeAt<Real32>(results + n * sizeof(Real32), rootByEstimate(_mm_cvtss_f32(sumOfSquares(a.view(n), size))));
 }
 
-template <class A, std::size_t order, class Count>
-VONKK3_INLINE VonkStatus normsInLanes(const A &a, Fixed<order> size, std::byte *results, Count count) {
-    return forEachObject(
-        count, [&](std::size_t n) VONKK3_INLINED { return normOfOne(a, n, size, results), vonkOk; }, a);
-}
-
 // 3x3 and 4x4. The list entries of a block are tested together, those of the objects that fill no block never.
-template <Rows rows, class A, std::size_t order>
+template <bool areAdjacent, class A, std::size_t order>
 VONKK3_INLINE VonkStatus normsByFour(const A &a, Fixed<order> size, std::byte *results, std::size_t count) {
     std::size_t n = 0;
-    for (; n + block <= count; n += block) {
+    for (; n + four <= count; n += four) {
         if (a.listHasNull(n) || a.listHasNull(n + 1) || a.listHasNull(n + 2) || a.listHasNull(n + 3))
             return vonkErrNullPtr;
-        normOfBlock<rows>(a, n, size, results);
+        normOfBlock<areAdjacent>(a, n, size, results);
     }
     for (; n < count; ++n) normOfOne(a, n, size, results);
     return vonkOk;
@@ -99,42 +92,28 @@ VONKK3_INLINE VonkStatus normsByFour(const A &a, Fixed<order> size, std::byte *r
 
 // 6x6 gives the same results one by one or four at a time, but four at a time must not be seen: no result may lie where
 // a later object is read, and objects before a null list entry are complete.
-template <class A>
-VONKK3_NOINLINE VonkStatus normsOfSixOneByOne(const A &a, std::size_t from, std::size_t to, std::byte *results) {
-    for (std::size_t n = from; n < to; ++n) {
-        if (a.listHasNull(n)) return vonkErrNullPtr;
-        normOfOne(a, n, fixed<6>, results);
+template <class A> VONKK3_INLINE VonkStatus normsOfSix(const A &a, std::byte *results, std::size_t count) {
+    const auto mayWorkBlock = [&](std::size_t n) VONKK3_INLINED {
+        const Extent written = extentOf(results + n * sizeof(Real32), four * sizeof(Real32));
+        const auto mayWork = [&](std::size_t k) VONKK3_INLINED {
+            return !a.listHasNull(k) && disjoint(written, extentOf(a.view(k), 6, 6));
+        };
+        return mayWork(n) && mayWork(n + 1) && mayWork(n + 2) && mayWork(n + 3);
+    };
+    std::size_t n = 0;
+    if (!A::isList && disjoint(extentOf(results, count * sizeof(Real32)), extentOfAll(a, 6, 6, count)))
+        for (; n + four <= count; n += four) normOfBlock<true>(a, n, fixed<6>, results);
+    while (n < count) {
+        if (A::isList && count - n >= four && mayWorkBlock(n)) {
+            normOfBlock<true>(a, n, fixed<6>, results);
+            n += four;
+        } else
+            for (const std::size_t end = count - n < four ? count : n + four; n < end; ++n) {
+                if (a.listHasNull(n)) return vonkErrNullPtr;
+                normOfOne(a, n, fixed<6>, results);
+            }
     }
     return vonkOk;
-}
-
-template <class A, class MayWorkBlock>
-VONKK3_INLINE VonkStatus normsOfSix(const A &a, std::byte *results, std::size_t count, MayWorkBlock mayWorkBlock) {
-    std::size_t n = 0;
-    for (; n + block <= count; n += block) {
-        if (mayWorkBlock(n)) normOfBlock<Rows::adjacent>(a, n, fixed<6>, results);
-        else if (normsOfSixOneByOne(a, n, n + block, results) != vonkOk) return vonkErrNullPtr;
-    }
-    return normsOfSixOneByOne(a, n, count, results);
-}
-
-template <class A> VONKK3_INLINE VonkStatus normsOfSix(const A &a, std::byte *results, std::size_t count) {
-    const Reach reach = reachOf<6>(a);
-    if constexpr (A::layout == Layout::Standard) {
-        if (count == 0) return vonkOk;
-        const Touching touching(reach.repeated(count, a.objectSpacing()), Reach(count * sizeof(Real32)));
-        if (touching(a.view(0).base, results)) return normsOfSixOneByOne(a, 0, count, results);
-        return normsOfSix(a, results, count, [](std::size_t) VONKK3_INLINED { return true; });
-    } else {
-        const Touching touching(reach, Reach(block * sizeof(Real32)));
-        const auto mayWorkBlock = [&](std::size_t n) VONKK3_INLINED {
-            const auto mayWork = [&](std::size_t k) VONKK3_INLINED {
-                return !a.listHasNull(k) && !touching(a.view(k).base, results + n * sizeof(Real32));
-            };
-            return mayWork(n) && mayWork(n + 1) && mayWork(n + 2) && mayWork(n + 3);
-        };
-        return normsOfSix(a, results, count, mayWorkBlock);
-    }
 }
 
 template <class A, class Columns, class RowCount, class T, class Count>
@@ -147,14 +126,15 @@ VONKK3_INLINE VonkStatus frobeniusNorm(const A &a, Columns columns, RowCount row
     const auto cells = reinterpret_cast<std::byte *>(results);
     if constexpr (way == NormOrder::inLanes) {
         if constexpr (A::isArray && Columns::value == 6)
-            if (areRuns<6>(a)) [[likely]]
-                return normsOfSix(withRuns<6>(a), cells, count);
-        return normsInLanes(a, columns, cells, count);
+            if (count != 0 && areAdjacentRows<6>(6, a)) [[likely]]
+                return normsOfSix(a.walkedBy(6 * sizeof(Real32)), cells, count);
+        return forEachObject(
+            count, [&](std::size_t n) VONKK3_INLINED { return normOfOne(a, n, columns, cells), vonkOk; }, a);
     } else if constexpr (way == NormOrder::inLanesByFour) {
         if constexpr (Columns::value == 3)
-            if (areRuns<3>(a)) [[likely]]
-                return normsByFour<Rows::adjacent>(withRuns<3>(a), columns, cells, count);
-        return normsByFour<Rows::anywhere>(a, columns, cells, count);
+            if (areAdjacentRows<3>(3, a)) [[likely]]
+                return normsByFour<true>(a.walkedBy(3 * sizeof(Real32)), columns, cells, count);
+        return normsByFour<false>(a, columns, cells, count);
     } else {
         const auto one = [&](std::size_t n) VONKK3_INLINED {
             const auto view = a.view(n, columns);

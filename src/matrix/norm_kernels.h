@@ -5,7 +5,7 @@
 #include "frame/estimate.h"
 #include "frame/four_objects.h"
 #include "frame/lanes.h"
-#include "matrix/runs.h"
+#include "frame/straight.h"
 
 namespace vonkk3::matrix {
 
@@ -14,13 +14,8 @@ VONKK3_INLINE __m128 square(__m128 a) { return _mm_mul_ps(a, a); }
 
 // Lanes 0 and 2, 1 and 3 of two registers, each pair beside its counterpart: what a sum of halves adds.
 VONKK3_INLINE __m128 addHalves(__m128 a, __m128 b) { return add(_mm_movelh_ps(a, b), _mm_movehl_ps(b, a)); }
-VONKK3_INLINE __m128 lane(__m128 lanes, int which) {
-    switch (which) {
-    case 1: return _mm_shuffle_ps(lanes, lanes, _MM_SHUFFLE(1, 1, 1, 1));
-    case 2: return _mm_movehl_ps(lanes, lanes);
-    default: return lanes;
-    }
-}
+VONKK3_INLINE __m128 lane1(__m128 lanes) { return pick<1, 1, 1, 1>(lanes, lanes); }
+VONKK3_INLINE __m128 lane2(__m128 lanes) { return _mm_movehl_ps(lanes, lanes); }
 
 // ---- One object: the sum of squares in lane 0 -----------------------------------------------------------------------
 
@@ -32,7 +27,7 @@ template <std::size_t order> VONKK3_INLINE __m128 loadSquares(const RowsView<con
 // cj = (p0j + p1j) + p2j; (c0 + c1) + c2
 VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<3>) {
     const __m128 c = add(add(loadSquares<3>(a, 0), loadSquares<3>(a, 1)), loadSquares<3>(a, 2));
-    return _mm_add_ss(_mm_add_ss(c, lane(c, 1)), lane(c, 2));
+    return _mm_add_ss(_mm_add_ss(c, lane1(c)), lane2(c));
 }
 
 // Columns 0 to 3: cj = (p0j + p1j) + (p2j + p3j)
@@ -42,7 +37,7 @@ template <std::size_t order> VONKK3_INLINE __m128 firstFourRows(const RowsView<c
 }
 VONKK3_INLINE __m128 sumOfFour(__m128 c) { // (c0 + c2) + (c1 + c3)
     const __m128 halves = add(c, _mm_movehl_ps(c, c));
-    return _mm_add_ss(halves, lane(halves, 1));
+    return _mm_add_ss(halves, lane1(halves));
 }
 
 VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<4>) { return sumOfFour(firstFourRows<4>(a)); }
@@ -76,11 +71,11 @@ VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<6>) {
 // ---- Four objects, one per lane -------------------------------------------------------------------------------------
 
 // (((p00 + p01) + p22) + (p02 + p10)) + ((p11 + p12) + (p20 + p21))
-template <Rows rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<3>) {
+template <bool areAdjacent, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<3>) {
     __m128 first[4], second[4], corner[4]; // p00 p01 p02 p10, p11 p12 p20 p21, p22
     forEachBelow<4>([&](std::size_t k) VONKK3_INLINED {
         const RowsView<const Real32> a = view(k);
-        if constexpr (rows == Rows::adjacent) {
+        if constexpr (areAdjacent) {
             first[k] = square(load4(a.base));
             second[k] = square(load4(a.base + 16));
         } else {
@@ -100,14 +95,14 @@ template <Rows rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const View
 }
 
 // (c0 + c1) + (c2 + c3)
-template <Rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<4>) {
+template <bool, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<4>) {
     const __m128 low = addNeighbours(firstFourRows<4>(view(0)), firstFourRows<4>(view(1)));
     const __m128 high = addNeighbours(firstFourRows<4>(view(2)), firstFourRows<4>(view(3)));
     return addNeighbours(low, high);
 }
 
 // The order of one object, four times over.
-template <Rows, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<6>) {
+template <bool, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<6>) {
     const auto twoObjects = [&](auto parts, std::size_t k)
                                 VONKK3_INLINED { return addHalves(parts(view(k)), parts(view(k + 1))); };
     const auto heads = [](const auto &a) VONKK3_INLINED { return headsOfSix(a); };

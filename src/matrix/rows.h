@@ -1,10 +1,8 @@
-// Real32 matrices of fixed order in four-lane registers, row by row: as they are stored or transposed, read when a
-// row's turn comes or held. Whatever gives rows is asked for row(i).
+// Real32 matrices of fixed order and contiguous rows in four-lane registers: row by row, as they are stored or
+// transposed, or, where rows are adjacent, as one range. Whatever gives rows is asked for row(i).
 #pragma once
 
-#include "frame/lanes.h"
-#include "frame/straight.h"
-#include "frame/views.h"
+#include "frame/contiguous.h"
 
 namespace vonkk3::matrix {
 
@@ -12,7 +10,13 @@ namespace vonkk3::matrix {
 template <std::size_t order> struct StoredRows {
     RowsView<const Real32> view;
     VONKK3_INLINE explicit StoredRows(const RowsView<const Real32> &view) : view(view) {}
-    VONKK3_INLINE Lanes<order> row(std::size_t i) const { return Lanes<order>::load(view.at(i, 0)); }
+    VONKK3_INLINE StoredElements<order> row(std::size_t i) const { return {view.at(i, 0)}; }
+};
+
+// Registers of a row that is made of others.
+struct RowRegisters {
+    __m128 head, tail;
+    VONKK3_INLINE __m128 at(std::size_t k) const { return k == 0 ? head : tail; }
 };
 
 // Transposed in registers: columns 0 to 3 are read at once, columns 4 and 5 when the turn of their rows comes.
@@ -21,14 +25,14 @@ template <std::size_t order> struct TransposedRows {
     __m128 heads[4];
     __m128 below[2]; // rows 4 and 5 as stored
 
-    VONKK3_INLINE explicit TransposedRows(const TransposedView<RowsView<const Real32>> &view) : stored(view.stored) {
+    VONKK3_INLINE explicit TransposedRows(const RowsView<const Real32> &stored) : stored(stored) {
         forEachBelow<4>([&](std::size_t i) VONKK3_INLINED { heads[i] = load4(stored.at(i, 0)); });
-        _MM_TRANSPOSE4_PS(heads[0], heads[1], heads[2], heads[3]);
+        transposeFour(heads[0], heads[1], heads[2], heads[3]);
         if constexpr (order > 4) below[0] = load4(stored.at(4, 0));
         if constexpr (order > 5) below[1] = load4(stored.at(5, 0));
     }
 
-    VONKK3_INLINE Lanes<order> row(std::size_t i) const {
+    VONKK3_INLINE RowRegisters row(std::size_t i) const {
         if constexpr (order == 4) return {heads[i], _mm_setzero_ps()};
         else if (i < 4) return {heads[i], tail(i)};
         else return {gather(0, i), gatherTail(i)};
@@ -53,53 +57,74 @@ private:
 template <> struct TransposedRows<3> {
     __m128 rows[3];
 
-    VONKK3_INLINE explicit TransposedRows(const TransposedView<RowsView<const Real32>> &view) {
-        const __m128 first = load(view.stored.at(0, 0)), second = load(view.stored.at(1, 0)),
-                     third = load(view.stored.at(2, 0));
+    VONKK3_INLINE explicit TransposedRows(const RowsView<const Real32> &stored) {
+        const auto load = [&](std::size_t i)
+                              VONKK3_INLINED { return _mm_movelh_ps(load2(stored.at(i, 0)), load1(stored.at(i, 2))); };
+        const __m128 first = load(0), second = load(1), third = load(2);
         const __m128 low = _mm_unpacklo_ps(second, third), high = _mm_unpackhi_ps(second, third);
         rows[0] = _mm_shuffle_ps(first, low, _MM_SHUFFLE(1, 0, 0, 0));
         rows[1] = _mm_shuffle_ps(first, low, _MM_SHUFFLE(3, 2, 1, 1));
         rows[2] = _mm_shuffle_ps(first, high, _MM_SHUFFLE(1, 0, 2, 2));
     }
-
-    VONKK3_INLINE Lanes<3> row(std::size_t i) const { return {rows[i], _mm_setzero_ps()}; }
-
-private:
-    VONKK3_INLINE static __m128 load(const std::byte *row) { return _mm_movelh_ps(load2(row), load1(row + 8)); }
+    VONKK3_INLINE RowRegisters row(std::size_t i) const { return {rows[i], _mm_setzero_ps()}; }
 };
 
 template <std::size_t order> VONKK3_INLINE auto rowsOf(const RowsView<const Real32> &view) {
     return StoredRows<order>(view);
 }
 template <std::size_t order> VONKK3_INLINE auto rowsOf(const TransposedView<RowsView<const Real32>> &view) {
-    return TransposedRows<order>(view);
+    return TransposedRows<order>(view.stored);
 }
 
 // Taken out of memory.
 template <std::size_t order> struct HeldRows {
-    static_assert(order <= 4);
-    __m128 heads[order];
+    RowRegisters rows[order];
     template <class Rows> VONKK3_INLINE explicit HeldRows(const Rows &source) {
-        forEachBelow<order>([&](std::size_t i) VONKK3_INLINED { heads[i] = source.row(i).head; });
+        forEachBelow<order>([&](std::size_t i) VONKK3_INLINED {
+            const auto row = source.row(i);
+            rows[i].head = row.at(0);
+            if constexpr (order > 4) rows[i].tail = row.at(1);
+        });
     }
-    VONKK3_INLINE Lanes<order> row(std::size_t i) const { return {heads[i], _mm_setzero_ps()}; }
+    VONKK3_INLINE const RowRegisters &row(std::size_t i) const { return rows[i]; }
 };
-
-template <class View> VONKK3_INLINE const View &asStored(const View &view) { return view; }
-template <class View> VONKK3_INLINE const View &asStored(const TransposedView<View> &view) { return view.stored; }
-
-// A row of the result.
-template <std::size_t order, class Operation, class... Others>
-VONKK3_INLINE Lanes<order> combineRow(const Operation &operation, const Lanes<order> &first, const Others &...others) {
-    if constexpr (order <= 4) return {operation(first.head, others.head...), first.tail};
-    else return {operation(first.head, others.head...), operation(first.tail, others.tail...)};
-}
 
 // d(i) = operation(sources(i)...), each row read before it is written.
 template <std::size_t order, class Operation, class... Sources>
 VONKK3_INLINE void workRows(const RowsView<Real32> &d, const Operation &operation, const Sources &...sources) {
     forEachBelow<order>([&](std::size_t i)
-                            VONKK3_INLINED { combineRow<order>(operation, sources.row(i)...).store(d.at(i, 0)); });
+                            VONKK3_INLINED { workElementsAtOnce<order>(d.at(i, 0), operation, sources.row(i)...); });
+}
+
+// ---- All objects ----------------------------------------------------------------------------------------------------
+
+// What gives the rows of object n. A single object that is held is read once, here.
+template <bool isHeld, std::size_t order, class Operand> VONKK3_INLINE auto rowsByObject(const Operand &operand) {
+    if constexpr (isHeld)
+        return [held = HeldRows<order>(rowsOf<order>(operand.view(0)))](std::size_t)
+                   VONKK3_INLINED -> const HeldRows<order> & { return held; };
+    else return [operand](std::size_t n) VONKK3_INLINED { return rowsOf<order>(operand.view(n)); };
+}
+
+// d(n) = operation(sources(n)...), `step` elements at once where rows are adjacent, else row by row.
+template <std::size_t order, std::size_t step, bool holdsSingle, class Operation, class Count, class D,
+          class... Sources>
+VONKK3_INLINE VonkStatus workMatrices(const Operation &operation, Count count, const D &d, const Sources &...sources) {
+    const auto isReadInOrder = [](const auto &source) VONKK3_INLINED {
+        using Source = std::remove_cvref_t<decltype(source)>;
+        if constexpr (holdsSingle && !Source::isArray) return true;
+        else return !Source::isTransposed && source.hasPackedRows(order);
+    };
+    if constexpr (((!Sources::isTransposed || (holdsSingle && !Sources::isArray)) && ...))
+        if (d.hasPackedRows(order) && (isReadInOrder(sources) && ...)) [[likely]]
+            return workContiguousObjects<order, order, step, holdsSingle>(operation, count, d, sources...);
+    const auto walk = [&](const auto &...rows) VONKK3_INLINED {
+        const auto one = [&](std::size_t n) VONKK3_INLINED {
+            return workRows<order>(d.view(n), operation, rows(n)...), VonkStatus(vonkOk);
+        };
+        return forEachObject(count, one, sources..., d);
+    };
+    return walk(rowsByObject < holdsSingle && !Sources::isArray, order > (sources)...);
 }
 
 } // namespace vonkk3::matrix

@@ -6,7 +6,6 @@
 #include "frame/untested_position.h"
 #include "frame/walk.h"
 #include "matrix/rows.h"
-#include "matrix/runs.h"
 
 namespace vonkk3::matrix {
 
@@ -24,36 +23,13 @@ inline constexpr bool scalesPosition8Untested =
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-template <std::size_t order, class A, class Operation, class D, class Count>
-VONKK3_INLINE VonkStatus scaleRuns(const A &a, const Operation &times, const D &d, Count count) {
-    if constexpr (A::isArray && A::layout == Layout::Standard) {
-        const std::byte *const from = a.view(0).base;
-        std::byte *const to = d.view(0).base;
-        if (areOneRun<order>(a, d) && !overwritesAhead(to, from, count * objectBytes<order>)) [[likely]]
-            return streamContiguous(times, to, count * order * order, ContiguousSource{from}), vonkOk;
-    }
-    return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED {
-            workRun<order, Storing::atTheEnd>(d.view(n).base, times, StoredRun<order>(a.view(n).base));
-            return vonkOk;
-        },
-        a, d);
-}
-
-template <std::size_t order, class A, class Operation, class D, class Count>
-VONKK3_INLINE VonkStatus scaleInLanes(const A &a, const Operation &times, const D &d, Count count) {
+template <class A, class Operation, class D, std::size_t order, class Count>
+VONKK3_INLINE VonkStatus scaleInLanes(const A &a, const Operation &times, const D &d, Fixed<order> size, Count count) {
     if (count == 0) return vonkOk;
-    if constexpr (!A::isTransposed)
-        if (areRuns<order>(a, d)) [[likely]]
-            return scaleRuns<order>(a, times, d, count);
-    return forEachObject(
-        count,
-        [&](std::size_t n) VONKK3_INLINED {
-            workRows<order>(d.view(n), times, rowsOf<order>(a.view(n)));
+    if constexpr (A::isArray && A::layout == Layout::Standard && !A::isTransposed)
+        if (workAsOneRange<order>(times, size, count, d, a)) [[likely]]
             return vonkOk;
-        },
-        a, d);
+    return workMatrices<order, order * order, false>(times, count, d, a);
 }
 
 // d(n, i, j) = a(n, i, j) * value
@@ -67,7 +43,7 @@ VONKK3_INLINE VonkStatus scale(const A &a, typename D::Element value, const D &d
     if constexpr (Count::isArray)
         if (anyTableEntryNull(std::size_t(columns) * rows, a, d)) return vonkErrNullPtr;
 
-    if constexpr (scalesInLanes<D, Columns>) return scaleInLanes<Columns::value>(a, times, d, count);
+    if constexpr (scalesInLanes<D, Columns>) return scaleInLanes(a, times, d, columns, count);
     else if constexpr (Count::isArray)
         return workArrays<T>(times, rows, columns, count, d.words(columns),
                              a.words(A::isTransposed ? std::size_t(rows) : std::size_t(columns)));

@@ -41,9 +41,18 @@ VONKK3_INLINE VonkStatus sumDiagonal(const View &a, std::size_t order, T *result
     return vonkOk;
 }
 
-template <class View, std::size_t order> VONKK3_INLINE Real32 diagonalSum(const View &a, Fixed<order>) {
-    Real32 sum = a.load(0, 0);
-    forEachBelow<order - 1>([&](std::size_t i) VONKK3_INLINED { sum = sum + a.load(i + 1, i + 1); });
+// Of arrays that may lie under their results.
+VONKK3_SHARED inline void sumDiagonalsInMemory(StridedView<const Real32> diagonal, std::ptrdiff_t step,
+                                               std::size_t order, Real32 *results, std::size_t count) {
+    for (std::size_t n = 0; n < count; ++n, diagonal.base += step)
+        sumDiagonal<false, false>(diagonal, order, results + n);
+}
+
+// The same in a register, stored once: for results that do not lie in a diagonal.
+template <bool beginsWithZero, class Order>
+VONKK3_INLINE Real32 sumOf(const StridedView<const Real32> &diagonal, Order order) {
+    Real32 sum = beginsWithZero ? 0.0F + diagonal.load(0) : diagonal.load(0);
+    forIndices(1, order, order, [&](std::size_t i) VONKK3_INLINED { sum = sum + diagonal.load(i); });
     return sum;
 }
 
@@ -68,23 +77,30 @@ VONKK3_INLINE VonkStatus trace(const A &a, Order order, T *results, Count count)
     if constexpr (Count::isArray)
         if (anyTableEntryNull(scannedEntries(order), a)) return vonkErrNullPtr;
 
-    if constexpr (sumsInRegister<T, A, Order>)
-        return forEachLightObject(
-            count,
-            [&](std::size_t n) VONKK3_INLINED {
-                storeAt<T>(reinterpret_cast<std::byte *>(results + n), diagonalSum(a.view(n), order));
-            },
-            a);
-    else {
-        const auto one = [&](std::size_t n) VONKK3_INLINED {
-            return sumDiagonal<goesInPairs<T, A, Order>, !Count::isArray>(a.view(n, order), order, results + n);
+    const auto one = [&](std::size_t n) VONKK3_INLINED {
+        return sumDiagonal<goesInPairs<T, A, Order>, !Count::isArray>(a.view(n, order), order, results + n);
+    };
+    if constexpr (std::is_same_v<T, Real32> && A::isArray && A::isTable)
+        return forEachObjectFrom(reduceArrays(TraceOfPacks(), reinterpret_cast<std::byte *>(results), order, fixed<1>,
+                                              count, a.words(order + 1)), // from one diagonal element to the next
+                                 count, one);
+    else if constexpr (sumsInRegister<T, A, Order> || (std::is_same_v<T, Real32> && A::isArray && !A::isList)) {
+        const std::ptrdiff_t stride = a.rowSpacing() + a.elementSpacing();
+        const auto diagonal = [&](std::size_t n)
+                                  VONKK3_INLINED { return StridedView<const T>(a.view(n).base, 0, stride); };
+        if constexpr (!sumsInRegister<T, A, Order>) {
+            if (count == 0) return vonkOk;
+            const Extent all = extentOf(diagonal(0), 1, order).extendedBy(strides(count - 1, a.objectSpacing()));
+            if (!disjoint(all, extentOf(results, count)))
+                return sumDiagonalsInMemory(diagonal(0), a.objectSpacing(), order, results, count), vonkOk;
+        }
+        const auto inRegister = [&](std::size_t n) VONKK3_INLINED {
+            const T sum = sumOf<!sumsInRegister<T, A, Order>>(diagonal(n), order);
+            return storeAt<T>(reinterpret_cast<std::byte *>(results + n), sum), vonkOk;
         };
-        std::size_t done = 0;
-        if constexpr (std::is_same_v<T, Real32> && A::isArray && A::isTable)
-            done = reduceArrays(TraceOfPacks(), reinterpret_cast<std::byte *>(results), order, fixed<1>, count,
-                                a.words(order + 1)); // from one diagonal element to the next
-        return forEachObjectFrom(done, count, one, a);
-    }
+        if constexpr (sumsInRegister<T, A, Order>) return forEachLightObject(count, inRegister, a);
+        else return forEachObject(count, inRegister, a);
+    } else return forEachObject(count, one, a);
 }
 
 } // namespace vonkk3::matrix

@@ -4,7 +4,6 @@
 #include "frame/elementwise.h"
 #include "frame/walk.h"
 #include "matrix/rows.h"
-#include "matrix/runs.h"
 
 namespace vonkk3::matrix {
 
@@ -27,20 +26,12 @@ template <class Columns> inline constexpr bool storesBeforeItHasRead = Columns::
 // Along the rows of the source; an element is read when its turn comes.
 template <bool testsEntries, class A, class D, class Columns>
 VONKK3_INLINE VonkStatus transposeElements(const A &a, const D &d, Columns columns, std::size_t rows) {
-    for (std::size_t i = 0; i < rows; ++i) {
-        const bool noneIsNull = everyIndex(0, columns, columns, [&](std::size_t j) VONKK3_INLINED {
-            if (testsEntries && (a.hasNullEntry(i, j) || d.hasNullEntry(j, i))) return false;
-            d.store(j, i, a.load(i, j));
-            return true;
-        });
-        if (!noneIsNull) return vonkErrNullPtr;
-    }
-    return vonkOk;
+    return workElements<testsEntries>(TransposedView{d}, rows, columns, Moved(), a);
 }
 
 // The same for rows of adjacent elements that something keeps from being transposed in registers.
 template <std::size_t order> VONKK3_NOINLINE void transposeInMemory(RowsView<const Real32> a, RowsView<Real32> d) {
-    transposeElements<false>(a, d, fixed<order>, order);
+    transposeElements<false>(a, d, atRunTime(order), order);
 }
 
 // ---- One object in registers: all of it is read before any of it is written -----------------------------------------
@@ -68,8 +59,9 @@ VONKK3_INLINE __m128 oddColumn(__m128 upper, __m128 lower) {
     return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(3, 1, 3, 1));
 }
 
-// Columns j and j + 1 become rows; where those are a run, three stores do.
-template <Rows rows> VONKK3_INLINE void transposeSix(const RowsView<const Real32> &from, const RowsView<Real32> &to) {
+// Columns j and j + 1 become rows; where those are adjacent, three stores do.
+template <bool areAdjacent>
+VONKK3_INLINE void transposeSix(const RowsView<const Real32> &from, const RowsView<Real32> &to) {
     __m128 squares[3][3];
     forEachBelow<3>([&](std::size_t across) VONKK3_INLINED {
         forEachBelow<3>([&](std::size_t down)
@@ -80,63 +72,37 @@ template <Rows rows> VONKK3_INLINE void transposeSix(const RowsView<const Real32
         const std::size_t i = 2 * across;
         const __m128 ends = _mm_shuffle_ps(lower, upper, _MM_SHUFFLE(3, 1, 2, 0));
         store4(to.at(i, 0), evenColumn(upper, middle));
-        if constexpr (rows == Rows::adjacent) store4(to.at(i, 4), ends);
+        if constexpr (areAdjacent) store4(to.at(i, 4), ends);
         else store2(to.at(i, 4), ends), _mm_storeh_pi(pair(to.at(i + 1, 0)), ends);
         store4(to.at(i + 1, 2), oddColumn(middle, lower));
     });
 }
 
-template <Rows rows, std::size_t order>
+template <bool areAdjacent, std::size_t order>
 VONKK3_INLINE void transposeObject(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<order>) {
-    if constexpr (order == 3 && rows == Rows::adjacent) transposeRunOfThree(from.base, to.base);
-    else if constexpr (order == 6) transposeSix<rows>(from, to);
-    else {
-        const TransposedRows<order> transposed{TransposedView{from}};
-        __m128 heads[order], tails[order];
-        forEachBelow<order>([&](std::size_t i) VONKK3_INLINED {
-            const Lanes<order> row = transposed.row(i);
-            heads[i] = row.head;
-            tails[i] = row.tail;
-        });
-        forEachBelow<order>([&](std::size_t i) VONKK3_INLINED { Lanes<order>{heads[i], tails[i]}.store(to.at(i, 0)); });
-    }
+    if constexpr (order == 3 && areAdjacent) transposeRunOfThree(from.base, to.base);
+    else if constexpr (order == 6) transposeSix<areAdjacent>(from, to);
+    else workRows<order>(to, Moved(), HeldRows<order>(TransposedRows<order>(from)));
 }
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-// 3x3: objects that touch their results go element by element.
-template <Rows rows, class A, class D, class Count>
-VONKK3_INLINE VonkStatus transposeThrees(const A &a, const D &d, Count count) {
-    const Reach source = reachOf<3>(a), destination = reachOf<3>(d);
-    if constexpr (A::isArray && A::layout == Layout::Standard) {
-        const Touching touching(source.repeated(count, a.objectSpacing()),
-                                destination.repeated(count, d.objectSpacing()));
-        if (!touching(a.view(0).base, d.view(0).base)) {
-            for (std::size_t n = 0; n < count; ++n) transposeObject<rows>(a.view(n), d.view(n), fixed<3>);
-            return vonkOk;
-        }
-    }
-    const Touching touching(source, destination);
+template <bool areAdjacent, class A, class D, std::size_t order, class Count>
+VONKK3_INLINE VonkStatus transposeInLanes(const A &a, const D &d, Fixed<order> size, Count count) {
+    const bool mayGoInRegisters =
+        !storesBeforeItHasRead<Fixed<order>> ||
+        (!A::isList && disjoint(extentOfAll(a, order, order, count), extentOfAll(d, order, order, count)));
     return forEachObject(
         count,
         [&](std::size_t n) VONKK3_INLINED {
-            const auto from = a.view(n);
-            const auto to = d.view(n);
-            if (touching(from.base, to.base)) transposeInMemory<3>(from, to);
-            else transposeObject<rows>(from, to, fixed<3>);
+            const RowsView<const Real32> from = a.view(n);
+            const RowsView<Real32> to = d.view(n);
+            if (mayGoInRegisters || disjoint(extentOf(from, order, order), extentOf(to, order, order)))
+                transposeObject<areAdjacent>(from, to, size);
+            else transposeInMemory<order>(from, to);
             return vonkOk;
         },
         a, d);
-}
-
-template <Rows rows, class A, class D, std::size_t order, class Count>
-VONKK3_INLINE VonkStatus transposeInLanes(const A &a, const D &d, Fixed<order> size, Count count) {
-    if constexpr (storesBeforeItHasRead<Fixed<order>>) return transposeThrees<rows>(a, d, count);
-    else
-        return forEachObject(
-            count,
-            [&](std::size_t n) VONKK3_INLINED { return transposeObject<rows>(a.view(n), d.view(n), size), vonkOk; }, a,
-            d);
 }
 
 // d(n, j, i) = a(n, i, j), for `rows` by `columns` of the source.
@@ -150,10 +116,10 @@ VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, RowCount rows, c
     constexpr bool isAdjacent = D::layout == Layout::Standard || D::layout == Layout::L;
     if constexpr (std::is_same_v<typename D::Element, Real32> && isAdjacent && Columns::isFixed) {
         if (count == 0) return vonkOk;
-        if (areRuns<Columns::value>(a, d)) [[likely]]
-            return transposeInLanes<Rows::adjacent>(withRuns<Columns::value>(a), withRuns<Columns::value>(d), columns,
-                                                    count);
-        return transposeInLanes<Rows::anywhere>(a, d, columns, count);
+        constexpr std::ptrdiff_t adjacent = Columns::value * sizeof(Real32);
+        if (areAdjacentRows<Columns::value>(columns, a, d)) [[likely]]
+            return transposeInLanes<true>(a.walkedBy(adjacent), d.walkedBy(adjacent), columns, count);
+        return transposeInLanes<false>(a, d, columns, count);
     } else {
         const TableRowLengths lengths(columns, rows);
         if constexpr (Count::isArray)

@@ -69,8 +69,7 @@ inline std::size_t crossInBlocks(const A &a, const B &b, const D &d, std::size_t
     return withKnownSpacing<3>(work, a, b, d);
 }
 
-// ---- Arrays in the pointer layouts
-// -----------------------------------------------------------------------------------
+// ---- Arrays in the pointer layouts ----------------------------------------------------------------------------------
 
 // In place is for the plain form alone: the others store a component before they load for the next.
 template <CrossForm form> struct CrossOfPacks {

@@ -3,6 +3,7 @@
 
 #include "frame/four_objects.h"
 #include "frame/positions.h"
+#include "frame/stream.h"
 #include "vector/block_walk.h"
 
 namespace vonkk3::vector {
@@ -53,12 +54,6 @@ template <class F>
 inline constexpr bool mayTakeBlocks = F::isReal32 &&F::isArray &&F::isFixed &&F::layout == Layout::Standard;
 
 // ---- One object -----------------------------------------------------------------------------------------------------
-
-struct ProductTerm {
-    template <class Real> Real operator()(Real a, Real b) const { return a * b; }
-    __m128 operator()(__m128 a, __m128 b) const { return _mm_mul_ps(a, b); }
-    static void hint(const std::byte *address) { prefetchOnce(address); }
-};
 
 // Left to right; a fixed length begins with its first product, so that a sum of -0 alone is -0, others with +0.
 template <class F, class A, class B, class Length>
@@ -185,7 +180,7 @@ VONKK3_INLINE VonkStatus dotProduct(const A &a, const B &b, T *dst, Length lengt
             reduceArrays(DotOfPacks<!F::isFixed>(), results, fixed<1>, length, count, a.words(length), b.words(length));
     const auto work = [&](std::size_t n) VONKK3_INLINED {
         Working<T> sum;
-        if constexpr (sumsInBlocks<F>) sum = sumInBlocks(ProductTerm{}, length, b.view(0).base, a.view(0).base);
+        if constexpr (sumsInBlocks<F>) sum = sumInBlocks(Product(), length, b.view(0).base, a.view(0).base);
         else sum = sumProducts<F>(a.view(n), b.view(n), length);
         storeAt<T>(results + n * sizeof(T), round<T>(sum));
         return vonkOk;

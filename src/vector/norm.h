@@ -21,8 +21,7 @@ inline constexpr bool rootsByEstimate = std::is_same_v<typename Source::Element,
 template <class Source, class Length>
 inline constexpr bool normTrustsEntries = rootsByEstimate<Source, Length> &&Source::isList &&Length::value == 4;
 
-// Only the run-time norm of one Real32 vector of adjacent elements is built for length. Its hint differs from that of
-// the dot product: the vector is kept in the caches.
+// Only the run-time norm of one Real32 vector of adjacent elements is built for length.
 template <class Source, class Length>
 inline constexpr bool squaresInBlocks = std::is_same_v<typename Source::Element, Real32> && !Length::isFixed &&
                                         !Source::isArray && Source::layout == Layout::Standard;
@@ -32,16 +31,20 @@ inline constexpr bool squaresInBlocks = std::is_same_v<typename Source::Element,
 struct SquareTerm {
     Real32 operator()(Real32 a) const { return a * a; }
     __m128 operator()(__m128 a) const { return _mm_mul_ps(a, a); }
-    static void hint(const std::byte *address) { prefetch(address); }
 };
 
-template <class T, class View, class Length> VONKK3_INLINE Working<T> sumSquares(const View &view, Length length) {
-    Working<T> sum = 0;
-    for (std::size_t j = 0; j < length; ++j) {
-        const Working<T> element = view.load(j);
-        sum = sum + element * element;
-    }
+// Left to right. As from +0, since a square is never -0; Number is a number or a pack.
+template <class Number, class Element> VONKK3_INLINE Number sumSquares(const Element &element, std::size_t length) {
+    const auto square = [&](std::size_t j) VONKK3_INLINED {
+        const Number a = element(j);
+        return a * a;
+    };
+    Number sum = square(0);
+    for (std::size_t j = 1; j < length; ++j) sum = sum + square(j);
     return sum;
+}
+template <class T, class View> VONKK3_INLINE Working<T> sumSquaresOf(const View &view, std::size_t length) {
+    return sumSquares<Working<T>>([&](std::size_t j) VONKK3_INLINED { return view.load(j); }, length);
 }
 
 // The sum of squares q(j) as the forms with an estimated root group it; Reals are one object's or four objects'.
@@ -97,19 +100,25 @@ inline std::size_t normInBlocks(const Source &source, std::byte *results, Object
     return withKnownSpacing<length>(work, source);
 }
 
+// Sums one by one, but roots four at a time; how many objects were done.
+template <class Source, class Length>
+VONKK3_INLINE std::size_t takeFourRoots(const Source &source, std::byte *results, Length length, Objects count) {
+    if (count < four || !disjoint(extentOf(results, count * sizeof(Real32)), extentOfAll(source, 1, length, count)))
+        return 0;
+    const std::size_t end = inFours(count);
+    for (std::size_t n = 0; n < end; n += four) {
+        const auto sum = [&](std::size_t k) VONKK3_INLINED { return sumSquaresOf<Real32>(source.view(n + k), length); };
+        store4(results + n * sizeof(Real32), _mm_sqrt_ps(_mm_setr_ps(sum(0), sum(1), sum(2), sum(3))));
+    }
+    return end;
+}
+
 // ---- Arrays in the pointer layout -----------------------------------------------------------------------------------
 
-// A square is never -0, so a sum from +0 may as well begin with the first.
 struct NormOfPacks {
     template <class A> VONKK3_INLINE auto operator()(std::size_t, std::size_t length, const A &a) const {
-        using Number = typename A::Number;
-        const auto square = [&](std::size_t j) VONKK3_INLINED {
-            const Number element = a.load(0, j);
-            return element * element;
-        };
-        Number sum = square(0);
-        for (std::size_t j = 1; j < length; ++j) sum = sum + square(j);
-        return squareRoot(sum);
+        return squareRoot(
+            sumSquares<typename A::Number>([&](std::size_t j) VONKK3_INLINED { return a.load(0, j); }, length));
     }
 };
 
@@ -127,14 +136,16 @@ VONKK3_INLINE VonkStatus norm(const Source &source, T *dst, Length length, Count
     std::size_t done = 0;
     if constexpr (rootsByEstimate<Source, Length> && Count::isArray)
         done = normInBlocks<Length::value, testsEntries>(source, results, count);
-    if constexpr (std::is_same_v<T, Real32> && Source::isArray && Source::isTable)
+    else if constexpr (std::is_same_v<T, Real32> && Length::isFixed && Source::isArray && Source::layout == Layout::S2)
+        done = takeFourRoots(source, results, length, count);
+    else if constexpr (std::is_same_v<T, Real32> && Source::isArray && Source::isTable)
         done = reduceArrays(NormOfPacks(), results, fixed<1>, length, count, source.words(length));
     const auto work = [&](std::size_t n) VONKK3_INLINED {
         T result;
         if constexpr (rootsByEstimate<Source, Length>) result = normByEstimate<Length::value>(source.view(n));
         else if constexpr (squaresInBlocks<Source, Length>)
             result = squareRoot(sumInBlocks(SquareTerm{}, length, source.view(0).base));
-        else result = round<T>(squareRoot(sumSquares<T>(source.view(n), length)));
+        else result = round<T>(squareRoot(sumSquaresOf<T>(source.view(n), length)));
         storeAt<T>(results + n * sizeof(T), result);
         return VonkStatus(vonkOk);
     };
