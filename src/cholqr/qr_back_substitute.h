@@ -3,7 +3,6 @@
 // the numbers is tested: a zero on the diagonal divides through.
 #pragma once
 
-#include "cholqr/copy_in_blocks.h"
 #include "cholqr/elements.h"
 #include "frame/shared_batch.h"
 
@@ -25,12 +24,6 @@ inline constexpr bool strayInTriangle =
     std::is_same_v<typename Factors::Element, Real64> &&Factors::layout == Layout::L &&Factors::isArray;
 
 // Neither solves the system, but for one column or data that are laid out to match. All others follow their strides.
-
-// Only vonkQRBackSubst_mv_32f copies the right-hand side in blocks, which changes no result.
-template <class RightSide, class Columns>
-inline constexpr bool copiesInBlocks =
-    std::is_same_v<typename RightSide::Element, Real32> &&RightSide::layout == Layout::Standard &&
-    !RightSide::isArray && !Columns::isFixed;
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
@@ -95,20 +88,18 @@ VONKK3_INLINE void solveTriangle(const Triangle &r, const Work &work, const Solu
     });
 }
 
-template <bool inBlocks, class Reflectors, class Triangle, class RightSide, class Solution, class T, class Columns,
-          class Rows>
+template <class Reflectors, class Triangle, class RightSide, class Solution, class T, class Columns, class Rows>
 VONKK3_INLINE void solveObject(const Reflectors &reflectors, const Triangle &triangle, T *work, const RightSide &b,
                                const Solution &x, Columns columns, Rows rows) {
     const RowsView<T> copy = workSpace(work);
-    if constexpr (inBlocks) copyInBlocks(b.at(0), copy.at(0), rows);
-    else forIndices(0, rows, rows, [&](std::size_t i) VONKK3_INLINED { copy.store(i, b.load(i)); });
+    forIndices(0, rows, rows, [&](std::size_t i) VONKK3_INLINED { copy.store(i, b.load(i)); });
     replay(InMemory{reflectors}, InMemory{copy}, columns, rows);
     solveTriangle(InMemory{triangle}, InMemory{copy}, InMemory{x}, columns);
 }
-template <bool inBlocks, class Reflectors, class Triangle, class RightSide, class Solution, class T>
+template <class Reflectors, class Triangle, class RightSide, class Solution, class T>
 VONKK3_NOINLINE void solveByCall(Reflectors reflectors, Triangle triangle, T *work, RightSide b, Solution x,
                                  RunTime columns, RunTime rows) {
-    solveObject<inBlocks>(reflectors, triangle, work, b, x, columns, rows);
+    solveObject(reflectors, triangle, work, b, x, columns, rows);
 }
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
@@ -195,7 +186,7 @@ VONKK3_NOINLINE VonkStatus solvePlainly(const LeastSquaresWords<T> &words, Colum
         auto triangle = reflectors;
         if constexpr (std::is_same_v<T, Real64> && !Source::isTable)
             if (strays) triangle.base += 1 - reflectors.rowStride, triangle.rowStride = 1;
-        solveObject<false>(reflectors, triangle, work, src2.view(n, 1), dst.view(n, 1), columns, rows);
+        solveObject(reflectors, triangle, work, src2.view(n, 1), dst.view(n, 1), columns, rows);
     }
     return vonkOk;
 }
@@ -238,11 +229,10 @@ VONKK3_INLINE VonkStatus qrBackSubstitute(const Factors &src1, T *work, const Ri
     if constexpr (!Count::isArray && Solution::layout == Layout::Standard) {
         const auto factors = src1.view(0);
         if constexpr (Columns::isFixed && std::is_same_v<T, Real32>)
-            solveObject<false>(factors, factors, work, src2.view(0), dst.view(0), columns, rows);
+            solveObject(factors, factors, work, src2.view(0), dst.view(0), columns, rows);
         else
-            solveByCall<copiesInBlocks<RightSide, Columns>>(factors, factors, work, src2.view(0), dst.view(0),
-                                                            RunTime{std::uint32_t(columns)},
-                                                            RunTime{std::uint32_t(rows)});
+            solveByCall(factors, factors, work, src2.view(0), dst.view(0), RunTime{std::uint32_t(columns)},
+                        RunTime{std::uint32_t(rows)});
         return vonkOk;
     } else {
         LeastSquaresWords<T> words{{src1.words(columns), src2.words(1), dst.words(1)}, work, strayInTriangle<Factors>};

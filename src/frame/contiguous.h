@@ -1,9 +1,9 @@
-// Real32 objects of contiguous elements, worked element by element in four-lane registers: vectors, rows, and matrices
+// Real32 objects of contiguous elements, worked element by element in registers: vectors, rows, and matrices
 // whose rows are adjacent, each for itself or all as one range. Exactly the bytes of the elements are read and written.
 #pragma once
 
 #include "frame/aliasing.h"
-#include "frame/lanes.h"
+#include "frame/registers.h"
 #include "frame/shared_operand.h"
 #include "frame/straight.h"
 #include "frame/stream.h"
@@ -197,17 +197,20 @@ VONKK3_INLINE VonkStatus workContiguousObjects(const Operation &operation, Count
 template <class Operation, class... Sources>
 VONKK3_SHARED void workRange(const Operation &shared, std::byte *d, std::size_t elements, Sources... sources) {
     const Operation operation = shared; // a local copy stays in registers
-    const auto four = [&](std::size_t at) VONKK3_INLINED {
-        store4(d + at, operation(load4(sources + at)...));
+    const auto lanes = [&]<class Lanes>(std::size_t at) VONKK3_INLINED {
+        storeLanes(d + at, operation(loadLanes<Lanes>(sources + at)...));
         keepLoopPlain(); // in bursts, stores take twice the time where the data is not in the first-level cache
     };
-    constexpr std::size_t fours = 8, block = fours * laneBytes;
+    const auto wide = [&](std::size_t at) VONKK3_INLINED { lanes.template operator()<WideRegister>(at); };
+    constexpr std::size_t registers = 8, step = sizeof(WideRegister), block = registers * step;
     std::size_t bytes = elements * sizeof(Real32);
     for (const std::byte *const end = d + bytes / block * block; d != end; d += block, (..., (sources += block)))
-        forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { four(k * laneBytes); });
+        forEachBelow<registers>([&](std::size_t k) VONKK3_INLINED { wide(k * step); });
     bytes = opaque(bytes % block); // not unrolled
     std::size_t at = 0;
-    for (; bytes - at >= laneBytes; at += laneBytes) four(at);
+    for (; bytes - at >= step; at += step) wide(at);
+    if constexpr (step > laneBytes)
+        if (bytes - at >= laneBytes) lanes.template operator()<__m128>(at), at += laneBytes;
     for (; at < bytes; at += sizeof(Real32)) {
         keepLoopPlain();
         storeAt<Real32>(d + at, operation(loadAt<Real32>(sources + at)...));

@@ -10,8 +10,6 @@ namespace vonkk3 {
 
 inline constexpr std::size_t laneBytes = 16;
 
-inline bool isAligned(const std::byte *address) { return reinterpret_cast<std::uintptr_t>(address) % laneBytes == 0; }
-
 inline const float *floats(const std::byte *address) { return reinterpret_cast<const float *>(address); }
 inline float *floats(std::byte *address) { return reinterpret_cast<float *>(address); }
 inline const __m64 *pair(const std::byte *address) { return reinterpret_cast<const __m64 *>(address); }
@@ -30,41 +28,23 @@ inline void store3(std::byte *address, __m128 lanes) {
     _mm_storeh_pi(pair(address + 4), lanes);
 }
 inline void store4(std::byte *address, __m128 lanes) { _mm_storeu_ps(floats(address), lanes); }
-inline void store4Aligned(std::byte *address, __m128 lanes) { _mm_store_ps(floats(address), lanes); }
 
-// Hints that the cache line at an address will be read soon: once, or again and again.
-inline void prefetchOnce(const std::byte *address) {
-    _mm_prefetch(reinterpret_cast<const char *>(address), _MM_HINT_NTA);
-}
-inline void prefetch(const std::byte *address) { _mm_prefetch(reinterpret_cast<const char *>(address), _MM_HINT_T0); }
-
-// How four elements at once are moved: to and from any address, or with the instructions that want a multiple of 16.
-enum class Alignment { any, lanes };
-
-template <Alignment alignment> inline __m128 load4(const std::byte *address) {
-    return alignment == Alignment::lanes ? load4Aligned(address) : load4(address);
-}
-template <Alignment alignment> inline void store4(std::byte *address, __m128 lanes) {
-    return alignment == Alignment::lanes ? store4Aligned(address, lanes) : store4(address, lanes);
-}
-
-// A vector of 3 to 6 elements in registers: four lanes, and for 5 and 6 elements a second register. Alignment is that
-// of element 0.
-template <std::size_t length, Alignment alignment = Alignment::any> struct Lanes {
+// A vector of 3 to 6 elements in registers: four lanes, and for 5 and 6 elements a second register.
+template <std::size_t length> struct Lanes {
     static_assert(length >= 3 && length <= 6);
     __m128 head;
     __m128 tail; // elements 4 and 5; unused below 5
 
     static Lanes load(const std::byte *address) {
         if constexpr (length == 3) return {load3(address), _mm_setzero_ps()};
-        else if constexpr (length == 4) return {load4<alignment>(address), _mm_setzero_ps()};
-        else if constexpr (length == 5) return {load4<alignment>(address), load1(address + 16)};
-        else return {load4<alignment>(address), load2(address + 16)};
+        else if constexpr (length == 4) return {load4(address), _mm_setzero_ps()};
+        else if constexpr (length == 5) return {load4(address), load1(address + 16)};
+        else return {load4(address), load2(address + 16)};
     }
 
     void store(std::byte *address) const {
         if constexpr (length == 3) store3(address, head);
-        else store4<alignment>(address, head);
+        else store4(address, head);
         if constexpr (length == 5) store1(address + 16, tail);
         if constexpr (length == 6) store2(address + 16, tail);
     }

@@ -74,9 +74,6 @@ VONKK3_INLINE bool overwritesAhead(const std::byte *d, const std::byte *source, 
     return reinterpret_cast<std::uintptr_t>(d) - reinterpret_cast<std::uintptr_t>(source) - 1 < bytes - 1;
 }
 
-// Fewer objects of a fixed size are done before their range is set up, or a single one is repeated beside it.
-inline constexpr std::size_t worthCollapsing = 8;
-
 // In ascending order, nothing is read later than element by element: a destination may begin before a source.
 // Stores are kept between the loads: in bursts they take twice the time where the data is not in the first-level cache.
 template <class Operation, class... Sources>
@@ -99,71 +96,6 @@ streamInLanes(const Operation &operation, std::byte *d, std::size_t elements, co
         storeAt<Real32>(d + at, operation(sources.one(at)...));
     }
 }
-
-template <class Operation, class... Sources>
-VONKK3_NOINLINE void streamContiguous(const Operation &shared, std::byte *d, std::size_t elements, Sources... sources) {
-    const Operation operation = shared; // a local copy stays in registers
-    streamInLanes(operation, d, elements, sources...);
-}
-
-// ---- A single object beside packed objects --------------------------------------------------------------------------
-
-// An operation whose sources are given the other way round.
-template <class Operation> struct Reversed {
-    Operation operation;
-    __m128 operator()(__m128 a, __m128 b) const { return operation(b, a); }
-};
-
-// So many copies of an object of `period` elements fill whole registers.
-template <std::size_t period>
-inline constexpr std::size_t copiesToRegister = period % 4 == 0   ? 1
-                                                : period % 2 == 0 ? 2
-                                                                  : 4;
-
-// A single object, repeated until its elements are back at the lanes where they began.
-template <std::size_t period> class RepeatedObject {
-public:
-    static constexpr std::size_t objects = copiesToRegister<period>;
-    static constexpr std::size_t fours = objects * period / 4;
-    static constexpr std::size_t bytes = fours * laneBytes;
-
-    // element(k) is element k of the object, in row-major order.
-    template <class Elements> VONKK3_INLINE explicit RepeatedObject(const Elements &element) {
-        forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED {
-            held[k] = _mm_setr_ps(element(4 * k % period), element((4 * k + 1) % period), element((4 * k + 2) % period),
-                                  element((4 * k + 3) % period));
-        });
-    }
-
-    // d = operation(a, object) for all objects, in ascending order.
-    template <class Operation>
-    VONKK3_INLINE void stream(const Operation &operation, std::byte *d, const std::byte *a, std::size_t count) const {
-        for (; count >= objects; count -= objects, a += bytes, d += bytes)
-            forEachBelow<fours>([&](std::size_t k) VONKK3_INLINED { four(operation, d, a, k); });
-        if constexpr (objects > 1)
-            for (; count > 0; --count, a += period * sizeof(Real32), d += period * sizeof(Real32)) one(operation, d, a);
-    }
-
-private:
-    __m128 held[fours];
-
-    template <class Operation>
-    VONKK3_INLINE void four(const Operation &operation, std::byte *d, const std::byte *a, std::size_t k) const {
-        store4(d + k * laneBytes, operation(load4(a + k * laneBytes), held[k]));
-    }
-    template <class Operation>
-    VONKK3_INLINE void one(const Operation &operation, std::byte *d, const std::byte *a) const {
-        constexpr std::size_t whole = period / 4, over = period % 4, at = whole * laneBytes;
-        forEachBelow<whole>([&](std::size_t k) VONKK3_INLINED { four(operation, d, a, k); });
-        if constexpr (over == 1) store1(d + at, operation(load1(a + at), held[whole]));
-        if constexpr (over == 2) store2(d + at, operation(load2(a + at), held[whole]));
-        if constexpr (over == 3) {
-            const __m128 result = operation(_mm_movelh_ps(load2(a + at), load1(a + at + 8)), held[whole]);
-            store2(d + at, result);
-            store1(d + at + 8, _mm_movehl_ps(result, result));
-        }
-    }
-};
 
 // ---- One position of many objects -----------------------------------------------------------------------------------
 
