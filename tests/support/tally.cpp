@@ -14,8 +14,8 @@ constexpr std::uint64_t enoughForStatuses = 4 * faultRound;
 constexpr double leastFull = 0.7;   // of the calls
 constexpr double leastWorked = 0.5; // of the calls
 
-// The standard deviation of a count among n random calls is at most half the root of n. Thousands of exports are counted, so
-// three deviations are allowed.
+// The standard deviation of a count among n random calls is at most half the root of n. Thousands of exports are
+// counted, so three deviations are allowed.
 bool fallsShort(std::uint64_t part, std::uint64_t calls, double least) {
     const auto all = static_cast<double>(calls);
     return static_cast<double>(part) < least * all - 1.5 * std::sqrt(all);
