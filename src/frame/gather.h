@@ -67,7 +67,7 @@ template <std::size_t width, class Body> VONKK3_INLINE void forEachQuarter(const
 }
 
 template <std::size_t width>
-VONKK3_INLINE void scatterElement(std::byte *const (&to)[width], std::size_t offset, PackOf<width> element) {
+VONKK3_INLINE void scatterElement(std::byte *const (&to)[width], std::ptrdiff_t offset, PackOf<width> element) {
     forEachQuarter<width>([&](auto q) VONKK3_INLINED {
         const __m128 lanes = quarter<q>(element.lanes);
         store1(to[4 * q] + offset, lanes);
@@ -169,8 +169,7 @@ template <class... Views> inline Access accessOf(const Views &...views) {
     return all(isContiguous) ? Access::positions : Access::any;
 }
 
-// Element (i, j) of object n lies at offset[i][j] + origin(n). Through a table the offset is the position; by strides
-// it is the distance from the object.
+// Element (i, j) of object n lies at origin(n) + offset[i][j], its distance from element (0, 0).
 template <std::size_t width> using Origins = std::uintptr_t[width];
 
 template <std::size_t rows, std::size_t columns> using Offsets = std::uintptr_t[rows][columns];
@@ -188,7 +187,7 @@ template <std::size_t rows, std::size_t columns>
 VONKK3_SHARED void findOffsets(const ObjectsView &view, Offsets<rows, columns> &offset) {
     for (std::size_t i = 0; i < rows; ++i)
         for (std::size_t j = 0; j < columns; ++j)
-            offset[i][j] = view.isTable() ? view.position(i, j)
+            offset[i][j] = view.isTable() ? view.position(i, j) - view.position(0, 0)
                                           : std::uintptr_t(strides(i, view.rowStride) + strides(j, view.elementStride));
 }
 
@@ -209,7 +208,7 @@ VONKK3_INLINE void scatterElements(const Offsets<rows, columns> &offset, const O
     TargetsOf<width> first;
     for (std::size_t k = 0; k < width; ++k) first[k] = address(origin[k]);
     forEachMoved<rows, columns, triangle>([&](std::size_t i, std::size_t j) VONKK3_INLINED {
-        scatterElement(first, offset[i][j], block[(i * columns + j) * step]);
+        scatterElement(first, std::ptrdiff_t(offset[i][j]), block[(i * columns + j) * step]);
     });
 }
 
@@ -342,7 +341,7 @@ private:
             for (std::size_t k = 0; k < width; ++k) origin[k] = view.object(n + k);
             return;
         }
-        origin[0] = (view.isTable() ? 0 : view.begin) + std::uintptr_t(strides(n, view.objectStride));
+        origin[0] = (view.isTable() ? view.position(0, 0) : view.begin) + std::uintptr_t(strides(n, view.objectStride));
         for (std::size_t k = 1; k < width; ++k) origin[k] = origin[k - 1] + std::uintptr_t(view.objectStride);
     }
 
