@@ -63,8 +63,8 @@ private:
     }
 };
 
-// work(n, operands...) for as many packs of objects as there are, some of them side by side; how many objects were
-// done.
+// work(n, operands...) for all whole packs of objects, several registers of them at a time while there are enough. How
+// many objects were done.
 template <std::size_t chains, bool arePacked, class Work, class... Tables>
 VONKK3_INLINE std::size_t workPacks(std::size_t count, const Work &work, const Tables &...tables) {
     std::size_t n = 0;
