@@ -157,6 +157,7 @@ fault 'a lane is stored to its neighbour' src/frame/gather.h 's/store1\(to\[4 \*
 fault 'doubtful roots pass' src/cholqr/roots.h 's/bool hasDoubt\(\) const \{ return /bool hasDoubt() const { return false \&\& /'
 fault 'directed rounding goes in lanes' src/cholqr/roots.h 's/\(wide & 0x0c00\) == 0 && \(lanes & 0x6000\) == 0/true/'
 fault 'the last objects of a range are left out' src/product/position_products.h 's/\? whole : from \+ objectsInCache/? whole - packWidth : from + objectsInCache/'
+fault 'overlap: elements of factors lie on each other' src/lu/decompose.h 's/!areElementsDisjoint\(factors, order\)/false/'
 fault 'displaced pivots are read where the batch stores' src/lu/last_pivots.h 's/if \(overlaps\(address, stored\) \|\| overlaps\(address, ofPivots\)\)/if (false)/'
 
 # Matrices element by element

@@ -178,6 +178,24 @@ TEST(LuDecomposition, CopiesForwardWhereTheMatricesOverlap) {
     }
 }
 
+// Element (i, j) of the result is m[i + j]. Copied forward, that leaves m = 2 0 1 1/4 3; the multipliers are then
+// stored where elements of the pivot rows lie: 0 and 1/2 of the first, 1/2 of the second.
+TEST(LuDecomposition, StoresEveryStepWhereElementsOfTheResultOverlap) {
+    for (const Function *function : all()) {
+        if (function->order != 0 && function->order != 3) continue;
+        SCOPED_TRACE(function->name);
+        Call call(function->name, 3);
+        literal::Place &dst = call["dst"];
+        dst.rowStride = dst.elementStride != 0 ? dst.elementStride : dst.elementSize;
+        if (catalogue::isTable(dst.operand->layout))
+            for (std::size_t k = 8; k > 0; --k)
+                dst.entries[k] = dst.entries[0] + dst.elementSize * static_cast<int>(k / 3 + k % 3);
+        call.set("src", 0, {2, 7, 7, 0, 7, 7, 1, 0.25, 3});
+        ASSERT_EQ(call.run(), vonkOk);
+        expectObject(call, 0, {2, 0, 0.5, 0, 0.5, 0.5, 0.5, 0.5, 2.5}, identity(3));
+    }
+}
+
 // ---- Singular matrices
 
 // A diagonal matrix, so that the candidates of each column are the pivot and zeros.

@@ -459,7 +459,7 @@ VONKK3_NOINLINE inline bool askForBatch(const AliasOperand *operands, std::size_
     return true;
 }
 
-// ---- Tables, from the words of a call -------------- ------------------------------------------------------
+// ---- Tables, from the words of a call -------------------------------------------------------------------------------
 
 // The entries that are read for an object: `positions` of them, so many bytes apart.
 struct EntriesRead {

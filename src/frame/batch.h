@@ -33,7 +33,7 @@ VONKK3_INLINE VonkStatus withFixedOrder(Order order, const Work &work, const Oth
 
 // What a family gives: `chains`, how many registers of packs its work takes together; access(), how its arrays are
 // reached; and work<access, packs>(n) for so many packs of objects from n on, which returns false, with nothing stored,
-// if they must go the plain way.
+// if they must take the plain path.
 template <class Batch>
 concept BatchKernel = requires(Batch &batch, std::size_t n) {
     { Batch::chains } -> std::convertible_to<std::size_t>;

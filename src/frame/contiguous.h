@@ -75,19 +75,6 @@ VONKK3_INLINE void workElementsInTurn(std::byte *d, const Operation &operation, 
                                           VONKK3_INLINED { storeRegister<length>(d, k, operation(sources.at(k)...)); });
 }
 
-// Rows of four elements become columns. The shuffles of the usual macro, other instructions for the same, can be run by
-// one unit alone.
-VONKK3_INLINE void transposeFour(__m128 &a, __m128 &b, __m128 &c, __m128 &d) {
-    const __m128 ab01 = _mm_shuffle_ps(a, b, _MM_SHUFFLE(1, 0, 1, 0)),
-                 cd01 = _mm_shuffle_ps(c, d, _MM_SHUFFLE(1, 0, 1, 0));
-    const __m128 ab23 = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 2, 3, 2)),
-                 cd23 = _mm_shuffle_ps(c, d, _MM_SHUFFLE(3, 2, 3, 2));
-    a = _mm_shuffle_ps(ab01, cd01, _MM_SHUFFLE(2, 0, 2, 0));
-    b = _mm_shuffle_ps(ab01, cd01, _MM_SHUFFLE(3, 1, 3, 1));
-    c = _mm_shuffle_ps(ab23, cd23, _MM_SHUFFLE(2, 0, 2, 0));
-    d = _mm_shuffle_ps(ab23, cd23, _MM_SHUFFLE(3, 1, 3, 1));
-}
-
 // ---- Object by object -----------------------------------------------------------------------------------------------
 
 // The plain path of an object: `step` elements at once, which shows where results overlap the sources.

@@ -114,7 +114,7 @@ private:
 struct Columns {
     __m128 column[4];
     VONKK3_INLINE Columns(__m128 a, __m128 b, __m128 c, __m128 d) : column{a, b, c, d} {
-        _MM_TRANSPOSE4_PS(column[0], column[1], column[2], column[3]);
+        transpose(column[0], column[1], column[2], column[3]);
     }
     VONKK3_INLINE __m128 operator[](std::size_t j) const { return column[j]; }
 };

@@ -42,14 +42,6 @@ VONKK3_INLINE void gatherTwo(const std::byte *const (&from)[width], std::size_t 
     elements[1] = oddOf(ab, cd);
 }
 
-// Rows become columns, quarter by quarter.
-template <class Lanes> VONKK3_INLINE void transpose(Lanes &a, Lanes &b, Lanes &c, Lanes &d) {
-    const Lanes lowOfAb = unpackLow(a, b), lowOfCd = unpackLow(c, d);
-    const Lanes highOfAb = unpackHigh(a, b), highOfCd = unpackHigh(c, d);
-    a = lowPairs(lowOfAb, lowOfCd), b = highPairs(lowOfAb, lowOfCd);
-    c = lowPairs(highOfAb, highOfCd), d = highPairs(highOfAb, highOfCd);
-}
-
 template <std::size_t width>
 VONKK3_INLINE void gatherFour(const std::byte *const (&from)[width], std::size_t offset, PackOf<width> *elements) {
     const auto row = [&](std::size_t k) VONKK3_INLINED {

@@ -44,8 +44,8 @@ inline __m128 rootEstimate(__m128 a) { return _mm_rsqrt_ps(a); } // of 1 / root
 
 inline __m128 unpackLow(__m128 a, __m128 b) { return _mm_unpacklo_ps(a, b); }
 inline __m128 unpackHigh(__m128 a, __m128 b) { return _mm_unpackhi_ps(a, b); }
-inline __m128 lowPairs(__m128 a, __m128 b) { return _mm_movelh_ps(a, b); }
-inline __m128 highPairs(__m128 a, __m128 b) { return _mm_movehl_ps(b, a); }
+inline __m128 lowPairs(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(1, 0, 1, 0)); }
+inline __m128 highPairs(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 2, 3, 2)); }
 inline __m128 evenOf(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
 inline __m128 oddOf(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
 
@@ -104,5 +104,13 @@ template <> inline __m256 inEveryQuarter<__m256>(__m128 quarter) {
 template <> inline __m256 loadLanes<__m256>(const std::byte *address) { return _mm256_loadu_ps(floats(address)); }
 inline void storeLanes(std::byte *address, __m256 lanes) { _mm256_storeu_ps(floats(address), lanes); }
 #endif
+
+// Rows of four elements become columns, quarter by quarter. These shuffles run on two units of some processors, those
+// that unpack on one.
+template <class Lanes> VONKK3_INLINE void transpose(Lanes &a, Lanes &b, Lanes &c, Lanes &d) {
+    const Lanes low01 = lowPairs(a, b), low23 = lowPairs(c, d), high01 = highPairs(a, b), high23 = highPairs(c, d);
+    a = evenOf(low01, low23), b = oddOf(low01, low23);
+    c = evenOf(high01, high23), d = oddOf(high01, high23);
+}
 
 } // namespace vonkk3

@@ -3,7 +3,7 @@
 // whole before any of its inverse is stored.
 #pragma once
 
-#include "frame/lanes.h"
+#include "frame/registers.h"
 #include "frame/views.h"
 #include "lu/reciprocal.h"
 
@@ -98,7 +98,7 @@ VONKK3_INLINE bool invertFourInLanes(const RowsView<const Real32> &matrix, const
     if (_mm_cvtss_f32(determinant) == 0) return false;
     const __m128 r = reciprocalByEstimate(determinant), negatedR = rotatedByOne(r);
 
-    _MM_TRANSPOSE4_PS(column0, column1, column2, column3);
+    transpose(column0, column1, column2, column3);
     store4(inverse.at(0, 0), _mm_mul_ps(column1, r));
     store4(inverse.at(1, 0), _mm_mul_ps(column2, negatedR));
     store4(inverse.at(2, 0), _mm_mul_ps(column3, r));

@@ -27,7 +27,7 @@ template <std::size_t order> struct TransposedRows {
 
     VONKK3_INLINE explicit TransposedRows(const RowsView<const Real32> &stored) : stored(stored) {
         forEachBelow<4>([&](std::size_t i) VONKK3_INLINED { heads[i] = load4(stored.at(i, 0)); });
-        transposeFour(heads[0], heads[1], heads[2], heads[3]);
+        transpose(heads[0], heads[1], heads[2], heads[3]);
         if constexpr (order > 4) below[0] = load4(stored.at(4, 0));
         if constexpr (order > 5) below[1] = load4(stored.at(5, 0));
     }

@@ -3,7 +3,7 @@
 // That order of reads and stores is what calls in place stand on.
 #pragma once
 
-#include "frame/lanes.h"
+#include "frame/registers.h"
 #include "frame/unroll.h"
 #include "frame/views.h"
 #include "product/sums.h"
@@ -90,7 +90,7 @@ template <std::size_t order> struct HeldRows {
         rows[3] = _mm_setzero_ps();
         forIndices(0, lanes, fixed<lanes>,
                    [&](std::size_t j) VONKK3_INLINED { rows[j] = loadInOrder<order>(b.stored, j); });
-        _MM_TRANSPOSE4_PS(rows[0], rows[1], rows[2], rows[3]);
+        transpose(rows[0], rows[1], rows[2], rows[3]);
         forIndices(0, lanes, fixed<lanes>,
                    [&](std::size_t k) VONKK3_INLINED { head[k] = order == 3 ? shuffleThree(rows[k]) : rows[k]; });
         if constexpr (order > 4)

@@ -2,7 +2,7 @@
 // told beside it with p0, p1, ... for the products of a row's elements and the vector's.
 #pragma once
 
-#include "frame/lanes.h"
+#include "frame/registers.h"
 #include "frame/unroll.h"
 #include "frame/views.h"
 #include "product/kernels.h"
@@ -51,7 +51,7 @@ template <> struct PlainMatrix<3> {
     template <class View> VONKK3_INLINE explicit PlainMatrix(const View &a) {
         __m128 row0 = loadInOrder<3>(a, 0), row1 = loadInOrder<3>(a, 1), row2 = loadInOrder<3>(a, 2);
         __m128 nothing = _mm_setzero_ps();
-        _MM_TRANSPOSE4_PS(row0, row1, row2, nothing);
+        transpose(row0, row1, row2, nothing);
         columns[0] = row0, columns[1] = row1, columns[2] = row2;
     }
 
@@ -191,7 +191,7 @@ template <> struct PlainMatrix<5> {
 
     template <class View> VONKK3_INLINE explicit PlainMatrix(const View &a) {
         __m128 row0 = load4(a.at(0, 0)), row1 = load4(a.at(1, 0)), row2 = load4(a.at(2, 0)), row3 = load4(a.at(3, 0));
-        _MM_TRANSPOSE4_PS(row0, row1, row2, row3);
+        transpose(row0, row1, row2, row3);
         columns[0] = row0, columns[1] = row1, columns[2] = row2, columns[3] = row3;
         columns[4] = _mm_setr_ps(a.load(0, 4), a.load(1, 4), a.load(2, 4), a.load(3, 4));
         row4 = load4(a.at(4, 0));
