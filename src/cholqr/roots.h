@@ -74,9 +74,9 @@ private:
     __m128 outside = _mm_setzero_ps();
 
     template <std::size_t width> VONKK3_INLINE PackOf<width> ofPack(PackOf<width> s) {
-        return ofQuarters<Register<width>>([&](auto q) VONKK3_INLINED { return ofQuarter(quarter<q>(s.lanes)); });
+        return ofQuads<Register<width>>([&](auto q) VONKK3_INLINED { return ofQuad(quad<q>(s.lanes)); });
     }
-    VONKK3_INLINE __m128 ofQuarter(__m128 s) {
+    VONKK3_INLINE __m128 ofQuad(__m128 s) {
         const __m128 r = refined(s, _mm_rsqrt_ps(s));
         const __m128d ab = refined(_mm_cvtps_pd(s), _mm_cvtps_pd(r));
         const __m128d cd = refined(_mm_cvtps_pd(_mm_movehl_ps(s, s)), _mm_cvtps_pd(_mm_movehl_ps(r, r)));

@@ -20,11 +20,11 @@ inline std::byte *address(std::uintptr_t bytes) { return reinterpret_cast<std::b
 
 // ---- Rows of contiguous elements, up to 6 ---------------------------------------------------------------------------
 
-// Quarter q of a register is of the objects 4 q to 4 q + 3, and a transpose stays within quarters.
+// Quad q of a register is of the objects 4 q to 4 q + 3, and a transpose stays within quads.
 
 template <std::size_t width>
 VONKK3_INLINE PackOf<width> gatherElement(const std::byte *const (&from)[width], std::ptrdiff_t offset) {
-    return ofQuarters<Register<width>>([&](std::size_t q) VONKK3_INLINED {
+    return ofQuads<Register<width>>([&](std::size_t q) VONKK3_INLINED {
         const auto one = [&](std::size_t k) VONKK3_INLINED { return load1(from[4 * q + k] + offset); };
         return _mm_movelh_ps(_mm_unpacklo_ps(one(0), one(1)), _mm_unpacklo_ps(one(2), one(3)));
     });
@@ -33,7 +33,7 @@ VONKK3_INLINE PackOf<width> gatherElement(const std::byte *const (&from)[width],
 template <std::size_t width>
 VONKK3_INLINE void gatherTwo(const std::byte *const (&from)[width], std::size_t offset, PackOf<width> *elements) {
     const auto pairs = [&](std::size_t k) VONKK3_INLINED { // of objects k and k + 1
-        return ofQuarters<Register<width>>([&](std::size_t q) VONKK3_INLINED {
+        return ofQuads<Register<width>>([&](std::size_t q) VONKK3_INLINED {
             return _mm_loadh_pi(load2(from[4 * q + k] + offset), pair(from[4 * q + k + 1] + offset));
         });
     };
@@ -45,23 +45,22 @@ VONKK3_INLINE void gatherTwo(const std::byte *const (&from)[width], std::size_t 
 template <std::size_t width>
 VONKK3_INLINE void gatherFour(const std::byte *const (&from)[width], std::size_t offset, PackOf<width> *elements) {
     const auto row = [&](std::size_t k) VONKK3_INLINED {
-        return ofQuarters<Register<width>>([&](std::size_t q)
-                                               VONKK3_INLINED { return load4(from[4 * q + k] + offset); });
+        return ofQuads<Register<width>>([&](std::size_t q) VONKK3_INLINED { return load4(from[4 * q + k] + offset); });
     };
     auto a = row(0), b = row(1), c = row(2), d = row(3);
     transpose(a, b, c, d);
     elements[0] = a, elements[1] = b, elements[2] = c, elements[3] = d;
 }
 
-// body(q) for the quarters of a register.
-template <std::size_t width, class Body> VONKK3_INLINE void forEachQuarter(const Body &body) {
+// body(q) for the quads of a register.
+template <std::size_t width, class Body> VONKK3_INLINE void forEachQuad(const Body &body) {
     forEachBelow<width / 4>(body);
 }
 
 template <std::size_t width>
 VONKK3_INLINE void scatterElement(std::byte *const (&to)[width], std::ptrdiff_t offset, PackOf<width> element) {
-    forEachQuarter<width>([&](auto q) VONKK3_INLINED {
-        const __m128 lanes = quarter<q>(element.lanes);
+    forEachQuad<width>([&](auto q) VONKK3_INLINED {
+        const __m128 lanes = quad<q>(element.lanes);
         store1(to[4 * q] + offset, lanes);
         store1(to[4 * q + 1] + offset, _mm_shuffle_ps(lanes, lanes, 1));
         store1(to[4 * q + 2] + offset, _mm_movehl_ps(lanes, lanes));
@@ -73,8 +72,8 @@ template <std::size_t width>
 VONKK3_INLINE void scatterTwo(std::byte *const (&to)[width], std::size_t offset, PackOf<width> first,
                               PackOf<width> second) {
     const auto low = unpackLow(first.lanes, second.lanes), high = unpackHigh(first.lanes, second.lanes);
-    forEachQuarter<width>([&](auto q) VONKK3_INLINED {
-        const __m128 ab = quarter<q>(low), cd = quarter<q>(high);
+    forEachQuad<width>([&](auto q) VONKK3_INLINED {
+        const __m128 ab = quad<q>(low), cd = quad<q>(high);
         _mm_storel_pi(pair(to[4 * q] + offset), ab);
         _mm_storeh_pi(pair(to[4 * q + 1] + offset), ab);
         _mm_storel_pi(pair(to[4 * q + 2] + offset), cd);
@@ -86,11 +85,11 @@ template <std::size_t width>
 VONKK3_INLINE void scatterFour(std::byte *const (&to)[width], std::size_t offset, const PackOf<width> *elements) {
     auto a = elements[0].lanes, b = elements[1].lanes, c = elements[2].lanes, d = elements[3].lanes;
     transpose(a, b, c, d);
-    forEachQuarter<width>([&](auto q) VONKK3_INLINED {
-        store4(to[4 * q] + offset, quarter<q>(a));
-        store4(to[4 * q + 1] + offset, quarter<q>(b));
-        store4(to[4 * q + 2] + offset, quarter<q>(c));
-        store4(to[4 * q + 3] + offset, quarter<q>(d));
+    forEachQuad<width>([&](auto q) VONKK3_INLINED {
+        store4(to[4 * q] + offset, quad<q>(a));
+        store4(to[4 * q + 1] + offset, quad<q>(b));
+        store4(to[4 * q + 2] + offset, quad<q>(c));
+        store4(to[4 * q + 3] + offset, quad<q>(d));
     });
 }
 
@@ -352,8 +351,8 @@ template <std::size_t length, bool isArray = true> using VectorsOfBatch = BatchO
 
 // Element (i, j) of object k in a block of one register.
 template <class Number, std::size_t rows, std::size_t columns>
-VONKK3_INLINE const std::byte *elementOf(const Number (&block)[rows][columns], std::size_t i, std::size_t j,
-                                         std::size_t k) {
+VONKK3_INLINE const std::byte *elementInBlock(const Number (&block)[rows][columns], std::size_t i, std::size_t j,
+                                              std::size_t k) {
     return reinterpret_cast<const std::byte *>(block) + (i * columns + j) * sizeof(Number) + k * sizeof(Real32);
 }
 
@@ -373,7 +372,7 @@ VONKK3_INLINE void gatherRowsInOrder(const BatchOperand<rows, columns, true> &op
         PackOf<width> row[columns];
         SourcesOf<width> from;
         if (isPermutedLocally)
-            for (std::size_t k = 0; k < width; ++k) from[k] = elementOf(unordered, rowOfLane(k), 0, k);
+            for (std::size_t k = 0; k < width; ++k) from[k] = elementInBlock(unordered, rowOfLane(k), 0, k);
         else elements.findOwn(rowOfLane, view.rowStride, from);
         if constexpr (access == Access::rows) gatherRow(from, columns, row);
         else {
@@ -398,7 +397,7 @@ VONKK3_INLINE void gatherElementsInOrder(const VectorsOfBatch<length> &operand, 
         const auto indexOfLane = [&](std::size_t k) VONKK3_INLINED { return indexOf(k, i); };
         SourcesOf<width> from;
         if (isPermutedLocally)
-            for (std::size_t k = 0; k < width; ++k) from[k] = elementOf(unordered, 0, indexOfLane(k), k);
+            for (std::size_t k = 0; k < width; ++k) from[k] = elementInBlock(unordered, 0, indexOfLane(k), k);
         else elements.findOwn(indexOfLane, stride, from);
         block[i * step] = gatherElement(from, 0);
     });

@@ -38,8 +38,8 @@ template <std::size_t width> struct PackOf {
     PackOf(Real32 value) : lanes(broadcast<Lanes>(value)) {}
 
     Real32 last() const { // of the last object
-        const __m128 quarter = vonkk3::quarter<width / 4 - 1>(lanes);
-        return _mm_cvtss_f32(_mm_shuffle_ps(quarter, quarter, 3));
+        const __m128 quad = vonkk3::quad<width / 4 - 1>(lanes);
+        return _mm_cvtss_f32(_mm_shuffle_ps(quad, quad, 3));
     }
 
     friend PackOf operator+(PackOf a, PackOf b) { return a.lanes + b.lanes; }
@@ -96,7 +96,7 @@ template <template <std::size_t> class Of, std::size_t packs> struct Chains {
     }
     VONKK3_INLINE Chains(Real32 value) : Chains(Value(value)) {}
     VONKK3_INLINE Chains(Of<packWidth> broadcast) requires(width != packWidth)
-        : Chains(Value(inEveryQuarter<Register<width>>(broadcast.lanes))) {}
+        : Chains(Value(inEveryQuad<Register<width>>(broadcast.lanes))) {}
 
     // Register by register: as a whole, compilers copy in pieces of 16 bytes, and a load of 32 waits for two of them.
     VONKK3_INLINE Chains(const Chains &other) { *this = other; }

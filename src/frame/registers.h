@@ -1,5 +1,5 @@
 // Registers of 4 or more Real32, as wide as the target has them, with the same names for every width. Operators are the
-// compilers' own. Shuffles work within each quarter of 16 bytes.
+// compilers' own. Shuffles work within quads, four lanes of 16 bytes.
 #pragma once
 
 #include "frame/lanes.h"
@@ -40,7 +40,6 @@ inline __m128 largerOf(__m128 a, __m128 b) { return _mm_max_ps(a, b); } // b if 
 inline __m128 choose(__m128 mask, __m128 a, __m128 b) { return bitOr(bitAnd(mask, a), bitAndNot(b, mask)); }
 inline unsigned signBits(__m128 a) { return unsigned(_mm_movemask_ps(a)); }
 inline __m128 reciprocalEstimate(__m128 a) { return _mm_rcp_ps(a); }
-inline __m128 rootEstimate(__m128 a) { return _mm_rsqrt_ps(a); } // of 1 / root
 
 inline __m128 unpackLow(__m128 a, __m128 b) { return _mm_unpacklo_ps(a, b); }
 inline __m128 unpackHigh(__m128 a, __m128 b) { return _mm_unpackhi_ps(a, b); }
@@ -54,18 +53,18 @@ template <class Value> inline constexpr bool isRegister = !std::is_arithmetic_v<
 // The first lanes of a register.
 template <class Lanes> inline Lanes narrowed(Lanes lanes) { return lanes; }
 
-// Quarter q, and a register made of as many as it has.
-template <std::size_t q> inline __m128 quarter(__m128 a) { return a; }
+// Quad q, and a register made of as many as it has.
+template <std::size_t q> inline __m128 quad(__m128 a) { return a; }
 template <class Lanes> inline Lanes broadcast(Real32 value);
 template <> inline __m128 broadcast<__m128>(Real32 value) { return _mm_set1_ps(value); }
-template <class Lanes> inline Lanes inEveryQuarter(__m128 quarter);
-template <> inline __m128 inEveryQuarter<__m128>(__m128 quarter) { return quarter; }
-template <class Lanes, class Quarter> VONKK3_INLINE Lanes ofQuarters(const Quarter &quarter) {
-    if constexpr (lanesIn<Lanes> == 4) return quarter(std::integral_constant<std::size_t, 0>());
+template <class Lanes> inline Lanes inEveryQuad(__m128 quad);
+template <> inline __m128 inEveryQuad<__m128>(__m128 quad) { return quad; }
+template <class Lanes, class Quad> VONKK3_INLINE Lanes ofQuads(const Quad &quad) {
+    if constexpr (lanesIn<Lanes> == 4) return quad(std::integral_constant<std::size_t, 0>());
 #ifdef __AVX2__
     else
-        return _mm256_insertf128_ps(_mm256_castps128_ps256(quarter(std::integral_constant<std::size_t, 0>())),
-                                    quarter(std::integral_constant<std::size_t, 1>()), 1);
+        return _mm256_insertf128_ps(_mm256_castps128_ps256(quad(std::integral_constant<std::size_t, 0>())),
+                                    quad(std::integral_constant<std::size_t, 1>()), 1);
 #endif
 }
 template <class Lanes> inline Lanes loadLanes(const std::byte *address);
@@ -85,7 +84,6 @@ inline __m256 largerOf(__m256 a, __m256 b) { return _mm256_max_ps(a, b); }
 inline __m256 choose(__m256 mask, __m256 a, __m256 b) { return _mm256_blendv_ps(b, a, mask); }
 inline unsigned signBits(__m256 a) { return unsigned(_mm256_movemask_ps(a)); }
 inline __m256 reciprocalEstimate(__m256 a) { return _mm256_rcp_ps(a); }
-inline __m256 rootEstimate(__m256 a) { return _mm256_rsqrt_ps(a); }
 
 inline __m256 unpackLow(__m256 a, __m256 b) { return _mm256_unpacklo_ps(a, b); }
 inline __m256 unpackHigh(__m256 a, __m256 b) { return _mm256_unpackhi_ps(a, b); }
@@ -96,16 +94,16 @@ inline __m256 oddOf(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_SHU
 
 template <class Lanes>
 requires(lanesIn<Lanes> == 4) inline Lanes narrowed(__m256 lanes) { return _mm256_castps256_ps128(lanes); }
-template <std::size_t q> inline __m128 quarter(__m256 a) { return _mm256_extractf128_ps(a, q); }
+template <std::size_t q> inline __m128 quad(__m256 a) { return _mm256_extractf128_ps(a, q); }
 template <> inline __m256 broadcast<__m256>(Real32 value) { return _mm256_set1_ps(value); }
-template <> inline __m256 inEveryQuarter<__m256>(__m128 quarter) {
-    return _mm256_insertf128_ps(_mm256_castps128_ps256(quarter), quarter, 1);
+template <> inline __m256 inEveryQuad<__m256>(__m128 quad) {
+    return _mm256_insertf128_ps(_mm256_castps128_ps256(quad), quad, 1);
 }
 template <> inline __m256 loadLanes<__m256>(const std::byte *address) { return _mm256_loadu_ps(floats(address)); }
 inline void storeLanes(std::byte *address, __m256 lanes) { _mm256_storeu_ps(floats(address), lanes); }
 #endif
 
-// Rows of four elements become columns, quarter by quarter. These shuffles run on two units of some processors, those
+// Rows of four elements become columns, quad by quad. These shuffles run on two units of some processors, those
 // that unpack on one.
 template <class Lanes> VONKK3_INLINE void transpose(Lanes &a, Lanes &b, Lanes &c, Lanes &d) {
     const Lanes low01 = lowPairs(a, b), low23 = lowPairs(c, d), high01 = highPairs(a, b), high23 = highPairs(c, d);

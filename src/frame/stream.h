@@ -28,7 +28,7 @@ template <class T> struct Constant {
 template <> struct Constant<Real32> {
     WideRegister wide;
     explicit Constant(Real32 value) : wide(broadcast<WideRegister>(value)) {}
-    operator Real32() const { return _mm_cvtss_f32(quarter<0>(wide)); }
+    operator Real32() const { return _mm_cvtss_f32(quad<0>(wide)); }
     template <class Lanes> Lanes lanes() const { return narrowed<Lanes>(wide); }
 };
 
