@@ -62,9 +62,9 @@ VONKK3_INLINE void scatterElement(std::byte *const (&to)[width], std::ptrdiff_t 
     forEachQuad<width>([&](auto q) VONKK3_INLINED {
         const __m128 lanes = quad<q>(element.lanes);
         store1(to[4 * q] + offset, lanes);
-        store1(to[4 * q + 1] + offset, _mm_shuffle_ps(lanes, lanes, 1));
-        store1(to[4 * q + 2] + offset, _mm_movehl_ps(lanes, lanes));
-        store1(to[4 * q + 3] + offset, _mm_shuffle_ps(lanes, lanes, 3));
+        store1(to[4 * q + 1] + offset, shuffled<1>(lanes));
+        store1(to[4 * q + 2] + offset, shuffled<2>(lanes));
+        store1(to[4 * q + 3] + offset, shuffled<3>(lanes));
     });
 }
 
@@ -231,8 +231,10 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
     // What is the same for all batches: a single object is broadcast, the pointers of a table are read. Nothing that is
     // written overlaps either.
     template <Access access> VONKK3_INLINE void hoist() {
-        if constexpr (isArray && access == Access::any) findOffsets(view, offset);
-        else if constexpr (!isArray || access == Access::positions)
+        if constexpr (isArray && access == Access::any) {
+            findOffsets(view, offset);
+            if (!view.isList()) start = view.addressOf(0, 0);
+        } else if constexpr (!isArray || access == Access::positions)
             forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
                 if constexpr (isArray) offset[i][j] = view.position(i, j);
                 else single[i][j] = view.load<Real32>(i, j);
@@ -326,13 +328,14 @@ private:
         Offsets<rows, columns> offset;
         Pack single[rows][columns];
     };
+    std::uintptr_t start; // of element (0, 0) of object 0, if not through a list
 
     template <std::size_t width> VONKK3_INLINE void findOrigins(std::size_t n, Origins<width> &origin) const {
         if (view.isList()) {
             for (std::size_t k = 0; k < width; ++k) origin[k] = view.object(n + k);
             return;
         }
-        origin[0] = (view.isTable() ? view.position(0, 0) : view.begin) + std::uintptr_t(strides(n, view.objectStride));
+        origin[0] = start + std::uintptr_t(strides(n, view.objectStride));
         for (std::size_t k = 1; k < width; ++k) origin[k] = origin[k - 1] + std::uintptr_t(view.objectStride);
     }
 

@@ -48,6 +48,11 @@ inline __m128 highPairs(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SH
 inline __m128 evenOf(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
 inline __m128 oddOf(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
 
+// Lane k in lane 0, whatever else. The integer shuffle needs no copy before it.
+template <int k> inline __m128 shuffled(__m128 a) {
+    return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a), k));
+}
+
 template <class Value> inline constexpr bool isRegister = !std::is_arithmetic_v<Value> && sizeof(Value) >= laneBytes;
 
 // The first lanes of a register.
