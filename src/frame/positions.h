@@ -26,6 +26,7 @@ template <std::size_t rows, std::size_t columns> struct HoistedPositions {
 template <class Rows, class Columns>
 using PositionsOf = std::conditional_t<Rows::isFixed && Columns::isFixed && Rows::value * Columns::value <= 6,
                                        HoistedPositions<Rows::value, Columns::value>, TablePositions>;
+template <class Table> inline constexpr bool isHoisted = !std::is_same_v<Table, TablePositions>;
 
 // The elements of the objects from n on, as packs; a single object is broadcast.
 template <std::size_t packs, bool arePacked, class Table> struct PacksOfPositions {
@@ -60,6 +61,19 @@ template <std::size_t packs, bool arePacked, class Table> struct PacksOfPosition
 private:
     VONKK3_INLINE std::byte *at(std::size_t i, std::size_t j) const {
         return address(table.position(i, j)) + strides(n, arePacked ? sizeof(Real32) : table.step);
+    }
+};
+
+// The elements of one object, as numbers.
+template <class Table> struct NumbersOfPositions {
+    using Number = Real32;
+    const Table &table;
+    std::ptrdiff_t offset; // from object 0
+
+    VONKK3_INLINE NumbersOfPositions(const Table &table, std::size_t n)
+        : table(table), offset(table.isArray ? strides(n, table.step) : 0) {}
+    VONKK3_INLINE Number load(std::size_t i, std::size_t j) const {
+        return loadAt<Real32>(address(table.position(i, j)) + offset);
     }
 };
 
@@ -99,8 +113,9 @@ VONKK3_SHARED bool mayReduce(std::byte *results, std::size_t rows, std::size_t c
     return mayWork(objectsOf<Real32, true>(src, rows, columns, count)...);
 }
 
-// One number for each object, packed. How many objects were done. A family gives kernel<Number>(rows, columns,
-// sources...) of sources that are asked for load(i, j).
+// One number for each object, packed. How many objects were done. A family gives kernel(rows, columns, sources...) of
+// sources that are asked for load(i, j), and says whether it is a sum with one operation for each element: that is not
+// worth gathering it.
 template <class Kernel, class Rows, class Columns, class... Words>
 VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results, Rows rows, Columns columns,
                                        std::size_t count, const Words &...src) {
@@ -109,11 +124,21 @@ VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results,
     if (!(isPlainlyDisjoint(written, src, rows, columns, count) && ...) &&
         !mayReduce(results, rows, columns, count, src...))
         return 0;
+    using Table = PositionsOf<Rows, Columns>;
+    if constexpr (isHoisted<Table> && Kernel::isSum)
+        if ((src.isArray && ...) && !(arePacked(src) && ...)) {
+            const auto work = [&](const auto &...tables) VONKK3_INLINED {
+                for (std::size_t n = 0; n < count; ++n)
+                    storeAt(results + n * sizeof(Real32), kernel(rows, columns, NumbersOfPositions(tables, n)...));
+                return count;
+            };
+            return work(Table(src)...);
+        }
     constexpr std::size_t chains = 4; // sums wait for their last term
     const auto work = [&](std::size_t n, const auto &...sources) VONKK3_INLINED {
         storePacks(results + n * sizeof(Real32), kernel(rows, columns, sources...));
     };
-    return workPacksOf<PositionsOf<Rows, Columns>, chains>(count, work, src...);
+    return workPacksOf<Table, chains>(count, work, src...);
 }
 
 // Small objects of `rows` by `columns` elements from objects of the same size. A family gives kernel(d, sources...),

@@ -58,6 +58,7 @@ VONKK3_INLINE Number sumOfSquares(const Element &element, std::size_t columns, s
 
 // Of arrays in the pointer layout.
 template <NormOrder way> struct FrobeniusOfPacks {
+    static constexpr bool isSum = false;
     template <class A> VONKK3_INLINE auto operator()(std::size_t rows, std::size_t columns, const A &a) const {
         return squareRoot(sumOfSquares<way, typename A::Number>(
             [&](std::size_t i, std::size_t j) VONKK3_INLINED { return a.load(i, j); }, columns, rows));

@@ -60,6 +60,7 @@ VONKK3_INLINE Real32 sumOf(const StridedView<const Real32> &diagonal, Order orde
 
 // A diagonal is a column of its own.
 struct TraceOfPacks {
+    static constexpr bool isSum = true;
     template <class A> VONKK3_INLINE auto operator()(std::size_t order, std::size_t, const A &diagonal) const {
         using Number = typename A::Number;
         Number sum = Number(0.0F) + diagonal.load(0, 0);

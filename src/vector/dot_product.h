@@ -151,6 +151,7 @@ inline std::size_t dotInBlocks(const A &a, const B &b, Real32 *dst, Objects coun
 // ---- Arrays in the pointer layout: left to right; run-time lengths begin with +0 ------------------------------------
 
 template <bool beginsWithZero> struct DotOfPacks {
+    static constexpr bool isSum = true;
     template <class A, class B>
     VONKK3_INLINE auto operator()(std::size_t, std::size_t length, const A &a, const B &b) const {
         using Number = typename A::Number;

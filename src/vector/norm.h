@@ -116,6 +116,7 @@ VONKK3_INLINE std::size_t takeFourRoots(const Source &source, std::byte *results
 // ---- Arrays in the pointer layout -----------------------------------------------------------------------------------
 
 struct NormOfPacks {
+    static constexpr bool isSum = false;
     template <class A> VONKK3_INLINE auto operator()(std::size_t, std::size_t length, const A &a) const {
         return squareRoot(
             sumSquares<typename A::Number>([&](std::size_t j) VONKK3_INLINED { return a.load(0, j); }, length));
