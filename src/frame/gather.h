@@ -216,8 +216,11 @@ VONKK3_SHARED void scatterMatrices(const Offsets<rows, columns> &offset, const O
     scatterElements<triangle>(offset, origin, block, step);
 }
 
-// An operand of a batch: rows by columns Real32 elements of every object, or of the one object that serves all.
-template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle = Triangle::both> struct BatchOperand {
+// An operand of a batch: rows by columns Real32 elements of every object, or of the one object that serves all. Where
+// elements are gathered one by one, all batches share the code of it, unless it is to be in line.
+template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle = Triangle::both,
+          bool isInLine = rows == 1>
+struct BatchOperand {
     ObjectsView view;
 
     template <class Operand>
@@ -251,7 +254,7 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
                 Origins<width> origin;
                 findOrigins(first, origin);
                 PackOf<width> *const elements = &block[0][0].chain[c];
-                if constexpr (rows == 1) gatherElements<triangle>(offset, origin, elements, registers);
+                if constexpr (isInLine) gatherElements<triangle>(offset, origin, elements, registers);
                 else gatherMatrices<triangle>(offset, origin, elements, registers);
             } else if constexpr (access == Access::positions)
                 forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
@@ -289,7 +292,7 @@ template <std::size_t rows, std::size_t columns, bool isArray, Triangle triangle
                 Origins<width> origin;
                 findOrigins(first, origin);
                 const PackOf<width> *const elements = &block[0][0].chain[c];
-                if constexpr (rows == 1) scatterElements<triangle>(offset, origin, elements, registers);
+                if constexpr (isInLine) scatterElements<triangle>(offset, origin, elements, registers);
                 else scatterMatrices<triangle>(offset, origin, elements, registers);
             } else if constexpr (access == Access::positions)
                 forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {

@@ -273,14 +273,13 @@ VONKK3_SHARED VonkStatus sumArrays(const Words &words, const Shape &sizes, std::
             return inBatches(batch);
         };
         if (hasAddend || !words.a.isArray) return inVectorBatches.template operator()<false, true>();
-        if constexpr (throughTables && order <= 4 && !hasAddend)
-            return words.b.isArray ? inVectorBatches.template operator()<true, true>()
-                                   : inVectorBatches.template operator()<true, false>();
-        if constexpr (!throughTables && !hasAddend)
-            if (hasContiguousRows(words.a) && isContiguousColumn(words.d) &&
-                (!words.b.isArray || isContiguousColumn(words.b)))
+        if constexpr (!hasAddend && (!throughTables || order <= 4)) {
+            const bool areContiguous = hasContiguousRows(words.a) && isContiguousColumn(words.d) &&
+                                       (!words.b.isArray || isContiguousColumn(words.b));
+            if (order <= 4 || areContiguous)
                 return words.b.isArray ? inVectorBatches.template operator()<true, true>()
                                        : inVectorBatches.template operator()<true, false>();
+        }
         SumsByElement<T, Shape, Operands> sums{{words, shape, count}, shape};
         return inBatches(sums);
     } else if constexpr (std::is_same_v<T, Real32>) {

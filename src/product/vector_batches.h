@@ -10,9 +10,9 @@ template <std::size_t order, bool throughTables, bool firstIsArray, bool secondI
 struct VectorBatch {
     static constexpr std::size_t chains = 1;
     static constexpr bool takesPositions = false; // products through tables have a faster path
-    static constexpr bool takesAny = !firstIsArray || throughTables;
+    static constexpr bool takesAny = !firstIsArray || order <= 4;
     static constexpr bool takesRows = !throughTables;
-    MatricesOfBatch<order, firstIsArray> a;
+    BatchOperand<order, order, firstIsArray, Triangle::both, order <= 4> a;
     VectorsOfBatch<order, secondIsArray> v;
     VectorsOfBatch<order> w, d;
 
