@@ -105,7 +105,13 @@ void TableReporter::Finalize() {
     std::size_t lost = 0;
     for (const Measured &measured : printed) lost += bestOf(measured.timings).ratio() > noise;
     std::printf("\n%zu rows; slower than the best peer by more than 2 %% in %zu\n", printed.size(), lost);
-    printSummary(printed);
+    printSummary(printed, baseline);
+}
+
+Ratios TableReporter::ratios() const {
+    Ratios ratios;
+    for (const Measured &measured : printed) ratios[measured.row] = bestOf(measured.timings).ratio();
+    return ratios;
 }
 
 } // namespace bench

@@ -14,8 +14,8 @@ std::vector<std::pair<std::string, std::string>> circumstances();
 
 class TableReporter : public benchmark::BenchmarkReporter {
 public:
-    // With `markdown` the same as a table for README.md, a line for each row.
-    explicit TableReporter(bool markdown) : markdown(markdown) {}
+    // With `markdown` the same as a table for README.md, a line for each row. The summary has the baseline beside it.
+    TableReporter(bool markdown, Ratios baseline) : baseline(std::move(baseline)), markdown(markdown) {}
 
     // What measuring a row gave, for the report that follows.
     void keep(const std::string &row, const Contest &contest, std::vector<Timing> timings);
@@ -24,8 +24,11 @@ public:
     void ReportRuns(const std::vector<Run> &runs) override;
     void Finalize() override;
 
+    Ratios ratios() const;
+
 private:
     std::vector<Measured> pending, printed;
+    Ratios baseline;
     bool markdown;
 
     static void printLines(const Measured &measured);

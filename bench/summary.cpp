@@ -47,16 +47,19 @@ struct Entry {
     double ratio;
     bool isApart;                   // a determinant, or the best peer rounds otherwise
     std::optional<double> sameBits; // the ratio to the best peer of the same bits
+    std::optional<double> baseline; // the ratio of the other run
 };
 
-Entry entryOf(const Measured &measured) {
+Entry entryOf(const Measured &measured, const Ratios &others) {
     const Timing &best = bestOf(measured.timings);
     std::optional<double> sameBits;
     for (const Timing &timing : measured.timings)
         if (timing.agreement == Agreement::bits) sameBits = std::max(sameBits.value_or(0), timing.ratio());
     const Parts parts = partsOf(measured.row);
     const bool isApart = best.agreement != Agreement::bits || parts.family.rfind("Det_", 0) == 0;
-    return {measured.row, best.peer, parts, best.ratio(), isApart, sameBits};
+    const auto other = others.find(measured.row);
+    const auto baseline = other == others.end() ? std::nullopt : std::optional(other->second);
+    return {measured.row, best.peer, parts, best.ratio(), isApart, sameBits, baseline};
 }
 
 class Mean {
@@ -67,10 +70,10 @@ public:
         aboveSlower += ratio > slower;
         aboveListed += ratio > listed;
     }
-    void print(const std::string &name) const {
-        if (rows != 0)
-            std::printf("    %-26s %5zu %8.2f %8zu %8zu\n", name.c_str(), rows, std::exp(logarithms / double(rows)),
-                        aboveSlower, aboveListed);
+    std::size_t count() const { return rows; }
+    void print() const {
+        if (rows == 0) return;
+        std::printf(" %8.2f %8zu %8zu", std::exp(logarithms / double(rows)), aboveSlower, aboveListed);
     }
 
 private:
@@ -78,17 +81,41 @@ private:
     std::size_t rows = 0, aboveSlower = 0, aboveListed = 0;
 };
 
+// A line of the summary: this run, and the other one.
+class Line {
+public:
+    void add(const Entry &entry) {
+        mean.add(entry.ratio);
+        if (entry.baseline) baseline.add(*entry.baseline);
+    }
+    void print(const std::string &name) const {
+        if (mean.count() == 0) return;
+        std::printf("    %-26s %5zu", name.c_str(), mean.count());
+        baseline.print();
+        mean.print();
+        std::printf("\n");
+    }
+
+private:
+    Mean mean, baseline;
+};
+
 using Entries = std::vector<Entry>;
 
 void printMean(const Entries &entries, const char *name, const std::function<bool(const Entry &)> &isMeant) {
-    Mean mean;
+    Line line;
     for (const Entry &entry : entries)
-        if (isMeant(entry)) mean.add(entry.ratio);
-    mean.print(name);
+        if (isMeant(entry)) line.add(entry);
+    line.print(name);
 }
 
 void printMeans(const Entries &entries, bool hasLayouts) {
-    std::printf("    %-26s %5s %8s %8s %8s\n", "", "rows", "mean", "> 1.05", "> 1.15");
+    const bool hasBaseline =
+        std::any_of(entries.begin(), entries.end(), [](const Entry &e) { return bool(e.baseline); });
+    if (hasBaseline) std::printf("    %-26s %5s %26s %26s\n", "", "", "baseline", "best level");
+    std::printf("    %-26s %5s", "", "rows");
+    for (int runs = hasBaseline ? 2 : 1; runs > 0; --runs) std::printf(" %8s %8s %8s", "mean", "> 1.05", "> 1.15");
+    std::printf("\n");
     printMean(entries, "all", [](const Entry &) { return true; });
     printMean(entries, "peers of the same bits", [](const Entry &entry) { return !entry.isApart; });
     if (hasLayouts) {
@@ -97,9 +124,9 @@ void printMeans(const Entries &entries, bool hasLayouts) {
             printMean(entries, layout, [=](const Entry &entry) { return entry.parts.layout == layout; });
     }
     std::printf("\n");
-    std::map<std::string, Mean> families;
-    for (const Entry &entry : entries) families[entry.parts.family].add(entry.ratio);
-    for (const auto &[name, mean] : families) mean.print(name);
+    std::map<std::string, Line> families;
+    for (const Entry &entry : entries) families[entry.parts.family].add(entry);
+    for (const auto &[name, line] : families) line.print(name);
 }
 
 void printLosers(Entries entries, bool isApart, const char *heading) {
@@ -110,7 +137,9 @@ void printLosers(Entries entries, bool isApart, const char *heading) {
     std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) { return a.ratio > b.ratio; });
     std::printf("\n    %s\n", heading);
     for (const Entry &entry : entries) {
-        std::printf("    %7.2f  %s  (%s", entry.ratio, entry.row.c_str(), entry.peer.c_str());
+        std::printf("    ");
+        if (entry.baseline) std::printf("%7.2f ", *entry.baseline);
+        std::printf("%7.2f  %s  (%s", entry.ratio, entry.row.c_str(), entry.peer.c_str());
         if (isApart && entry.sameBits) std::printf("; of the same bits %.2f", *entry.sameBits);
         std::printf(")\n");
     }
@@ -131,9 +160,9 @@ void printGroup(const Entries &all, const char *heading, bool hasLayouts,
 
 } // namespace
 
-void printSummary(const std::vector<Measured> &rows) {
+void printSummary(const std::vector<Measured> &rows, const Ratios &baseline) {
     Entries entries;
-    for (const Measured &row : rows) entries.push_back(entryOf(row));
+    for (const Measured &row : rows) entries.push_back(entryOf(row, baseline));
     const auto isDouble = [](const Entry &entry) { return entry.parts.type == "64f"; };
     const auto isArray = [](const Measured &row) { return row.unit == "objects"; };
 

@@ -3,6 +3,7 @@
 
 #include "contest.h"
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,10 @@ struct Measured {
     std::vector<Timing> timings;
 };
 
-void printSummary(const std::vector<Measured> &rows);
+// Ratios to the best peers by row, of a run for another instruction set.
+using Ratios = std::map<std::string, double>;
+
+// Their columns stand beside those of `rows`, if there are any.
+void printSummary(const std::vector<Measured> &rows, const Ratios &baseline);
 
 } // namespace bench

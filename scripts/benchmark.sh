@@ -4,6 +4,7 @@
 #     --filter REGEX    only the rows whose names match
 #     --rounds N        turns of every contestant in a row (200)
 #     --native          peers compiled for this machine, beside the library built for the best level that it runs
+#     --both            first the baseline, then that, and a summary with columns for both
 #     --save FILE       stores the run as JSON
 #     --against FILE    compares with a stored run, ratio by ratio; exit code 1 if a row got slower by more than a tenth
 #
@@ -21,10 +22,11 @@ absolute() {
     esac
 }
 
-filter=. rounds=200 native=OFF save= against=
+filter=. rounds=200 runs=baseline save= against=
 while [ $# -gt 0 ]; do
     case $1 in
-    --native) native=ON ;;
+    --native) runs=native ;;
+    --both) runs='baseline native' ;;
     --filter | --rounds | --save | --against)
         [ $# -ge 2 ] && [ -n "$2" ] || fail "$1 needs a value"
         case $1 in
@@ -54,27 +56,53 @@ need g++ gcc cmake make python3 libgtest-dev libcli11-dev libbenchmark-dev libei
     libxsmm-dev liblapacke-dev libopenblas-dev
 
 # Whatever would fail after minutes fails now.
+case $runs in
+*' '*) [ -z "$save$against" ] || fail "--save and --against are of one run: --native, or without --both" ;;
+esac
 [ -z "$against" ] || python3 scripts/benchmark_compare.py "$against"
 if [ -n "$save" ]; then
     { [ -w "$(dirname "$save")" ] && [ ! -d "$save" ]; } || fail "cannot write $save"
 fi
 
+targets=
+for run in $runs; do
+    case $run in
+    baseline) targets="$targets benchmarks" ;;
+    native) targets="$targets benchmarks_native levels" ;;
+    esac
+done
 echo "building" >&2
 mkdir -p build
-{ cmake --preset bench -DVONKK3_BENCH_NATIVE=$native &&
-    cmake --build --preset bench --target benchmarks $([ $native = OFF ] || echo levels) --parallel "$(nproc)"
+{ cmake --preset bench && cmake --build --preset bench --target $targets --parallel "$(nproc)"
 } >build/bench.log 2>&1 || { tail -n 40 build/bench.log >&2; fail "cannot build the benchmarks"; }
 
-# The loader takes the library from there.
-if [ $native = ON ]; then
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+json=$scratch/run.json
+measure() { # PROGRAMME OPTION...
+    programme=$1
+    shift
+    build/bench/bench/"$programme" --rounds="$rounds" --benchmark_filter="$filter" --benchmark_out="$json" \
+        --benchmark_out_format=json "$@" || fail "no row matches $filter, or contestants disagree"
+}
+case $runs in
+baseline) measure benchmarks ;;
+*)
     level=$(best_level build/bench/levels)
-    [ -z "$level" ] || export LD_LIBRARY_PATH="$PWD/build/bench/levels/$level"
-    echo "library built for ${level:-x86-64}" >&2
-fi
-
-run=$(mktemp)
-trap 'rm -f "$run"' EXIT
-build/bench/bench/benchmarks --rounds="$rounds" --benchmark_filter="$filter" --benchmark_out="$run" \
-    --benchmark_out_format=json || fail "no row matches $filter, or contestants disagree"
-[ -z "$save" ] || cat "$run" >"$save"
-[ -z "$against" ] || python3 scripts/benchmark_compare.py "$against" "$run"
+    best=build/bench/levels/$level
+    [ -n "$level" ] || best=build/bench
+    case $runs in
+    baseline*)
+        measure benchmarks --ratios="$scratch/baseline"
+        set -- --baseline="$scratch/baseline"
+        echo
+        ;;
+    *) set -- ;;
+    esac
+    echo "library built for ${level:-x86-64}"
+    export LD_LIBRARY_PATH="$PWD/$best" # the loader takes it from there
+    measure benchmarks_native "$@"
+    ;;
+esac
+[ -z "$save" ] || cat "$json" >"$save"
+[ -z "$against" ] || python3 scripts/benchmark_compare.py "$against" "$json"
