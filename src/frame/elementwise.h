@@ -143,7 +143,14 @@ VONKK3_INLINE VonkStatus workArrays(const Operation &operation, Rows rows, Colum
         return workObjects<T, entries>(operation, atRunTime(rows), atRunTime(columns), count, dst, src...);
     else if constexpr (Columns::isFixed && !areOfTable<Destination>)
         return workObjects<T, entries>(operation, rows, columns, count, dst, src...);
-    else return streamOrWorkObjects<T, entries>(operation, rows, columns, count, dst, src...);
+    else {
+        constexpr bool areVectors = Columns::isFixed && Rows::isFixed && Rows::value == 1;
+        if constexpr (areVectors && areOfTable<Destination> && (areOfTable<Sources> && ...))
+            if (count >= worthStreamingTables && (src.isArray && ...) && arePacked(dst) && (arePacked(src) && ...) &&
+                streamVectors<Columns::value>(operation, count, dst, src...))
+                return vonkOk;
+        return streamOrWorkObjects<T, entries>(operation, rows, columns, count, dst, src...);
+    }
 }
 
 } // namespace vonkk3

@@ -87,21 +87,32 @@ private:
     }
 };
 
+// From one row of an operand to the next, and within a row, between the entries of its table.
+struct EntryStrides {
+    std::ptrdiff_t row, element;
+
+    template <class Words> VONKK3_INLINE explicit EntryStrides(const Words &words) {
+        const auto entries = std::ptrdiff_t(std::uint32_t(words.elementStride) * sizeof(void *));
+        const bool isTransposed = areOfTable<Words> ? areOfTransposedTable<Words> : words.isTransposed;
+        row = isTransposed ? std::ptrdiff_t(sizeof(void *)) : entries;
+        element = isTransposed ? entries : std::ptrdiff_t(sizeof(void *));
+    }
+    std::uintptr_t offset(std::size_t i, std::size_t j) const {
+        return std::uintptr_t(strides(i, row) + strides(j, element));
+    }
+};
+
 // Where the positions of a table lead: to object 0, and the others a step after it.
 struct TablePositions {
     std::uintptr_t begin;
-    std::ptrdiff_t rowStride, elementStride, shift, step;
+    EntryStrides entries;
+    std::ptrdiff_t shift, step;
     bool isArray;
 
     VONKK3_INLINE explicit TablePositions(const OperandWords &words)
-        : begin(words.begin), shift(words.rowStride), step(words.step), isArray(words.isArray) {
-        const auto entries = std::ptrdiff_t(std::uint32_t(words.elementStride) * sizeof(void *));
-        rowStride = words.isTransposed ? std::ptrdiff_t(sizeof(void *)) : entries;
-        elementStride = words.isTransposed ? entries : std::ptrdiff_t(sizeof(void *));
-    }
+        : begin(words.begin), entries(words), shift(words.rowStride), step(words.step), isArray(words.isArray) {}
     std::uintptr_t position(std::size_t i, std::size_t j) const {
-        const std::uintptr_t entry = begin + std::uintptr_t(strides(i, rowStride) + strides(j, elementStride));
-        return ObjectsView::pointerAt(entry) + std::uintptr_t(shift);
+        return ObjectsView::pointerAt(begin + entries.offset(i, j)) + std::uintptr_t(shift);
     }
 };
 
@@ -161,12 +172,12 @@ VONKK3_INLINE ObjectsView objectsOf(const OperandWords &words, std::size_t rows,
     view.elementBytes = sizeof(T);
     view.isArray = words.isArray;
     if constexpr (throughTables) {
-        const auto entries = std::ptrdiff_t(std::uint32_t(words.elementStride) * sizeof(void *));
+        const EntryStrides entries(words);
         view.indirection = ObjectsView::Indirection::table;
         view.shift = words.rowStride;
         view.objectStride = words.step;
-        view.rowStride = words.isTransposed ? std::ptrdiff_t(sizeof(void *)) : entries;
-        view.elementStride = words.isTransposed ? entries : std::ptrdiff_t(sizeof(void *));
+        view.rowStride = entries.row;
+        view.elementStride = entries.element;
     } else {
         view.indirection = words.isList ? ObjectsView::Indirection::list : ObjectsView::Indirection::none;
         view.shift = words.isList ? words.step : 0;

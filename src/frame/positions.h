@@ -4,29 +4,19 @@
 
 #include "frame/aliasing.h"
 #include "frame/gather.h"
+#include "frame/hoisted_positions.h"
 #include "frame/walk.h"
 
 namespace vonkk3 {
-
-// The same as TablePositions, of a small object; nothing that is written overlaps the table.
-template <std::size_t rows, std::size_t columns> struct HoistedPositions {
-    Offsets<rows, columns> hoisted;
-    std::ptrdiff_t step;
-    bool isArray;
-
-    VONKK3_INLINE explicit HoistedPositions(const OperandWords &words) : step(words.step), isArray(words.isArray) {
-        const TablePositions table(words);
-        forEachMoved<rows, columns, Triangle::both>([&](std::size_t i, std::size_t j)
-                                                        VONKK3_INLINED { hoisted[i][j] = table.position(i, j); });
-    }
-    std::uintptr_t position(std::size_t i, std::size_t j) const { return hoisted[i][j]; }
-};
 
 // Hoisted where they are few enough to stay in registers.
 template <class Rows, class Columns>
 using PositionsOf = std::conditional_t<Rows::isFixed && Columns::isFixed && Rows::value * Columns::value <= 6,
                                        HoistedPositions<Rows::value, Columns::value>, TablePositions>;
 template <class Table> inline constexpr bool isHoisted = !std::is_same_v<Table, TablePositions>;
+template <class... Tables> VONKK3_INLINE bool arePacked(const Tables &...tables) {
+    return ((!tables.isArray || tables.step == std::ptrdiff_t(sizeof(Real32))) && ...);
+}
 
 // The elements of the objects from n on, as packs; a single object is broadcast.
 template <std::size_t packs, bool arePacked, class Table> struct PacksOfPositions {
@@ -93,10 +83,10 @@ VONKK3_INLINE std::size_t workPacks(std::size_t count, const Work &work, const T
     return n;
 }
 
-template <class Table, std::size_t chains, class Work, class... Words>
-VONKK3_INLINE std::size_t workPacksOf(std::size_t count, const Work &work, const Words &...words) {
-    if ((arePacked(words) && ...)) return workPacks<chains, true>(count, work, Table(words)...);
-    return workPacks<1, false>(count, work, Table(words)...);
+template <std::size_t chains, class Work, class... Tables>
+VONKK3_INLINE std::size_t workPacks(std::size_t count, const Work &work, const Tables &...tables) {
+    if (arePacked(tables...)) return workPacks<chains, true>(count, work, tables...);
+    return workPacks<1, false>(count, work, tables...);
 }
 
 // Fewer objects are not worth the alias test.
@@ -120,44 +110,50 @@ template <class Kernel, class Rows, class Columns, class... Words>
 VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results, Rows rows, Columns columns,
                                        std::size_t count, const Words &...src) {
     if (count < worthPositions) return 0;
-    const Extent written = extentOf(results, count * sizeof(Real32));
-    if (!(isPlainlyDisjoint(written, src, rows, columns, count) && ...) &&
-        !mayReduce(results, rows, columns, count, src...))
-        return 0;
     using Table = PositionsOf<Rows, Columns>;
-    if constexpr (isHoisted<Table> && Kernel::isSum)
-        if ((src.isArray && ...) && !(arePacked(src) && ...)) {
-            const auto work = [&](const auto &...tables) VONKK3_INLINED {
+    const Extent written = extentOf(results, count * sizeof(Real32));
+    const auto reduce = [&](const auto &...tables) VONKK3_INLINED -> std::size_t {
+        bool isPlain;
+        if constexpr (isHoisted<Table>) isPlain = (isPlainlyDisjoint(written, tables, count) && ...);
+        else isPlain = (isPlainlyDisjoint(written, src, rows, columns, count) && ...);
+        if (!isPlain && !mayReduce(results, rows, columns, count, src...)) return 0;
+        if constexpr (isHoisted<Table> && Kernel::isSum)
+            if ((tables.isArray && ...) && !arePacked(tables...)) {
                 for (std::size_t n = 0; n < count; ++n)
                     storeAt(results + n * sizeof(Real32), kernel(rows, columns, NumbersOfPositions(tables, n)...));
                 return count;
-            };
-            return work(Table(src)...);
-        }
-    constexpr std::size_t chains = 4; // sums wait for their last term
-    const auto work = [&](std::size_t n, const auto &...sources) VONKK3_INLINED {
-        storePacks(results + n * sizeof(Real32), kernel(rows, columns, sources...));
+            }
+        constexpr std::size_t chains = 4; // sums wait for their last term
+        return workPacks<chains>(
+            count,
+            [&](std::size_t n, const auto &...sources)
+                VONKK3_INLINED { storePacks(results + n * sizeof(Real32), kernel(rows, columns, sources...)); },
+            tables...);
     };
-    return workPacksOf<Table, chains>(count, work, src...);
+    return reduce(Table(src)...);
 }
 
 // Small objects of `rows` by `columns` elements from objects of the same size. A family gives kernel(d, sources...),
 // and says whether it loads all before it stores, and so may work in place.
-template <std::size_t rows, std::size_t columns, bool mayBeInPlace, class Kernel, class... Words>
-VONKK3_SHARED std::size_t workPositions(const Kernel &kernel, std::size_t count, const OperandWords &d,
+template <std::size_t rows, std::size_t columns, bool mayBeInPlace, class Kernel, class Destination, class... Words>
+VONKK3_SHARED std::size_t workPositions(const Kernel &kernel, std::size_t count, const Destination &dst,
                                         const Words &...src) {
     if (count < worthPositions) return 0;
-    if (!arePlainlyIndependent<mayBeInPlace>(rows, columns, count, d, src...)) {
-        const auto mayWork = [&](const ObjectsView &written, const auto &...views) VONKK3_INLINED {
-            const auto use = mayBeInPlace ? readsInPlace : reads;
-            return Aliasing(count, writes(written), use(views)...).allowsBatch(0, count);
-        };
-        if (!mayWork(objectsOf<Real32, true>(d, rows, columns, count),
-                     objectsOf<Real32, true>(src, rows, columns, count)...))
-            return 0;
-    }
-    return workPacksOf<HoistedPositions<rows, columns>, 1>(
-        count, [&](std::size_t, const auto &...operands) VONKK3_INLINED { kernel(operands...); }, d, src...);
+    using Table = HoistedPositions<rows, columns>;
+    const auto work = [&](const Table &d, const auto &...sources) VONKK3_INLINED -> std::size_t {
+        if (!arePlainlyIndependent<mayBeInPlace>(count, d, sources...)) {
+            const auto mayWork = [&](const ObjectsView &written, const auto &...views) VONKK3_INLINED {
+                const auto use = mayBeInPlace ? readsInPlace : reads;
+                return Aliasing(count, writes(written), use(views)...).allowsBatch(0, count);
+            };
+            if (!mayWork(objectsOf<Real32, true>(dst, rows, columns, count),
+                         objectsOf<Real32, true>(src, rows, columns, count)...))
+                return 0;
+        }
+        return workPacks<1>(
+            count, [&](std::size_t, const auto &...operands) VONKK3_INLINED { kernel(operands...); }, d, sources...);
+    };
+    return work(Table(dst), Table(src)...);
 }
 
 } // namespace vonkk3

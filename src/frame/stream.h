@@ -4,7 +4,7 @@
 // one, over objects. Exactly the bytes of the elements are read and written.
 #pragma once
 
-#include "frame/aliasing.h"
+#include "frame/hoisted_positions.h"
 #include "frame/registers.h"
 #include "frame/straight.h"
 
@@ -262,6 +262,22 @@ VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::
                           StridedElements<const std::byte>{first + strides(n, stride(sources)), stride(sources)}...);
         });
     return true;
+}
+
+// The same of arrays of vectors of a fixed length that are packed behind every position.
+template <std::size_t length, class Operation, class Destination, class... Sources>
+VONKK3_SHARED bool streamVectors(const Operation &shared, std::size_t count, const Destination &dst,
+                                 const Sources &...src) {
+    using Table = HoistedPositions<1, length>;
+    const auto stream = [&](const Table &d, const auto &...sources) VONKK3_INLINED {
+        if (!arePlainlyIndependent<true>(count, d, sources...)) return false;
+        const Operation operation = shared;
+        for (std::size_t j = 0; j < length; ++j)
+            streamInLanes(operation, reinterpret_cast<std::byte *>(d.position(0, j)), count,
+                          ContiguousSource{reinterpret_cast<const std::byte *>(sources.position(0, j))}...);
+        return true;
+    };
+    return stream(Table(dst), Table(src)...);
 }
 inline constexpr std::size_t worthStreamingTables = 12, worthStreamingStrided = 48; // objects
 

@@ -1,0 +1,94 @@
+// The positions of a small object's table, read once for all objects, and the alias test on them.
+#pragma once
+
+#include "frame/aliasing.h"
+
+namespace vonkk3 {
+
+template <std::size_t rows, std::size_t columns> struct HoistedPositions {
+    std::uintptr_t hoisted[rows][columns];
+    std::ptrdiff_t step;
+    bool isArray;
+    Extent entries; // that were read
+
+    template <class Words>
+    VONKK3_INLINE explicit HoistedPositions(const Words &words) : step(words.step), isArray(words.isArray) {
+        const EntryStrides strides(words);
+        const auto shift = std::uintptr_t(std::ptrdiff_t(words.rowStride));
+        forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+            hoisted[i][j] = ObjectsView::pointerAt(words.begin + strides.offset(i, j)) + shift;
+        });
+        entries = {words.begin, words.begin + strides.offset(rows - 1, columns - 1) + sizeof(void *)};
+    }
+    std::uintptr_t position(std::size_t i, std::size_t j) const { return hoisted[i][j]; }
+
+    // Of the objects of one position; they ascend, if that is not below an element.
+    std::ptrdiff_t bytesOfPosition(std::size_t count) const {
+        constexpr std::ptrdiff_t elementBytes = sizeof(Real32);
+        if (!isArray) return elementBytes;
+        return step < elementBytes ? 0 : strides(count - 1, step) + elementBytes;
+    }
+
+    // body(i, j), row by row.
+    template <class Body> VONKK3_INLINE static void forEachElement(const Body &body) {
+        forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
+            forIndices(0, columns, fixed<columns>, [&](std::size_t j) VONKK3_INLINED { body(i, j); });
+        });
+    }
+};
+
+// As in aliasing.h. What is written ascends by position; nothing, if it does not.
+template <std::size_t rows, std::size_t columns>
+VONKK3_INLINE Extent plainlyWritten(const HoistedPositions<rows, columns> &d, std::size_t count) {
+    const std::ptrdiff_t ofPosition = d.bytesOfPosition(count);
+    const std::uintptr_t first = d.hoisted[0][0];
+    std::uintptr_t last = first - std::uintptr_t(ofPosition);
+    std::ptrdiff_t least = ofPosition; // distance of positions; below 0 where they descend
+    d.forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+        const auto distance = std::ptrdiff_t(d.hoisted[i][j] - last);
+        least = distance < least ? distance : least;
+        last = d.hoisted[i][j];
+    });
+    constexpr std::ptrdiff_t elementBytes = sizeof(Real32);
+    const Extent written{first, last + std::uintptr_t(ofPosition)};
+    const bool isWrittenOnce =
+        least == ofPosition || (least >= elementBytes && std::ptrdiff_t(last - first) + elementBytes <= d.step);
+    if (ofPosition == 0 || !isWrittenOnce || !disjoint(written, d.entries)) return {1, 0};
+    return written;
+}
+
+template <std::size_t rows, std::size_t columns>
+VONKK3_INLINE bool isPlainlyDisjoint(const Extent &written, const HoistedPositions<rows, columns> &source,
+                                     std::size_t count) {
+    std::uintptr_t lowest = source.hoisted[0][0], highest = lowest;
+    source.forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
+        const std::uintptr_t position = source.hoisted[i][j];
+        lowest = position < lowest ? position : lowest;
+        highest = position > highest ? position : highest;
+    });
+    const std::ptrdiff_t ofPosition = source.bytesOfPosition(count);
+    const Extent read{lowest, highest + std::uintptr_t(ofPosition)};
+    return ofPosition != 0 && !aliasing::isEmpty(read) && !aliasing::isEmpty(written) && disjoint(written, read) &&
+           disjoint(written, source.entries);
+}
+
+template <std::size_t rows, std::size_t columns>
+VONKK3_INLINE bool isInPlace(const HoistedPositions<rows, columns> &d, const HoistedPositions<rows, columns> &source) {
+    bool isSame = source.isArray && source.step == d.step;
+    d.forEachElement([&](std::size_t i, std::size_t j)
+                         VONKK3_INLINED { isSame = isSame && source.hoisted[i][j] == d.hoisted[i][j]; });
+    return isSame;
+}
+
+template <bool mayBeInPlace, std::size_t rows, std::size_t columns, class... Sources>
+VONKK3_INLINE bool arePlainlyIndependent(std::size_t count, const HoistedPositions<rows, columns> &d,
+                                         const Sources &...sources) {
+    const Extent written = plainlyWritten(d, count);
+    const auto isIndependent = [&](const auto &source) VONKK3_INLINED {
+        return isPlainlyDisjoint(written, source, count) || (mayBeInPlace && !aliasing::isEmpty(written) &&
+                                                             disjoint(written, source.entries) && isInPlace(d, source));
+    };
+    return (isIndependent(sources) && ...);
+}
+
+} // namespace vonkk3
