@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <functional>
@@ -132,6 +133,22 @@ TEST(ManyObjects, AreTransformedWithResultsOnLaterVectors) {
     }
 }
 
+// Results begin where a source does, but their objects are closer: object by object, they overwrite what is yet to be
+// read.
+TEST(ManyObjects, AreMultipliedIntoCloserObjectsOfTheSamePositions) {
+    for (const std::int32_t apart : {4, 8, 12}) {
+        SCOPED_TRACE(apart);
+        expectSameObjectByObject([apart](Arena &arena, std::int32_t n, std::uint32_t count) {
+            const auto d = tableFrom<3>(arena.numbers.data(), 512);
+            const auto a = tableFrom<3>(static_cast<const float *>(arena.numbers.data()), 512);
+            const auto b = tableFrom<3>(static_cast<const float *>(arena.numbers.data() + 2048), 512);
+            ASSERT_EQ(vonkCrossProduct_vava_32f_3x1_PS2(a.data(), n * 8, 8, b.data(), n * 8, 8, d.data(), n * apart,
+                                                        apart, count),
+                      vonkOk);
+        });
+    }
+}
+
 // The first position of the objects lies on the table: what is copied there is what stands there, but for the last
 // object, which gets the lower half of another address for the table's last entry: its last element comes from there.
 TEST(ManyObjects, MayBeCopiedOntoTheTableTheyAreReadThrough) {
@@ -155,6 +172,42 @@ TEST(ManyObjects, MayBeCopiedOntoTheTableTheyAreReadThrough) {
             std::memset(source, 0, objects * sizeof(float));
         }
     });
+}
+
+// The same of small objects, whose positions are read once: of the source's table, and of the destination's own. What
+// is stored there goes through a multiplication by 1.
+TEST(ManyObjects, MayBeScaledOntoATableTheyAreFoundThrough) {
+    for (const bool ownTable : {false, true}) {
+        SCOPED_TRACE(ownTable);
+        bool isNumber = true;
+        expectSameObjectByObject([&](Arena &arena, std::int32_t n, std::uint32_t count) {
+            float *const numbers = arena.numbers.data();
+            float *const source = numbers + 2000;
+            float *const onEntry = reinterpret_cast<float *>(&arena.table[43]) - (objects - 1);
+            const float *const other = numbers + 3050;
+            if (n == 0) {
+                for (std::size_t k = 0; k < 4; ++k) arena.table[40 + k] = (ownTable ? numbers + 1000 : source) + 64 * k;
+                if (ownTable) arena.table[40] = onEntry;
+                std::memcpy(source, onEntry, (objects - 1) * sizeof(float));
+                std::memcpy(source + objects - 1, &other, sizeof(float));
+                isNumber = isNumber && !std::isnan(source[objects - 1]);
+                for (std::uint32_t k = 0; k + 1 < objects; ++k) isNumber = isNumber && !std::isnan(source[k]);
+            }
+            if (!isNumber) return void(numbers[0] = 0); // skipped below
+            const auto a = tableFrom<4>(static_cast<const float *>(source), 64);
+            const std::array<float *, 4> d{onEntry, numbers + 1064, numbers + 1128, numbers + 1192};
+            ASSERT_EQ(vonkMul_vac_32f_4x1_P(ownTable ? a.data() : &arena.table[40], n * bytes, 1.0F,
+                                            ownTable ? const_cast<float *const *>(&arena.table[40]) : d.data(),
+                                            n * bytes, count),
+                      vonkOk);
+            if (static_cast<std::uint32_t>(n) + count == objects) { // addresses differ from arena to arena
+                if (ownTable) EXPECT_EQ(numbers[3050 + objects - 1], source[3 * 64 + objects - 1]);
+                else EXPECT_EQ(numbers[1192 + objects - 1], numbers[3050 + objects - 1]);
+                std::memset(source, 0, objects * sizeof(float));
+            }
+        });
+        if (!isNumber) GTEST_SKIP() << "the bits of these addresses are no numbers";
+    }
 }
 
 } // namespace
