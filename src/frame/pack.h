@@ -16,17 +16,17 @@ inline constexpr std::size_t packsToRegister = widestRegister / packWidth;
 
 constexpr std::size_t inWholePacks(std::size_t count) { return count / packWidth * packWidth; }
 
-// The outcome of a comparison, lane by lane: all bits set or none.
+// The outcome of a comparison, lane by lane.
 template <std::size_t width> struct MaskOf {
-    Register<width> lanes;
+    MaskRegister<width> lanes;
 
     friend MaskOf operator&(MaskOf a, MaskOf b) { return {bitAnd(a.lanes, b.lanes)}; }
     friend MaskOf operator|(MaskOf a, MaskOf b) { return {bitOr(a.lanes, b.lanes)}; }
     friend MaskOf operator^(MaskOf a, MaskOf b) { return {bitXor(a.lanes, b.lanes)}; }
 
-    static MaskOf none() { return {broadcast<Register<width>>(0)}; }
-    bool any() const { return signBits(lanes) != 0; }
-    bool all() const { return signBits(lanes) == (1U << width) - 1; }
+    static MaskOf none() { return {noLane<MaskRegister<width>>()}; }
+    bool any() const { return bitsOf(lanes) != 0; }
+    bool all() const { return bitsOf(lanes) == (1U << width) - 1; }
 };
 
 template <std::size_t width> struct PackOf {
@@ -72,9 +72,7 @@ template <std::size_t width> inline MaskOf<width> without(MaskOf<width> a, MaskO
 
 // Exchanges a and b where the mask is set.
 template <std::size_t width> inline void exchangeWhere(MaskOf<width> mask, PackOf<width> &a, PackOf<width> &b) {
-    const auto difference = bitAnd(bitXor(a.lanes, b.lanes), mask.lanes);
-    a.lanes = bitXor(a.lanes, difference);
-    b.lanes = bitXor(b.lanes, difference);
+    exchangeWhere(mask.lanes, a.lanes, b.lanes);
 }
 
 // a where the mask is set, else b.

@@ -32,13 +32,8 @@ inline __m128 bitAnd(__m128 a, __m128 b) { return _mm_and_ps(a, b); }
 inline __m128 bitOr(__m128 a, __m128 b) { return _mm_or_ps(a, b); }
 inline __m128 bitXor(__m128 a, __m128 b) { return _mm_xor_ps(a, b); }
 inline __m128 bitAndNot(__m128 a, __m128 b) { return _mm_andnot_ps(b, a); } // a where b is not set
-inline __m128 isGreater(__m128 a, __m128 b) { return _mm_cmpgt_ps(a, b); }
-inline __m128 isAtLeast(__m128 a, __m128 b) { return _mm_cmpge_ps(a, b); }
-inline __m128 isEqual(__m128 a, __m128 b) { return _mm_cmpeq_ps(a, b); }
 inline __m128 rootOf(__m128 a) { return _mm_sqrt_ps(a); }
 inline __m128 largerOf(__m128 a, __m128 b) { return _mm_max_ps(a, b); } // b if they are equal or one is a NaN
-inline __m128 choose(__m128 mask, __m128 a, __m128 b) { return bitOr(bitAnd(mask, a), bitAndNot(b, mask)); }
-inline unsigned signBits(__m128 a) { return unsigned(_mm_movemask_ps(a)); }
 inline __m128 reciprocalEstimate(__m128 a) { return _mm_rcp_ps(a); }
 
 inline __m128 unpackLow(__m128 a, __m128 b) { return _mm_unpacklo_ps(a, b); }
@@ -81,13 +76,8 @@ inline __m256 bitAnd(__m256 a, __m256 b) { return _mm256_and_ps(a, b); }
 inline __m256 bitOr(__m256 a, __m256 b) { return _mm256_or_ps(a, b); }
 inline __m256 bitXor(__m256 a, __m256 b) { return _mm256_xor_ps(a, b); }
 inline __m256 bitAndNot(__m256 a, __m256 b) { return _mm256_andnot_ps(b, a); }
-inline __m256 isGreater(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_GT_OS); }
-inline __m256 isAtLeast(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_GE_OS); }
-inline __m256 isEqual(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_EQ_OQ); }
 inline __m256 rootOf(__m256 a) { return _mm256_sqrt_ps(a); }
 inline __m256 largerOf(__m256 a, __m256 b) { return _mm256_max_ps(a, b); }
-inline __m256 choose(__m256 mask, __m256 a, __m256 b) { return _mm256_blendv_ps(b, a, mask); }
-inline unsigned signBits(__m256 a) { return unsigned(_mm256_movemask_ps(a)); }
 inline __m256 reciprocalEstimate(__m256 a) { return _mm256_rcp_ps(a); }
 
 inline __m256 unpackLow(__m256 a, __m256 b) { return _mm256_unpacklo_ps(a, b); }
@@ -107,6 +97,57 @@ template <> inline __m256 inEveryQuad<__m256>(__m128 quad) {
 template <> inline __m256 loadLanes<__m256>(const std::byte *address) { return _mm256_loadu_ps(floats(address)); }
 inline void storeLanes(std::byte *address, __m256 lanes) { _mm256_storeu_ps(floats(address), lanes); }
 #endif
+
+// ---- Comparisons ----------------------------------------------------------------------------------------------------
+
+// Their outcome lane by lane: a bit for each where the target has masks, else all bits of a lane or none.
+#ifdef __AVX512VL__
+template <std::size_t> using MaskRegister = __mmask8;
+template <class Mask> inline Mask noLane() { return 0; }
+inline __mmask8 isGreater(__m128 a, __m128 b) { return _mm_cmp_ps_mask(a, b, _CMP_GT_OS); }
+inline __mmask8 isGreater(__m256 a, __m256 b) { return _mm256_cmp_ps_mask(a, b, _CMP_GT_OS); }
+inline __mmask8 isAtLeast(__m128 a, __m128 b) { return _mm_cmp_ps_mask(a, b, _CMP_GE_OS); }
+inline __mmask8 isAtLeast(__m256 a, __m256 b) { return _mm256_cmp_ps_mask(a, b, _CMP_GE_OS); }
+inline __mmask8 isEqual(__m128 a, __m128 b) { return _mm_cmp_ps_mask(a, b, _CMP_EQ_OQ); }
+inline __mmask8 isEqual(__m256 a, __m256 b) { return _mm256_cmp_ps_mask(a, b, _CMP_EQ_OQ); }
+inline __mmask8 bitAnd(__mmask8 a, __mmask8 b) { return __mmask8(a & b); }
+inline __mmask8 bitOr(__mmask8 a, __mmask8 b) { return __mmask8(a | b); }
+inline __mmask8 bitXor(__mmask8 a, __mmask8 b) { return __mmask8(a ^ b); }
+inline __mmask8 bitAndNot(__mmask8 a, __mmask8 b) { return __mmask8(a & ~b); }
+inline unsigned bitsOf(__mmask8 mask) { return mask; }
+inline __m128 choose(__mmask8 mask, __m128 a, __m128 b) { return _mm_mask_blend_ps(mask, b, a); }
+inline __m256 choose(__mmask8 mask, __m256 a, __m256 b) { return _mm256_mask_blend_ps(mask, b, a); }
+#else
+template <std::size_t lanes> using MaskRegister = Register<lanes>;
+template <class Mask> inline Mask noLane() { return broadcast<Mask>(0); }
+inline __m128 isGreater(__m128 a, __m128 b) { return _mm_cmpgt_ps(a, b); }
+inline __m128 isAtLeast(__m128 a, __m128 b) { return _mm_cmpge_ps(a, b); }
+inline __m128 isEqual(__m128 a, __m128 b) { return _mm_cmpeq_ps(a, b); }
+inline unsigned bitsOf(__m128 mask) { return unsigned(_mm_movemask_ps(mask)); }
+inline __m128 choose(__m128 mask, __m128 a, __m128 b) { return bitOr(bitAnd(mask, a), bitAndNot(b, mask)); }
+#ifdef __AVX2__
+inline __m256 isGreater(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_GT_OS); }
+inline __m256 isAtLeast(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_GE_OS); }
+inline __m256 isEqual(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_EQ_OQ); }
+inline unsigned bitsOf(__m256 mask) { return unsigned(_mm256_movemask_ps(mask)); }
+inline __m256 choose(__m256 mask, __m256 a, __m256 b) { return _mm256_blendv_ps(b, a, mask); }
+#endif
+#endif
+
+// Exchanges a and b in the lanes of the mask.
+template <class Mask, class Lanes> VONKK3_INLINE void exchangeWhere(Mask mask, Lanes &a, Lanes &b) {
+    if constexpr (std::is_integral_v<Mask>) {
+        const Lanes first = a;
+        a = choose(mask, b, a);
+        b = choose(mask, first, b);
+    } else {
+        const Lanes difference = bitAnd(bitXor(a, b), mask);
+        a = bitXor(a, difference);
+        b = bitXor(b, difference);
+    }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
 
 // Rows of four elements become columns, quad by quad. These shuffles run on two units of some processors, those
 // that unpack on one.
