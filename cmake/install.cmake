@@ -1,7 +1,7 @@
-# cmake --install: library at all levels, with its links, header, CMake package, pkg-config file and the catalogue as data.
+# cmake --install: library at all levels, with its links, headers, CMake package, pkg-config file and the catalogue as data.
 include(CMakePackageConfigHelpers)
 
-install(FILES include/vonkk3.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
 install(TARGETS vonkk3 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(FILES ${PROJECT_BINARY_DIR}/libvonkk3.so.4 ${PROJECT_BINARY_DIR}/libvonkk3.so
         DESTINATION ${CMAKE_INSTALL_LIBDIR})

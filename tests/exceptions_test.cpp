@@ -260,31 +260,45 @@ TEST(Exceptions, AgreeWithTheCatalogueOnSignedSizes) {
 
 // ---- What is written from it ----------------------------------------------------------------------------------------
 
-// The ids in the comment after each prototype.
-std::map<std::string, std::vector<std::string>> marksOf(const std::string &header) {
-    const std::regex prototype(R"(VonkStatus (vonk\w+)\([^;]*;(?:\s*/\* exceptions?: ([^*]*?) \*/)?)");
-    const std::regex id("[a-z0-9-]+");
+std::string allHeaders() {
+    std::string all;
+    for (const auto &[name, content] : emit::headers()) all += content;
+    return all;
+}
+
+// The ids in the comment above each prototype.
+std::map<std::string, std::vector<std::string>> marksOf(const std::string &headers) {
+    const std::regex prototype(R"(/\*\*([^/]*)\*/\nVonkStatus (vonk\w+)\()");
+    const std::regex list(R"( Exceptions?:([^.]*)\.)"), id("[a-z0-9-]+");
     std::map<std::string, std::vector<std::string>> marks;
-    for (auto at = std::sregex_iterator(header.begin(), header.end(), prototype); at != std::sregex_iterator(); ++at) {
-        const std::string list = (*at)[2];
-        auto &ids = marks[(*at)[1]];
-        for (auto word = std::sregex_iterator(list.begin(), list.end(), id); word != std::sregex_iterator(); ++word)
+    for (auto at = std::sregex_iterator(headers.begin(), headers.end(), prototype); at != std::sregex_iterator();
+         ++at) {
+        const std::string comment = (*at)[1];
+        auto &ids = marks[(*at)[2]];
+        std::smatch found;
+        if (!std::regex_search(comment, found, list)) continue;
+        const std::string named = found[1];
+        for (auto word = std::sregex_iterator(named.begin(), named.end(), id); word != std::sregex_iterator(); ++word)
             ids.push_back(word->str());
     }
     return marks;
 }
 
 TEST(Exceptions, AreMarkedAtThePrototypes) {
-    const auto marks = marksOf(emit::header());
+    const auto marks = marksOf(allHeaders());
     EXPECT_EQ(marks.size(), all().size());
     for (const Function &function : all()) EXPECT_EQ(marks.at(function.name), idsOf(function)) << function.name;
 }
 
-TEST(Exceptions, AreListedInTheSectionsOfTheHeader) {
-    const std::string header = emit::header();
-    std::size_t at = 0;
+TEST(Exceptions, AreListedInTheSectionsOfTheHeaders) {
+    const auto headers = emit::headers();
+    std::map<std::string, std::size_t> reached; // in the table's order
     for (const Exception &row : catalogue::exceptions()) {
-        at = header.find(" * - " + std::string(row.id) + " (" + std::string(name(row.what)) + "):", at);
+        const auto section = std::ranges::find(catalogue::sections(), row.section, &catalogue::Section::id);
+        const std::string name = "vonkk3/" + std::string(section->header) + ".h";
+        std::size_t &at = reached[name];
+        at = headers.at(name).find(" * - " + std::string(row.id) + " (" + std::string(catalogue::name(row.what)) + "):",
+                                   at);
         ASSERT_NE(at, std::string::npos) << row.id;
     }
 }

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
+#include <set>
 #include <sstream>
 #include <string>
 
@@ -18,6 +19,23 @@ TEST(Version, IsBuildElevenThirtyOfVersionFourOne) {
     EXPECT_EQ(version->versionMinor, 1);
     EXPECT_EQ(version->buildMajor, 11);
     EXPECT_EQ(version->buildNumber, 30);
+}
+
+TEST(Version, IsThatOfTheHeaders) {
+    const VonkLibVersion *version = vonkGetLibVersion();
+    EXPECT_EQ(version->versionMajor, VONKK3_VERSION_MAJOR);
+    EXPECT_EQ(version->versionMinor, VONKK3_VERSION_MINOR);
+    EXPECT_EQ(VONKK3_VERSION, 40100 + VONKK3_VERSION_PATCH);
+}
+
+TEST(Status, HasATextOfItsOwn) {
+    std::set<std::string> texts;
+    for (const VonkStatus status :
+         std::initializer_list<VonkStatus>{vonkOk, vonkErrSize, vonkErrNullPtr, vonkErrSingular, vonkErrNotPosDef, 1})
+        texts.insert(vonkStatusText(status));
+    EXPECT_EQ(texts.size(), 6U);
+    EXPECT_STREQ(vonkStatusText(vonkOk), "done");
+    EXPECT_STREQ(vonkStatusText(-7), vonkStatusText(1));
 }
 
 TEST(Version, HasTextsForPeople) {

@@ -73,6 +73,7 @@ struct Parameter {
 // The rule of a family: one section of the header and one page of the reference. Exceptions to it: see exceptions.h.
 struct Section {
     std::string_view id;      // file name of its reference page
+    std::string_view header;  // "lu": its section stands in vonkk3/lu.h
     std::string_view title;   // "LU decomposition"
     std::string_view summary; // one line, for tables of contents
     std::string_view text;    // what is computed, shapes, units, status values

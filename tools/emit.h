@@ -7,7 +7,7 @@
 
 namespace emit {
 
-std::string header();                           // include/vonkk3.h
+std::map<std::string, std::string> headers();   // by name below include/: vonkk3.h, vonkk3/lu.h, ...
 std::map<std::string, std::string> stubs();     // source files by name, one per operation and type
 std::string exports();                          // exported names, one a line, sorted
 std::string functions();                        // docs/functions.md

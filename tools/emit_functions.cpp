@@ -1,4 +1,4 @@
-// docs/functions.md: every family with its groups, sizes and layouts, and where its section of the header begins.
+// docs/functions.md: every family with its groups, sizes and layouts, and the header that has its section.
 #include "catalogue.h"
 #include "emit.h"
 
@@ -27,13 +27,6 @@ template <class Word> std::vector<std::string> distinct(const std::vector<const 
     return words;
 }
 
-// "LU decomposition" -> "#L1234", the line of the header where its section begins.
-std::string lineOfSection(const catalogue::Section &section) {
-    static const std::string header = emit::header();
-    const std::size_t at = header.find("/* ---- " + std::string(section.title) + " -");
-    return "#L" + std::to_string(1 + std::count(header.begin(), header.begin() + std::ptrdiff_t(at), '\n'));
-}
-
 std::string size(const Function &function) {
     if (function.order == 0) return "";
     const std::string order = std::to_string(function.order);
@@ -45,8 +38,8 @@ std::string row(const Family &family, const catalogue::Section *previous,
     const Function &first = *members.front();
     std::string title;
     if (first.section != previous)
-        title = "[" + std::string(first.section->title) + "](../include/vonkk3.h" + lineOfSection(*first.section) +
-                "), [page](reference/" + std::string(first.section->id) + ".md)";
+        title = "[" + std::string(first.section->title) + "](../include/vonkk3/" + std::string(first.section->header) +
+                ".h), [page](reference/" + std::string(first.section->id) + ".md)";
     return "| " + title + " | `vonk" + std::string(family.operation) + "` | " +
            listed(distinct(members, [](const Function &f) { return f.group; }), "") + " | " +
            listed(distinct(members, [](const Function &f) { return std::string(suffix(f.type)); }), "") + " | " +

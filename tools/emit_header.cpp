@@ -1,9 +1,11 @@
-// The public header: valid C99 and C++, self-contained, one section a family.
+// The public headers: valid C99 and C++, each self-contained, one section a family, one line above every prototype.
+#include "describe.h"
 #include "emit.h"
 #include "exceptions.h"
 #include "text.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace emit {
 namespace {
@@ -17,7 +19,8 @@ constexpr std::string_view opening = R"(/* vonkk3: batched linear algebra on ver
  *   operands  one group per source: m matrix, v vector, c constant; `a` after m or v makes it an array (a batch) of
  *             `count` like objects, `T` reads it transposed. The result is an array if any source is.
  *   type      32f float, 64f double
- *   size      3x3 to 6x6, or 3x1 to 6x1 for vectors; without it the size is an argument
+ *   size      3x3 to 6x6, or 3x1 to 6x1 for vectors; without it the size is an argument, and `scratch` of vonkDet and
+ *             vonkInvert
  *   layout    where element (i, j) of object n lies; p is the operand's pointer, e the element's size in bytes:
  *               (none)  p + n * ObjStride + i * RowStride + j * e      standard: rows of contiguous elements
  *               S2      p + n * ObjStride + i * RowStride + j * ElemStride
@@ -33,7 +36,8 @@ constexpr std::string_view opening = R"(/* vonkk3: batched linear algebra on ver
  * (AoS); P is the structure of arrays (SoA): the elements of all objects at one position are contiguous.
  *
  * Units: every stride and shift is in BYTES, may be negative or zero, and is not checked. Sizes are in elements,
- * `count` in objects. Elements may lie at any address; no alignment is required.
+ * `count` in objects; they are unsigned but for a few of Cholesky's and LoadIdentity's. Elements may lie at any
+ * address; no alignment is required.
  *
  * Thread-safe and re-entrant: a call keeps no state, takes no lock, and may run beside any other that does not write
  * the same memory. No allocation and no hidden workspace: where a family needs one, it is an argument (`scratch`,
@@ -48,7 +52,10 @@ constexpr std::string_view opening = R"(/* vonkk3: batched linear algebra on ver
  * Argument checks, in this order: pointers (vonkErrNullPtr), sizes (vonkErrSize), entries of tables where the family
  * checks them (vonkErrNullPtr), `count` 0 (vonkOk with nothing done). A failing call undoes nothing.
  *
- * Exceptions: functions that deviate from the rules of their family are marked at their prototypes. The section of the
+ * Every prototype has a line above it: what is computed (src' is the transpose of src), the size and type of an object,
+ * the layout, and the exceptions. The comment at the head of a family says the rest: shapes, status values, overlap.
+ *
+ * Exceptions: functions that deviate from the rules of their family have them named in that line. The section of the
  * family says what each exception is, with its class and its functions as patterns: {a,b} is a or b, {,_L} is nothing
  * or _L, `?` is any letter, `*` any letters. Exceptions are intended and stay as they are. The classes:
  *
@@ -61,7 +68,25 @@ constexpr std::string_view openingEnd = R"( *
 #ifndef VONKK3_H
 #define VONKK3_H
 
+)";
+
+constexpr std::string_view closing = "\n#endif\n";
+
+constexpr std::string_view types =
+    R"(/* What all headers of vonkk3 share: status values, version. See vonkk3.h for names, layouts and units.
+ *
+ * Generated from the catalogue of functions; do not edit.
+ */
+#ifndef VONKK3_TYPES_H
+#define VONKK3_TYPES_H
+
 #include <stdint.h>
+
+/* The version of the headers; that of the library at run time: vonkGetLibVersion. */
+#define VONKK3_VERSION_MAJOR 4
+#define VONKK3_VERSION_MINOR 1
+#define VONKK3_VERSION_PATCH 0
+#define VONKK3_VERSION (VONKK3_VERSION_MAJOR * 10000 + VONKK3_VERSION_MINOR * 100 + VONKK3_VERSION_PATCH)
 
 #ifdef __cplusplus
 extern "C" {
@@ -77,6 +102,18 @@ enum {
     vonkErrNotPosDef = -179   /* the matrix is not positive definite */
 };
 
+/* A status in words. Never null; the text is constant. */
+static inline const char *vonkStatusText(VonkStatus status) {
+    switch (status) {
+    case vonkOk: return "done";
+    case vonkErrSize: return "a size is zero, or sizes do not fit each other";
+    case vonkErrNullPtr: return "a null pointer among the operands";
+    case vonkErrSingular: return "a matrix is singular: below the family's tolerance";
+    case vonkErrNotPosDef: return "a matrix is not positive definite";
+    default: return "not a status of vonkk3";
+    }
+}
+
 /* Which build of the library this is. The record is constant and lives as long as the library is loaded. */
 typedef struct VonkLibVersion {
     int32_t versionMajor;
@@ -90,9 +127,15 @@ typedef struct VonkLibVersion {
 } VonkLibVersion;
 
 const VonkLibVersion *vonkGetLibVersion(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
 )";
 
-constexpr std::string_view closing = R"(
+constexpr std::string_view familyClosing = R"(
 #ifdef __cplusplus
 }
 #endif
@@ -130,39 +173,61 @@ std::string sectionComment(const catalogue::Section &section) {
            " */\n";
 }
 
-// The ids of a function's exceptions, after its prototype if there is room, else on lines of their own.
-std::string marked(const std::string &prototype, const std::vector<const catalogue::Exception *> &rows) {
-    if (rows.empty()) return prototype;
-    std::vector<std::string> ids(rows.size());
-    std::ranges::transform(rows, ids.begin(), [](const catalogue::Exception *row) { return std::string(row->id); });
-    const std::string opening = rows.size() == 1 ? "/* exception: " : "/* exceptions: ";
-    const std::string inLine = text::joinWrapped(opening, ids, " */", "");
-    const std::size_t lastLine = prototype.size() - (prototype.rfind('\n') + 1);
-    if (inLine.find('\n') == std::string::npos && lastLine + 1 + inLine.size() <= text::lineWidth)
-        return prototype + " " + inLine;
-    return prototype + "\n" + text::joinWrapped("    " + opening, ids, " */", "       ");
+// What it computes, of what, and its exceptions.
+std::string line(const catalogue::Function &function, const std::vector<const catalogue::Exception *> &rows) {
+    std::string text = formula(function) + "; " + operandsInWords(function) + "; " + layoutInWords(function) + ".";
+    for (const catalogue::Exception *row : rows)
+        text +=
+            (row == rows.front() ? (rows.size() == 1 ? " Exception: " : " Exceptions: ") : ", ") + std::string(row->id);
+    return text::wrapWords(text + (rows.empty() ? " */" : ". */"), "/** ", " * ");
+}
+
+// "LU_H" of "lu"
+std::string guard(std::string_view name) {
+    std::string macro = "VONKK3_" + std::string(name) + "_H";
+    std::ranges::transform(macro, macro.begin(), [](char c) { return char(std::toupper(c)); });
+    return macro;
+}
+
+std::string familyOpening(std::string_view name) {
+    std::string titles;
+    for (const catalogue::Section &section : catalogue::sections())
+        if (section.header == name) titles += (titles.empty() ? "" : "; ") + std::string(section.title);
+    return text::wrapWords("vonkk3: " + titles + ". See vonkk3.h for names, layouts and units.", "/* ", " * ") +
+           " *\n * Generated from the catalogue of functions; do not edit.\n */\n#ifndef " + guard(name) +
+           "\n#define " + guard(name) + "\n\n#include \"types.h\"\n\n#ifdef __cplusplus\nextern \"C\" {\n#endif\n";
 }
 
 } // namespace
 
-std::string header() {
+std::map<std::string, std::string> headers() {
     const std::vector<catalogue::Function> functions = catalogue::expand();
     const catalogue::ExceptionIndex index(catalogue::exceptions(), functions);
-    std::string result = std::string(opening) + classesComment() + std::string(openingEnd);
+    std::map<std::string, std::string> result{{"vonkk3/types.h", std::string(types)}};
+    std::string umbrella = std::string(opening) + classesComment() + std::string(openingEnd);
+    umbrella += "#include \"vonkk3/types.h\"\n\n";
     const catalogue::Section *section = nullptr;
     std::string block;
     for (const catalogue::Function &function : functions) {
+        std::string &header = result["vonkk3/" + std::string(function.section->header) + ".h"];
         if (function.section != section) {
             section = function.section;
-            result += "\n" + sectionComment(*section);
+            if (header.empty()) {
+                header = familyOpening(section->header);
+                umbrella += "#include \"vonkk3/" + std::string(section->header) + ".h\"\n";
+            }
+            header += "\n" + sectionComment(*section);
         }
         const std::string thisBlock =
             std::string(function.family->operation) + "_" + function.group + "_" + std::string(suffix(function.type));
-        if (thisBlock != block) result += "\n";
+        if (thisBlock != block) header += "\n";
         block = thisBlock;
-        result += marked(text::prototype(function, ";"), index.exceptionsOf(function)) + "\n";
+        header += line(function, index.exceptionsOf(function)) + text::prototype(function, ";") + "\n";
     }
-    return result + std::string(closing);
+    for (auto &[name, content] : result)
+        if (name != "vonkk3/types.h") content += familyClosing;
+    result["vonkk3.h"] = umbrella + std::string(closing);
+    return result;
 }
 
 } // namespace emit

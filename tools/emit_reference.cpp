@@ -80,8 +80,8 @@ std::string page(const Section &section, const std::vector<Function> &functions,
 }
 
 constexpr std::string_view aboutExceptions =
-    "Functions that deviate from the rules of their family. Exceptions are intended and stay as they are. The header\n"
-    "marks each function with its exceptions, and `functions.json` lists them, too.\n\n"
+    "Functions that deviate from the rules of their family. Exceptions are intended and stay as they are. The headers\n"
+    "mark each function with its exceptions, and `functions.json` lists them, too.\n\n"
     "Functions are given as patterns of names, as in a shell: `{a,b}` is a or b, `{,_L}` is nothing or `_L`, `?` is "
     "any\n"
     "letter, `*` any letters. The number before the patterns says how many functions they match.\n\n"

@@ -1,6 +1,6 @@
 // The generator: writes what follows from the catalogue.
 //
-//     generate tree ROOT     the files that are checked in: include/vonkk3.h, docs/functions.md and docs/reference/
+//     generate tree ROOT     the files that are checked in: include/, docs/functions.md and docs/reference/
 //     generate build FOLDER  the files of one build: stubs/*.cpp, exports.txt and functions.json
 //
 // A file that would not change is left alone, so that nothing is compiled again for it.
@@ -27,7 +27,7 @@ void write(const fs::path &path, const std::string &content) {
 }
 
 void writeTree(const fs::path &root) {
-    write(root / "include/vonkk3.h", emit::header());
+    for (const auto &[name, content] : emit::headers()) write(root / "include" / name, content);
     write(root / "docs/functions.md", emit::functions());
     for (const auto &[name, content] : emit::reference()) write(root / "docs/reference" / name, content);
 }

@@ -4,7 +4,7 @@
 namespace catalogue {
 namespace {
 constexpr std::array sectionTable = std::to_array<Section>({
-    {"vector-constant", "Vector and constant", "sum, difference and product of each element and a constant",
+    {"vector-constant", "vector", "Vector and constant", "sum, difference and product of each element and a constant",
      R"(vonkAdd:           dst(n, j) = src(n, j) + val
 vonkSub vc, vac:   dst(n, j) = src(n, j) - val
 vonkSub cv, cva:   dst(n, j) = val - src(n, j)
@@ -21,7 +21,7 @@ turn comes, earlier objects being complete. `count` 0 then gives vonkOk with not
      R"(Overlap is not checked. `dst` may be `src` (in place): each element is read before it is written. With any other
 overlap elements are read and written one by one in ascending order, so that a source element which `dst` has
 overwritten by then is read as overwritten.)"},
-    {"vector-vector", "Vector and vector", "element-wise sum and difference of vectors",
+    {"vector-vector", "vector", "Vector and vector", "element-wise sum and difference of vectors",
      R"(vonkAdd: dst(n, j) = src1(n, j) + src2(n, j)
 vonkSub: dst(n, j) = src1(n, j) - src2(n, j)
 
@@ -36,7 +36,7 @@ object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk
      R"(Overlap is not checked. `dst` may be any source (in place): each element is read before it is written. With any other
 overlap elements are read and written one by one in ascending order, so that a source element which `dst` has
 overwritten by then is read as overwritten.)"},
-    {"saxpy", "Saxpy", "a vector times a constant, plus a vector",
+    {"saxpy", "vector", "Saxpy", "a vector times a constant, plus a vector",
      R"(dst(n, j) = src1(n, j) * val + src2(n, j)
 
 for j below `len` and each object n. The product is rounded before the sum in `32f` and never fused with it; in `64f`
@@ -51,7 +51,7 @@ object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk
      R"(Overlap is not checked. `dst` may be any source (in place): each element is read before it is written. With any other
 overlap elements are read and written one by one in ascending order, so that a source element which `dst` has
 overwritten by then is read as overwritten.)"},
-    {"linear-combination", "Linear combination", "linear combination of two vectors",
+    {"linear-combination", "vector", "Linear combination", "linear combination of two vectors",
      R"(dst(n, j) = src1(n, j) * val1 + src2(n, j) * val2
 
 for j below `len` and each object n. In `32f` both products and the sum are rounded; in `64f` they stay in 80 bits,
@@ -66,7 +66,7 @@ object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk
      R"(Overlap is not checked. `dst` may be any source (in place): each element is read before it is written. With any other
 overlap elements are read and written one by one in ascending order, so that a source element which `dst` has
 overwritten by then is read as overwritten.)"},
-    {"dot-product", "Dot product", "sum of the products of corresponding elements",
+    {"dot-product", "vector", "Dot product", "sum of the products of corresponding elements",
      R"(dst[n] = sum over j of src1(n, j) * src2(n, j)
 
 for j below `len`. `dst` is a plain pointer in every layout: one element for `vv`, `count` packed elements for
@@ -81,7 +81,7 @@ list entry is null: in `P` and `PS2` all entries before anything else, even at `
 object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.)",
      R"(Overlap is not checked. Each result is stored after its sum, object by object: where `dst` overlaps operands of later
 objects, these are read as overwritten.)"},
-    {"norm", "L2 norm", "Euclidean length of a vector",
+    {"norm", "vector", "L2 norm", "Euclidean length of a vector",
      R"(dst[n] = square root of the sum over j of src(n, j) * src(n, j)
 
 for j below `len`. `dst` is a plain pointer in every layout: one element for `v`, `count` packed elements for `va`.
@@ -93,7 +93,7 @@ is null: in `P` and `PS2` all entries before anything else, even at `count` 0; i
 turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.)",
      R"(Overlap is not checked. Each result is stored after its sum, object by object: where `dst` overlaps later objects,
 these are read as overwritten.)"},
-    {"cross-product", "Cross product", "vector product in three dimensions",
+    {"cross-product", "vector", "Cross product", "vector product in three dimensions",
      R"(dst(n)[0] = a[1] * b[2] - a[2] * b[1]
 dst(n)[1] = a[2] * b[0] - a[0] * b[2]
 dst(n)[2] = a[0] * b[1] - a[1] * b[0]
@@ -106,7 +106,7 @@ Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrNullPtr if a t
 and `PS2` all entries before anything else, even at `count` 0; in `L` and `LS2` when the object's turn comes, earlier
 objects being complete. `count` 0 then gives vonkOk with nothing written.)",
      R"(Overlap is not checked. Both vectors are loaded before a component is stored, so `dst` may be either source.)"},
-    {"matrix-matrix", "Matrix and matrix", "element-wise sum and difference of matrices",
+    {"matrix-matrix", "matrix", "Matrix and matrix", "element-wise sum and difference of matrices",
      R"(vonkAdd: dst(n, i, j) = A(n, i, j) + B(n, i, j)
 vonkSub: dst(n, i, j) = A(n, i, j) - B(n, i, j)
 
@@ -125,7 +125,7 @@ turn comes, earlier objects being complete. `count` 0 then gives vonkOk with not
      R"(Overlap is not checked. `dst` may be any source (in place) unless that is read transposed: each element is read
 before it is written. With any other overlap elements are read and written one by one in ascending order, so that a
 source element which `dst` has overwritten by then is read as overwritten.)"},
-    {"matrix-constant", "Matrix times constant", "each element times a constant",
+    {"matrix-constant", "matrix", "Matrix times constant", "each element times a constant",
      R"(dst(n, i, j) = A(n, i, j) * `val`
 
 with A(n, i, j) = src(n, i, j), or src(n, j, i) in `mTc` and `maTc`. One rounded product and one store per element;
@@ -141,7 +141,7 @@ comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing 
      R"(Overlap is not checked. In `mc` and `mac` `dst` may be `src` (in place): each element is read before it is written.
 In `mTc` and `maTc` it may not. With any other overlap elements are read and written one by one in ascending order,
 so that a source element which `dst` has overwritten by then is read as overwritten.)"},
-    {"transpose", "Transpose", "rows and columns exchanged",
+    {"transpose", "matrix", "Transpose", "rows and columns exchanged",
      R"(dst(n, j, i) = src(n, i, j)
 
 for i below `rows` and j below `cols`, which are the sizes of the SOURCE. Elements are copied bit by bit, without
@@ -153,7 +153,7 @@ arrays all `cols` * `rows` entries of both tables before anything else, even at 
 object's turn comes, earlier objects being complete. `count` 0 then gives vonkOk with nothing written.)",
      R"(Overlap is not checked, and a call in place does not transpose: elements are copied one by one along the rows of the
 source, so the upper triangle has overwritten the lower one by the time that is read.)"},
-    {"trace", "Trace", "sum of the diagonal",
+    {"trace", "matrix", "Trace", "sum of the diagonal",
      R"(dst(n) = sum over i of src(n, i, i)
 
 for i below `order`, ascending. `dst` is a packed block of one result per object in every layout.
@@ -169,7 +169,7 @@ Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `order` is 0; v
 entry is null: in `m` in `P` as the sum reaches it, the partial sum being in `dst`; in `L` and `LS2` when the
 object's turn comes, earlier results being complete. `count` 0 then gives vonkOk with nothing written.)",
      R"(Overlap is not checked. Where `dst` is set to +0 first, a diagonal element that it overlaps is lost.)"},
-    {"frobenius-norm", "Frobenius norm", "root of the sum of the squares of all elements",
+    {"frobenius-norm", "matrix", "Frobenius norm", "root of the sum of the squares of all elements",
      R"(dst(n) = root of the sum of src(n, i, j)^2
 
 for i below `rows` and j below `cols`. `dst` is a packed block of one result per object in every layout. Products and
@@ -188,7 +188,7 @@ Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `cols` or `rows
 list entry is null: in `P` and `PS2` all of the table before anything else, even at `count` 0; in `L` and `LS2` when
 the object's turn comes, earlier results being complete. `count` 0 then gives vonkOk with nothing written.)",
      R"(Overlap is not checked. A result is stored when its matrix has been read, so `dst` may be an element of it.)"},
-    {"matrix-product", "Matrix by matrix", "product of two matrices",
+    {"matrix-product", "product", "Matrix by matrix", "product of two matrices",
      R"(dst(n, i, j) = sum over k of A(i, k) B(k, j)
 
 with A(i, k) = src1(n, i, k), or src1(n, k, i) if the first operand carries `T`, and B alike from `src2`. A single
@@ -218,7 +218,7 @@ forms in SIMD lanes load B first and read A row by row, so some calls in place a
 is not transposed (3x3 to 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in
 `mmT`, `mTmT` of 6x6). A single operand must never overlap a `dst` that is an array. With disjoint operands the order
 of objects, elements and stores may be another, with the same results.)"},
-    {"matrix-vector", "Matrix by vector", "product of a matrix and a vector",
+    {"matrix-vector", "product", "Matrix by vector", "product of a matrix and a vector",
      R"(dst(n, i) = sum over k of A(i, k) src2(n, k)
 
 with A(i, k) = src1(n, i, k), or src1(n, k, i) in the groups with `T`. A single operand serves all objects. Products
@@ -241,7 +241,7 @@ lanes in orders of their own. With p0, p1, ... for the products of row i:
      R"(Overlap is not checked. In SIMD lanes the vector is loaded before the first store, so `dst` may be `src2`; elsewhere
 the partial sums that are stored to memory destroy it. With disjoint operands the order of objects, elements and
 stores may be another, with the same results.)"},
-    {"gaxpy", "Gaxpy", "a matrix times a vector, plus a vector",
+    {"gaxpy", "product", "Gaxpy", "a matrix times a vector, plus a vector",
      R"(dst(n, i) = (sum over k of src1(i, k) src2(n, k)) + src3(n, i)
 
 for i below `rows` and k below `cols`: a single matrix, a vector or an array of vectors. The sum is finished first,
@@ -255,7 +255,7 @@ gives vonkOk.)",
      R"(Overlap is not checked. `32f` of fixed size in the standard layout and `L` loads both vectors before it stores, so
 `dst` may be `src2` or `src3`; elsewhere the partial sums that are stored to memory destroy what `dst` overlaps. With
 disjoint operands the order of objects, elements and stores may be another, with the same results.)"},
-    {"copy", "Copy", "from any of three layouts into any of three layouts",
+    {"copy", "copy", "Copy", "from any of three layouts into any of three layouts",
      R"(dst(n, j) = src(n, j)          (`va`, of `len` elements)
 dst(n, i, j) = src(n, i, j)    (`ma`, of `rows` by `cols`)
 
@@ -269,7 +269,7 @@ checked. `count` 0 gives vonkOk.)",
      R"(Overlap is not checked. `dst` may be `src` (in place), with the same strides or tables. With any other overlap
 elements are copied one by one in ascending order, so that an element of `src` which `dst` has overwritten by then is
 read as overwritten.)"},
-    {"extract", "Extract", "gathering into one dense block",
+    {"extract", "copy", "Extract", "gathering into one dense block",
      R"(`dst` is a plain pointer and is filled in ascending order, without gaps and strides:
 
 - `v`, `va`: dst[n * `len` + j] = src(n, j)
@@ -284,7 +284,7 @@ Status: vonkErrNullPtr if `src` or `dst` is null; vonkErrSize if `len`, `cols` o
 lists are not checked.)",
      R"(Overlap is not checked. Elements are copied one by one in ascending order, so that an element of `src` which `dst`
 has overwritten by then is read as overwritten.)"},
-    {"identity", "LoadIdentity", "identity matrices",
+    {"identity", "copy", "LoadIdentity", "identity matrices",
      R"(For each object n and each row i, in ascending order: columns 0 to `cols` - 1 of the row become 0, then column n *
 `rows` + i becomes 1. That column does not start again with each object, so only `count` 1 makes an identity: in
 later objects the ones lie past the columns of their row, wherever the strides lead, and zeros of a later row may
@@ -301,7 +301,7 @@ so negative strides are kept.
 
 Status: vonkErrNullPtr if `dst` is null. `cols`, `rows` and entries of tables and lists are not checked.)",
      R"(There is no source. Objects and rows that overlap are written one after the other.)"},
-    {"lu-decomposition", "LU decomposition", "Gaussian elimination with partial pivoting",
+    {"lu-decomposition", "lu", "LU decomposition", "Gaussian elimination with partial pivoting",
      R"(vonkLUDecomp factors each matrix of `src`, `order` by `order`, into a unit lower and an upper triangular factor by
 Gaussian elimination with partial pivoting. Rows are never moved: `pivots`, `order` row indices per object and packed
 in every layout, says that logical row k lies in row pivots[k] of `dst`. With p the block of an object, element
@@ -320,7 +320,7 @@ failure at the last pivot leaves it complete), and those after it untouched, in 
      R"(Overlap is not checked. `dst` may be `src` (in place), with the same strides or tables. A partial overlap behaves as
 the copy from `src` to `dst` that each object begins with: element by element, ascending. `pivots` must overlap
 neither.)"},
-    {"lu-back-substitution", "LU back substitution", "solving with the factors of an LU decomposition",
+    {"lu-back-substitution", "lu", "LU back substitution", "solving with the factors of an LU decomposition",
      R"(vonkLUBackSubst solves A x = b with what vonkLUDecomp left: `src1` the factors in their unpermuted rows, `pivots` the
 permutation, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system; `mva`
 one factored matrix with its `pivots` for `count` right-hand sides; `mava` a factored matrix and `order` pivots per
@@ -336,8 +336,8 @@ table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the ob
 `count` 0 gives vonkOk. The numbers are not checked: division by a zero pivot gives an infinity or a NaN, with
 vonkOk.)",
      R"(Overlap is not checked; the sweeps read what memory holds by then. `dst` must not be `src2` unless the permutation is
-the identity: x(i) is written while b(p[i]) of later rows is still needed.)"},
-    {"determinant", "Determinant", "determinant, by elimination or as a polynomial in the elements",
+the identity: x(i) is written while b(p[i]) of later rows is still needed. `pivots` must not overlap `dst`.)"},
+    {"determinant", "lu", "Determinant", "determinant, by elimination or as a polynomial in the elements",
      R"(dst[n] = det src(n)
 
 `dst` is packed in every layout: one element per object, without a stride. A singular matrix is no failure.
@@ -367,7 +367,7 @@ determinants of earlier objects being stored; `count` 0 gives vonkOk.)",
      R"(Overlap is not checked. Run-time size copies a matrix to `scratch` first, so `dst` may be an element of it; fixed
 sizes read all of a matrix before they store. In arrays, `dst` must not overlap later matrices. `scratch` must
 overlap nothing.)"},
-    {"inverse", "Inverse", "inverse of a matrix",
+    {"inverse", "lu", "Inverse", "inverse of a matrix",
      R"(dst(n) = inverse of src(n), by one of three methods, each with its own criterion for a singular matrix: what one of
 them finds singular, another may invert. vonkErrSingular ends the call at once: earlier objects are complete, the
 failing one and later ones untouched. The inverses of 4x4 to 6x6 are right to rounding, but not promised bit for bit.
@@ -395,7 +395,7 @@ object's turn comes (`L`, `LS2`); `count` 0 gives vonkOk; vonkErrSingular, see a
 whole before they store, except that 5x5 and 6x6 of `32f` in the standard layout and `L` leave the matrix changed
 where they fail in place. In arrays, no object may overlap the result of an earlier one. `scratch` must overlap
 nothing.)"},
-    {"cholesky-decomposition", "Cholesky decomposition", "lower factor of a positive definite matrix",
+    {"cholesky-decomposition", "cholesky", "Cholesky decomposition", "lower factor of a positive definite matrix",
      R"(vonkCholeskyDecomp factors each symmetric positive definite matrix A of `src`, `order` by `order`, into L L', L lower
 triangular with a positive diagonal. `dst` gets L below the diagonal and on it the RECIPROCALS 1 / L(i, i), so that
 vonkCholeskyBackSubst need not divide. Only lower triangles are read and written, with their diagonals: elements
@@ -417,7 +417,7 @@ stored by then, objects before it are complete, and those after it untouched. En
 checked; but in `L` and `LS2` an entry that is null once its shift is added gives vonkErrNullPtr when its turn comes.)",
      R"(Overlap is not checked. `dst` may be `src` (in place), with the same strides or tables. No other overlap is
 supported.)"},
-    {"cholesky-back-substitution", "Cholesky back substitution", "solving with a Cholesky factor",
+    {"cholesky-back-substitution", "cholesky", "Cholesky back substitution", "solving with a Cholesky factor",
      R"(vonkCholeskyBackSubst solves A x = b with what vonkCholeskyDecomp left: `src1` the factor F with the reciprocals on
 its diagonal, `src2` the right-hand side b, `dst` the solution x, of `order` elements. Groups: `mv` one system; `mva`
 one factor for `count` right-hand sides, with no ignored argument after `src1`, unlike the other two families of
@@ -432,7 +432,7 @@ Status: vonkErrNullPtr if `src1`, `src2` or `dst` is null; vonkErrSize if `order
 numbers nor entries of tables and lists are checked; but in `L` and `LS2` an object one of whose entries is null once
 its shift is added is skipped, with no error, and the next is solved.)",
      R"(Overlap is not checked; both sweeps read what memory holds by then. `dst` may be `src2`.)"},
-    {"qr-decomposition", "QR decomposition", "Householder reflectors and upper factor",
+    {"qr-decomposition", "qr", "QR decomposition", "Householder reflectors and upper factor",
      R"(vonkQRDecomp factors each matrix of `src`, `rows` by `cols` with `rows` >= `cols`, into an orthogonal Q and an upper
 triangular R by Householder reflections, column by column. `dst` gets R on and above the diagonal and below it, in
 column k, reflector k: elements k + 1 and on of the vector v whose element k is 1. The reflection is I + beta v v'
@@ -457,7 +457,7 @@ table entry is null, even at `count` 0 (`P`, `PS2`), or a list entry when the ob
 reflections before the failing column, and those after it untouched. A matrix with more columns than rows always
 fails so: after its last row there is nothing left.)",
      R"(Overlap is not checked. `dst` may be `src` (in place), with the same strides or tables. `work` must overlap neither.)"},
-    {"qr-back-substitution", "QR back substitution", "least squares with the factors of a QR decomposition",
+    {"qr-back-substitution", "qr", "QR back substitution", "least squares with the factors of a QR decomposition",
      R"(vonkQRBackSubst solves A x = b with what vonkQRDecomp left in `src1`, `rows` by `cols`: exactly if A is square, else
 x minimises the residual. `src2` is b, of `rows` elements, `dst` is x, of `cols`. `work` is a workspace of `rows`
 contiguous elements in every layout, reused for every object; on return it holds Q'b of the last object, whose
