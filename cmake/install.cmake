@@ -1,4 +1,4 @@
-# cmake --install: library at all levels, with its links, headers, CMake package, pkg-config file and the catalogue as data.
+# cmake --install: library at all levels, with its links, headers, CMake package, pkg-config file, man pages and the catalogue as data.
 include(CMakePackageConfigHelpers)
 
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
@@ -12,6 +12,7 @@ foreach(level ${VONKK3_WIDE_LEVELS})
           DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/${level})
 endforeach()
 install(FILES ${PROJECT_BINARY_DIR}/src/generated/functions.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vonkk3)
+install(DIRECTORY ${PROJECT_BINARY_DIR}/src/generated/man3 DESTINATION ${CMAKE_INSTALL_MANDIR})
 
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/vonkk3)
 configure_package_config_file(cmake/vonkk3-config.cmake.in ${PROJECT_BINARY_DIR}/vonkk3-config.cmake

@@ -6,7 +6,7 @@ set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 need g++ gcc clang libclang-rt-dev cmake make binutils pkg-config libgtest-dev libcli11-dev libbenchmark-dev libeigen3-dev \
-    libglm-dev libcglm-dev libxsmm-dev liblapacke-dev libopenblas-dev qemu-user
+    libglm-dev libcglm-dev libxsmm-dev liblapacke-dev libopenblas-dev qemu-user man-db groff-base
 jobs=$(nproc)
 
 build() { # PRESET

@@ -1,7 +1,7 @@
 // The generator: writes what follows from the catalogue.
 //
 //     generate tree ROOT     the files that are checked in: include/, docs/functions.md and docs/reference/
-//     generate build FOLDER  the files of one build: stubs/*.cpp, exports.txt and functions.json
+//     generate build FOLDER  the files of one build: stubs/*.cpp, exports.txt, functions.json and man3/
 //
 // A file that would not change is left alone, so that nothing is compiled again for it.
 #include "emit.h"
@@ -36,6 +36,7 @@ void writeBuild(const fs::path &folder) {
     for (const auto &[name, content] : emit::stubs()) write(folder / "stubs" / name, content);
     write(folder / "exports.txt", emit::exports());
     write(folder / "functions.json", emit::functionsJson());
+    for (const auto &[name, content] : emit::man()) write(folder / "man3" / name, content);
 }
 
 } // namespace
