@@ -10,9 +10,6 @@
 #include <stdlib.h>
 #include <string.h>
 
-#ifndef VONKK3_IRIS_CSV
-#define VONKK3_IRIS_CSV "iris.csv"
-#endif
 
 enum { MEASUREMENTS = 4, SPECIES = 3, NAME_SIZE = 32, LINE_SIZE = 256, MOST_FLOWERS = 1000 };
 
@@ -27,6 +24,7 @@ typedef struct {
 static Flower flowers[MOST_FLOWERS];
 static int flowerCount;
 static char speciesNames[SPECIES][NAME_SIZE];
+static int speciesLines[SPECIES]; /* where each was met first */
 static int speciesCount;
 
 static void failAtLine(const char *path, int line, const char *problem)
@@ -58,9 +56,16 @@ static int speciesOf(const char *name, const char *path, int line)
         }
     }
     if (speciesCount == SPECIES) {
-        failAtLine(path, line, "a fourth species");
+        fprintf(stderr, "iris: %s, line %d: a fourth species, %s; the others, one of them perhaps misspelled, are", path,
+                line, name);
+        for (int species = 0; species < SPECIES; ++species) {
+            fprintf(stderr, " %s (line %d)", speciesNames[species], speciesLines[species]);
+        }
+        fprintf(stderr, "\n");
+        exit(EXIT_FAILURE);
     }
     strcpy(speciesNames[speciesCount], name);
+    speciesLines[speciesCount] = line;
     return speciesCount++;
 }
 
@@ -317,11 +322,12 @@ int main(int argc, char **argv)
         --argc;
         ++argv;
     }
-    if (argc > 2 || (argc == 2 && argv[1][0] == '-')) {
-        fprintf(stderr, "usage: iris [--cholesky] [file.csv]\n");
-        return EXIT_FAILURE;
+    const int asksForHelp = argc == 2 && strcmp(argv[1], "--help") == 0;
+    if (asksForHelp || argc != 2 || argv[1][0] == '-') {
+        fprintf(asksForHelp ? stdout : stderr, "usage: iris [--cholesky] file.csv\n");
+        return asksForHelp ? EXIT_SUCCESS : EXIT_FAILURE;
     }
-    readFlowers(argc == 2 ? argv[1] : VONKK3_IRIS_CSV);
+    readFlowers(argv[1]);
     for (int species = 0; species < SPECIES; ++species) {
         estimate(species, means[species], covariances[species]);
     }

@@ -1,6 +1,6 @@
 /* Fits NIST's reference data by linear least squares, a QR decomposition and a back substitution for each set, and
- * prints how many digits of the certified coefficients come out right. Usage: least_squares [file...]; nist/README.md
- * tells the format. */
+ * prints how many digits of the certified coefficients come out right. Usage: least_squares file..., as
+ * those in nist/; nist/README.md tells the format. */
 #include <vonkk3.h>
 
 #include <errno.h>
@@ -10,19 +10,9 @@
 #include <stdlib.h>
 #include <string.h>
 
-#ifndef VONKK3_NIST_FOLDER
-#define VONKK3_NIST_FOLDER "nist"
-#endif
-
 enum { MOST_COEFFICIENTS = 16, MOST_OBSERVATIONS = 1000, LINE_SIZE = 512 };
 
 static const double mostDigits = 15; /* all that the certified coefficients have */
-
-static const char *const shipped[] = {
-    VONKK3_NIST_FOLDER "/Norris.txt",   VONKK3_NIST_FOLDER "/Longley.txt",  VONKK3_NIST_FOLDER "/Wampler1.txt",
-    VONKK3_NIST_FOLDER "/Wampler2.txt", VONKK3_NIST_FOLDER "/Wampler3.txt", VONKK3_NIST_FOLDER "/Wampler4.txt",
-    VONKK3_NIST_FOLDER "/Wampler5.txt",
-};
 
 typedef struct {
     const char *path;
@@ -187,11 +177,14 @@ static void printFit(const char *path, const DataSet *set, const double *compute
 int main(int argc, char **argv)
 {
     static DataSet set;
-    const int given = argc - 1;
-    const int count = given > 0 ? given : (int)(sizeof shipped / sizeof shipped[0]);
+    const int asksForHelp = argc == 2 && strcmp(argv[1], "--help") == 0;
+    if (asksForHelp || argc < 2 || argv[1][0] == '-') {
+        fprintf(asksForHelp ? stdout : stderr, "usage: least_squares file...\n");
+        return asksForHelp ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
     printf("%-10s %-11s %23s %23s %8s\n", "data set", "coefficient", "computed", "certified", "digits");
-    for (int n = 0; n < count; ++n) {
-        const char *path = given > 0 ? argv[n + 1] : shipped[n];
+    for (int n = 1; n < argc; ++n) {
+        const char *path = argv[n];
         double coefficients[MOST_COEFFICIENTS];
         readDataSet(path, &set);
         fit(&set, path, coefficients);

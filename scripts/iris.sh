@@ -5,5 +5,6 @@ cd "$(dirname "$0")/.."
 . scripts/packages.sh
 need g++ gcc cmake make
 cmake -S . -B build/iris -DVONKK3_TESTS=OFF -DVONKK3_LEVELS=x86-64 >/dev/null
-cmake --build build/iris --parallel "$(nproc)" >/dev/null
-build/iris/examples/iris
+echo "building the library; that takes a minute or two"
+cmake --build build/iris --target iris --parallel "$(nproc)"
+build/iris/examples/iris examples/iris.csv

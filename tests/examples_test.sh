@@ -90,9 +90,10 @@ flower 134: virginica, classified as versicolor with probability 0.6050
 END
 check 'iris: confusion table' 0 "=$work/table" - "$iris" "$examples/iris.csv"
 check 'iris: by Cholesky decomposition' 0 "=$work/table" - "$iris" --cholesky "$examples/iris.csv"
-check 'iris: the file that comes along' 0 "=$work/table" - "$iris"
-check 'iris: the file that comes along, by Cholesky decomposition' 0 "=$work/table" - "$iris" --cholesky
+check 'iris: no file' 1 - 'usage: iris' "$iris"
+check 'iris: no file, by Cholesky decomposition' 1 - 'usage: iris' "$iris" --cholesky
 check 'iris: unknown option' 1 - 'usage: iris' "$iris" --fast
+check 'iris: --help' 0 'usage: iris [--cholesky] file.csv' - "$iris" --help
 check 'iris: two files' 1 - 'usage: iris' "$iris" --cholesky "$examples/iris.csv" "$examples/iris.csv"
 
 awk '{ printf "%s\r\n", $0 }' "$examples/iris.csv" >"$work/crlf.csv"
@@ -109,7 +110,9 @@ spoiled 'three numbers' 18 '5.1,3.5,1.4,setosa' 'line 18: expected four numbers 
 spoiled 'five numbers' 19 '5.1,3.5,1.4,0.2,7,setosa' 'line 19: expected a species'
 spoiled 'not finite' 20 '5.1,nan,1.4,0.2,setosa' 'line 20: expected four numbers and a species'
 spoiled 'no species' 21 '5.1,3.5,1.4,0.2,' 'line 21: expected a species'
-spoiled 'a fourth species' 151 '5.1,3.5,1.4,0.2,sibirica' 'line 151: a fourth species'
+spoiled 'a fourth species' 151 '5.1,3.5,1.4,0.2,sibirica' 'line 151: a fourth species, sibirica;'
+spoiled 'a misspelled species' 17 '5.1,3.5,1.4,0.2,setsoa' \
+    'are setosa (line 2) setsoa (line 17) versicolor (line 52)'
 spoiled 'a long line' 22 "$(printf '%0400d' 0)" 'line 22: the line is too long'
 head -n 101 "$examples/iris.csv" >"$work/bad.csv"
 check 'iris: two species' 1 - 'line 101: the file ends before a third species' "$iris" "$work/bad.csv"
@@ -146,7 +149,8 @@ Wampler4 8.9 8.5 8.9 9.8 11.0 12.7
 Wampler5 6.8 6.5 6.9 7.7 9.0 10.7
 END
 line='Longley    B1                 15.0618722714482        15.0618722713733     11.3'
-check 'least_squares: reference data' 0 "$line" - "$least_squares"
+check 'least_squares: reference data' 0 "$line" - "$least_squares" "$examples"/nist/Norris.txt \
+    "$examples"/nist/Longley.txt "$examples"/nist/Wampler?.txt
 awk 'NR == 1 { next }
      $1 != set { printf "%s%s", end, $1; set = $1; end = "\n" }
      { printf " %s", $5 }
@@ -154,6 +158,9 @@ awk 'NR == 1 { next }
 problem=
 cmp -s "$work/digits" "$work/found" || problem='other digits than expected'
 passed_or_failed 'least_squares: digits' "$problem" || diff "$work/digits" "$work/found" | sed 's/^/    /'
+
+check 'least_squares: no file' 1 - 'usage: least_squares' "$least_squares"
+check 'least_squares: --help' 0 'usage: least_squares file...' - "$least_squares" --help
 
 # fitted <name> <expected in stdout>, misfit <name> <expected message>: the data set on standard input
 fitted() {
