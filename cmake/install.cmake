@@ -3,6 +3,9 @@ include(CMakePackageConfigHelpers)
 
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
 install(TARGETS vonkk3 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+if(VONKK3_STATIC)
+  install(TARGETS vonkk3_static ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()
 install(FILES ${PROJECT_BINARY_DIR}/libvonkk3.so.4 ${PROJECT_BINARY_DIR}/libvonkk3.so
         DESTINATION ${CMAKE_INSTALL_LIBDIR})
 # The loader looks for libvonkk3.so.4 below glibc-hwcaps first; the name that one links by is the baseline's alone.
@@ -12,6 +15,10 @@ foreach(level ${VONKK3_WIDE_LEVELS})
           DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/${level})
 endforeach()
 install(FILES ${PROJECT_BINARY_DIR}/src/generated/functions.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vonkk3)
+install(FILES README.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs/reference DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
+install(FILES docs/layouts.svg DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY ${PROJECT_BINARY_DIR}/src/generated/man3 DESTINATION ${CMAKE_INSTALL_MANDIR})
 
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/vonkk3)
