@@ -67,30 +67,31 @@ record() { # NAME COMMAND...
     return $code
 }
 
-build() { # FOLDER TARGET OPTION...
-    folder=$1
-    target=$2
+build() { # TARGETS FOLDER CMAKE_ARGUMENT...
+    targets=$1
+    folder=$2
     shift 2
-    { cmake -S . -B "$folder" -DVONKK3_EXAMPLES=OFF "$@" && cmake --build "$folder" --target $target --parallel "$(nproc)"
+    { cmake "$@" && cmake --build "$folder" --target $targets --parallel "$(nproc)"
     } >"$results/build.log" 2>&1 || { tail -n 20 "$results/build.log"; echo "FAILED: cannot build $folder"; failed=1; return 1; }
 }
-plain() { build build/release "compare bits threads levels" -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=g++ -DCMAKE_C_COMPILER=gcc; }
+gcc=build/bench # as scripts/test.sh leaves it
+plain() { build "${1:-compare bits threads}" $gcc --preset bench; }
 
 step_tests() { record tests sh scripts/test.sh; }
 
-step_compilers() { plain && record compilers sh scripts/compilers.sh build/release/tests/bits tests/bits.txt; }
+step_compilers() { plain && record compilers sh scripts/compilers.sh $gcc/tests/bits tests/bits.txt; }
 
 step_levels() {
-    plain || return
+    plain "compare bits levels" || return
     for level in x86-64 x86-64-v3 x86-64-v4; do
-        library=build/release/levels/$level/vonkk3.so
-        [ $level != x86-64 ] || library=build/release/vonkk3.so
+        library=$gcc/levels/$level/vonkk3.so
+        [ $level != x86-64 ] || library=$gcc/vonkk3.so
         if ! runs_level $level; then
             echo "left out: this processor does not run $level"
             continue
         fi
-        record "levels-$level-bits" build/release/tests/bits --check tests/bits.txt --library $library
-        record "levels-$level-random" build/release/tests/compare --calls 200 --seed 9 --library $library
+        record "levels-$level-bits" $gcc/tests/bits --check tests/bits.txt --library $library
+        record "levels-$level-random" $gcc/tests/compare --calls 200 --seed 9 --library $library
     done
 }
 
@@ -99,7 +100,7 @@ step_comparisons() {
     plain || return
     seed=1
     while [ "$(python3 scripts/verification.py --comparisons "$results")" -lt "$comparisons" ]; do
-        record "comparisons-$seed" build/release/tests/compare --calls 100 --seed "$seed" || return
+        record "comparisons-$seed" $gcc/tests/compare --calls 100 --seed "$seed" || return
         seed=$((seed + 1))
     done
 }
@@ -110,7 +111,7 @@ step_coverage() { record coverage sh scripts/coverage.sh; }
 
 # First that it finds what there is to find: all threads on the same memory.
 step_threads() {
-    build build/threads threads -DCMAKE_BUILD_TYPE=Release -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
+    build threads build/threads -S . -B build/threads -DVONKK3_EXAMPLES=OFF -DCMAKE_BUILD_TYPE=Release -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
         -DVONKK3_LEVELS=x86-64 -DVONKK3_INSTRUMENT="-O0;-g1;-fsanitize=thread" -DCMAKE_EXE_LINKER_FLAGS=-fsanitize=thread || return
     if TSAN_OPTIONS=halt_on_error=1 build/threads/tests/threads --calls 1 --share >"$results/threads-share" 2>&1 ||
         ! grep -q 'WARNING: ThreadSanitizer: data race' "$results/threads-share"; then
@@ -123,7 +124,7 @@ step_threads() {
 
 step_valgrind() {
     plain || return
-    record valgrind sh -c 'valgrind --error-exitcode=99 --quiet build/release/tests/threads --calls 1; [ $? -ne 99 ]'
+    record valgrind sh -c "valgrind --error-exitcode=99 --quiet $gcc/tests/threads --calls 1; [ \$? -ne 99 ]"
 }
 
 step_abi() { record abi sh scripts/abi.sh; }
