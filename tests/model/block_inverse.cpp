@@ -115,6 +115,19 @@ Grid Blocks::invert(const Grid &block, const Estimate &determinant) const {
     return settled(estimator_.scale(estimator_.adjugate(block), reciprocal));
 }
 
+// The product of three blocks, which may be taken in one order or the other: where one of them leaves the range, the
+// outcome may be anything.
+Grid multiplyInAnyOrder(const Estimator &estimator, const Grid &a, const Grid &b, const Grid &c) {
+    Grid product = estimator.multiply(a, estimator.multiply(b, c));
+    const Grid other = estimator.multiply(estimator.multiply(a, b), c);
+    for (std::size_t i = 0; i < product.size(); ++i)
+        for (std::size_t j = 0; j < product[i].size(); ++j) {
+            if (product[i][j].certainty != other[i][j].certainty) product[i][j].certainty = Certainty::unknown;
+            product[i][j].error = std::max(product[i][j].error, other[i][j].error);
+        }
+    return product;
+}
+
 // Rows lie where their columns came from. The products of three blocks may be taken in one order or the other, which
 // doubles the bound; another choice of columns may do more.
 void Blocks::assemble(const Grid &leading, const Grid &right, const Grid &below, const Grid &corner) {
@@ -146,7 +159,8 @@ BlockInverse Blocks::run() {
     const Grid inverse = invert(leading, estimator_.determinantInAnyNesting(leading));
     const Grid throughRight = estimator_.multiply(inverse, right); // P^-1 A
     const Grid belowThrough = estimator_.multiply(below, inverse); // B P^-1
-    const Grid complement = settled(sum(estimator_, corner, negated(estimator_.multiply(below, throughRight))));
+    const Grid complement =
+        settled(sum(estimator_, corner, negated(multiplyInAnyOrder(estimator_, below, inverse, right))));
     const Estimate determinantOfComplement = estimator_.determinantInAnyNesting(complement);
     if (isSingular(determinantOfComplement)) {
         outcome_.result = BlockInverse::Result::singularComplement;
@@ -154,7 +168,7 @@ BlockInverse Blocks::run() {
     }
     const Grid last = invert(complement, determinantOfComplement);
     const Grid lastBelow = estimator_.multiply(last, belowThrough); // S^-1 B P^-1
-    assemble(sum(estimator_, inverse, estimator_.multiply(throughRight, lastBelow)),
+    assemble(sum(estimator_, inverse, multiplyInAnyOrder(estimator_, throughRight, last, belowThrough)),
              negated(estimator_.multiply(throughRight, last)), negated(lastBelow), last);
     return outcome_;
 }

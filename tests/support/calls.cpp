@@ -44,6 +44,7 @@ public:
     Builder(const Function &function, std::uint64_t seed, std::uint64_t index, const CallMixture &mixture,
             bool mayBeLong)
         : function(function), mixture(mixture), random(seed, function.name, index), mayBeLong(mayBeLong) {
+        random.steerBy(mixture.steering);
         call.function = &function;
         call.seed = seed;
         call.index = index;
@@ -75,6 +76,9 @@ private:
     void layOutOperands();
     void becomeCopy(int follower, int leader);
     std::int64_t chooseDelta(int follower, int leader, bool alike);
+    std::int64_t deltaByGeometry(int follower, int leader);
+    bool placesDestination() const;
+    bool mayShareTable(int a, int b) const;
     std::uint32_t chooseResidue();
     std::vector<Item> makeItems();
     void borrowStrides();
@@ -146,6 +150,7 @@ Style Builder::chooseStyle(const Operand &operand) {
     style.onGrid = operand.written && mixture.fixedOutcomesOnly;
     // Equal rows are singular, and a destination on itself is open: both are to stay rare.
     const unsigned share = operand.written ? 15 : families::hasTrouble(function) ? 20 : 60;
+    style.geometry = mixture.geometry;
     style.mayOverlap = random.percent(share) && !(operand.written && mixture.fixedOutcomesOnly);
     return style;
 }
@@ -176,6 +181,12 @@ void Builder::relate(int follower, int leader, Overlap overlap) {
     if (overlap == Overlap::inPlace) {
         becomeCopy(follower, leader);
         relation.sharesTable = random.percent(50);
+    } else if (placesDestination()) {
+        const bool sameStrides = alike && (mixture.geometry != Geometry::touching || random.percent(50));
+        if (sameStrides) becomeCopy(follower, leader);
+        relation.delta = deltaByGeometry(follower, leader);
+        relation.sharesTable =
+            mixture.geometry == Geometry::tablesInEachOther && sameStrides && mayShareTable(follower, leader);
     } else {
         const bool sameStrides = alike && random.percent(65);
         if (sameStrides) becomeCopy(follower, leader);
@@ -186,6 +197,31 @@ void Builder::relate(int follower, int leader, Overlap overlap) {
 }
 
 void Builder::becomeCopy(int follower, int leader) { operand(follower) = operand(leader); }
+
+// Whether the geometry asked for is one of a destination to a source.
+bool Builder::placesDestination() const {
+    return mixture.geometry != Geometry::any && mixture.geometry != Geometry::negativeStrides &&
+           mixture.geometry != Geometry::sameObjectTwice;
+}
+
+bool Builder::mayShareTable(int a, int b) const {
+    return call.operands[static_cast<std::size_t>(a)].tabled && call.operands[static_cast<std::size_t>(b)].tabled &&
+           families::addsShift(function) && !families::readsThroughDestination(function);
+}
+
+std::int64_t Builder::deltaByGeometry(int follower, int leader) {
+    const Reach first = operand(leader).reach;
+    const Reach second = operand(follower).reach;
+    const std::int64_t sign = random.percent(50) ? 1 : -1;
+    if (mixture.geometry == Geometry::touching) {
+        const std::int64_t shared = random.percent(30) ? elementSize : 0;
+        return sign > 0 ? first.high - second.low - shared : first.low - second.high + shared;
+    }
+    if (mixture.geometry == Geometry::rowsInRows)
+        return sign * std::max(operand(leader).gap / elementSize * elementSize, elementSize);
+    if (mixture.geometry == Geometry::tablesInEachOther) return sign * elementSize * random.between(1, 8);
+    return sign * elementSize;
+}
 
 std::int64_t Builder::chooseDelta(int follower, int leader, bool sameStrides) {
     const Placement &first = operand(leader);
@@ -224,11 +260,13 @@ void Builder::chooseRelations() {
     const int written = operandCount() - 1;
     if (operandCount() > 0 && described(written).written) {
         const auto share = random.below(100);
-        const Overlap overlap = share < mixture.inPlace                     ? Overlap::inPlace
-                                : share < mixture.inPlace + mixture.partial ? Overlap::partial
-                                                                            : Overlap::none;
+        Overlap overlap = share < mixture.inPlace                     ? Overlap::inPlace
+                          : share < mixture.inPlace + mixture.partial ? Overlap::partial
+                                                                      : Overlap::none;
+        if (placesDestination()) overlap = mixture.geometry == Geometry::inPlace ? Overlap::inPlace : Overlap::partial;
         const int source = chooseLeader(written);
-        const unsigned drawn = mixture.fixedOutcomesOnly ? 100 : families::overlapShare(function);
+        const bool alwaysDrawn = mixture.fixedOutcomesOnly || placesDestination();
+        const unsigned drawn = alwaysDrawn ? 100 : families::overlapShare(function);
         if (source >= 0 && overlap != Overlap::none && (drawn == 100 || random.percent(drawn)))
             layDestinationOn(source, overlap);
     }
@@ -352,8 +390,11 @@ void Builder::place() {
     if (families::readsThroughDestination(function)) placeSourceByDestination();
     for (std::size_t k = 0; k < operands; ++k)
         if (relations[k].sharesTable) {
-            call.operands[k].table = operand(relations[k].leader).table;
-            call.operands[k].shift = operand(relations[k].leader).shift;
+            const Placement &leader = operand(relations[k].leader);
+            const std::int64_t shift = leader.shift + relations[k].delta;
+            if (shift != static_cast<std::int32_t>(shift)) continue;
+            call.operands[k].table = leader.table;
+            call.operands[k].shift = static_cast<std::int32_t>(shift);
         }
     for (std::size_t k = 0; k < call.blocks.size(); ++k) call.blocks[k].address = items[2 * operands + k].origin;
     layResultOnSource();
@@ -485,6 +526,8 @@ void Builder::makeNullEntry() {
         if (operand(other).table == placement.table && !families::testsEntry(function, described(other), sizes, entry))
             return;
     const std::uintptr_t null = families::nullEntry(function, placement.shift);
+    for (const Placement &other : call.operands) // nor is what is null after one shift null after another
+        if (null != 0 && other.table == placement.table && other.shift != placement.shift) return;
     std::memcpy(reinterpret_cast<void *>(placement.table + 8 * std::uintptr_t{entry}), &null, sizeof null);
     call.traits.nullEntry = true;
     if (random.percent(15) && function.array() && families::stopsAtNullEntry(function, described(k))) {

@@ -9,6 +9,7 @@
 #include "geometry.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,8 @@ struct CallMixture {
     unsigned partial = 20;
     bool fixedOutcomesOnly = false; // destinations keep their elements apart and overlap a source only where
                                     // the outcome is fixed
+    Geometry geometry = Geometry::any;
+    std::span<const std::uint8_t> steering = {}; // what chance draws from first, in place of the seed
 };
 
 // Everything a call may do in the way of coverage, for counting.

@@ -68,7 +68,7 @@ private:
     std::int32_t callLibrary(const Call &call, Setting setting, Verdict &verdict);
     model::Outcome callModel(const Call &call, Setting setting);
     void compareMemory(const Call &call, const model::Outcome &outcome, Verdict &verdict);
-    void compareStatus(const model::Outcome &outcome, Verdict &verdict) const;
+    static void compareStatus(const Call &call, const model::Outcome &outcome, Verdict &verdict);
     Addresses accurateElements(const Call &call, const model::Outcome &outcome, Verdict &verdict) const;
     void judge(const std::vector<std::size_t> &differing, Verdict &verdict,
                const std::function<bool(std::uintptr_t)> &tolerated) const;

@@ -8,6 +8,8 @@
 #include "families.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdlib>
 #include <limits>
 
 namespace support {
@@ -63,13 +65,18 @@ std::int64_t wildStride(Random &random) { return static_cast<std::int32_t>(rando
 
 void chooseStrides(std::vector<Axis> &axes, std::int64_t elementSize, Style style, Random &random) {
     std::int64_t inner = elementSize;
+    const Axis *const withGaps =
+        style.geometry == Geometry::rowsInRows ? &axes[std::min<std::size_t>(axes.size() - 1, 1)] : nullptr;
     for (Axis &axis : axes) {
         axis.stride = axis.fixed ? elementSize : chooseMagnitude(inner, elementSize, style, random);
+        if (&axis == withGaps && !axis.fixed) axis.stride = 2 * roundUp(inner, elementSize);
+        if (style.geometry == Geometry::sameObjectTwice && axis.role == Role::object && !axis.fixed) axis.stride = 0;
         if (style.inElements && axis.role == Role::element) axis.stride = roundUp(axis.stride, elementSize);
         inner += (axis.extent - 1) * axis.stride;
         if (axis.fixed) continue;
-        if (!style.packed && random.percent(20)) axis.stride = -axis.stride;
-        if (axis.extent == 1 && axis.role != Role::entry && !style.packed && random.percent(10))
+        if (style.geometry == Geometry::negativeStrides || (!style.packed && random.percent(20)))
+            axis.stride = -axis.stride;
+        if (axis.extent == 1 && axis.role != Role::entry && !style.packed && &axis != withGaps && random.percent(10))
             axis.stride = wildStride(random);
     }
 }
@@ -87,6 +94,10 @@ void chooseSlots(Placement &placement, std::int64_t stride, Style style, Random 
     std::vector<std::int64_t> &slots = placement.slots;
     for (std::size_t k = 0; k < slots.size(); ++k) slots[k] = static_cast<std::int64_t>(k) * stride;
     if (random.percent(50)) random.shuffle(slots);
+    if (style.geometry == Geometry::sameObjectTwice && slots.size() > 1) {
+        const auto first = random.below(slots.size());
+        slots[(first + 1 + random.below(slots.size() - 1)) % slots.size()] = slots[first];
+    }
     if (style.mayOverlap && random.percent(8)) slots[random.below(slots.size())] = slots[random.below(slots.size())];
 }
 
@@ -121,9 +132,11 @@ Placement attempt(const catalogue::Function &function, const catalogue::Operand 
 
     style.inElements = families::dropsPartOfElementStride(function, sizes);
     std::vector<Axis> axes = axesOf(operand, placement);
-    if (!style.packed) chooseNest(axes, random);
+    if (!style.packed && style.geometry != Geometry::rowsInRows) chooseNest(axes, random);
     chooseStrides(axes, placement.elementSize, style, random);
     applyAxes(placement, axes, style, random);
+    if (style.geometry == Geometry::rowsInRows)
+        placement.gap = std::abs(axes[std::min<std::size_t>(axes.size() - 1, 1)].stride) / 2;
     placement.reach.include(families::extraReach(function, operand, sizes, placement));
     for (std::uint32_t k = families::extraEntries(function, operand, sizes); k > 0; --k)
         placement.slots.push_back(placement.slots[random.below(placement.slots.size())]);
@@ -131,6 +144,18 @@ Placement attempt(const catalogue::Function &function, const catalogue::Operand 
 }
 
 } // namespace
+
+std::string_view name(Geometry geometry) {
+    constexpr std::array<std::string_view, geometries> names{"any",
+                                                             "touching",
+                                                             "in-place",
+                                                             "one-element-off",
+                                                             "negative-strides",
+                                                             "rows-in-rows",
+                                                             "tables-in-each-other",
+                                                             "same-object-twice"};
+    return names.at(static_cast<std::size_t>(geometry));
+}
 
 std::uint32_t Sizes::operator[](std::string_view name) const {
     const auto found = std::ranges::find(dimensions, name, &Named::name);

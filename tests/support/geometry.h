@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace support {
@@ -48,6 +49,7 @@ struct Placement {
     std::int64_t elementStride = 4;
     std::vector<std::int64_t> slots; // what each entry leads to, relative to the origin
     Reach reach;
+    std::int64_t gap = 0; // moved by as much, an operand like this one lies in its gaps, if it has any
 
     std::uintptr_t origin = 0; // of an operand without a table, its pointer
     std::uintptr_t table = 0;
@@ -57,6 +59,22 @@ struct Placement {
     std::vector<std::uintptr_t> elements() const; // all of them, objects outermost
 };
 
+// Places of operands that an alias test has to tell from others; `any` leaves everything to chance. What a function has
+// no operands for comes near it or stays as it is.
+enum class Geometry : std::uint8_t {
+    any,
+    touching,          // the destination begins where a source ends, or the other way round, or an element before that
+    inPlace,           // the destination is a source
+    oneElementOff,     // the destination is a source moved by one element
+    negativeStrides,   // every stride that is free is negative
+    rowsInRows,        // the destination lies in the gaps of a source: between its rows, objects or elements
+    tablesInEachOther, // destination and source go through one table with shifts that differ
+    sameObjectTwice,   // two entries of each table lead to one place, and arrays without one stand still
+};
+inline constexpr std::size_t geometries = 8;
+
+std::string_view name(Geometry geometry);
+
 // How free the strides of an operand are.
 struct Style {
     bool aligned = false;    // strides are multiples of 16 where they are free
@@ -64,6 +82,7 @@ struct Style {
     bool mayOverlap = false; // elements may share bytes
     bool packed = false;     // strides are as small as they can be
     bool inElements = false; // element strides are multiples of the element's size
+    Geometry geometry = Geometry::any;
 };
 
 // Largest operand, in bytes.

@@ -2,6 +2,7 @@
 // a seed, a function's name and the index of a call, so that one call can be made again without those before it.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -19,13 +20,21 @@ public:
         mix(index);
     }
 
+    // Draws from these bytes as long as there are any, one or two for most choices, and goes on by itself after them.
+    // They have to outlive the draws.
+    void steerBy(std::span<const std::uint8_t> bytes) { steering = bytes; }
+
     std::uint64_t next() {
+        if (!steering.empty()) return scramble(take(2));
         state += 0x9e3779b97f4a7c15;
         return scramble(state);
     }
 
     // 0 to limit - 1; limit is at least 1.
-    std::uint64_t below(std::uint64_t limit) { return next() % limit; }
+    std::uint64_t below(std::uint64_t limit) {
+        if (!steering.empty()) return take(limit <= 0x100 ? 1 : limit <= 0x10000 ? 2 : 8) % limit;
+        return next() % limit;
+    }
 
     // low to high, both included.
     std::int64_t between(std::int64_t low, std::int64_t high) {
@@ -50,9 +59,17 @@ private:
         return z ^ (z >> 31);
     }
 
+    std::uint64_t take(std::size_t count) {
+        std::uint64_t taken = 0;
+        for (const std::uint8_t byte : steering.first(std::min(count, steering.size()))) taken = taken << 8 | byte;
+        steering = steering.subspan(std::min(count, steering.size()));
+        return taken;
+    }
+
     void mix(std::uint64_t value) { state = scramble(state ^ (value + 0x9e3779b97f4a7c15)); }
 
     std::uint64_t state;
+    std::span<const std::uint8_t> steering;
 };
 
 } // namespace support

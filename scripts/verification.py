@@ -1,0 +1,107 @@
+#!/usr/bin/env python3
+"""Writes docs/verification.md from the results of scripts/nightly.sh, or counts comparisons.
+
+    verification.py FOLDER                    the page, on standard output
+    verification.py --comparisons FOLDER      how many comparisons without a failure its chunks of this commit hold
+"""
+import pathlib
+import re
+import subprocess
+import sys
+
+STEPS = {
+    "tests": "All tests, with sanitizers and as optimised",
+    "compilers": "Bits from six compilers and levels",
+    "levels": "Instruction sets",
+    "comparisons": "Random comparisons with the model",
+    "fuzz": "Coverage-guided search",
+    "coverage": "Coverage of `src/`",
+    "threads": "Eight threads, thread sanitizer",
+    "valgrind": "Memory errors, Valgrind",
+    "abi": "Functions and types of the header",
+    "faults": "Deliberate faults",
+}
+
+# The lines of an output that say what came out.
+TELLING = re.compile(
+    r"passed, |differences$|tests passed|^ok: |FAILED|FOUND|^together|reasons out of date|functions compared"
+    r"|^stat::number_of_executed|^ended: |races? |without a reason"
+)
+
+
+class Result:
+    def __init__(self, path):
+        lines = path.read_text(errors="replace").splitlines()
+        self.name = path.name
+        self.step = path.name.split("-")[0]
+        self.commit, self.date, self.seconds, self.exit, self.command = (line.split(" ", 1)[1] for line in lines[:5])
+        self.output = lines[5:]
+
+    def passed_and_failed(self):
+        last = [re.search(r"(\d+) passed, (\d+) failed", line) for line in self.output]
+        last = [match for match in last if match]
+        return (int(last[-1][1]), int(last[-1][2])) if last else (0, 0)
+
+    def telling(self):
+        return [line.strip() for line in self.output if TELLING.search(line)]
+
+
+def results_in(folder):
+    paths = sorted(path for path in pathlib.Path(folder).iterdir() if path.name.split("-")[0] in STEPS)
+    return [Result(path) for path in paths if path.read_text(errors="replace").startswith("commit ")]
+
+
+def output_of(*command):
+    return subprocess.run(command, capture_output=True, text=True, check=True).stdout.splitlines()[0].strip()
+
+
+def processor():
+    for line in pathlib.Path("/proc/cpuinfo").read_text().splitlines():
+        if line.startswith("model name"):
+            return line.split(":", 1)[1].strip()
+    return "an unknown processor"
+
+
+def print_step(step, results):
+    print(f"\n## {STEPS[step]}\n")
+    if not results:
+        print("Not run.")
+        return
+    if step == "comparisons":
+        for commit in sorted({result.commit for result in results}):
+            chunks = [result for result in results if result.commit == commit]
+            passed, failed = (sum(numbers) for numbers in zip(*(chunk.passed_and_failed() for chunk in chunks)))
+            dates = sorted({chunk.date for chunk in chunks})
+            seconds = sum(int(chunk.seconds) for chunk in chunks)
+            print(f"Commit {commit}, {' to '.join(dates[:1] + dates[1:][-1:])}, {len(chunks)} chunks, {seconds} s: "
+                  f"{passed + failed:,} comparisons, {failed} failures.")
+        return
+    for result in results:
+        outcome = "passed" if result.exit == "0" else f"FAILED (exit code {result.exit})"
+        print(f"`{result.command}`: {outcome}. Commit {result.commit}, {result.date}, {result.seconds} s.\n")
+        telling = result.telling()
+        if telling:
+            print("\n".join("    " + line for line in telling[-12:]) + "\n")
+
+
+def main():
+    arguments = sys.argv[1:]
+    counts = arguments[:1] == ["--comparisons"]
+    if len(arguments) != (2 if counts else 1):
+        sys.exit(__doc__)
+    results = results_in(arguments[-1])
+    if counts:
+        commit = output_of("git", "rev-parse", "--short", "HEAD")
+        print(sum(result.passed_and_failed()[0] for result in results
+                  if result.step == "comparisons" and result.commit == commit))
+        return
+    print("# Verification\n\nWritten by `scripts/nightly.sh`: what was run last, and what came of it. Each result names "
+          "the commit it is\nof; a step that has not been run says so.\n")
+    print(f"- Processor: {processor()}")
+    for compiler in ("g++", "clang++"):
+        print(f"- Compiler: {output_of(compiler, '--version')}")
+    for step in STEPS:
+        print_step(step, [result for result in results if result.step == step])
+
+
+main()
