@@ -1,5 +1,18 @@
 # Compiler settings, each in one place with its reason.
 
+# A compiler cache, where one is installed; -DCMAKE_CXX_COMPILER_LAUNCHER= leaves it out. It must be told that precompiled
+# headers may be cached, and where the tree is, so that another checkout finds the same.
+find_program(VONKK3_CCACHE ccache)
+mark_as_advanced(VONKK3_CCACHE)
+if(VONKK3_CCACHE AND PROJECT_IS_TOP_LEVEL)
+  foreach(language C CXX)
+    if(NOT DEFINED CMAKE_${language}_COMPILER_LAUNCHER)
+      set(CMAKE_${language}_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros
+          CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} ${VONKK3_CCACHE})
+    endif()
+  endforeach()
+endif()
+
 # Every compiler sees the same warnings, and a warning is an error.
 add_library(warnings INTERFACE)
 target_compile_options(warnings INTERFACE -Wall -Wextra -Werror)

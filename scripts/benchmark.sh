@@ -52,7 +52,8 @@ esac
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 . scripts/levels.sh
-need g++ gcc cmake make python3 libgtest-dev libcli11-dev libbenchmark-dev libeigen3-dev libglm-dev libcglm-dev \
+. scripts/presets.sh
+need g++ gcc cmake ninja-build python3 libgtest-dev libcli11-dev libbenchmark-dev libeigen3-dev libglm-dev libcglm-dev \
     libxsmm-dev liblapacke-dev libopenblas-dev
 
 # Whatever would fail after minutes fails now.
@@ -73,7 +74,7 @@ for run in $runs; do
 done
 echo "building" >&2
 mkdir -p build
-{ cmake --preset bench && cmake --build --preset bench --target $targets --parallel "$(nproc)"
+{ configure bench && cmake --build --preset bench --target $targets --parallel "$(nproc)"
 } >build/bench.log 2>&1 || { tail -n 40 build/bench.log >&2; fail "cannot build the benchmarks"; }
 
 scratch=$(mktemp -d)

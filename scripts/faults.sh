@@ -15,7 +15,7 @@ missed=0
 rm -rf "$tree" && mkdir -p "$tree" "$log"
 git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents -t "$tree"
 levels=x86-64
-configure() { cmake -S "$tree" -B "$build" -DVONKK3_RANDOM_CALLS=60 -DVONKK3_LEVELS="$levels" >/dev/null || exit 2; }
+configure() { cmake -S "$tree" -B "$build" -DVONKK3_TEST_CASES=ON -DVONKK3_RANDOM_CALLS=60 -DVONKK3_LEVELS="$levels" >/dev/null || exit 2; }
 configure
 cmake --build "$build" --parallel "$(nproc)" >"$log/build" 2>&1 || { tail "$log/build"; exit 2; }
 run_tests() { ctest --test-dir "$build" --parallel "$(nproc)" --stop-on-failure >"$log/tests" 2>&1; }

@@ -14,10 +14,12 @@
 #include <iomanip>
 #include <iostream>
 #include <map>
+#include <memory>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 #include <xmmintrin.h>
 
@@ -65,16 +67,24 @@ std::string hashOfEstimates() {
     return hexadecimal(hash);
 }
 
-Hashes takeHashes(const std::vector<Function> &functions, const std::string &path) {
-    const support::Library library(path);
+// By each of the libraries.
+std::vector<Hashes> takeHashes(const std::vector<Function> &functions, const std::vector<std::string> &paths) {
+    std::vector<std::unique_ptr<support::Library>> libraries;
+    for (const std::string &path : paths) libraries.push_back(std::make_unique<support::Library>(path));
     const support::Arena arena;
-    Hashes hashes;
+    std::vector<Hashes> hashes(paths.size());
     for (const Function &function : functions) {
-        void *const address = library.find(function.name);
-        if (address == nullptr) throw std::runtime_error("the library has no export " + function.name);
-        const support::StreamHash hash = support::hashStream(
-            function, arena, [&](const support::Call &call) { return support::invoke(address, function, call.words); });
-        hashes[function.name] = {hexadecimal(hash.results), hexadecimal(hash.calls)};
+        std::vector<support::LibraryCall> calls;
+        for (std::size_t k = 0; k < paths.size(); ++k) {
+            void *const address = libraries[k]->find(function.name);
+            if (address == nullptr) throw std::runtime_error(paths[k] + " has no export " + function.name);
+            calls.emplace_back([address, &function](const support::Call &call) {
+                return support::invoke(address, function, call.words);
+            });
+        }
+        const support::StreamHash hash = support::hashStream(function, arena, calls);
+        for (std::size_t k = 0; k < paths.size(); ++k)
+            hashes[k][function.name] = {hexadecimal(hash.results[k]), hexadecimal(hash.calls)};
     }
     return hashes;
 }
@@ -150,8 +160,7 @@ std::vector<std::string> findDifferences(const std::vector<Function> &functions,
     return found;
 }
 
-bool check(const std::string &path, const std::vector<Function> &functions, const Hashes &now) {
-    const Kept kept = readFile(path);
+bool check(const Kept &kept, const std::vector<Function> &functions, const Hashes &now) {
     const bool comparesEstimates = kept.estimates == hashOfEstimates();
     if (!comparesEstimates)
         std::cout
@@ -168,21 +177,48 @@ bool check(const std::string &path, const std::vector<Function> &functions, cons
     return found.empty();
 }
 
+// Leaves every so many functions, and drops the lines of the others.
+void thinOut(std::vector<Function> &functions, Hashes &kept, std::size_t every) {
+    std::vector<Function> spread;
+    for (std::size_t k = 0; k < functions.size(); ++k) {
+        if (k % every == 0) spread.push_back(functions[k]);
+        else kept.erase(functions[k].name);
+    }
+    functions = std::move(spread);
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
-    std::string toWrite, toCheck, library = support::defaultLibrary();
+    std::string toWrite, toCheck;
+    std::vector<std::string> libraries;
+    std::size_t every = 1;
     CLI::App app("Writes or checks the file of hashes over the results of every export.");
     auto *const write = app.add_option("--write", toWrite, "File to write");
     app.add_option("--check", toCheck, "File to compare with")->excludes(write);
-    app.add_option("--library", library, "Path of the shared library")->capture_default_str();
+    app.add_option("--library", libraries,
+                   "Path of a shared library; of several, each call is made once for all [" +
+                       support::defaultLibrary() + "]");
+    app.add_option("--every", every, "Check every so many exports only")->excludes(write)->check(CLI::PositiveNumber);
     CLI11_PARSE(app, argc, argv);
     try {
         if (toWrite.empty() == toCheck.empty()) throw std::runtime_error("give --write FILE or --check FILE");
-        const std::vector<Function> functions = catalogue::expand();
-        const Hashes hashes = takeHashes(functions, library);
-        if (toCheck.empty()) return writeFile(toWrite, functions, hashes), 0;
-        return check(toCheck, functions, hashes) ? 0 : 1;
+        if (libraries.empty()) libraries = {support::defaultLibrary()};
+        std::vector<Function> functions = catalogue::expand();
+        if (!toWrite.empty()) {
+            if (libraries.size() != 1) throw std::runtime_error("--write takes one library");
+            writeFile(toWrite, functions, takeHashes(functions, libraries).front());
+            return 0;
+        }
+        Kept kept = readFile(toCheck);
+        if (every > 1) thinOut(functions, kept.hashes, every);
+        const std::vector<Hashes> hashes = takeHashes(functions, libraries);
+        bool passed = true;
+        for (std::size_t k = 0; k < libraries.size(); ++k) {
+            std::cout << libraries[k] << std::endl;
+            passed &= check(kept, functions, hashes[k]);
+        }
+        return passed ? 0 : 1;
     } catch (const std::exception &problem) {
         std::cerr << "bits: " << problem.what() << "\n";
         return 2;

@@ -16,6 +16,7 @@
 #include <csignal>
 #include <cstdio>
 #include <iostream>
+#include <memory>
 #include <regex.h>
 #include <stdexcept>
 #include <string>
@@ -30,7 +31,7 @@ struct Options {
     std::uint64_t calls = 200;
     std::uint64_t seed = 1;
     std::string only;
-    std::string library = support::defaultLibrary();
+    std::vector<std::string> libraries;
     std::string replay;
     bool list = false;
 };
@@ -90,68 +91,98 @@ std::vector<support::Setting> settingsFor(const support::Call &call) {
     return {{support::Precision::bits53, call.setting.rounding}, {support::Precision::bits64, call.setting.rounding}};
 }
 
+// One of the libraries that are compared with the model.
+struct Contestant {
+    std::string path;
+    support::Library library;
+    void *address = nullptr; // of the function
+    support::Tally tally;    // of its calls
+
+    explicit Contestant(const std::string &path) : path(path), library(path) {}
+};
+
 class Comparing {
 public:
-    explicit Comparing(const Options &options)
-        : options(options), library(options.library),
-          comparison(
-              arena, [this](const support::Call &call) { return support::invoke(address, *call.function, call.words); },
-              model::run) {}
+    explicit Comparing(const Options &options) : options(options), comparison(arena, open(options), model::run) {}
 
     // Whether all went well.
     bool compareAll();
     bool replay();
 
 private:
+    std::vector<support::LibraryCall> open(const Options &options);
     bool prepare(const Function &function);
     void compareExport(const Function &function);
-    void reportFailure(const support::Call &call, support::Setting setting, const support::Verdict &verdict);
+    void reportFailure(const support::Call &call, support::Setting setting, const Contestant &contestant,
+                       const support::Verdict &verdict);
     void showProgress(std::size_t done, std::size_t all, const std::string &name) const;
     bool conclude() const;
 
     const Options &options;
-    support::Library library;
+    std::vector<std::unique_ptr<Contestant>> contestants;
     support::Arena arena;
     support::Comparison comparison;
-    void *address = nullptr;
     support::Tally total;
     std::uint64_t shortOf = 0; // exports that are missing, or whose calls do not add up to enough
 };
 
-bool Comparing::prepare(const Function &function) {
-    address = library.find(function.name);
-    const bool modelled = model::knows(function.name);
-    if (address == nullptr) std::cout << function.name << ": the library has no such export\n";
-    if (!modelled) std::cout << function.name << ": the model does not know it\n";
-    return address != nullptr && modelled;
+std::vector<support::LibraryCall> Comparing::open(const Options &options) {
+    std::vector<support::LibraryCall> calls;
+    for (const std::string &path : options.libraries) {
+        const Contestant &opened = *contestants.emplace_back(std::make_unique<Contestant>(path));
+        calls.emplace_back([&opened](const support::Call &call) {
+            return support::invoke(opened.address, *call.function, call.words);
+        });
+    }
+    return calls;
 }
 
-void Comparing::reportFailure(const support::Call &call, support::Setting setting, const support::Verdict &verdict) {
+bool Comparing::prepare(const Function &function) {
+    bool prepared = model::knows(function.name);
+    if (!prepared) std::cout << function.name << ": the model does not know it\n";
+    for (const auto &contestant : contestants) {
+        contestant->tally = {};
+        contestant->address = contestant->library.find(function.name);
+        if (contestant->address != nullptr) continue;
+        std::cout << function.name << ": no such export in " << contestant->path << "\n";
+        prepared = false;
+    }
+    return prepared;
+}
+
+void Comparing::reportFailure(const support::Call &call, support::Setting setting, const Contestant &contestant,
+                              const support::Verdict &verdict) {
     std::cout << "\nseed " << call.seed << ", " << call.function->name << ", call " << call.index << ", "
               << support::describe(setting) << "\n"
-              << support::describeWords(call) << verdict.complaint << "  again: compare --library " << options.library
+              << support::describeWords(call) << verdict.complaint << "  again: compare --library " << contestant.path
               << " " << support::replayOptions(call) << "\n";
 }
 
 void Comparing::compareExport(const Function &function) {
     constexpr std::uint64_t shownFailures = 3;
-    support::Tally tally;
     for (std::uint64_t index = 0; index < options.calls; ++index) {
         const support::Call call = support::makeCall(function, arena, options.seed, index);
         announce(call);
         for (const support::Setting setting : settingsFor(call)) {
-            const support::Verdict verdict = comparison.compare(call, setting);
-            tally.add(call, verdict);
-            if (!verdict.passed && tally.failed <= shownFailures) reportFailure(call, setting, verdict);
+            const std::vector<support::Verdict> verdicts = comparison.compareEach(call, setting);
+            for (std::size_t k = 0; k < verdicts.size(); ++k) {
+                support::Tally &tally = contestants[k]->tally;
+                tally.add(call, verdicts[k]);
+                if (!verdicts[k].passed && tally.failed <= shownFailures)
+                    reportFailure(call, setting, *contestants[k], verdicts[k]);
+            }
         }
     }
-    if (tally.failed > shownFailures)
-        std::cout << function.name << ": " << tally.failed << " calls failed, of which " << shownFailures
-                  << " are shown\n";
-    const std::vector<std::string> missing = support::shortcomings(tally, function);
-    for (const std::string &sentence : missing) std::cout << function.name << ": " << sentence << "\n";
-    if (!missing.empty()) ++shortOf;
-    total.add(tally);
+    for (const auto &contestant : contestants) {
+        const support::Tally &tally = contestant->tally;
+        if (tally.failed > shownFailures)
+            std::cout << function.name << ": " << tally.failed << " calls failed, of which " << shownFailures
+                      << " are shown\n";
+        const std::vector<std::string> missing = support::shortcomings(tally, function);
+        for (const std::string &sentence : missing) std::cout << function.name << ": " << sentence << "\n";
+        if (!missing.empty()) ++shortOf;
+        total.add(tally);
+    }
 }
 
 void Comparing::showProgress(std::size_t done, std::size_t all, const std::string &name) const {
@@ -183,6 +214,7 @@ bool Comparing::compareAll() {
 bool Comparing::replay() {
     const std::size_t colon = options.replay.find(':');
     if (colon == std::string::npos) throw std::runtime_error("--replay takes NAME:INDEX");
+    if (contestants.size() != 1) throw std::runtime_error("--replay takes one library");
     const std::string name = options.replay.substr(0, colon);
     const std::vector<Function> functions = catalogue::expand();
     const auto function = std::ranges::find(functions, name, &Function::name);
@@ -222,12 +254,15 @@ int main(int argc, char **argv) {
     app.add_option("--calls", options.calls, "Random calls for each export")->capture_default_str();
     app.add_option("--seed", options.seed, "Seed of the random calls")->capture_default_str();
     app.add_option("--only", options.only, "Regular expression that the names of the exports have to match");
-    app.add_option("--library", options.library, "Path of the shared library")->capture_default_str();
+    app.add_option("--library", options.libraries,
+                   "Path of a shared library; of several, each call is made once for all [" +
+                       support::defaultLibrary() + "]");
     app.add_option("--replay", options.replay, "Make one call again and print everything: NAME:INDEX");
     app.add_flag("--list", options.list, "Print the names of the exports and stop");
     CLI11_PARSE(app, argc, argv);
     try {
         if (options.list) return listFunctions(options), 0;
+        if (options.libraries.empty()) options.libraries = {support::defaultLibrary()};
         watchCalls();
         Comparing comparing(options);
         return (options.replay.empty() ? comparing.compareAll() : comparing.replay()) ? 0 : 1;

@@ -1,10 +1,14 @@
 // The version record: its fields, its place in memory, and that everybody gets the same one.
+#include "support/invoke.h"
+
 #include "vonkk3.h"
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
 #include <cstdint>
+#include <dlfcn.h>
+#include <filesystem>
 #include <fstream>
 #include <set>
 #include <sstream>
@@ -50,6 +54,13 @@ TEST(Version, HasAProcessorTagThatReadsAsText) {
     static_assert(sizeof version->cpuTag == 4);
     EXPECT_STREQ(version->cpuTag, "k3");
     EXPECT_EQ(version->cpuTag[3], '\0');
+}
+
+// Programs are linked to the baseline; tests of a wider build put that in its place.
+TEST(Version, ComesFromTheLibraryUnderTest) {
+    Dl_info info{};
+    ASSERT_NE(dladdr(reinterpret_cast<const void *>(vonkGetLibVersion()), &info), 0);
+    EXPECT_TRUE(std::filesystem::equivalent(info.dli_fname, support::defaultLibrary())) << info.dli_fname;
 }
 
 TEST(Version, IsTheSameRecordInEveryCall) { EXPECT_EQ(vonkGetLibVersion(), vonkGetLibVersion()); }

@@ -7,6 +7,7 @@
 #include <map>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace model {
 
@@ -271,7 +272,10 @@ std::vector<std::string> names() {
     return result;
 }
 
-std::vector<Parameter> parameters(const std::string &name) {
+const std::vector<Parameter> &parameters(const std::string &name) {
+    static std::map<std::string, std::vector<Parameter>> known;
+    const auto found = known.find(name);
+    if (found != known.end()) return found->second;
     const Form *form = findForm(name);
     if (form == nullptr) throw std::invalid_argument("no such function: " + name);
     std::vector<Parameter> list;
@@ -285,7 +289,7 @@ std::vector<Parameter> parameters(const std::string &name) {
         else list.push_back({word, Word::size, isSignedSize(*form, word)});
     }
     if (form->isArray()) list.push_back({"count", Word::size, isSignedSize(*form, "count")});
-    return list;
+    return known[name] = std::move(list);
 }
 
 } // namespace model

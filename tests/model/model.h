@@ -27,7 +27,7 @@ struct Parameter {
 std::vector<std::string> names();
 
 // The parameter list of any of these names.
-std::vector<Parameter> parameters(const std::string &name);
+const std::vector<Parameter> &parameters(const std::string &name);
 
 // Whether run() can carry out this function.
 bool knows(const std::string &name);
@@ -41,6 +41,7 @@ struct Call {
 struct Write {
     std::uintptr_t address;
     std::size_t size;
+    std::uint64_t before = 0; // what stood there, so that it can be taken back
 };
 
 // An element that is held to accuracy instead of bit for bit, as the order of the sums behind it is free: it has to lie

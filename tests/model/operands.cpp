@@ -4,14 +4,13 @@
 #include <algorithm>
 #include <cstring>
 #include <stdexcept>
-#include <utility>
 
 namespace model {
 
 static_assert(sizeof(std::uintptr_t) == 8, "tables hold 64-bit pointers, and addresses wrap at 64 bits");
 
-Arguments::Arguments(std::vector<Parameter> parameters, std::vector<std::uint64_t> words)
-    : parameters_(std::move(parameters)), words_(std::move(words)) {
+Arguments::Arguments(const std::vector<Parameter> &parameters, const std::vector<std::uint64_t> &words)
+    : parameters_(parameters), words_(words) {
     if (parameters_.size() != words_.size()) throw std::invalid_argument("a call needs one word per parameter");
 }
 

@@ -14,7 +14,8 @@ namespace model {
 // The words of a call by the names of their parameters.
 class Arguments {
 public:
-    Arguments(std::vector<Parameter> parameters, std::vector<std::uint64_t> words);
+    // Both are kept elsewhere.
+    Arguments(const std::vector<Parameter> &parameters, const std::vector<std::uint64_t> &words);
 
     std::uintptr_t pointer(const std::string &name) const { return word(name); }
     std::uint64_t bytes(const std::string &name) const; // sign-extended, to be added with wrapping
@@ -30,8 +31,8 @@ public:
 private:
     std::uint64_t word(const std::string &name) const;
 
-    std::vector<Parameter> parameters_;
-    std::vector<std::uint64_t> words_;
+    const std::vector<Parameter> &parameters_;
+    const std::vector<std::uint64_t> &words_;
 };
 
 struct Operand {

@@ -68,9 +68,9 @@ void addChangedBytes(Fnv1a &hash, const Call &call, const Arena &arena, const Im
     }
 }
 
-void addCall(Fnv1a &hash, const Call &call, Setting setting, const Arena &arena, const LibraryCall &library) {
-    Image before;
-    arena.save(before);
+// The arena holds `before`, and holds it again afterwards.
+void addCall(Fnv1a &hash, const Call &call, Setting setting, const Arena &arena, const Image &before,
+             const LibraryCall &library) {
     std::int32_t status = 0;
     {
         const SettingScope scope(setting);
@@ -101,20 +101,24 @@ std::string bitstreamDescription() {
            "Who changes the way in which calls are made writes this file anew, with a library that passed before.\n";
 }
 
-StreamHash hashStream(const catalogue::Function &function, const Arena &arena, const LibraryCall &library) {
-    Fnv1a results;
-    std::uint64_t calls = 0;
+StreamHash hashStream(const catalogue::Function &function, const Arena &arena,
+                      const std::vector<LibraryCall> &libraries) {
+    std::vector<Fnv1a> results(libraries.size());
+    StreamHash hash{};
     Image before;
     for (std::uint64_t index = 0; index < bitstreamCalls; ++index) {
         const Call call = makeCall(function, arena, bitstreamSeed, index, bitstreamMixture());
-        unifyNans(call); // ahead of the call too, so that an untouched one does not count as changed
+        unifyNans(call); // before the call too, so that an untouched one does not count as changed
         arena.save(before);
-        addInputs(calls, call, before);
-        if (function.type == catalogue::Type::real64)
-            addCall(results, call, {.precision = Precision::bits53}, arena, library);
-        addCall(results, call, {.precision = Precision::bits64}, arena, library);
+        addInputs(hash.calls, call, before);
+        for (std::size_t k = 0; k < libraries.size(); ++k) {
+            if (function.type == catalogue::Type::real64)
+                addCall(results[k], call, {.precision = Precision::bits53}, arena, before, libraries[k]);
+            addCall(results[k], call, {.precision = Precision::bits64}, arena, before, libraries[k]);
+        }
     }
-    return {results.value(), calls};
+    for (const Fnv1a &result : results) hash.results.push_back(result.value());
+    return hash;
 }
 
 } // namespace support

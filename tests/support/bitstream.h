@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace support {
 
@@ -21,10 +22,12 @@ CallMixture bitstreamMixture();
 std::string bitstreamDescription();
 
 struct StreamHash {
-    std::uint64_t results; // what the calls left
-    std::uint64_t calls;   // what they were given: differs only when the making of calls was changed
+    std::uint64_t calls;                // what they are given: differs only when the making of calls was changed
+    std::vector<std::uint64_t> results; // what they leave, by each library
 };
 
-StreamHash hashStream(const catalogue::Function &function, const Arena &arena, const LibraryCall &library);
+// Makes each call once and runs it through every library.
+StreamHash hashStream(const catalogue::Function &function, const Arena &arena,
+                      const std::vector<LibraryCall> &libraries);
 
 } // namespace support

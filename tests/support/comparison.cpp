@@ -163,7 +163,7 @@ void Accuracy::include(const Accuracy &other) {
     shareOfBound = std::max(shareOfBound, other.shareOfBound);
 }
 
-std::int32_t Comparison::callLibrary(const Call &call, Setting setting, Verdict &verdict) {
+std::int32_t Comparison::callLibrary(const Call &call, Setting setting, const LibraryCall &library, Verdict &verdict) {
     MachineState found, left;
     std::int32_t status = 0;
     {
@@ -254,20 +254,22 @@ void Comparison::compareStatus(const Call &call, const model::Outcome &outcome, 
         "  status: library " + std::to_string(status) + ", model " + std::to_string(outcome.status) + "\n";
 }
 
-Verdict Comparison::compare(const Call &call, Setting setting) {
-    Verdict verdict;
+std::vector<Verdict> Comparison::compareEach(const Call &call, Setting setting) {
     arena.save(before);
-    verdict.status = callLibrary(call, setting, verdict);
-    arena.save(byLibrary);
-    arena.restore(before);
     const model::Outcome outcome = callModel(call, setting);
     arena.save(byModel);
     arena.restore(before);
-
-    verdict.worked = !outcome.writes.empty();
-    compareMemory(call, outcome, verdict);
-    compareStatus(call, outcome, verdict);
-    return verdict;
+    std::vector<Verdict> verdicts;
+    for (const LibraryCall &library : libraries) {
+        Verdict &verdict = verdicts.emplace_back();
+        verdict.status = callLibrary(call, setting, library, verdict);
+        arena.save(byLibrary);
+        arena.restore(before);
+        verdict.worked = !outcome.writes.empty();
+        compareMemory(call, outcome, verdict);
+        compareStatus(call, outcome, verdict);
+    }
+    return verdicts;
 }
 
 } // namespace support

@@ -10,6 +10,7 @@
 #include <span>
 #include <string>
 #include <unordered_set>
+#include <vector>
 
 namespace support {
 
@@ -54,18 +55,21 @@ using Addresses = std::unordered_set<std::uintptr_t>;
 
 class Comparison {
 public:
+    Comparison(const Arena &arena, std::vector<LibraryCall> libraries, ModelRun run)
+        : arena(arena), libraries(std::move(libraries)), runModel(std::move(run)) {}
     Comparison(const Arena &arena, LibraryCall library, ModelRun run)
-        : arena(arena), library(std::move(library)), runModel(std::move(run)) {}
+        : Comparison(arena, std::vector{std::move(library)}, std::move(run)) {}
 
-    // The arena holds the call's memory, and holds it again afterwards.
-    Verdict compare(const Call &call, Setting setting);
+    // The arena holds the call's memory, and holds it again afterwards. The model runs once for all libraries.
+    std::vector<Verdict> compareEach(const Call &call, Setting setting);
+    Verdict compare(const Call &call, Setting setting) { return compareEach(call, setting).front(); }
 
     const Image &imageBefore() const { return before; }
-    const Image &imageByLibrary() const { return byLibrary; }
+    const Image &imageByLibrary() const { return byLibrary; } // the last one
     const Image &imageByModel() const { return byModel; }
 
 private:
-    std::int32_t callLibrary(const Call &call, Setting setting, Verdict &verdict);
+    std::int32_t callLibrary(const Call &call, Setting setting, const LibraryCall &library, Verdict &verdict);
     model::Outcome callModel(const Call &call, Setting setting);
     void compareMemory(const Call &call, const model::Outcome &outcome, Verdict &verdict);
     static void compareStatus(const Call &call, const model::Outcome &outcome, Verdict &verdict);
@@ -74,7 +78,7 @@ private:
                const std::function<bool(std::uintptr_t)> &tolerated) const;
 
     const Arena &arena;
-    LibraryCall library;
+    std::vector<LibraryCall> libraries;
     ModelRun runModel;
     Image before, byLibrary, byModel;
 };
