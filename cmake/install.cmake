@@ -12,6 +12,8 @@ foreach(level ${VONKK3_WIDE_LEVELS})
           DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/${level})
 endforeach()
 install(FILES ${PROJECT_BINARY_DIR}/src/generated/functions.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vonkk3)
+# The documentation, if scripts/docs.sh has built it.
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/build/site/ DESTINATION ${CMAKE_INSTALL_DOCDIR} OPTIONAL)
 
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/vonkk3)
 configure_package_config_file(cmake/vonkk3-config.cmake.in ${PROJECT_BINARY_DIR}/vonkk3-config.cmake
