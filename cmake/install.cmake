@@ -20,6 +20,8 @@ install(DIRECTORY docs/reference DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
 install(FILES docs/layouts.svg DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY ${PROJECT_BINARY_DIR}/src/generated/man3 DESTINATION ${CMAKE_INSTALL_MANDIR})
+# The documentation, if scripts/docs.sh has built it.
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/build/site/ DESTINATION ${CMAKE_INSTALL_DOCDIR} OPTIONAL)
 
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/vonkk3)
 configure_package_config_file(cmake/vonkk3-config.cmake.in ${PROJECT_BINARY_DIR}/vonkk3-config.cmake

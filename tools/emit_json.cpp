@@ -2,6 +2,7 @@
 #include "emit.h"
 #include "exceptions.h"
 #include "text.h"
+#include "usage.h"
 
 namespace emit {
 namespace {
@@ -23,7 +24,18 @@ std::string parameterJson(const catalogue::Function &function, const catalogue::
                          field("kind", name(parameter.kind));
     if (!unit(parameter.kind).empty()) result += ", " + field("unit", unit(parameter.kind));
     if (parameter.operand >= 0) result += ", " + field("operand", function.operands[parameter.operand].name);
+    if (!directionOf(parameter).empty()) result += ", " + field("direction", directionOf(parameter));
+    if (parameter.kind == catalogue::Kind::dense) result += ", " + field("length", lengthOf(function, parameter));
     return result + "}";
+}
+
+std::string operandJson(const catalogue::Function &function, const catalogue::Operand &operand) {
+    const auto flag = [](std::string_view name, bool value) { return quoted(name) + (value ? ": true" : ": false"); };
+    const catalogue::Shape shape = shapeOf(function, operand);
+    return "{" + field("name", operand.name) + ", " + flag("matrix", operand.matrix) + ", " +
+           flag("array", operand.array) + ", " + flag("transposed", operand.transposed) + ", " +
+           field("layout", suffix(operand.layout)) + ", " + field("rows", shape.rows) + ", " +
+           field("cols", shape.columns) + "}";
 }
 
 std::string idsJson(const std::vector<const catalogue::Exception *> &rows) {
@@ -36,11 +48,26 @@ std::string functionJson(const catalogue::Function &function, const catalogue::E
     std::string result = "    {" + field("name", function.name) + ", " + field("family", function.section->id) + ", " +
                          field("element", element(function.type)) + ", " + field("layout", function.layout) + ", " +
                          quoted("order") + ": " + (function.order != 0 ? std::to_string(function.order) : "null") +
-                         ",\n     " + quoted("exceptions") + ": " + idsJson(index.exceptionsOf(function)) +
-                         ",\n     \"parameters\": [";
+                         ",\n     " + field("operation", function.family->operation) + ", " +
+                         field("group", function.group) + ", " + field("returns", "VonkStatus") + ",\n     " +
+                         quoted("exceptions") + ": " + idsJson(index.exceptionsOf(function));
+    std::string operands, parameters;
+    for (std::size_t k = 0; k < function.operands.size(); ++k)
+        operands += (k > 0 ? ",\n                  " : "") + operandJson(function, function.operands[k]);
     for (std::size_t k = 0; k < function.parameters.size(); ++k)
-        result += (k > 0 ? ",\n                    " : "") + parameterJson(function, function.parameters[k]);
-    return result + "]}";
+        parameters += (k > 0 ? ",\n                    " : "") + parameterJson(function, function.parameters[k]);
+    return result + ",\n     \"operands\": [" + operands + "],\n     \"parameters\": [" + parameters + "]}";
+}
+
+std::string usageJson(const catalogue::Usage &usage) {
+    std::string groups;
+    for (const catalogue::GroupWords &row : catalogue::groupWords())
+        if (row.section == usage.section) groups += (groups.empty() ? "" : ", ") + field(row.groups, row.words);
+    return "    {" + field("family", usage.section) + ", " + field("operation", usage.operation) + ", " +
+           field("groups", usage.groups) + ", " + field("title", usage.title) + ",\n     " +
+           field("words", usage.words) + ",\n     \"groupWords\": {" + groups + "},\n     " +
+           field("summed", usage.summed) + ", " + field("term", usage.term) + ", " + field("assign", usage.assign) +
+           ", " + field("next", usage.next) + "}";
 }
 
 // What a family's exceptions say about accesses beyond the operands, in one string.
@@ -74,19 +101,23 @@ std::string familyJson(const catalogue::Section &section) {
 std::string functionsJson() {
     const std::vector<catalogue::Function> all = catalogue::expand();
     const catalogue::ExceptionIndex index(catalogue::exceptions(), all);
-    std::string families, classes, exceptions;
+    std::string families, operations, classes, exceptions;
     for (const catalogue::Section &section : catalogue::sections())
         families += (families.empty() ? "" : ",\n") + familyJson(section);
+    for (const catalogue::Usage &usage : catalogue::usages())
+        operations += (operations.empty() ? "" : ",\n") + usageJson(usage);
     for (const catalogue::ExceptionClass exceptionClass : catalogue::exceptionClasses)
         classes += (classes.empty() ? "" : ",\n") + exceptionClassJson(exceptionClass);
     for (const catalogue::Exception &row : catalogue::exceptions())
         exceptions += (exceptions.empty() ? "" : ",\n") + exceptionJson(row, index);
     std::string functions = "    {" + field("name", "vonkGetLibVersion") + ", " + field("family", "version") +
-                            R"(, "exceptions": [], "parameters": []})";
+                            R"(, "operation": "GetLibVersion",)" + "\n     " +
+                            field("returns", "const VonkLibVersion *") +
+                            R"(, "exceptions": [], "operands": [], "parameters": []})";
     for (const catalogue::Function &function : all) functions += ",\n" + functionJson(function, index);
-    return "{\n  \"library\": \"vonkk3\",\n  \"families\": [\n" + families + "\n  ],\n  \"exceptionClasses\": [\n" +
-           classes + "\n  ],\n  \"exceptions\": [\n" + exceptions + "\n  ],\n  \"functions\": [\n" + functions +
-           "\n  ]\n}\n";
+    return "{\n  \"library\": \"vonkk3\",\n  \"families\": [\n" + families + "\n  ],\n  \"operations\": [\n" +
+           operations + "\n  ],\n  \"exceptionClasses\": [\n" + classes + "\n  ],\n  \"exceptions\": [\n" + exceptions +
+           "\n  ],\n  \"functions\": [\n" + functions + "\n  ]\n}\n";
 }
 
 } // namespace emit

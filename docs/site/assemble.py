@@ -1,0 +1,66 @@
+#!/usr/bin/env python3
+"""Puts the sources of the documentation site together.
+
+    assemble.py functions.json FOLDER
+
+FOLDER gets pages/, which is the prose of docs/site/pages, the reference with the prototypes of each family, the finder
+and the plots; and mkdocs.yml.
+"""
+import html
+import json
+import pathlib
+import shutil
+import sys
+
+import pack
+import plots
+
+SITE = pathlib.Path(__file__).resolve().parent
+ROOT = SITE.parent.parent
+
+
+def prototype(function):
+    parameters = ", ".join(p["type"] + ("" if p["type"].endswith("*") else " ") + p["name"] for p in function["parameters"])
+    return f"{function['returns']} {{}}({parameters});"
+
+
+def prototypes(functions):
+    """A list with one anchor per function, which a page can be linked to without a script."""
+    lines = ["", "## Prototypes", "", '<div class="prototypes">']
+    for function in functions:
+        name = function["name"]
+        link = f'<a id="{name}" href="../finder.html#{name}">{name}</a>'
+        lines.append(f"<code>{html.escape(prototype(function)).replace('{}', link)}</code>")
+    return "\n".join(lines + ["</div>", ""])
+
+
+def reference(catalogue, folder):
+    shutil.copytree(ROOT / "docs" / "reference", folder)
+    (folder / "README.md").rename(folder / "index.md")
+    for family in catalogue["families"]:
+        page = folder / (family["id"] + ".md")
+        functions = [f for f in catalogue["functions"] if f["family"] == family["id"]]
+        text = page.read_text(encoding="utf-8")
+        page.write_text(text + prototypes(functions), encoding="utf-8")
+    for page in folder.glob("*.md"):
+        text = page.read_text(encoding="utf-8").replace("Generated from the catalogue of functions; do not edit.\n\n", "")
+        page.write_text(text.replace("(README.md", "(index.md"), encoding="utf-8")
+
+
+def main():
+    catalogue = json.loads(pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))
+    folder = pathlib.Path(sys.argv[2])
+    pages = folder / "pages"
+    shutil.rmtree(pages, ignore_errors=True)
+    shutil.copytree(SITE / "pages", pages)
+    reference(catalogue, pages / "reference")
+    shutil.copy(ROOT / "docs" / "layouts.svg", pages / "layouts.svg")
+    shutil.copytree(SITE / "finder", pages / "assets")
+    pack.write(catalogue, pages / "assets" / "catalogue.js")
+    plots.write(SITE / "data" / "benchmarks.json", pages / "plots")
+    config = (SITE / "mkdocs.yml").read_text(encoding="utf-8").replace("@ROOT@", str(ROOT))
+    (folder / "mkdocs.yml").write_text(config, encoding="utf-8")
+
+
+if __name__ == "__main__":
+    main()
