@@ -3,10 +3,9 @@
 #include "emit.h"
 #include "exceptions.h"
 #include "text.h"
+#include "usage.h"
 
 #include <algorithm>
-#include <stdexcept>
-#include <utility>
 
 namespace emit {
 namespace {
@@ -14,41 +13,23 @@ namespace {
 using catalogue::Function;
 using catalogue::Section;
 
-// Words that people search for, beside a section's own.
-constexpr auto searchWords = std::to_array<std::pair<std::string_view, std::string_view>>({
-    {"vector-constant", "batched add, subtract, scale"},
-    {"vector-vector", "batched add, subtract, axpy"},
-    {"saxpy", "batched axpy, scaled sum"},
-    {"linear-combination", "batched axpby, interpolation"},
-    {"dot-product", "batched inner product, dot"},
-    {"norm", "batched length, nrm2, normalise"},
-    {"cross-product", "batched vector product"},
-    {"matrix-matrix", "batched matrix add, subtract"},
-    {"matrix-constant", "batched matrix scale"},
-    {"transpose", "batched; row-major, column-major"},
-    {"trace", "batched"},
-    {"frobenius-norm", "batched lange"},
-    {"matrix-product", "batched gemm, multiply, transform"},
-    {"matrix-vector", "batched gemv, multiply, transform points"},
-    {"gaxpy", "batched gemv, affine transform"},
-    {"copy", "batched; AoS, SoA, layout conversion"},
-    {"extract", "batched; gather, pack"},
-    {"identity", "batched identity matrices"},
-    {"lu-decomposition", "batched getrf"},
-    {"lu-back-substitution", "batched getrs, solve linear systems"},
-    {"determinant", "batched det"},
-    {"inverse", "batched getri, inv"},
-    {"cholesky-decomposition", "batched potrf, SPD"},
-    {"cholesky-back-substitution", "batched potrs, solve SPD systems"},
-    {"qr-decomposition", "batched geqrf, Householder"},
-    {"qr-back-substitution", "batched gels, least squares, solve overdetermined systems"},
-});
-
-std::string_view searchWordsOf(const Section &section) {
-    const auto found =
-        std::ranges::find(searchWords, section.id, &std::pair<std::string_view, std::string_view>::first);
-    if (found == searchWords.end()) throw std::logic_error("no search words: " + std::string(section.id));
-    return found->second;
+// What people search for, beside a section's own words: each once.
+std::string searchWordsOf(const Section &section) {
+    std::vector<std::string_view> words{"batched"};
+    const auto add = [&](std::string_view text) {
+        while (!text.empty()) {
+            const std::string_view word = text.substr(0, text.find(' '));
+            text.remove_prefix(std::min(word.size() + 1, text.size()));
+            if (std::ranges::find(words, word) == words.end()) words.push_back(word);
+        }
+    };
+    for (const catalogue::Usage &usage : catalogue::usages())
+        if (usage.section == section.id) add(usage.words);
+    for (const catalogue::GroupWords &group : catalogue::groupWords())
+        if (group.section == section.id) add(group.words);
+    std::string text;
+    for (const std::string_view word : words) text += (text.empty() ? "" : " ") + std::string(word);
+    return text;
 }
 
 // Text as roff reads it: nothing of it is a request or an escape, code between back ticks is bold.
