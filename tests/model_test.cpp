@@ -1,30 +1,14 @@
-// Tests of the model itself: the names and parameter lists that it derives, and calls worked out by hand, so that a
-// slip in the model cannot hide behind the same slip in the library.
+// The names and parameter lists that the model derives by itself.
 #include "model/model.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <bit>
-#include <cmath>
-#include <cstdint>
-#include <limits>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
 
 namespace {
-
-using Words = std::vector<std::uint64_t>;
-
-template <class Type> std::uint64_t to(Type *pointer) { return reinterpret_cast<std::uintptr_t>(pointer); }
-
-template <class Container> std::uint64_t to(Container &container) { return to(container.data()); }
-
-std::uint64_t bytes(std::int32_t value) { return static_cast<std::uint32_t>(value); }
-
-model::Outcome run(const std::string &name, const Words &words) { return model::run({name, words}); }
 
 std::string listOf(const std::string &name) {
     std::string text;
@@ -39,25 +23,6 @@ std::set<std::string> signedSizesOf(const std::string &name) {
         if (parameter.isSigned) found.insert(parameter.name);
     return found;
 }
-
-// Sets the precision control of the extended unit for one scope.
-class PrecisionControl {
-public:
-    explicit PrecisionControl(unsigned bits) {
-        asm volatile("fnstcw %0" : "=m"(saved_));
-        const auto wanted = static_cast<std::uint16_t>((saved_ & ~0x300U) | bits);
-        asm volatile("fldcw %0" : : "m"(wanted));
-    }
-    ~PrecisionControl() { asm volatile("fldcw %0" : : "m"(saved_)); }
-    PrecisionControl(const PrecisionControl &) = delete;
-    PrecisionControl &operator=(const PrecisionControl &) = delete;
-
-    static constexpr unsigned bits53 = 0x200;
-    static constexpr unsigned bits64 = 0x300;
-
-private:
-    std::uint16_t saved_ = 0;
-};
 
 TEST(ModelNames, CountsPerOperationAddUp) {
     std::map<std::string, int> counts;
@@ -110,15 +75,10 @@ TEST(ModelNames, IrregularMembersAreExact) {
         EXPECT_EQ(names.count(absent), 0U) << absent;
 }
 
-TEST(ModelNames, KnowsTheFamiliesInPlaceAndNoOthers) {
-    std::map<std::string, int> known;
-    for (const std::string &name : model::names())
-        if (model::knows(name)) ++known[name.substr(0, name.find('_'))];
-    EXPECT_EQ(known["vonkLUDecomp"], 90);
-    EXPECT_EQ(known["vonkLUBackSubst"], 150);
-    EXPECT_GE(known["vonkAdd"], 150);
-    EXPECT_GE(known["vonkSub"], 210);
-    EXPECT_FALSE(model::knows("vonkGetLibVersion"));
+TEST(ModelNames, AreAllOfFunctionsThatItCanCarryOut) {
+    for (const std::string &name : model::names()) EXPECT_TRUE(model::knows(name)) << name;
+    for (const char *name : {"vonkGetLibVersion", "vonkMul_vv_32f", "vonkMul_vm_32f"})
+        EXPECT_FALSE(model::knows(name)) << name;
 }
 
 TEST(ModelParameters, FollowFromTheName) {
@@ -194,284 +154,6 @@ TEST(ModelParameters, FewSizesAreSigned) {
     EXPECT_EQ(signedSizesOf("vonkCholeskyBackSubst_mv_64f_S2"), Names{"order"});
     EXPECT_EQ(signedSizesOf("vonkCholeskyBackSubst_mv_64f"), Names{});
     EXPECT_EQ(signedSizesOf("vonkCopy_ma_32f_SS"), Names{});
-}
-
-TEST(ModelVectorSum, WalksForwardThroughAnOverlap) {
-    std::array<float, 5> a = {1, 10, 20, 30, 40};
-    const std::array<float, 4> b = {1, 2, 3, 4};
-    const model::Outcome outcome = run("vonkAdd_vv_32f", {to(a), to(b), to(&a[1]), 4});
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(a, (std::array<float, 5>{1, 2, 4, 7, 11}));
-    EXPECT_FALSE(outcome.open);
-    ASSERT_EQ(outcome.writes.size(), 4U);
-    EXPECT_EQ(outcome.writes[3].address, to(&a[4]));
-    EXPECT_EQ(outcome.writes[3].size, 4U);
-}
-
-TEST(ModelVectorSum, LanesReadAnObjectBeforeTheyWriteIt) {
-    std::array<float, 5> a = {1, 10, 20, 30, 40};
-    const std::array<float, 4> b = {1, 2, 3, 4};
-    EXPECT_FALSE(run("vonkAdd_vv_32f_4x1", {to(a), to(b), to(&a[1])}).open);
-    EXPECT_EQ(a, (std::array<float, 5>{1, 2, 12, 23, 34}));
-}
-
-TEST(ModelVectorSum, TwoPartsOfAnObjectAreOpenUnderAPartialOverlapOnly) {
-    std::array<float, 7> a = {1, 2, 3, 4, 5, 6, 7};
-    const std::array<float, 6> b = {};
-    EXPECT_TRUE(run("vonkAdd_vv_32f_6x1", {to(a), to(b), to(&a[1])}).open);
-    EXPECT_FALSE(run("vonkAdd_vv_32f_6x1", {to(a), to(b), to(a)}).open);
-    std::array<double, 7> wide = {};
-    EXPECT_FALSE(run("vonkAdd_vv_64f_6x1", {to(wide), to(wide), to(&wide[1])}).open);
-}
-
-TEST(ModelVectorSum, FixedReal32HoldsTheSingleVector) {
-    const std::array<float, 6> objects = {1, 2, 3, 10, 20, 30};
-    std::array<float, 6> dst = {100, 200, 300, 0, 0, 0};
-    run("vonkSub_vva_32f_3x1", {to(dst), to(objects), 12, to(dst), 12, 2});
-    EXPECT_EQ(dst, (std::array<float, 6>{99, 198, 297, 90, 180, 270}));
-    std::array<double, 6> wideObjects = {1, 2, 3, 10, 20, 30};
-    std::array<double, 6> wide = {100, 200, 300, 0, 0, 0};
-    run("vonkSub_vva_64f_3x1", {to(wide), to(wideObjects), 24, to(wide), 24, 2});
-    EXPECT_EQ(wide, (std::array<double, 6>{99, 198, 297, 89, 178, 267}));
-}
-
-TEST(ModelVectorSum, BlocksOfFourAreOpenWhereAnObjectFeedsALaterOne) {
-    std::array<float, 24> a = {};
-    const std::array<float, 15> b = {};
-    // Destination n lies on source n + 1.
-    EXPECT_TRUE(run("vonkSub_vava_32f_3x1", {to(a), 12, to(b), 12, to(&a[3]), 12, 4}).open);
-    EXPECT_FALSE(run("vonkSub_vava_32f_3x1", {to(a), 12, to(b), 12, to(&a[3]), 12, 3}).open);
-    EXPECT_FALSE(run("vonkAdd_vava_32f_3x1", {to(a), 12, to(b), 12, to(&a[3]), 12, 4}).open);
-    EXPECT_FALSE(run("vonkSub_vava_32f_3x1", {to(&a[3]), 12, to(b), 12, to(a), 12, 4}).open);
-}
-
-TEST(ModelVectorSum, NullEntriesStopAtTheirTurnOrBeforeAnything) {
-    std::array<double, 4> a = {1, 2, 3, 4};
-    std::array<double, 4> dst = {};
-    std::array<double *, 4> table = {&a[0], &a[1], &a[2], nullptr};
-    std::array<double *, 4> dstTable = {&dst[3], &dst[2], &dst[1], &dst[0]};
-    EXPECT_EQ(run("vonkAdd_vv_64f_P", {to(table), 0, to(table), 0, to(dstTable), 0, 4}).status, -8);
-    EXPECT_EQ(dst, (std::array<double, 4>{0, 6, 4, 2}));
-    dst = {};
-    EXPECT_EQ(run("vonkAdd_vava_64f_PS2", {to(table), 0, 8, to(table), 0, 8, to(dstTable), 0, 8, 4, 0}).status, -8);
-    EXPECT_EQ(run("vonkAdd_vava_64f_PS2", {to(table), 0, 8, to(table), 0, 8, to(dstTable), 0, 8, 3, 0}).status, 0);
-    EXPECT_EQ(dst, (std::array<double, 4>{}));
-    // A list of four objects of one element each, each 8 bytes behind its pointer; the fourth pointer is null.
-    EXPECT_EQ(run("vonkSub_vav_64f_L", {to(table), bytes(8), to(a), to(dstTable), bytes(-8), 1, 4}).status, -8);
-    EXPECT_EQ(dst, (std::array<double, 4>{3, 2, 1, 0}));
-}
-
-TEST(ModelVectorSum, ChecksInOrder) {
-    std::array<float, 4> a = {};
-    EXPECT_EQ(run("vonkAdd_vv_32f", {to(a), to(a), 0, 0}).status, -8);
-    EXPECT_EQ(run("vonkAdd_vv_32f", {to(a), to(a), to(a), 0}).status, -6);
-    EXPECT_EQ(run("vonkAdd_vav_32f", {to(a), 0, to(a), to(a), 0, 0, 0}).status, -6);
-    EXPECT_EQ(run("vonkAdd_vav_32f", {to(a), 0, to(a), to(a), 0, 1, 0}).status, 0);
-}
-
-TEST(ModelVectorSum, ReportsNansOfTheArithmetic) {
-    const float infinity = std::numeric_limits<float>::infinity();
-    std::array<float, 2> a = {infinity, 1};
-    std::array<float, 2> dst = {};
-    EXPECT_FALSE(run("vonkAdd_vv_32f", {to(a), to(a), to(dst), 2}).nanSeen);
-    EXPECT_TRUE(run("vonkSub_vv_32f", {to(a), to(a), to(dst), 2}).nanSeen);
-}
-
-TEST(ModelOperands, OnlyTheLowBitsOfNarrowWordsCountAndStridesAreSigned) {
-    const std::array<double, 4> a = {1, 2, 3, 4};
-    const std::array<double, 2> b = {10, 20};
-    std::array<double, 4> dst = {};
-    const std::uint64_t garbage = 0xdeadbeef00000000;
-    // Objects of two elements that walk backwards in both directions.
-    run("vonkAdd_vav_64f_S2", {to(&a[3]), garbage | bytes(-16), garbage | bytes(-8), to(b), garbage | 8, to(dst),
-                               garbage | 16, garbage | 8, garbage | 2, garbage | 2});
-    EXPECT_EQ(dst, (std::array<double, 4>{14, 23, 12, 21}));
-}
-
-TEST(ModelOperands, TablesServeAllObjectsAndListsOneEach) {
-    std::array<float, 6> a = {1, 2, 3, 4, 5, 6};
-    const std::array<float, 2> single = {10, 20};
-    std::array<const float *, 2> singleTable = {&single[0], &single[1]};
-    std::array<float *, 2> positions = {&a[0], &a[3]};
-    std::array<float, 6> dst = {};
-    std::array<float *, 2> dstPositions = {&dst[0], &dst[3]};
-    run("vonkSub_vav_32f_P", {to(positions), 0, to(singleTable), 0, to(dstPositions), 0, 2, 3});
-    EXPECT_EQ(dst, (std::array<float, 6>{-9, -8, -7, -16, -15, -14}));
-    dst = {};
-    run("vonkSub_vav_32f_PS2", {to(positions), 4, 4, to(singleTable), 0, to(dstPositions), 0, 8, 2, 2});
-    EXPECT_EQ(dst, (std::array<float, 6>{-8, 0, -7, -15, 0, -14}));
-    dst = {};
-    run("vonkSub_vav_32f_LS2", {to(positions), 0, 8, to(single), 4, to(dstPositions), 4, bytes(-4), 2, 2});
-    EXPECT_EQ(dst, (std::array<float, 6>{-17, -9, 0, -14, -6, 0}));
-}
-
-TEST(ModelOperands, ACallThatWritesItsOwnTableIsOpen) {
-    std::array<double, 3> a = {1, 2, 3};
-    std::array<std::uint64_t, 3> table = {to(&a[0]), to(&a[1]), to(&a[2])};
-    std::array<std::uint64_t, 3> dstTable = {to(&table[1]), to(&a[1]), to(&a[2])};
-    EXPECT_TRUE(run("vonkAdd_vv_64f_P", {to(table), 0, to(table), 0, to(dstTable), 0, 3}).open);
-}
-
-TEST(ModelLuDecomposition, FactorsThroughThePermutation) {
-    const std::array<float, 4> src = {1, 2, 4, 6};
-    std::array<float, 4> dst = {};
-    std::array<std::uint32_t, 2> pivots = {7, 7};
-    const model::Outcome outcome = run("vonkLUDecomp_m_32f", {to(src), 8, to(pivots), to(dst), 8, 2});
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_FALSE(outcome.open);
-    EXPECT_EQ(pivots, (std::array<std::uint32_t, 2>{1, 0}));
-    EXPECT_EQ(dst, (std::array<float, 4>{0.25, 0.5, 4, 6}));
-}
-
-TEST(ModelLuDecomposition, ATinyPivotFailsAfterItsExchange) {
-    const double below = std::nextafter(0x1p-23, 0);
-    const std::array<double, 9> src = {0, 1, 2, 0x1p-24, 3, 4, below, 5, 6};
-    std::array<double, 9> dst = {};
-    std::array<std::uint32_t, 3> pivots = {};
-    const Words words = {to(src), 24, to(pivots), to(dst), 24};
-    EXPECT_EQ(run("vonkLUDecomp_m_64f_3x3", words).status, -10);
-    EXPECT_EQ(pivots, (std::array<std::uint32_t, 3>{2, 1, 0}));
-    EXPECT_EQ(dst, src);
-}
-
-TEST(ModelLuDecomposition, TheLastPivotOfALaterObjectIsLookedForFurtherOn) {
-    const std::array<float, 8> src = {1, 0, 0, 1, 1, 1, 1, 1};
-    std::array<float, 10> dst = {};
-    std::array<std::uint32_t, 4> pivots = {};
-    const Words words = {to(src), 16, 8, to(pivots), to(dst), 16, 8, 2, 2};
-    dst[9] = 5; // a row behind the last element of object 1, which itself becomes 0
-    EXPECT_EQ(run("vonkLUDecomp_ma_32f", words).status, 0);
-    EXPECT_EQ(dst[7], 0);
-    dst[9] = 0;
-    EXPECT_EQ(run("vonkLUDecomp_ma_32f", words).status, -10);
-}
-
-TEST(ModelLuDecomposition, TheDisplacedPivotOfATableIsASlotFurtherOn) {
-    std::array<double, 3> src = {1, 0, 3};
-    std::array<double, 3> dst = {0, 0, 0};
-    std::array<double *, 1> table = {&src[0]};
-    std::array<double *, 2> dstTable = {&dst[0], &dst[1]};
-    std::array<std::uint32_t, 2> pivots = {};
-    // Order 1: object 1 is tested through slot 1, one element on, which holds 0.
-    const Words words = {to(table), 0, to(pivots), to(dstTable), 0, 1, 2};
-    EXPECT_EQ(run("vonkLUDecomp_ma_64f_P", words).status, -10);
-    dst[2] = 1;
-    EXPECT_EQ(run("vonkLUDecomp_ma_64f_P", words).status, 0);
-}
-
-TEST(ModelLuDecomposition, AnUnorderedCandidateIsTakenDifferentlyByEachKindOfForm) {
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    const std::array<double, 9> src = {1, 1, 2, nan, 3, 4, 2, 5, 7};
-    std::array<double, 9> dst = {};
-    std::array<std::uint32_t, 3> pivots = {};
-    run("vonkLUDecomp_m_64f", {to(src), 24, to(pivots), to(dst), 24, 3});
-    EXPECT_EQ(pivots[0], 0U);
-    run("vonkLUDecomp_m_64f_3x3", {to(src), 24, to(pivots), to(dst), 24});
-    EXPECT_EQ(pivots[0], 2U);
-    EXPECT_EQ(run("vonkLUDecomp_ma_64f", {to(src), 0, 24, to(pivots), to(dst), 0, 24, 3, 1}).status, -10);
-    EXPECT_EQ(pivots[0], 1U);
-    const std::array<double, 9> smallLast = {1, 1, 2, nan, 3, 4, 0.5, 5, 7};
-    run("vonkLUDecomp_m_64f", {to(smallLast), 24, to(pivots), to(dst), 24, 3});
-    EXPECT_EQ(pivots[0], 0U);
-    EXPECT_EQ(run("vonkLUDecomp_m_64f_3x3", {to(smallLast), 24, to(pivots), to(dst), 24}).status, -10);
-    EXPECT_EQ(pivots[0], 1U);
-    const float nan32 = std::numeric_limits<float>::quiet_NaN();
-    const std::array<float, 9> src32 = {1, 1, 2, nan32, 3, 4, 2, 5, 7};
-    std::array<float, 9> dst32 = {};
-    run("vonkLUDecomp_ma_32f", {to(src32), 0, 12, to(pivots), to(dst32), 0, 12, 3, 1});
-    EXPECT_EQ(pivots[0], 2U);
-}
-
-TEST(ModelLuDecomposition, SmallKernelsKeepTheUnroundedQuotient) {
-    const PrecisionControl wide(PrecisionControl::bits64);
-    const std::array<double, 9> src = {3, 3, 0, 1, 1, 5, 0, 1, 0};
-    std::array<double, 9> dst = {};
-    std::array<std::uint32_t, 3> pivots = {};
-    run("vonkLUDecomp_m_64f", {to(src), 24, to(pivots), to(dst), 24, 3});
-    EXPECT_EQ(dst, (std::array<double, 9>{3, 3, 0, 1.0 / 3, 0x1p-54, 5, 0, 1, 0}));
-    run("vonkLUDecomp_m_64f_3x3", {to(src), 24, to(pivots), to(dst), 24});
-    EXPECT_EQ(dst, (std::array<double, 9>{3, 3, 0, 1.0 / 3, 0, 5, 0, 1, 0}));
-    EXPECT_EQ(pivots, (std::array<std::uint32_t, 3>{0, 2, 1}));
-}
-
-TEST(ModelLuDecomposition, AQuotientBelowTheRangeShowsAtEveryPrecision) {
-    const std::array<double, 9> src = {0x1p10, 0x1p30, 0, 0x1p-1074, 0, 1, 0, 1, 0};
-    std::array<double, 9> dst = {};
-    std::array<std::uint32_t, 3> pivots = {};
-    for (const unsigned bits : {PrecisionControl::bits53, PrecisionControl::bits64}) {
-        const PrecisionControl precision(bits);
-        run("vonkLUDecomp_m_64f", {to(src), 24, to(pivots), to(dst), 24, 3});
-        EXPECT_EQ(dst, (std::array<double, 9>{0x1p10, 0x1p30, 0, 0, 0, 1, 0, 1, 0}));
-        run("vonkLUDecomp_m_64f_3x3", {to(src), 24, to(pivots), to(dst), 24});
-        EXPECT_EQ(dst, (std::array<double, 9>{0x1p10, 0x1p30, 0, 0, -0x1p-1054, 1, 0, 1, 0}));
-    }
-}
-
-TEST(ModelLuDecomposition, TheCopyKeepsASignallingNan) {
-    const std::array<std::uint64_t, 1> src = {0x7ff0000000000001};
-    std::array<std::uint64_t, 1> dst = {};
-    std::array<std::uint32_t, 1> pivots = {};
-    const model::Outcome outcome = run("vonkLUDecomp_m_64f", {to(src), 0, to(pivots), to(dst), 0, 1});
-    EXPECT_EQ(outcome.status, -10);
-    EXPECT_FALSE(outcome.nanSeen);
-    EXPECT_EQ(dst, src);
-}
-
-TEST(ModelLuDecomposition, IsOpenWhereRowsOrIndicesCollide) {
-    std::array<float, 4> src = {1, 2, 4, 6};
-    std::array<float, 6> dst = {};
-    std::array<std::uint32_t, 2> pivots = {};
-    EXPECT_TRUE(run("vonkLUDecomp_m_32f", {to(src), 8, to(pivots), to(dst), 0, 2}).open);
-    EXPECT_TRUE(run("vonkLUDecomp_m_32f", {to(src), 8, to(dst), to(&dst[1]), 8, 2}).open);
-    EXPECT_FALSE(run("vonkLUDecomp_m_32f", {to(src), 8, to(pivots), to(src), 8, 2}).open);
-}
-
-TEST(ModelLuBackSubstitution, SolvesThroughThePermutation) {
-    const std::array<float, 4> factors = {0.25, 0.5, 4, 6};
-    const std::array<std::uint32_t, 2> pivots = {1, 0};
-    const std::array<float, 2> b = {5, 16};
-    std::array<float, 2> x = {};
-    EXPECT_EQ(run("vonkLUBackSubst_mv_32f", {to(factors), 8, to(pivots), to(b), to(x), 2}).status, 0);
-    EXPECT_EQ(x, (std::array<float, 2>{1, 2}));
-}
-
-TEST(ModelLuBackSubstitution, LoopedSumsAreRoundedAndUnrolledOnesAreNot) {
-    const std::array<double, 9> factors = {1, 0, 0, 0, 1, 0, 1, 0x1p-60, 1};
-    const std::array<std::uint32_t, 3> pivots = {0, 1, 2};
-    const std::array<double, 3> b = {1, 1, 1};
-    std::array<double, 3> x = {};
-    const Words one = {to(factors), 24, to(pivots), to(b), to(x)};
-    const Words many = {to(factors), 99, 24, to(pivots), to(b), 24, to(x), 24, 1};
-    {
-        const PrecisionControl wide(PrecisionControl::bits64);
-        run("vonkLUBackSubst_mv_64f_3x3", one);
-        EXPECT_EQ(x, (std::array<double, 3>{1, 1, 0}));
-        run("vonkLUBackSubst_mva_64f_3x3", many);
-        EXPECT_EQ(x, (std::array<double, 3>{1, 1, -0x1p-60}));
-    }
-    const PrecisionControl narrow(PrecisionControl::bits53);
-    run("vonkLUBackSubst_mva_64f_3x3", many);
-    EXPECT_EQ(x, (std::array<double, 3>{1, 1, 0}));
-}
-
-TEST(ModelLuBackSubstitution, OneMatrixInAListFormHasColumnsFourBytesApart) {
-    // Row 0 reads 1 and, four bytes on, a number just above 2; row 1 reads 0 and 4.
-    const std::array<std::uint32_t, 8> factors = {0, 0x3ff00000, 0x40000000, 0, 0, 0, 0x40100000, 0};
-    const std::array<std::uint32_t, 2> pivots = {0, 1};
-    std::array<double, 2> b = {0, 4};
-    std::array<double, 2> x = {};
-    std::array<double *, 1> rights = {b.data()};
-    std::array<double *, 1> solutions = {x.data()};
-    run("vonkLUBackSubst_mva_64f_L", {to(factors), 99, 16, to(pivots), to(rights), 0, to(solutions), 0, 2, 1});
-    EXPECT_EQ(x[0], -std::bit_cast<double>(std::uint64_t{0x400000003ff00000}));
-    EXPECT_EQ(x[1], 1);
-}
-
-TEST(ModelLuBackSubstitution, ASolutionOverThePermutationIsOpen) {
-    const std::array<float, 4> factors = {1, 0, 0, 1};
-    std::array<std::uint32_t, 3> pivots = {0, 1, 0};
-    const std::array<float, 2> b = {5, 16};
-    EXPECT_TRUE(run("vonkLUBackSubst_mv_32f", {to(factors), 8, to(pivots), to(b), to(&pivots[1]), 2}).open);
 }
 
 } // namespace

@@ -10,8 +10,8 @@ bool overlap(std::uintptr_t first, std::size_t firstSize, std::uintptr_t second,
 }
 
 void Memory::move(std::uintptr_t to, std::uintptr_t from, std::size_t size) {
-    std::memmove(reinterpret_cast<void *>(to), reinterpret_cast<const void *>(from), size);
     note(to, size);
+    std::memmove(reinterpret_cast<void *>(to), reinterpret_cast<const void *>(from), size);
 }
 
 std::uintptr_t Memory::loadEntry(std::uintptr_t address) {
@@ -32,7 +32,8 @@ bool Memory::holdsApproximation(std::uintptr_t address, std::size_t size) const 
 }
 
 void Memory::note(std::uintptr_t address, std::size_t size) {
-    outcome_.writes.push_back({address, size});
+    Write &write = outcome_.writes.emplace_back(Write{address, size});
+    std::memcpy(&write.before, reinterpret_cast<const void *>(address), size);
     writtenWords_.insert(address / 8);
     writtenWords_.insert((address + size - 1) / 8);
 }

@@ -26,8 +26,8 @@ public:
     }
 
     template <class Value> void store(std::uintptr_t address, Value value) {
-        std::memcpy(reinterpret_cast<void *>(address), &value, sizeof value);
         note(address, sizeof value);
+        std::memcpy(reinterpret_cast<void *>(address), &value, sizeof value);
     }
 
     // Stores an element that is held to accuracy; see Approximation.
@@ -51,7 +51,7 @@ public:
     void markNan() { outcome_.nanSeen = true; }
 
 private:
-    void note(std::uintptr_t address, std::size_t size);
+    void note(std::uintptr_t address, std::size_t size); // a store that is about to happen
     void abandonIfWritten(std::uintptr_t address, std::size_t size);
 
     Outcome &outcome_;

@@ -1,13 +1,16 @@
 // Laying out, making and judging one call. See literal.h.
 #include "literal.h"
 
+#include "both.h"
 #include "invoke.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <span>
 #include <stdexcept>
+#include <unordered_map>
 
 namespace literal {
 namespace {
@@ -87,9 +90,14 @@ const std::vector<Function> &allMembers() {
 }
 
 const Function &function(std::string_view name) {
-    const auto found = std::ranges::find(allMembers(), name, &Function::name);
-    if (found == allMembers().end()) throw std::out_of_range(std::string(name));
-    return *found;
+    static const auto byName = [] {
+        std::unordered_map<std::string_view, const Function *> map;
+        for (const Function &member : allMembers()) map.emplace(member.name, &member);
+        return map;
+    }();
+    const auto found = byName.find(name);
+    if (found == byName.end()) throw std::out_of_range(std::string(name));
+    return *found->second;
 }
 
 std::vector<const Function *> members(std::string_view section) {
@@ -100,10 +108,27 @@ std::vector<const Function *> members(std::string_view section) {
     return found;
 }
 
-std::int32_t callWith(std::string_view name, const std::vector<std::uint64_t> &words) {
+namespace {
+
+const Function &functionFor(std::string_view name, const std::vector<std::uint64_t> &words) {
     const Function &called = function(name);
     if (words.size() != called.parameters.size()) throw std::length_error("words of " + called.name);
-    return support::invoke(exportOf(called), called, words);
+    return called;
+}
+
+} // namespace
+
+std::int32_t callWith(std::string_view name, const std::vector<std::uint64_t> &words) {
+    const Function &called = functionFor(name, words);
+    model::Outcome outcome;
+    return support::invokeBoth(exportOf(called), called, words, outcome);
+}
+
+model::Outcome runWhereFixed(std::string_view name, const std::vector<std::uint64_t> &words) {
+    const Function &called = functionFor(name, words);
+    model::Outcome outcome;
+    support::invokeBoth(exportOf(called), called, words, outcome, support::WhereOpen::leaveOut);
+    return outcome;
 }
 
 bool isPointer(Kind kind) {
@@ -375,9 +400,37 @@ Call::Picture Call::picture() const {
 std::int32_t Call::run() {
     words_ = words();
     before_ = picture();
-    const std::int32_t status = support::invoke(exportOf(function_), function_, words_);
+    model::Outcome outcome{0, {}, false, true, {}};
+    // An operand of two mappings lies between guarded pages, which are there for the library's accesses.
+    const bool guarded = std::ranges::any_of(places_, [](const Place &place) { return place.alias != 0; });
+    const std::int32_t status = guarded ? support::invoke(exportOf(function_), function_, words_)
+                                        : support::invokeBoth(exportOf(function_), function_, words_, outcome);
     after_ = picture();
+    if (!outcome.open && wroteElsewhere(outcome))
+        throw support::Disagreement(function_.name + " writes where the model does not");
     return status;
+}
+
+// A byte of the call's memory has changed that the model leaves alone; scratch memory is the library's own.
+bool Call::wroteElsewhere(const model::Outcome &outcome) const {
+    Picture expected = after_;
+    const auto takeBack = [](auto &memory, const auto &now, const auto &then, const model::Write &write) {
+        const auto first = reinterpret_cast<std::uintptr_t>(now.data());
+        if (write.address - first >= std::as_bytes(std::span(now)).size()) return;
+        std::memcpy(reinterpret_cast<std::byte *>(memory.data()) + (write.address - first),
+                    reinterpret_cast<const std::byte *>(then.data()) + (write.address - first), write.size);
+    };
+    for (const model::Write &write : outcome.writes) {
+        takeBack(expected.memory, memory_, before_.memory, write);
+        takeBack(expected.pivots, pivots_, before_.pivots, write);
+        takeBack(expected.work, work_, before_.work, write);
+    }
+    for (const Block &block : blocks_)
+        if (block.parameter == "scratch") {
+            const std::ptrdiff_t at = block.address - memory_.data();
+            std::copy_n(before_.memory.begin() + at, block.bytes, expected.memory.begin() + at);
+        }
+    return expected.memory != before_.memory || expected.pivots != before_.pivots || expected.work != before_.work;
 }
 
 bool Call::changedNothing() const { return before_ == after_; }

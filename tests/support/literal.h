@@ -4,6 +4,7 @@
 #pragma once
 
 #include "catalogue.h"
+#include "model/model.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -20,8 +21,12 @@ const std::vector<catalogue::Function> &allMembers();
 
 bool isPointer(catalogue::Kind kind);
 
-// Calls the export with these words, as a caller of the header would.
+// Calls the export with these words, as a caller of the header would, after the model has done so: see both.h.
 std::int32_t callWith(std::string_view name, const std::vector<std::uint64_t> &words);
+
+// What the model says of a call; the export makes it too unless its outcome is open.
+model::Outcome runWhereFixed(std::string_view name, const std::vector<std::uint64_t> &words);
+
 template <class Element> std::uint64_t wordOf(Element *pointer) { return reinterpret_cast<std::uintptr_t>(pointer); }
 
 // vonkLUBackSubst_mva_64f and vonkQRBackSubst_mva_64f in `L`, of every order: take the columns of the matrix 4 bytes
@@ -122,7 +127,7 @@ public:
     void passAsUsual() { passed_.clear(); }
     std::vector<std::uint64_t> words();
 
-    std::int32_t run(); // may be left by a jump out of the export
+    std::int32_t run(); // the model, then the export; may be left by a jump out of that
 
     bool changedNothing() const;         // in the last run, in any memory of the call
     bool changedObject(std::uint32_t n); // a byte of object n of `dst`, or of its pivots where these are written
@@ -143,6 +148,7 @@ private:
     void layOut(Geometry geometry);
     std::uint64_t wordOf(const catalogue::Parameter &parameter);
     Picture picture() const;
+    bool wroteElsewhere(const model::Outcome &outcome) const;
     std::size_t bytesOf(const std::string &block) const;
     bool changed(const std::byte *address, std::size_t bytes) const;
     bool writesPivots() const { return function_.family->operation == "LUDecomp"; }
