@@ -36,7 +36,7 @@ while [ $# -gt 0 ]; do
     shift
 done
 case $minutes in
-'' | *[!0-9]*) fail "how many minutes? (--help tells more)" ;;
+'' | 0* | *[!0-9]*) fail "how many minutes? (--help tells more)" ;;
 esac
 case $build in
 sanitizers) options="-DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O1 -DVONKK3_SANITIZE=ON" ;;

@@ -99,7 +99,7 @@ step_levels() {
 step_comparisons() {
     plain || return
     seed=1
-    while [ "$(python3 scripts/verification.py --comparisons "$results")" -lt "$comparisons" ]; do
+    while [ "$(python3 scripts/verification.py --comparisons "$results" "$commit")" -lt "$comparisons" ]; do
         record "comparisons-$seed" $gcc/tests/compare --calls 100 --seed "$seed" || return
         seed=$((seed + 1))
     done
@@ -111,8 +111,9 @@ step_coverage() { record coverage sh scripts/coverage.sh; }
 
 # First that it finds what there is to find: all threads on the same memory.
 step_threads() {
-    build threads build/threads -S . -B build/threads -DVONKK3_EXAMPLES=OFF -DCMAKE_BUILD_TYPE=Release -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
-        -DVONKK3_LEVELS=x86-64 -DVONKK3_INSTRUMENT="-O0;-g1;-fsanitize=thread" -DCMAKE_EXE_LINKER_FLAGS=-fsanitize=thread || return
+    build threads build/threads -S . -B build/threads -DVONKK3_EXAMPLES=OFF -DCMAKE_BUILD_TYPE=Release \
+        -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ -DVONKK3_LEVELS=x86-64 \
+        -DVONKK3_INSTRUMENT="-O0;-g1;-fsanitize=thread" -DCMAKE_EXE_LINKER_FLAGS=-fsanitize=thread || return
     if TSAN_OPTIONS=halt_on_error=1 build/threads/tests/threads --calls 1 --share >"$results/threads-share" 2>&1 ||
         ! grep -q 'WARNING: ThreadSanitizer: data race' "$results/threads-share"; then
         echo "FAILED: the thread sanitizer finds no race on shared memory"

@@ -2,7 +2,7 @@
 """Writes docs/verification.md from the results of scripts/nightly.sh, or counts comparisons.
 
     verification.py FOLDER                    the page, on standard output
-    verification.py --comparisons FOLDER      how many comparisons without a failure its chunks of this commit hold
+    verification.py --comparisons FOLDER [COMMIT]      how many comparisons passed in its chunks of a commit, or of HEAD
 """
 import pathlib
 import re
@@ -87,11 +87,11 @@ def print_step(step, results):
 def main():
     arguments = sys.argv[1:]
     counts = arguments[:1] == ["--comparisons"]
-    if len(arguments) != (2 if counts else 1):
+    if len(arguments) not in ((2, 3) if counts else (1,)):
         sys.exit(__doc__)
-    results = results_in(arguments[-1])
+    results = results_in(arguments[1] if counts else arguments[0])
     if counts:
-        commit = output_of("git", "rev-parse", "--short", "HEAD")
+        commit = arguments[2] if len(arguments) == 3 else output_of("git", "rev-parse", "--short", "HEAD")
         print(sum(result.passed_and_failed()[0] for result in results
                   if result.step == "comparisons" and result.commit == commit))
         return

@@ -18,6 +18,7 @@
 #include <iostream>
 #include <iterator>
 #include <map>
+#include <queue>
 #include <set>
 #include <span>
 #include <stdexcept>
@@ -92,7 +93,7 @@ std::vector<std::string> linesAt(const std::string &library, const std::vector<s
     std::vector<std::string> lines;
     std::ifstream answers(base + ".out");
     for (std::string line; std::getline(answers, line);)
-        if (!line.empty()) lines.push_back(line);
+        if (!line.empty()) lines.push_back(line.substr(0, line.find(" (discriminator")));
     fs::remove(base + ".in");
     fs::remove(base + ".out");
     if (exitCode != 0 || lines.size() != wanted.size()) throw std::runtime_error("llvm-symbolizer failed");
@@ -111,37 +112,48 @@ std::size_t placesToLines(const fuzz::Runner &runner, const std::string &library
     for (Input &input : inputs) {
         const catalogue::Function &function = runner.functions()[input.steered.function];
         const std::string prefix = std::string(function.section->id) + suffix(function.type).data();
+        std::erase_if(input.reached, [&](std::uint32_t place) { // the stub of an export has a line of its own
+            return !lines[lineOf[place]].starts_with(VONKK3_SOURCE_FOLDER "/src/");
+        });
         for (std::uint32_t &reached : input.reached)
             reached = numbers.try_emplace(prefix + lines[lineOf[reached]], numbers.size()).first->second;
         std::ranges::sort(input.reached);
         input.reached.erase(std::unique(input.reached.begin(), input.reached.end()), input.reached.end());
     }
-    std::cerr << std::set<std::string>(lines.begin(), lines.end()).size() << " lines, " << numbers.size()
-              << " for each family and type\n";
+    std::cerr << numbers.size() << " lines, each once for each family and type that reaches it\n";
     return numbers.size();
 }
 
-// Those that add a line; the shortest inputs are asked first, and of these the ones that reach most.
+// Time and again the one that adds most, of equals the shortest.
 std::vector<Input> choose(std::vector<Input> inputs, std::size_t lines) {
-    std::ranges::stable_sort(inputs, [](const Input &a, const Input &b) {
-        const auto cost = [](const Input &input) { return input.steered.bytes.size() / 16; };
-        return cost(a) != cost(b) ? cost(a) < cost(b) : a.reached.size() > b.reached.size();
-    });
-    std::vector<std::uint32_t> times(lines);
-    std::vector<Input> chosen;
-    for (Input &input : inputs) {
-        if (std::ranges::all_of(input.reached, [&](std::uint32_t line) { return times[line] > 0; })) continue;
-        for (const std::uint32_t line : input.reached) ++times[line];
-        chosen.push_back(std::move(input));
-    }
-    // What later ones made superfluous goes, the longest first.
+    std::vector<bool> covered(lines);
+    const auto gainOf = [&](const Input &input) {
+        return std::ranges::count_if(input.reached, [&](std::uint32_t line) { return !covered[line]; });
+    };
+    struct Candidate {
+        std::ptrdiff_t gain; // may have become less since
+        std::size_t length;
+        std::size_t input;
+        bool operator<(const Candidate &other) const {
+            return gain != other.gain ? gain < other.gain : length > other.length;
+        }
+    };
+    std::priority_queue<Candidate> candidates;
+    for (std::size_t k = 0; k < inputs.size(); ++k)
+        candidates.push({gainOf(inputs[k]), inputs[k].steered.bytes.size(), k});
     std::vector<Input> kept;
-    for (; !chosen.empty(); chosen.pop_back()) {
-        Input &input = chosen.back();
-        if (std::ranges::any_of(input.reached, [&](std::uint32_t line) { return times[line] == 1; }))
-            kept.push_back(std::move(input));
-        else
-            for (const std::uint32_t line : input.reached) --times[line];
+    while (!candidates.empty()) {
+        Candidate best = candidates.top();
+        candidates.pop();
+        const std::ptrdiff_t gain = gainOf(inputs[best.input]);
+        if (gain == 0) continue;
+        if (gain < best.gain) {
+            best.gain = gain;
+            candidates.push(best);
+            continue;
+        }
+        for (const std::uint32_t line : inputs[best.input].reached) covered[line] = true;
+        kept.push_back(std::move(inputs[best.input]));
     }
     std::ranges::stable_sort(kept, {}, [](const Input &input) { return input.steered.function; });
     return kept;
