@@ -52,7 +52,7 @@ class Plot:
     """Groups of horizontal bars; each bar is (label, nanoseconds, class of colour)."""
 
     COLOURS = {"ours": "#3f51b5", "light": "#9fa8da", "peer": "#b0b0b0"}
-    LEFT, WIDTH, BAR = 190, 470, 15
+    LEFT, WIDTH, BAR = 215, 445, 15
 
     def __init__(self, title, source, legend):
         self.title, self.source, self.legend, self.groups = title, source, legend, []
