@@ -1,7 +1,7 @@
 #!/bin/sh
 # Builds the documentation site into build/site, from the catalogue and docs/site; open build/site/index.html. A link
-# that leads nowhere ends it. With --test it then tests the site: the finder's search, the calls that it shows (against
-# the library of the preset `release`, built if it is not), and its page by clicks in a browser.
+# that leads nowhere ends it. With --test it then tests the site: the calls in its prose, the finder's search, the calls
+# that it shows (against the library, built here), and its pages by clicks in a browser.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -10,12 +10,13 @@ need g++ gcc cmake make python3 mkdocs mkdocs-material python3-pymdownx
 mkdir -p build
 { cmake --preset release -DVONKK3_TESTS=OFF -B build/docs && cmake --build build/docs --target generated_files
 } >build/docs.log 2>&1 || { tail -n 40 build/docs.log >&2; exit 1; }
-PYTHONDONTWRITEBYTECODE=1 python3 docs/site/assemble.py build/docs/src/generated/functions.json build/docs
+python3 -B docs/site/assemble.py build/docs/src/generated/functions.json build/docs
 mkdocs build --quiet --strict --config-file build/docs/mkdocs.yml --site-dir "$PWD/build/site"
-PYTHONDONTWRITEBYTECODE=1 python3 docs/site/check_links.py build/site
+python3 -B docs/site/check_links.py build/site
 
 [ "${1:-}" = --test ] || exit 0
 need nodejs chromium chromium-driver python3-selenium
+python3 -B tests/site/pages_test.py . gcc
 node tests/site/search_test.js docs/site/finder build/site/assets/catalogue.js
 cmake --build build/docs --target vonkk3 --parallel "$(nproc)" >build/docs.log 2>&1 || { tail -n 40 build/docs.log >&2; exit 1; }
 sh tests/site/calls_test.sh "$PWD" build/site/assets/catalogue.js "$PWD/build/docs" gcc

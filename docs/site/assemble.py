@@ -41,6 +41,7 @@ def reference(catalogue, folder):
         page = folder / (family["id"] + ".md")
         functions = [f for f in catalogue["functions"] if f["family"] == family["id"]]
         text = page.read_text(encoding="utf-8")
+        text = text.replace("## Overlap\n\n", "## Overlap\n\n[What overlap means, and all families](../overlap.md).\n\n")
         page.write_text(text + prototypes(functions), encoding="utf-8")
     for page in folder.glob("*.md"):
         text = page.read_text(encoding="utf-8").replace("Generated from the catalogue of functions; do not edit.\n\n", "")

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Checks the built site: every link and picture leads to a file of it, every fragment to an anchor or to a function,
-and nothing is fetched from elsewhere.
+nothing is fetched from elsewhere, and every name of a function, or beginning of one, exists.
 
     check_links.py SITE_FOLDER
 """
@@ -15,7 +15,12 @@ class Page(html.parser.HTMLParser):
     def __init__(self, text):
         super().__init__()
         self.links, self.fetched, self.anchors = [], [], set()
+        self.names = set()
         self.feed(text)
+
+    def handle_data(self, data):
+        # Patterns, as vonk{Add,Sub}, are the generator's; it checks them.
+        self.names.update(re.findall(r"\bvonk[A-Z0-9]\w*\b(?![{*?])", data))
 
     def handle_starttag(self, tag, attributes):
         found = dict(attributes)
@@ -33,8 +38,12 @@ def main():
     root = pathlib.Path(sys.argv[1]).resolve()
     pages = {path: Page(path.read_text(encoding="utf-8")) for path in root.rglob("*.html")}
     functions = set(re.findall(r'\["(vonk\w+)"', (root / "assets" / "catalogue.js").read_text(encoding="utf-8")))
+    beginnings = {"_".join(name.split("_")[:k]) for name in functions for k in range(1, 6)}
+    beginnings |= {"vonkGetLibVersion", "vonkOk", "vonkErrSize", "vonkErrNullPtr", "vonkErrSingular", "vonkErrNotPosDef", "vonkk3"}
     errors = []
     for path, page in pages.items():
+        for name in sorted(page.names - functions - beginnings):
+            errors.append(f"{path.relative_to(root)}: {name} is no function")
         if path.name == "404.html":  # its links begin at the root of a server
             continue
         where = path.relative_to(root)

@@ -19,6 +19,9 @@ PEERS = ["Add_mama", "Mul_mama", "Mul_mva", "Transpose_ma", "FrobNorm_ma", "LUDe
 SINGLES = [("Mul_mm_32f_4x4", "Mul_mama_32f_4x4"), ("LUDecomp_m_32f_4x4", "LUDecomp_ma_32f_4x4"),
            ("Add_vv_32f_4x1", "Add_vava_32f_4x1"), ("Sub_vv_32f_3x1", "Sub_vava_32f_3x1")]
 
+TYPES = ["Mul_mama", "Mul_mava", "LUDecomp_ma", "LUBackSubst_mava", "CholeskyDecomp_ma", "CholeskyBackSubst_mava",
+         "QRDecomp_ma", "QRBackSubst_mava", "Invert_ma"]
+
 
 def row_name(operation, layout, count):
     return f"vonk{operation}_32f_4x4" + (f"_{layout}" if layout else "") + f"/{count}"
@@ -27,6 +30,7 @@ def row_name(operation, layout, count):
 def needed():
     names = [row_name(op, layout, count) for op in BY_LAYOUT for layout in LAYOUTS for count in (64, 2048)]
     names += [row_name(op, "", 2048) for op in PEERS]
+    names += [f"vonk{op}_{element}_4x4/2048" for op in TYPES for element in ("32f", "64f")]
     names += [f"vonk{name}/64" for pair in SINGLES for name in pair]
     return list(dict.fromkeys(names))
 
@@ -48,7 +52,7 @@ class Plot:
     """Groups of horizontal bars; each bar is (label, nanoseconds, class of colour)."""
 
     COLOURS = {"ours": "#3f51b5", "light": "#9fa8da", "peer": "#b0b0b0"}
-    LEFT, WIDTH, BAR = 190, 470, 15
+    LEFT, WIDTH, BAR = 215, 445, 15
 
     def __init__(self, title, source, legend):
         self.title, self.source, self.legend, self.groups = title, source, legend, []
@@ -110,6 +114,12 @@ def write(path, folder):
         row = rows[row_name(operation, "", 2048)]
         plot.group(operation, [("", row["ns"], "ours"), (row["peer"], row["peer_ns"], "peer")])
     (folder / "peers.svg").write_text(plot.text(), encoding="utf-8")
+
+    plot = Plot("Nanoseconds per object by type: 4x4, standard layout, 2048 objects", source, [("float", "light"), ("double", "ours")])
+    for operation in TYPES:
+        plot.group(operation, [("", rows[f"vonk{operation}_{element}_4x4/2048"]["ns"], colour)
+                               for element, colour in (("32f", "light"), ("64f", "ours"))])
+    (folder / "types.svg").write_text(plot.text(), encoding="utf-8")
 
     plot = Plot("Nanoseconds per object: a call for each, and one call for 64", source,
                 [("single calls", "light"), ("one call for the array", "ours")])

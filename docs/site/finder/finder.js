@@ -45,7 +45,7 @@
         const w = operand.matrix ? 16 : 6, parts = [];
         const box = (dx, dy, cls) => `<rect x="${x + dx}" y="${6 + dy}" width="${w}" height="16" class="${cls}"/>`;
         if (operand.array) parts.push(box(8, -4, 'back'), box(4, -2, 'back'));
-        parts.push(box(0, 0, 'front'));
+        parts.push(box(0, 0, 'front'), box(0, 0, 'tint'));
         if (operand.matrix) {
             const lines = operand.transposed ? [[5, 0, 5, 16], [11, 0, 11, 16]] : [[0, 5, 16, 5], [0, 11, 16, 11]];
             lines.forEach((l) => parts.push(`<line x1="${x + l[0]}" y1="${6 + l[1]}" x2="${x + l[2]}" y2="${6 + l[3]}"/>`));
