@@ -129,7 +129,7 @@ protected:
     }
 
     const support::Library library{support::defaultLibrary()};
-    support::Arena arena;
+    const support::Arena &arena = support::sharedArena();
     std::uint64_t compared = 0;
 };
 

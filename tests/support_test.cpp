@@ -31,10 +31,7 @@ using support::Call;
 using support::Extent;
 using support::Verdict;
 
-const Arena &arena() {
-    static const Arena one;
-    return one;
-}
+const Arena &arena() { return support::sharedArena(); }
 
 const std::vector<Function> &allFunctions() {
     static const std::vector<Function> all = catalogue::expand();

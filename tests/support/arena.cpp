@@ -52,4 +52,9 @@ void Arena::fill(std::uint64_t key) const {
     std::memcpy(bytes().data(), pool.data() + start, size);
 }
 
+const Arena &sharedArena() {
+    static const Arena one;
+    return one;
+}
+
 } // namespace support

@@ -35,4 +35,7 @@ public:
     void fill(std::uint64_t key) const;
 };
 
+// For all tests of one program: there is one address.
+const Arena &sharedArena();
+
 } // namespace support
