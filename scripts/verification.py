@@ -73,7 +73,7 @@ def print_step(step, results):
             passed, failed = (sum(numbers) for numbers in zip(*(chunk.passed_and_failed() for chunk in chunks)))
             dates = sorted({chunk.date for chunk in chunks})
             seconds = sum(int(chunk.seconds) for chunk in chunks)
-            print(f"Commit {commit}, {' to '.join(dates[:1] + dates[1:][-1:])}, {len(chunks)} chunk{'s' * (len(chunks) != 1)}, {seconds} s: "
+            print(f"- Commit {commit}, {' to '.join(dates[:1] + dates[1:][-1:])}, {len(chunks)} chunk{'s' * (len(chunks) != 1)}, {seconds} s: "
                   f"{passed + failed:,} comparisons, {failed} failures.")
         return
     separator = ""
