@@ -73,15 +73,17 @@ def print_step(step, results):
             passed, failed = (sum(numbers) for numbers in zip(*(chunk.passed_and_failed() for chunk in chunks)))
             dates = sorted({chunk.date for chunk in chunks})
             seconds = sum(int(chunk.seconds) for chunk in chunks)
-            print(f"Commit {commit}, {' to '.join(dates[:1] + dates[1:][-1:])}, {len(chunks)} chunks, {seconds} s: "
+            print(f"- Commit {commit}, {' to '.join(dates[:1] + dates[1:][-1:])}, {len(chunks)} chunk{'s' * (len(chunks) != 1)}, {seconds} s: "
                   f"{passed + failed:,} comparisons, {failed} failures.")
         return
+    separator = ""
     for result in results:
         outcome = "passed" if result.exit == "0" else f"FAILED (exit code {result.exit})"
-        print(f"`{result.command}`: {outcome}. Commit {result.commit}, {result.date}, {result.seconds} s.\n")
+        print(f"{separator}`{result.command}`: {outcome}. Commit {result.commit}, {result.date}, {result.seconds} s.")
+        separator = "\n"
         telling = result.telling()
         if telling:
-            print("\n".join("    " + line for line in telling[-12:]) + "\n")
+            print("\n" + "\n".join("    " + line for line in telling[-12:]))
 
 
 def main():
