@@ -310,7 +310,8 @@
                                          'aria-controls': 'finder-results' });
     const results = element('ul', { id: 'finder-results', 'aria-label': 'Functions found', 'aria-live': 'polite' });
     const chooserBox = element('form', { id: 'finder-chooser', 'aria-label': 'Choose a function' });
-    const detailBox = element('section', { id: 'finder-detail', 'aria-live': 'polite', 'aria-labelledby': 'finder-name' });
+    const detailBox = element('section', { id: 'finder-detail', 'aria-labelledby': 'finder-name' });
+    const status = element('p', { class: 'finder-offscreen', role: 'status' }); // read aloud when the function changes
     chooserBox.addEventListener('submit', (event) => event.preventDefault());
 
     function showResults() {
@@ -354,6 +355,7 @@
             const target = chooserBox.querySelector(how.focus);
             if (target) target.focus({ preventScroll: true });
         }
+        status.textContent = f.name + ': ' + f.usage.title;
         document.title = f.name + ' - vonkk3';
     }
 
@@ -370,7 +372,7 @@
             element('label', { for: 'finder-search', text: 'Search' }), searchBox,
             element('p', { class: 'finder-hint', id: 'finder-search-hint', text: 'Words of the field, or a name: “gemm 3x3 double”, “normalise”, “transform points”, “vonkQR”. Down goes to the results, Enter opens the first.' }),
             results]),
-        element('div', { class: 'finder-columns' }, [chooserBox, detailBox]));
+        element('div', { class: 'finder-columns' }, [chooserBox, detailBox]), status);
     window.addEventListener('hashchange', () => fromAddress(true));
     window.addEventListener('popstate', () => fromAddress(false));
     if (!fromAddress(true)) show(state.f);
