@@ -71,14 +71,14 @@
 
     function operandsText(f) {
         const words = f.operands.filter((o) => !o.written).map((o) =>
-            (o.array ? (o.matrix ? 'array of matrices' : 'array of vectors') : o.matrix ? 'one matrix' : 'one vector') +
-            (o.transposed ? ', transposed' : ''));
-        if (!words.length) return 'array of matrices';
+            (o.array ? 'an array of ' : 'one ') + (o.transposed ? 'transposed ' : '') +
+            (o.matrix ? (o.array ? 'matrices' : 'matrix') : o.array ? 'vectors' : 'vector'));
+        if (!words.length) return 'an array of matrices';
         const counts = f.parameters.filter((p) => p.kind === 'constant').length;
-        if (/^c/.test(f.group)) words.unshift('constant');
-        else if (counts === 1) words.push('constant');
+        if (/^c/.test(f.group)) words.unshift('a constant');
+        else if (counts === 1) words.push('a constant');
         else if (counts === 2) words.push('two constants');
-        return words.join(' × ').replace(/ × /g, ' and ');
+        return words.join(', ').replace(/, ([^,]*)$/, ' and $1');
     }
 
     // ---- Choosing ------------------------------------------------------------------------------------------------------
