@@ -1,8 +1,14 @@
 #!/bin/sh
 # Builds the documentation site into build/site, from the catalogue and docs/site; open build/site/index.html. A link
-# that leads nowhere ends it. With --test it then tests the site: the calls in its prose, the finder's search, the calls
-# that it shows (against the library, built here), and its pages by clicks in a browser.
+# that leads nowhere ends it.
+#
+#     docs.sh [--test [LIBRARY_FOLDER]]
+#
+# With --test it then tests the site: the calls in its prose, the finder's search, the calls that it shows, against the
+# library in LIBRARY_FOLDER or else one built here, and its pages by clicks in a browser.
 set -eu
+library=${2:-}
+[ -z "$library" ] || library=$(cd "$library" && pwd)
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 need g++ gcc cmake make python3 mkdocs mkdocs-material python3-pymdownx
@@ -18,6 +24,10 @@ python3 -B docs/site/check_links.py build/site
 need nodejs chromium chromium-driver python3-selenium
 python3 -B tests/site/pages_test.py . gcc
 node tests/site/search_test.js docs/site/finder build/site/assets/catalogue.js
-cmake --build build/docs --target vonkk3 --parallel "$(nproc)" >build/docs.log 2>&1 || { tail -n 40 build/docs.log >&2; exit 1; }
-sh tests/site/calls_test.sh "$PWD" build/site/assets/catalogue.js "$PWD/build/docs" gcc
+if [ -z "$library" ]; then
+    cmake --build build/docs --target vonkk3 --parallel "$(nproc)" >build/docs.log 2>&1 ||
+        { tail -n 40 build/docs.log >&2; exit 1; }
+    library=$PWD/build/docs
+fi
+sh tests/site/calls_test.sh "$PWD" build/site/assets/catalogue.js "$library" gcc
 /usr/bin/python3 -B tests/site/browser_test.py build/site # Debian's, which has selenium

@@ -141,12 +141,13 @@ std::span<const Usage> usages() { return usageTable; }
 std::span<const GroupWords> groupWords() { return groupWordTable; }
 
 const Usage &usageOf(const Function &function) {
-    const auto found = std::ranges::find_if(usageTable, [&](const Usage &row) {
+    const auto all = usages();
+    const auto found = std::ranges::find_if(all, [&](const Usage &row) {
         return row.section == function.section->id && row.operation == function.family->operation &&
                (row.groups.empty() || row.groups.starts_with(function.group + " ") ||
                 row.groups.ends_with(" " + function.group));
     });
-    if (found == usageTable.end()) throw std::logic_error("no usage of " + function.name);
+    if (found == all.end()) throw std::logic_error("no usage of " + function.name);
     return *found;
 }
 
@@ -182,8 +183,7 @@ std::string lengthOf(const Function &function, const Parameter &block) {
         return order + " * " + order + " * sizeof(" + std::string(element(function.type)) + ") + 4 * " + order;
     if (block.name == "work") return sizeOf(function, "rows");
     if (block.name == "pivots") return (function.operands.front().array ? "count * " : "") + order;
-    const std::string objects = array ? "count" : "1";
-    if (function.section->id != "extract") return objects;
+    if (function.section->id != "extract") return array ? "count" : "1";
     return (array ? "count * " : "") + std::string(has(function, "len?") ? "len" : "rows * cols");
 }
 

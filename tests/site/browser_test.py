@@ -78,6 +78,8 @@ def choosing(driver):
     option(driver, "size", "4")
     option(driver, "layout", "LS2")
     expect("choices give the name", name(driver) == "vonkLUBackSubst_mava_64f_4x4_LS2", name(driver))
+    status = driver.find_element(By.CSS_SELECTOR, '#vonkk3-finder [role="status"]').get_attribute("textContent")
+    expect("screen readers are told", status == "vonkLUBackSubst_mava_64f_4x4_LS2: Solve with LU factors", status)
     expect("the address names it", driver.current_url.endswith("#vonkLUBackSubst_mava_64f_4x4_LS2"), driver.current_url)
     prototype = driver.find_element(By.CSS_SELECTOR, '[aria-label="prototype"]').text
     expect("the prototype is there", prototype.startswith("VonkStatus vonkLUBackSubst_mava_64f_4x4_LS2(const double *const *src1,"), prototype)

@@ -71,14 +71,14 @@
 
     function operandsText(f) {
         const words = f.operands.filter((o) => !o.written).map((o) =>
-            (o.array ? (o.matrix ? 'array of matrices' : 'array of vectors') : o.matrix ? 'one matrix' : 'one vector') +
-            (o.transposed ? ', transposed' : ''));
-        if (!words.length) return 'array of matrices';
+            (o.array ? 'an array of ' : 'one ') + (o.transposed ? 'transposed ' : '') +
+            (o.matrix ? (o.array ? 'matrices' : 'matrix') : o.array ? 'vectors' : 'vector'));
+        if (!words.length) return 'an array of matrices';
         const counts = f.parameters.filter((p) => p.kind === 'constant').length;
-        if (/^c/.test(f.group)) words.unshift('constant');
-        else if (counts === 1) words.push('constant');
+        if (/^c/.test(f.group)) words.unshift('a constant');
+        else if (counts === 1) words.push('a constant');
         else if (counts === 2) words.push('two constants');
-        return words.join(' × ').replace(/ × /g, ' and ');
+        return words.join(', ').replace(/, ([^,]*)$/, ' and $1');
     }
 
     // ---- Choosing ------------------------------------------------------------------------------------------------------
@@ -310,7 +310,8 @@
                                          'aria-controls': 'finder-results' });
     const results = element('ul', { id: 'finder-results', 'aria-label': 'Functions found', 'aria-live': 'polite' });
     const chooserBox = element('form', { id: 'finder-chooser', 'aria-label': 'Choose a function' });
-    const detailBox = element('section', { id: 'finder-detail', 'aria-live': 'polite', 'aria-labelledby': 'finder-name' });
+    const detailBox = element('section', { id: 'finder-detail', 'aria-labelledby': 'finder-name' });
+    const status = element('p', { class: 'finder-offscreen', role: 'status' }); // read aloud when the function changes
     chooserBox.addEventListener('submit', (event) => event.preventDefault());
 
     function showResults() {
@@ -354,6 +355,7 @@
             const target = chooserBox.querySelector(how.focus);
             if (target) target.focus({ preventScroll: true });
         }
+        status.textContent = f.name + ': ' + f.usage.title;
         document.title = f.name + ' - vonkk3';
     }
 
@@ -370,7 +372,7 @@
             element('label', { for: 'finder-search', text: 'Search' }), searchBox,
             element('p', { class: 'finder-hint', id: 'finder-search-hint', text: 'Words of the field, or a name: “gemm 3x3 double”, “normalise”, “transform points”, “vonkQR”. Down goes to the results, Enter opens the first.' }),
             results]),
-        element('div', { class: 'finder-columns' }, [chooserBox, detailBox]));
+        element('div', { class: 'finder-columns' }, [chooserBox, detailBox]), status);
     window.addEventListener('hashchange', () => fromAddress(true));
     window.addEventListener('popstate', () => fromAddress(false));
     if (!fromAddress(true)) show(state.f);
