@@ -1,12 +1,12 @@
 #!/bin/sh
 # Sets everything up on a fresh Debian machine and runs all tests: on the library as GCC makes it for each instruction set,
-# and as Clang makes it with the sanitizers, with the benchmarks' check, the bits of what Clang makes of it at -O3, the
-# formatting, and clang-tidy of what has changed.
+# and as Clang makes it with the sanitizers, with the benchmarks' check, the bits of what Clang makes of it at -O3, and the
+# formatting.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 . scripts/presets.sh
-need g++ gcc clang libclang-rt-dev clang-format clang-tidy cmake ninja-build make ccache binutils pkg-config git \
+need g++ gcc clang libclang-rt-dev clang-format cmake ninja-build make ccache binutils pkg-config git \
     libgtest-dev libcli11-dev libbenchmark-dev libeigen3-dev libglm-dev libcglm-dev libxsmm-dev liblapacke-dev \
     libopenblas-dev qemu-user man-db groff-base
 jobs=$(nproc)
@@ -28,8 +28,5 @@ build "Clang with sanitizers" sanitizers vonkk3
 build "Clang at -O3" clang vonkk3 -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON
 build "GCC, with tests and benchmarks" bench all -DVONKK3_OTHER_LIBRARIES="$PWD/build/clang/vonkk3.so" \
     -DVONKK3_SANITIZED_LIBRARY="$PWD/build/sanitizers/vonkk3.so"
-echo "== clang-tidy"
-sh scripts/lint.sh --changed
-
 echo "== Tests"
 exec ctest --test-dir build/bench --output-on-failure --parallel "$jobs"
