@@ -14,7 +14,7 @@ awk '/^```c$/ { inside = 1; next } /^```$/ { inside = 0 } inside' "$source/READM
     -Wl,-rpath,"$build" -o "$scratch/example"
 "$scratch/example" >"$scratch/output"
 cat "$scratch/output"
-test "$(cat "$scratch/output")" = "status 0: x = 1 1 1 and 1 1 1"
+test "$(cat "$scratch/output")" = "x = 1 1 1 and 1 1 1"
 
 for page in README CONTRIBUTING; do
     grep -oE '\]\([^)#]+\)' "$source/$page.md" | tr -d '()]' | while read -r link; do
