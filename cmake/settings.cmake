@@ -14,10 +14,10 @@ if(VONKK3_CCACHE AND PROJECT_IS_TOP_LEVEL)
 endif()
 
 # Every compiler sees the same warnings. They are errors in the presets that developers and tests use.
-add_library(warnings INTERFACE)
-target_compile_options(warnings INTERFACE -Wall -Wextra)
+add_library(vonkk3_warnings INTERFACE)
+target_compile_options(vonkk3_warnings INTERFACE -Wall -Wextra)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  target_compile_options(warnings INTERFACE -Wno-restrict) # GCC 12 suspects the library's own std::string concatenation
+  target_compile_options(vonkk3_warnings INTERFACE -Wno-restrict) # GCC 12 suspects the library's own std::string concatenation
 endif()
 
 # What the bits of the results hang on, at every instruction set:
@@ -25,21 +25,21 @@ endif()
 #   rounding-mode aware  the rounding mode is the caller's, so nothing may be folded as if it were "to nearest"
 #   SIMD arithmetic      Real32 and Real64 never go through the 80-bit unit unless the source says so
 # -ffast-math and its parts are never given, and -fno-math-errno changes no result.
-add_library(rounding INTERFACE)
-target_compile_options(rounding INTERFACE -mfpmath=sse -ffp-contract=off -frounding-math -fno-math-errno)
+add_library(vonkk3_rounding INTERFACE)
+target_compile_options(vonkk3_rounding INTERFACE -mfpmath=sse -ffp-contract=off -frounding-math -fno-math-errno)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-  target_compile_options(rounding INTERFACE -Wno-unused-command-line-argument)
+  target_compile_options(vonkk3_rounding INTERFACE -Wno-unused-command-line-argument)
 endif()
 
 # The same for what every x86-64 processor runs.
-add_library(arithmetic INTERFACE)
-target_link_libraries(arithmetic INTERFACE rounding)
-target_compile_options(arithmetic INTERFACE -march=x86-64)
+add_library(vonkk3_arithmetic INTERFACE)
+target_link_libraries(vonkk3_arithmetic INTERFACE vonkk3_rounding)
+target_compile_options(vonkk3_arithmetic INTERFACE -march=x86-64)
 
 # Functions and loops begin at cache lines: placement alone moves short loops by up to 1.8 times. Benchmarks give their
 # peers the same.
-add_library(placement INTERFACE)
-target_compile_options(placement INTERFACE -falign-functions=64 -falign-loops=64)
+add_library(vonkk3_placement INTERFACE)
+target_compile_options(vonkk3_placement INTERFACE -falign-functions=64 -falign-loops=64)
 
 if(VONKK3_SANITIZE)
   # Exports are called through one generic function type by the tests.

@@ -69,7 +69,7 @@ targets=
 for run in $runs; do
     case $run in
     baseline) targets="$targets benchmarks" ;;
-    native) targets="$targets benchmarks_native levels" ;;
+    native) targets="$targets benchmarks_native vonkk3_levels" ;;
     esac
 done
 echo "building" >&2

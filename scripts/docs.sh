@@ -14,7 +14,7 @@ cd "$(dirname "$0")/.."
 need g++ gcc cmake make python3 mkdocs mkdocs-material python3-pymdownx
 
 mkdir -p build
-{ cmake --preset release -DVONKK3_TESTS=OFF -B build/docs && cmake --build build/docs --target generated_files
+{ cmake --preset release -DVONKK3_TESTS=OFF -B build/docs && cmake --build build/docs --target vonkk3_generated
 } >build/docs.log 2>&1 || { tail -n 40 build/docs.log >&2; exit 1; }
 python3 -B docs/site/assemble.py build/docs/src/generated/functions.json build/docs
 mkdocs build --quiet --strict --config-file build/docs/mkdocs.yml --site-dir "$PWD/build/site"

@@ -19,7 +19,7 @@ tidy() { # FILE...
     need clang clang-tidy cmake ninja-build libgtest-dev libcli11-dev liblapacke-dev libopenblas-dev
     # clang-tidy reads no precompiled header.
     configure clang -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
-    cmake --build --preset clang --target generated_files >/dev/null
+    cmake --build --preset clang --target vonkk3_generated >/dev/null
     printf '%s\n' "$@" | xargs -P "$(nproc)" -n 1 clang-tidy -p build/clang --quiet \
         --extra-arg=-Wno-pragma-once-outside-header 2>/dev/null
 }
@@ -52,7 +52,7 @@ case ${1:-} in
     check_format
     need clang cmake ninja-build
     configure clang -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
-    cmake --build --preset clang --target generated_files >/dev/null
+    cmake --build --preset clang --target vonkk3_generated >/dev/null
     tidy $(git ls-files 'src/*.cpp' 'tools/*.cpp' 'tests/*.cpp' ':!tests/install') build/clang/src/generated/stubs/*.cpp
     ;;
 *)

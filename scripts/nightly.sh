@@ -82,7 +82,7 @@ step_tests() { record tests sh scripts/test.sh; }
 step_compilers() { plain && record compilers sh scripts/compilers.sh $gcc/tests/bits tests/bits.txt; }
 
 step_levels() {
-    plain "compare bits levels" || return
+    plain "compare bits vonkk3_levels" || return
     for level in x86-64 x86-64-v3 x86-64-v4; do
         library=$gcc/levels/$level/vonkk3.so
         [ $level != x86-64 ] || library=$gcc/vonkk3.so

@@ -23,7 +23,7 @@ std::string read(const fs::path &path) {
     return content.str();
 }
 
-const char *const howToUpdate = "is not current: build the target `regenerate`";
+const char *const howToUpdate = "is not current: build the target `vonkk3_regenerate`";
 
 TEST(Text, WrapsAtTheLineWidthAndIndentsWhatFollows) {
     const std::vector<std::string> pieces(12, "0123456789");
