@@ -16,8 +16,15 @@ awk '/^```c$/ { inside = 1; next } /^```$/ { inside = 0 } inside' "$source/READM
 cat "$scratch/output"
 test "$(cat "$scratch/output")" = "x = 1 1 1 and 1 1 1"
 
-for page in README CONTRIBUTING; do
+for page in README CONTRIBUTING CHANGELOG; do
     grep -oE '\]\([^)#]+\)' "$source/$page.md" | tr -d '()]' | while read -r link; do
         test -e "$source/$link" || { echo "FAILED: $page.md links to $link, which is not there"; exit 1; }
     done
+done
+
+# The picture of the house has every folder of the sources.
+for folder in "$source"/src/*/ "$source"/tests/model/ "$source"/tests/fuzz/ "$source"/tools/ "$source"/bench/; do
+    name=${folder#"$source"/}
+    grep -q "${name%/}" "$source/docs/architecture.md" ||
+        { echo "FAILED: docs/architecture.md does not name ${name%/}"; exit 1; }
 done
