@@ -127,7 +127,7 @@ var vonkk3Model = (function () {
             lines.push(constant + T + ' *' + table + '[' + entries + '];');
             if (extra) {
                 const run = operand.layout === 'P' ? 'count' : 'count * ' + positions;
-                lines.push('static ' + T + ' ones[' + run + ']; /* looked at for the last pivots: see the exceptions */');
+                lines.push('static ' + T + ' ones[' + run + ']; /* read for the last pivots: see the exceptions */');
                 setup.push('for (int k = 0; k < ' + run + '; ++k) ones[k] = 1;');
                 setup.push('for (int k = ' + positions + '; k < ' + entries + '; ++k) ' + table + '[k] = ones;');
             }
