@@ -79,7 +79,7 @@ TEST(Steered, SpoiledResultsAreReported) {
 
 class Geometries : public testing::Test {
 protected:
-    // Looks at the operands of sixty calls of a function; a null pointer or entry changes nothing about them.
+    // Reads the operands of sixty calls of a function; a null pointer or entry changes nothing about them.
     void forEachCall(const std::string &name, Geometry geometry,
                      const std::function<void(const support::Call &)> &look) {
         const auto all = catalogue::expand();
