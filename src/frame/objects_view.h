@@ -29,8 +29,6 @@ struct ObjectsView {
 
     std::uintptr_t listEntry(std::size_t n) const { return pointerAt(begin + n * sizeof(void *)); }
 
-    bool listHasNull(std::size_t n) const { return isList() && listEntry(n) == 0; }
-
     // Object n of a strided or list layout.
     std::uintptr_t object(std::size_t n) const {
         if (isList()) return listEntry(n) + std::uintptr_t(shift);
@@ -186,13 +184,6 @@ VONKK3_INLINE ObjectsView objectsOf(const OperandWords &words, std::size_t rows,
         view.elementStride = words.elementStride;
     }
     return view;
-}
-
-// The diagonals of square matrices, as vectors.
-inline ObjectsView diagonalOf(ObjectsView matrices) {
-    matrices.rows = 1;
-    matrices.elementStride += matrices.rowStride;
-    return matrices;
 }
 
 // A plain block of `length` adjacent elements per object: packed results, pivots, or, with a count of 1, a workspace.
