@@ -12,7 +12,9 @@ cd "$(dirname "$0")/.."
 
 check_format() {
     need clang-format
-    clang-format --dry-run --Werror $(git ls-files '*.cpp' '*.h' ':!include')
+    # Found without git, which may know nothing of the tree: an archive, or somebody else's checkout.
+    find bench examples src tests tools \( -name '*.cpp' -o -name '*.h' \) -print0 |
+        xargs -0 clang-format --dry-run --Werror
 }
 
 tidy() { # FILE...
