@@ -5,6 +5,13 @@
 find_program(VONKK3_CCACHE ccache)
 mark_as_advanced(VONKK3_CCACHE)
 if(VONKK3_CCACHE AND PROJECT_IS_TOP_LEVEL)
+  # It compiles nothing where it cannot write its cache.
+  set(probe ${CMAKE_BINARY_DIR}/CMakeFiles/ccache_probe.c)
+  file(WRITE ${probe} "int probe;\n")
+  execute_process(COMMAND ${VONKK3_CCACHE} ${CMAKE_C_COMPILER} -c ${probe} -o ${probe}.o RESULT_VARIABLE ccache_fails
+                  OUTPUT_QUIET ERROR_QUIET)
+endif()
+if(VONKK3_CCACHE AND PROJECT_IS_TOP_LEVEL AND NOT ccache_fails)
   foreach(language C CXX)
     if(NOT DEFINED CMAKE_${language}_COMPILER_LAUNCHER)
       set(CMAKE_${language}_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros
