@@ -14,7 +14,7 @@ foreach(level ${VONKK3_WIDE_LEVELS})
   install(FILES ${PROJECT_BINARY_DIR}/levels/${level}/libvonkk3.so.4
           DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/${level})
 endforeach()
-install(FILES ${PROJECT_BINARY_DIR}/src/generated/functions.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vonkk3)
+install(FILES ${PROJECT_BINARY_DIR}/src/generated/functions.json docs/functions.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vonkk3)
 install(FILES README.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/reference DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
 install(FILES docs/layouts.svg DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)

@@ -12,7 +12,7 @@
 #     threads       every export from eight threads on a library with the thread sanitizer
 #     valgrind      memory errors alone: its 80-bit arithmetic has 64 bits, so that results differ
 #     abi           scripts/abi.sh
-#     faults        scripts/faults.sh: every deliberate fault turns a test red
+#     faults        scripts/faults.py: every deliberate fault turns a test red
 #
 # A step or chunk that is done at this commit is not done again: a night that is cut short goes on in the next. Results are
 # kept in build/nightly. Exit code 1: a step failed.
@@ -130,7 +130,7 @@ step_valgrind() {
 
 step_abi() { record abi sh scripts/abi.sh; }
 
-step_faults() { record faults sh scripts/faults.sh; }
+step_faults() { record faults python3 scripts/faults.py; }
 
 for step in $steps; do
     echo "== $step"

@@ -5,6 +5,7 @@
 #include "support/arena.h"
 #include "support/bitstream.h"
 #include "support/invoke.h"
+#include "support/selection.h"
 
 #include <CLI/CLI.hpp>
 
@@ -177,20 +178,26 @@ bool check(const Kept &kept, const std::vector<Function> &functions, const Hashe
     return found.empty();
 }
 
-// Leaves every so many functions, and drops the lines of the others.
-void thinOut(std::vector<Function> &functions, Hashes &kept, std::size_t every) {
+// Leaves every so many functions.
+std::vector<Function> thinnedOut(const std::vector<Function> &functions, std::size_t every) {
     std::vector<Function> spread;
-    for (std::size_t k = 0; k < functions.size(); ++k) {
-        if (k % every == 0) spread.push_back(functions[k]);
-        else kept.erase(functions[k].name);
-    }
-    functions = std::move(spread);
+    for (std::size_t k = 0; k < functions.size(); k += every) spread.push_back(functions[k]);
+    return spread;
+}
+
+// The lines of all that the library exports, but not those of functions that are not checked.
+void dropLinesOfOthers(Hashes &kept, const std::vector<Function> &checked) {
+    Hashes lines;
+    for (const Function &function : checked)
+        if (const auto line = kept.find(function.name); line != kept.end()) lines.insert(*line);
+    for (const Function &function : catalogue::expand()) kept.erase(function.name);
+    kept.merge(lines);
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-    std::string toWrite, toCheck;
+    std::string toWrite, toCheck, only;
     std::vector<std::string> libraries;
     std::size_t every = 1;
     CLI::App app("Writes or checks the file of hashes over the results of every export.");
@@ -200,18 +207,20 @@ int main(int argc, char **argv) {
                    "Path of a shared library; of several, each call is made once for all [" +
                        support::defaultLibrary() + "]");
     app.add_option("--every", every, "Check every so many exports only")->excludes(write)->check(CLI::PositiveNumber);
+    app.add_option("--only", only, "Check the exports whose names this regular expression matches")->excludes(write);
     CLI11_PARSE(app, argc, argv);
     try {
         if (toWrite.empty() == toCheck.empty()) throw std::runtime_error("give --write FILE or --check FILE");
         if (libraries.empty()) libraries = {support::defaultLibrary()};
-        std::vector<Function> functions = catalogue::expand();
+        std::vector<Function> functions = support::functionsNamed(only);
         if (!toWrite.empty()) {
             if (libraries.size() != 1) throw std::runtime_error("--write takes one library");
             writeFile(toWrite, functions, takeHashes(functions, libraries).front());
             return 0;
         }
         Kept kept = readFile(toCheck);
-        if (every > 1) thinOut(functions, kept.hashes, every);
+        functions = thinnedOut(functions, every);
+        dropLinesOfOthers(kept.hashes, functions);
         const std::vector<Hashes> hashes = takeHashes(functions, libraries);
         bool passed = true;
         for (std::size_t k = 0; k < libraries.size(); ++k) {

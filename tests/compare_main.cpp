@@ -7,6 +7,7 @@
 #include "support/comparison.h"
 #include "support/invoke.h"
 #include "support/report.h"
+#include "support/selection.h"
 #include "support/tally.h"
 
 #include <CLI/CLI.hpp>
@@ -17,7 +18,6 @@
 #include <cstdio>
 #include <iostream>
 #include <memory>
-#include <regex.h>
 #include <stdexcept>
 #include <string>
 #include <unistd.h>
@@ -57,32 +57,6 @@ void announce(const support::Call &call) {
                   static_cast<unsigned long long>(call.seed), call.function->name.c_str(),
                   static_cast<unsigned long long>(call.index));
     alarm(patienceInSeconds);
-}
-
-// --- the functions asked for
-
-// Of extended regular expressions.
-class Pattern {
-public:
-    explicit Pattern(const std::string &text) {
-        if (regcomp(&compiled, text.c_str(), REG_EXTENDED | REG_NOSUB) != 0)
-            throw std::runtime_error("no regular expression: " + text);
-    }
-    ~Pattern() { regfree(&compiled); }
-    Pattern(const Pattern &) = delete;
-    Pattern &operator=(const Pattern &) = delete;
-
-    bool occursIn(const std::string &name) const { return regexec(&compiled, name.c_str(), 0, nullptr, 0) == 0; }
-
-private:
-    regex_t compiled{};
-};
-
-std::vector<Function> selectFunctions(const Options &options) {
-    std::vector<Function> functions = catalogue::expand();
-    const Pattern wanted(options.only);
-    std::erase_if(functions, [&](const Function &function) { return !wanted.occursIn(function.name); });
-    return functions;
 }
 
 // Real64 arithmetic follows the precision control, so its functions are called at both of its settings.
@@ -200,7 +174,7 @@ bool Comparing::conclude() const {
 }
 
 bool Comparing::compareAll() {
-    const std::vector<Function> functions = selectFunctions(options);
+    const std::vector<Function> functions = support::functionsNamed(options.only);
     std::size_t done = 0;
     for (const Function &function : functions) {
         showProgress(done++, functions.size(), function.name);
@@ -243,7 +217,7 @@ bool Comparing::replay() {
 }
 
 void listFunctions(const Options &options) {
-    for (const Function &function : selectFunctions(options)) std::cout << function.name << "\n";
+    for (const Function &function : support::functionsNamed(options.only)) std::cout << function.name << "\n";
 }
 
 } // namespace

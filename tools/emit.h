@@ -4,8 +4,11 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 
 namespace emit {
+
+constexpr std::string_view libraryVersion = "4.1"; // as the header's macros have it
 
 std::map<std::string, std::string> headers();   // by name below include/: vonkk3.h, vonkk3/lu.h, ...
 std::map<std::string, std::string> stubs();     // source files by name, one per operation and type

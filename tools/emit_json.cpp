@@ -115,9 +115,9 @@ std::string functionsJson() {
                             field("returns", "const VonkLibVersion *") +
                             R"(, "exceptions": [], "operands": [], "parameters": []})";
     for (const catalogue::Function &function : all) functions += ",\n" + functionJson(function, index);
-    return "{\n  \"library\": \"vonkk3\",\n  \"families\": [\n" + families + "\n  ],\n  \"operations\": [\n" +
-           operations + "\n  ],\n  \"exceptionClasses\": [\n" + classes + "\n  ],\n  \"exceptions\": [\n" + exceptions +
-           "\n  ],\n  \"functions\": [\n" + functions + "\n  ]\n}\n";
+    return "{\n  \"library\": \"vonkk3\",\n  " + field("version", libraryVersion) + ",\n  \"families\": [\n" +
+           families + "\n  ],\n  \"operations\": [\n" + operations + "\n  ],\n  \"exceptionClasses\": [\n" + classes +
+           "\n  ],\n  \"exceptions\": [\n" + exceptions + "\n  ],\n  \"functions\": [\n" + functions + "\n  ]\n}\n";
 }
 
 } // namespace emit

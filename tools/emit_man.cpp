@@ -83,7 +83,7 @@ std::string paragraphs(std::string_view text) {
 
 std::string heading(std::string_view page) {
     return ".\\\" Generated from the catalogue of functions; do not edit.\n.TH \"" + std::string(page) +
-           "\" 3 \"\" \"vonkk3 4.1\" \"Small matrices\"\n.nh\n.ad l\n";
+           "\" 3 \"\" \"vonkk3 " + std::string(libraryVersion) + "\" \"Small matrices\"\n.nh\n.ad l\n";
 }
 
 // The run-time sizes in 32f, or 3x1 where there is no other.
