@@ -34,6 +34,7 @@ struct Options {
     std::vector<std::string> libraries;
     std::string replay;
     bool list = false;
+    bool stop = false;
 };
 
 // --- what to print when a call never comes back
@@ -180,6 +181,7 @@ bool Comparing::compareAll() {
         showProgress(done++, functions.size(), function.name);
         if (prepare(function)) compareExport(function);
         else ++shortOf;
+        if (options.stop && total.failed + shortOf != 0) break;
     }
     showProgress(functions.size(), functions.size(), "");
     return conclude();
@@ -232,6 +234,7 @@ int main(int argc, char **argv) {
                    "Path of a shared library; of several, each call is made once for all [" +
                        support::defaultLibrary() + "]");
     app.add_option("--replay", options.replay, "Make one call again and print everything: NAME:INDEX");
+    app.add_flag("--stop", options.stop, "Stop after the first export that fails");
     app.add_flag("--list", options.list, "Print the names of the exports and stop");
     CLI11_PARSE(app, argc, argv);
     try {

@@ -60,7 +60,6 @@ Status takeFrobeniusNorm(const Execution &execution);
 Status takeNorm(const Execution &execution);
 Status transposeMatrices(const Execution &execution);
 Status substituteBackCholesky(const Execution &execution);
-Status substituteBackLu(const Execution &execution);
 Status substituteBackQr(const Execution &execution);
 
 } // namespace model

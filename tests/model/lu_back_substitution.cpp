@@ -2,6 +2,9 @@
 // destination and is read back from there.
 #include "model/families.h"
 
+#include <algorithm>
+#include <array>
+
 namespace model {
 
 namespace {
@@ -56,9 +59,8 @@ bool BackSubstitution::anyTableEntryIsNull() const {
 }
 
 bool BackSubstitution::anyListEntryIsNull(std::uint64_t n) const {
-    for (const Operand *operand : {&matrix_, &right_, &dst_})
-        if (operand->isList() && operand->entryIsNull(n)) return true;
-    return false;
+    return std::ranges::any_of(std::array{&matrix_, &right_, &dst_},
+                               [n](const Operand *operand) { return operand->isList() && operand->entryIsNull(n); });
 }
 
 // The physical row of logical row i: each matrix of an array has its own permutation. It is trusted as it stands. If

@@ -39,7 +39,7 @@ void Memory::note(std::uintptr_t address, std::size_t size) {
 }
 
 void Memory::abandonIfWritten(std::uintptr_t address, std::size_t size) {
-    if (writtenWords_.count(address / 8) == 0 && writtenWords_.count((address + size - 1) / 8) == 0)
+    if (!writtenWords_.contains(address / 8) && !writtenWords_.contains((address + size - 1) / 8))
         return; // the usual case, without a walk over all the stores
     const auto touches = [&](const Write &write) { return overlap(write.address, write.size, address, size); };
     if (std::any_of(outcome_.writes.begin(), outcome_.writes.end(), touches)) {
