@@ -11,8 +11,12 @@
 
 #include <array>
 #include <cmath>
+#include <cstring>
+#include <initializer_list>
 #include <iostream>
 #include <limits>
+#include <vector>
+#include <xmmintrin.h>
 
 namespace {
 
@@ -348,6 +352,114 @@ TEST(DeterminantAccuracy, KeepsTheBoundOfAnyOrderOfTheSums) {
                 EXPECT_EQ(measured.accuracy.elements, 50U * 9U);
                 for (const std::string &complaint : measured.complaints) ADD_FAILURE() << complaint;
             }
+}
+
+// Many objects of adjacent elements, whose determinants are those of their last two rows, x y - s t with a one on the
+// rest of the diagonal.
+struct Block {
+    float x, y, s, t;
+};
+
+float roundedOnce(const Block &block) {
+    const volatile long double x = block.x, y = block.y, s = block.s, t = block.t;
+    const volatile long double xy = x * y, st = s * t, difference = xy - st;
+    return static_cast<float>(difference);
+}
+
+using OfOne = VonkStatus (*)(const float *, int32_t, float *);
+using OfArray = VonkStatus (*)(const float *, int32_t, int32_t, float *, uint32_t);
+using OfList = VonkStatus (*)(const float *const *, int32_t, int32_t, float *, uint32_t);
+
+// The sign of a zero is that of one object.
+void expectRoundedOnce(const std::vector<Block> &blocks, std::size_t order, OfOne ofOne, OfArray ofArray,
+                       OfList ofList) {
+    const std::size_t elements = order * order;
+    std::vector<float> matrices(blocks.size() * elements), results(blocks.size()), listed(blocks.size());
+    std::vector<const float *> list;
+    for (std::size_t n = 0; n < blocks.size(); ++n) {
+        float *const matrix = &matrices[n * elements];
+        for (std::size_t i = 0; i + 2 < order; ++i) matrix[i * (order + 1)] = 1;
+        float *const last = matrix + (order - 2) * (order + 1);
+        last[0] = blocks[n].x, last[1] = blocks[n].s, last[order] = blocks[n].t, last[order + 1] = blocks[n].y;
+        list.push_back(matrix);
+    }
+    const auto row = static_cast<int32_t>(order * sizeof(float));
+    const auto count = static_cast<uint32_t>(blocks.size());
+    EXPECT_EQ(ofArray(matrices.data(), row * static_cast<int32_t>(order), row, results.data(), count), vonkOk);
+    EXPECT_EQ(ofList(list.data(), 0, row, listed.data(), count), vonkOk);
+    for (std::size_t n = 0; n < blocks.size(); ++n) {
+        const float expected = roundedOnce(blocks[n]);
+        EXPECT_EQ(results[n], expected) << "order " << order << ", object " << n;
+        float alone = 0;
+        EXPECT_EQ(ofOne(list[n], row, &alone), vonkOk);
+        EXPECT_EQ(std::memcmp(&results[n], &alone, sizeof alone), 0) << "order " << order << ", object " << n;
+        EXPECT_EQ(std::memcmp(&listed[n], &alone, sizeof alone), 0) << "order " << order << ", object " << n;
+    }
+}
+
+void expectRoundedOnce(const std::vector<Block> &blocks) {
+    expectRoundedOnce(blocks, 3, vonkDet_m_32f_3x3, vonkDet_ma_32f_3x3, vonkDet_ma_32f_3x3_L);
+    expectRoundedOnce(blocks, 4, vonkDet_m_32f_4x4, vonkDet_ma_32f_4x4, vonkDet_ma_32f_4x4_L);
+    expectRoundedOnce(blocks, 5, vonkDet_m_32f_5x5, vonkDet_ma_32f_5x5, vonkDet_ma_32f_5x5_L);
+    expectRoundedOnce(blocks, 6, vonkDet_m_32f_6x6, vonkDet_ma_32f_6x6, vonkDet_ma_32f_6x6_L);
+}
+
+// (1 + j 2^-12) (1 + 2^-12) = 1 + (j + 1) 2^-12 + j 2^-24 is halfway between two floats where j is odd. A term of 2^-50
+// tells to which side it goes in 53 bits, and one of 2^-60 in 64 bits alone.
+TEST(DeterminantOfManyFloats, IsRoundedOnceNearTheMidpointsOfFloats) {
+    std::vector<Block> blocks;
+    for (int j = 1; j < 40; ++j)
+        for (const float term : {0.0F, 0x1p-50F, -0x1p-50F, 0x1p-60F, -0x1p-60F})
+            for (const float sign : {1.0F, -1.0F})
+                blocks.push_back({sign * (1 + static_cast<float>(j) * 0x1p-12F), 1 + 0x1p-12F, term, sign});
+    for (const Precision precision : {Precision::bits53, Precision::bits64})
+        for (const Rounding rounding : {Rounding::nearest, Rounding::down, Rounding::up, Rounding::towardZero}) {
+            const SettingScope scope({precision, rounding});
+            expectRoundedOnce(blocks);
+        }
+    const SettingScope scope({Precision::bits64, Rounding::nearest});
+    for (const unsigned ofLanesAlone : {0x2000U, 0x4000U, 0x6000U}) { // the 80-bit unit rounds to nearest
+        _mm_setcsr((_mm_getcsr() & ~0x6000U) | ofLanesAlone);
+        expectRoundedOnce(blocks);
+    }
+}
+
+TEST(DeterminantOfManyFloats, KeepsZerosOfEitherSignAndWhatLeavesTheRangeOfFloats) {
+    const float large = 0x1p100F, small = 0x1p-100F;
+    std::vector<Block> blocks;
+    for (int k = 0; k < 3; ++k)
+        for (const Block &block : std::initializer_list<Block>{{0, 1, 0, 1},
+                                                               {-0.0F, 1, 0, 1},
+                                                               {1, 1, 1, 1},
+                                                               {large, large, 0, 0},
+                                                               {-large, large, 0, 0},
+                                                               {small, small, 0, 0},
+                                                               {-small, small, 0, 0},
+                                                               {0x1p-75F, 0x1p-74F, 0, 0},
+                                                               {0x1p-75F, 0x1p-75F, 0, 0},
+                                                               {1, 1, 0x1p-140F, 0x1p125F}})
+            blocks.push_back(block);
+    for (const Precision precision : {Precision::bits53, Precision::bits64}) {
+        const SettingScope scope({precision, Rounding::nearest});
+        expectRoundedOnce(blocks);
+    }
+}
+
+// The 80-bit unit knows no such mode: an array is worked like an object.
+TEST(DeterminantOfManyFloats, KeepsSubnormalsWhateverTheSimdUnitDoesWithThem) {
+    const unsigned before = _mm_getcsr();
+    _mm_setcsr(before | 0x8040U);
+    std::vector<float> matrices(20 * 16), results(20);
+    for (std::size_t n = 0; n < 20; ++n) {
+        for (std::size_t i = 0; i < 4; ++i) matrices[16 * n + 5 * i] = 1;
+        const std::uint32_t subnormal = 1U << 9; // 2^-140
+        std::memcpy(&matrices[16 * n + 11], &subnormal, sizeof subnormal);
+        matrices[16 * n + 14] = 0x1p125F;
+    }
+    const VonkStatus status = vonkDet_ma_32f_4x4(matrices.data(), 64, 16, results.data(), 20);
+    _mm_setcsr(before);
+    EXPECT_EQ(status, vonkOk);
+    for (const float result : results) EXPECT_EQ(result, 1 - 0x1p-15F);
 }
 
 } // namespace

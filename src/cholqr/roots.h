@@ -4,6 +4,7 @@
 #include "frame/lanes.h"
 #include "frame/operations.h"
 #include "frame/pack.h"
+#include "frame/rounding_control.h"
 
 namespace vonkk3::cholqr {
 
@@ -17,18 +18,6 @@ template <std::size_t chains> VONKK3_INLINE Packs<chains> root(const Packs<chain
 // 1 / root, both steps taken wide.
 inline Wide reciprocalRoot(Wide s) { return 1.0L / __builtin_sqrtl(s); }
 inline Real32 reciprocalRoot(Real32 s) { return Real32(1.0L / __builtin_sqrtl(Wide(s))); }
-
-// The units for 80-bit and for SIMD arithmetic each have their own control word, and both are the caller's. Where they
-// do not round alike, roots of packs are not what is promised; nor are reciprocal roots through 53 bits unless the
-// 80-bit unit has at least as many and rounds to nearest.
-struct RoundingControl {
-    std::uint16_t wide;
-    unsigned lanes = _mm_getcsr();
-    RoundingControl() { __asm__ volatile("fnstcw %0" : "=m"(wide)); }
-
-    bool bothRoundToNearest() const { return (wide & 0x0c00) == 0 && (lanes & 0x6000) == 0; }
-    bool wideHas53Bits() const { return (wide & 0x0200) != 0; }
-};
 
 // How a kernel takes the reciprocal roots of its pivots. Each policy has the number it works, so that it may be a pack.
 struct RoundedOnce {

@@ -3,7 +3,9 @@
 #pragma once
 
 #include "frame/batch.h"
+#include "frame/rounding_control.h"
 #include "frame/shared_operand.h"
+#include "lu/bounded.h"
 #include "lu/local_block.h"
 #include "lu/minors.h"
 #include "lu/scratch_elimination.h"
@@ -56,6 +58,25 @@ inline void determinantInScratch(const ScratchMatrix<T> &matrix, std::size_t ord
 // The results are packed, whatever the layout.
 template <class T> inline std::byte *resultCell(T *dst, std::size_t n) { return shifted(dst, n * sizeof(T)); }
 
+// Objects n to `to`.
+template <bool workedWide, class Source, std::size_t order>
+VONKK3_NOINLINE VonkStatus determinantsPlainly(const OperandWords &words, typename Source::Element *dst, std::size_t n,
+                                               std::size_t to) {
+    using T = typename Source::Element;
+    return knowingLists < isLight<Fixed<order>> &&
+           !Source::isTable > (words.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
+               Source src(words);
+               src.isList = areLists;
+               for (; n < to; ++n) {
+                   if (src.listHasNull(n)) [[unlikely]]
+                       return vonkErrNullPtr;
+                   storeAt(resultCell(dst, n),
+                           static_cast<T>(closedForm<workedWide>(src.view(n, order), fixed<order>)));
+               }
+               return vonkOk;
+           });
+}
+
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
 // Of fixed order, where Real32 is worked in Real32.
@@ -83,6 +104,50 @@ private:
     }
 };
 
+// Of fixed order, where Real32 is worked in 80 bits: in double, and where the filter doubts, in 80 bits after all.
+template <class Source, std::size_t order> struct FilteredDeterminants {
+    static constexpr std::size_t chains = 1;
+    static constexpr bool takesPositions = false, takesAny = false;
+    const OperandWords &words;
+    Real32 *dst;
+    MatricesOfBatch<order> src;
+    ObjectsView results;
+
+    FilteredDeterminants(const OperandWords &words, Real32 *dst, std::size_t count)
+        : words(words), dst(dst), src(words, count, std::false_type()), results(packedBlocks(dst, 1, count)) {}
+
+    Access access() const { return accessOf(src.view); }
+    template <Access access> VONKK3_INLINE void hoist() { src.template hoist<access>(); }
+
+    template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
+        Packs<chains> matrices[order][order];
+        src.template gather<access>(n, matrices);
+        unsigned doubts = 0;
+        storeResults(results, n, Packs<chains>::each([&](std::size_t c) VONKK3_INLINED {
+                         const auto filtered = determinantOf(matrices, c);
+                         doubts |= filtered.doubts << c * lanesOf<decltype(filtered.results)>;
+                         return filtered.results;
+                     }));
+        for (; doubts != 0; doubts &= doubts - 1) {
+            const std::size_t doubtful = n + std::size_t(std::countr_zero(doubts));
+            determinantsPlainly<true, Source, order>(words, dst, doubtful, doubtful + 1);
+        }
+        return true;
+    }
+
+private:
+    template <std::size_t chains>
+    VONKK3_INLINE static auto determinantOf(const Packs<chains> (&matrices)[order][order], std::size_t c) {
+        constexpr std::size_t width = Packs<chains>::width;
+        BoundedTerm<width> block[order][order];
+        for (std::size_t i = 0; i < order; ++i)
+            for (std::size_t j = 0; j < order; ++j) block[i][j] = {Doubles<width>(matrices[i][j].chain[c])};
+        const LocalBlock a{block};
+        if constexpr (order == 4) return Filtered<width>(determinantOfFour(a));
+        else return Filtered<width>(determinantByLevels<BoundedSum<width>, order>(a));
+    }
+};
+
 // From how many objects on batches are quicker than one by one: of small matrices, not where each element or list entry
 // is a load of its own.
 template <std::size_t order> std::size_t leastForDeterminants(const ObjectsView &matrices, Access access) {
@@ -91,25 +156,11 @@ template <std::size_t order> std::size_t leastForDeterminants(const ObjectsView 
     return 4 * packWidth;
 }
 
-// ---- All objects ----------------------------------------------------------------------------------------------------
+// The same of the filter; a determinant of order 3 is no longer work than its filter.
+inline constexpr std::size_t leastForFilter = 2 * packWidth;
+template <std::size_t order> inline constexpr bool isWorthFilter = order >= 4;
 
-template <bool workedWide, class Source, std::size_t order>
-VONKK3_NOINLINE VonkStatus determinantsPlainly(const OperandWords &words, typename Source::Element *dst, std::size_t n,
-                                               std::size_t to) {
-    using T = typename Source::Element;
-    return knowingLists < isLight<Fixed<order>> &&
-           !Source::isTable > (words.isList, [&](auto areLists) VONKK3_INLINED -> VonkStatus {
-               Source src(words);
-               src.isList = areLists;
-               for (; n < to; ++n) {
-                   if (src.listHasNull(n)) [[unlikely]]
-                       return vonkErrNullPtr;
-                   storeAt(resultCell(dst, n),
-                           static_cast<T>(closedForm<workedWide>(src.view(n, order), fixed<order>)));
-               }
-               return vonkOk;
-           });
-}
+// ---- All objects ----------------------------------------------------------------------------------------------------
 
 template <std::size_t order, bool throughTables>
 VONKK3_NOINLINE VonkStatus determinantsInBatches(const OperandWords &src, Real32 *dst, std::size_t count) {
@@ -118,6 +169,19 @@ VONKK3_NOINLINE VonkStatus determinantsInBatches(const OperandWords &src, Real32
     };
     DeterminantBatch<order> batch{{src, count, std::bool_constant<throughTables>()}, packedBlocks(dst, 1, count)};
     if (count < leastForDeterminants<order>(batch.src.view, batch.access())) return plainly(0, count);
+    const Aliasing aliasing(count, writes(batch.results), reads(batch.src.view));
+    return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
+}
+
+template <std::size_t order>
+VONKK3_NOINLINE VonkStatus determinantsFiltered(const OperandWords &src, Real32 *dst, std::size_t count) {
+    using Shared = ContiguousOperand<const Real32>;
+    const auto plainly = [&](std::size_t from, std::size_t to)
+                             VONKK3_INLINED { return determinantsPlainly<true, Shared, order>(src, dst, from, to); };
+    const RoundingControl control;
+    if (!control.bothRoundToNearest() || !control.wideHas53Bits() || !control.lanesKeepSubnormals())
+        return plainly(0, count);
+    FilteredDeterminants<Shared, order> batch(src, dst, count);
     const Aliasing aliasing(count, writes(batch.results), reads(batch.src.view));
     return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
 }
@@ -134,6 +198,8 @@ VONKK3_INLINE VonkStatus determinant(const Source &src, Fixed<order> size, T *ds
         const OperandWords words = src.words(order);
         if constexpr (worksInBatches<Source> && !workedWide)
             if (count >= packWidth) return determinantsInBatches<order, Source::isTable>(words, dst, count);
+        if constexpr (worksInBatches<Source> && workedWide && isWorthFilter<order>)
+            if (count >= leastForFilter) return determinantsFiltered<order>(words, dst, count);
         using Shared =
             std::conditional_t<workedWide, ContiguousOperand<const T>, SharedOperand<const T, Source::isTable>>;
         return determinantsPlainly<workedWide, Shared, order>(words, dst, 0, count);
