@@ -32,33 +32,33 @@ template <class X> inline constexpr bool is_constant = false;
 template <class T> inline constexpr bool is_constant<Constant<T>> = true;
 
 // What is meant by an operand: a view as it is; what has a shape, and a container of such; a number.
-template <class X> auto operand(X &&x) {
+template <class X> VONKK3_INLINE auto operand(X &&x) {
     using U = std::remove_cv_t<std::remove_reference_t<X>>;
     using S = ShapeOf<U>;
-    if constexpr (is_view<U>) return x;
+    if constexpr (is_view<U> || std::is_same_v<U, Unfit>) return x;
     else if constexpr (is_soa<U>) return x.view();
     else if constexpr (std::is_arithmetic_v<U>) return Constant<U>{x};
     else if constexpr (S::rank == 1) return vonk::vector(x);
     else if constexpr (S::rank == 2) {
         static_assert(!S::of_arrays, "vonkk3: an array of arrays may be a matrix or many vectors: say vonk::matrix(x) "
                                      "or vonk::vectors(x)");
-        return vonk::matrix(x);
+        if constexpr (S::of_arrays) return Unfit{};
+        else return vonk::matrix(x);
     } else if constexpr (is_container<X>) {
-        using V = ShapeOf<ItemOf<X>>;
-        static_assert(V::rank == 1 || V::rank == 2, "vonkk3: a container of elements may be one vector or many: say "
-                                                    "vonk::vector(x) or vonk::vectors<3>(x), vonk::matrices<4, 4>(x)");
-        if constexpr (V::rank == 1) return vonk::vectors(x);
-        else {
-            static_assert(V::rank != 2 || !V::of_arrays || !std::is_array_v<U>,
-                          "vonkk3: an array of arrays of arrays: say vonk::matrices(x)");
-            return vonk::matrices(x);
-        }
-    } else static_assert(never<X>, "vonkk3: an operand is a view, or of a type whose shape is known; see views.hpp");
+        constexpr int rank = ShapeOf<ItemOf<X>>::rank;
+        static_assert(rank == 1 || rank == 2, "vonkk3: a container of elements may be one vector or many: say "
+                                              "vonk::vector(x) or vonk::vectors<3>(x), vonk::matrices<4, 4>(x)");
+        if constexpr (rank == 1) return vonk::vectors(x);
+        else if constexpr (rank == 2) return vonk::matrices(x);
+        else return Unfit{};
+    } else {
+        static_assert(never<X>, "vonkk3: an operand is a view, or of a type whose shape is known; see views.hpp");
+        return Unfit{};
+    }
 }
-template <class X> using Operand = decltype(operand(std::declval<X>()));
 
 template <class X> constexpr exports::Kind kind_of() {
-    if constexpr (is_constant<X>) return exports::c;
+    if constexpr (!is_view<X>) return exports::c;
     else
         return X::kind == Kind::vector              ? exports::v
                : X::kind == Kind::vectors           ? exports::va
@@ -73,38 +73,37 @@ template <class T> struct Block {
     T *data;
     bool fits;
 };
-template <class U> struct Scalar { using type = U; };
+// The element of an array of arrays, and of a std::array; const where the whole is.
+template <class U, class = void> struct Scalar { using type = U; };
 template <class U, std::size_t N> struct Scalar<U[N]> : Scalar<U> {};
-template <class T, class X> Block<T> block(X &&x, std::size_t needed) {
+template <class U>
+struct Scalar<U, std::enable_if_t<sizeof(typename U::value_type) * std::tuple_size<U>::value == sizeof(U)>> {
+    using Inner = typename Scalar<typename U::value_type>::type;
+    using type = std::conditional_t<std::is_const_v<U>, const Inner, Inner>;
+};
+template <class T, class X> VONKK3_INLINE Block<T> block(X &&x, std::size_t needed) {
     using U = std::remove_reference_t<X>;
-    using Plain = std::remove_const_t<T>;
-    if constexpr (std::is_same_v<std::remove_const_t<U>, Plain>) {
-        static_assert(std::is_const_v<T> || !std::is_const_v<U>, "vonkk3: the destination is const");
-        static_assert(std::is_lvalue_reference_v<X> || std::is_const_v<T>, "vonkk3: the destination is a temporary");
-        return {&x, needed <= 1};
+    if constexpr (std::is_same_v<std::remove_const_t<U>, std::remove_const_t<T>>) { // one element
+        constexpr bool writable = std::is_const_v<T> || !std::is_const_v<U>;
+        static_assert(writable, "vonkk3: the destination is const");
+        static_assert(!writable || std::is_lvalue_reference_v<X>, "vonkk3: the destination is a temporary");
+        if constexpr (writable) return {&x, needed <= 1};
     } else if constexpr (std::is_pointer_v<std::remove_const_t<U>>) {
         static_assert(std::is_convertible_v<U, T *>, "vonkk3: a pointer to results, pivots or work has another type");
-        return {x, true};
+        if constexpr (std::is_convertible_v<U, T *>) return {x, true};
     } else if constexpr (is_container<U>) {
         using Item = ItemOf<U>;
-        using S = ShapeOf<Item>;
-        if constexpr (std::is_same_v<std::remove_const_t<std::remove_all_extents_t<Item>>, Plain>) {
-            static_assert(std::is_const_v<T> || !std::is_const_v<std::remove_all_extents_t<Item>>,
-                          "vonkk3: the destination is const");
+        using E = typename Scalar<Item>::type;
+        constexpr bool same = std::is_same_v<std::remove_const_t<E>, std::remove_const_t<T>>;
+        constexpr bool writable = std::is_const_v<T> || !std::is_const_v<E>;
+        static_assert(same, "vonkk3: results, pivots or work have another type");
+        static_assert(!same || writable, "vonkk3: the destination is const");
+        if constexpr (same && writable)
             return {reinterpret_cast<T *>(items(x)), needed * sizeof(T) <= items_count(x) * sizeof(Item)};
-        } else if constexpr (is_container<Item>) { // std::array of std::array
-            static_assert(std::is_same_v<std::remove_const_t<ItemOf<Item>>, Plain>,
-                          "vonkk3: results, pivots or work have another type");
-            static_assert(std::is_const_v<T> || !std::is_const_v<ItemOf<Item>>, "vonkk3: the destination is const");
-            static_assert(sizeof(Item) == std::tuple_size<std::remove_const_t<Item>>::value * sizeof(T),
-                          "vonkk3: results, pivots and work are contiguous");
-            return {reinterpret_cast<T *>(items(x)), needed * sizeof(T) <= items_count(x) * sizeof(Item)};
-        } else {
-            static_assert(never<S>, "vonkk3: results, pivots or work have another type");
-        }
     } else {
         static_assert(never<X>, "vonkk3: results, pivots and work are a pointer or a container of elements");
     }
+    return {nullptr, false};
 }
 
 // ---- Checks at compile time
@@ -165,7 +164,12 @@ template <bool Exact, class Table, class... V> struct Choice {
 };
 
 // The sentences, each once. The value says whether the rest of a call makes sense, so that no other error follows.
-template <class Table, class D, class... V> constexpr bool makes_sense() {
+template <class... V> constexpr bool are_views() {
+    static_assert(((is_view<V> || std::is_same_v<V, Unfit>)&&...), "vonkk3: a number stands where the operation takes "
+                                                                   "vectors or matrices");
+    return (is_view<V> && ...);
+}
+template <class Table, class D, class... V> constexpr bool views_make_sense() {
     using C = Common<D, V...>;
     static_assert(Exists<Table>::value, "vonkk3: the operation takes no such operands: see docs/functions.md for which "
                                         "may be arrays, and which transposed");
@@ -179,8 +183,12 @@ template <class Table, class D, class... V> constexpr bool makes_sense() {
     return Exists<Table>::value && C::same_type && !std::is_const_v<typename D::element> && !D::is_transposed &&
            D::is_array == (false || ... || V::is_array) && C::same_layout;
 }
+template <class Table, class D, class... V> constexpr bool makes_sense() {
+    if constexpr (are_views<D, V...>()) return views_make_sense<Table, D, V...>();
+    else return false;
+}
 // The same without a destination that has a layout.
-template <class Table, class... V> constexpr bool sources_make_sense() {
+template <class Table, class... V> constexpr bool source_views_make_sense() {
     using C = Common<V...>;
     static_assert(Exists<Table>::value, "vonkk3: the operation takes no such operands: see docs/functions.md for which "
                                         "may be arrays, and which transposed");
@@ -188,6 +196,11 @@ template <class Table, class... V> constexpr bool sources_make_sense() {
     static_assert(C::same_layout, "vonkk3: the operands' layouts do not go together: all arrays are in plain memory, "
                                   "behind lists of pointers, or behind one pointer per element position");
     return Exists<Table>::value && C::same_type && C::same_layout;
+}
+
+template <class Table, class... V> constexpr bool sources_make_sense() {
+    if constexpr (are_views<V...>()) return source_views_make_sense<Table, V...>();
+    else return false;
 }
 
 #define VONKK3_SIZES_FIT(condition) static_assert(condition, "vonkk3: the sizes of the operands do not fit each other")
@@ -289,16 +302,19 @@ template <class P, int Count> inline constexpr int spelled_words<Spelled<P, Coun
 template <class X> inline constexpr bool is_tabled = false;
 template <class T, Size Length> inline constexpr bool is_tabled<Tabled<T, Length>> = true;
 
-template <class P> constexpr Spelled<P, 0> words(P data) { return {data, {0}}; }
-template <class P> constexpr Spelled<P, 1> words(P data, std::int32_t a) { return {data, {a}}; }
-template <class P> constexpr Spelled<P, 2> words(P data, std::int32_t a, std::int32_t b) { return {data, {a, b}}; }
-template <class P> constexpr Spelled<P, 3> words(P data, std::int32_t a, std::int32_t b, std::int32_t c) {
+template <class P> VONKK3_INLINE constexpr Spelled<P, 0> words(P data) { return {data, {0}}; }
+template <class P> VONKK3_INLINE constexpr Spelled<P, 1> words(P data, std::int32_t a) { return {data, {a}}; }
+template <class P> VONKK3_INLINE constexpr Spelled<P, 2> words(P data, std::int32_t a, std::int32_t b) {
+    return {data, {a, b}};
+}
+template <class P> VONKK3_INLINE constexpr Spelled<P, 3> words(P data, std::int32_t a, std::int32_t b, std::int32_t c) {
     return {data, {a, b, c}};
 }
 
 // A word as it is, an operand spelled for a layout.
-template <Layout L, class W> constexpr auto word(const W &w) { return w; }
-template <Layout L, class T, Size R, Size C, Layout M, Kind K> constexpr auto word(const View<T, R, C, M, K> &v) {
+template <Layout L, class W> VONKK3_INLINE constexpr auto word(const W &w) { return w; }
+template <Layout L, class T, Size R, Size C, Layout M, Kind K>
+VONKK3_INLINE constexpr auto word(const View<T, R, C, M, K> &v) {
     constexpr bool array = is_array(K), matrix = is_matrix(K), elements = L == Layout::S2 || L == Layout::LS2;
     const Strides s = v.strides();
     if constexpr (is_table(L) && !is_table(M)) {
@@ -319,7 +335,7 @@ template <Layout L, class T, Size R, Size C, Layout M, Kind K> constexpr auto wo
     else if constexpr (elements) return words(v.data(), s.element);
     else return words(v.data());
 }
-template <Layout L, class V> constexpr auto word(const Shared<V> &shared) {
+template <Layout L, class V> VONKK3_INLINE constexpr auto word(const Shared<V> &shared) {
     const Strides s = shared.view.strides();
     if constexpr (is_table(L)) return word<L>(shared.view);
     else if constexpr (L == Layout::S2 || L == Layout::LS2) return words(shared.view.data(), 0, s.row, s.element);
@@ -327,7 +343,8 @@ template <Layout L, class V> constexpr auto word(const Shared<V> &shared) {
 }
 
 // Spells `Left` words in turn, each at the end of what is spelled already, and calls.
-template <std::size_t Left, class F, class W, class... Rest> auto spell(F f, const W &word, Rest... rest) {
+template <std::size_t Left, class F, class W, class... Rest>
+VONKK3_INLINE auto spell(F f, const W &word, Rest... rest) {
     constexpr int count = spelled_words<W>;
     if constexpr (Left == 0) return f(word, rest...);
     else if constexpr (count == 0) return spell<Left - 1>(f, rest..., word.data);
@@ -344,17 +361,17 @@ template <std::size_t Left, class F, class W, class... Rest> auto spell(F f, con
 }
 
 // A word that only exports of run-time size have.
-template <class Choice, class W> constexpr auto open_size(W word) {
+template <class Choice, class W> VONKK3_INLINE constexpr auto open_size(W word) {
     if constexpr (Choice::order == 0) return word;
     else return Nothing{};
 }
 // The count of objects, which only exports of arrays have.
-template <class Choice> constexpr auto objects(Size count) {
+template <class Choice> VONKK3_INLINE constexpr auto objects(Size count) {
     if constexpr (Choice::C::arrays) return Number{count};
     else return Nothing{};
 }
 
-template <class Choice, class... W> Status invoke(const W &...words) {
+template <class Choice, class... W> VONKK3_INLINE Status invoke(const W &...words) {
     constexpr bool exists = !std::is_void_v<decltype(Choice::function())>;
     static_assert(exists, "vonkk3: the operation has no function for this size and layout: see docs/functions.md");
     if constexpr (exists) {

@@ -8,7 +8,7 @@
 namespace vonk {
 namespace detail {
 
-template <class A, class D> Status cholesky(const A &a, const D &d) {
+template <class A, class D> VONKK3_INLINE Status cholesky(const A &a, const D &d) {
     using Group = exports::CholeskyDecomp<kind_of<A>()>;
     if constexpr (makes_sense<Group, D, A>()) {
         VONKK3_SIZES_FIT(may_equal(A::fixed_rows, A::fixed_columns) && (like_shape<D, A>));
@@ -27,7 +27,7 @@ template <class A, class D> Status cholesky(const A &a, const D &d) {
     } else return vonkErrSize;
 }
 
-template <class F, class B, class D> Status cholesky_solve(const F &f, const B &b, const D &d) {
+template <class F, class B, class D> VONKK3_INLINE Status cholesky_solve(const F &f, const B &b, const D &d) {
     using Group = exports::CholeskyBackSubst<kind_of<F>(), kind_of<B>()>;
     if constexpr (makes_sense<Group, D, F, B>()) {
         VONKK3_SIZES_FIT(may_equal(F::fixed_rows, F::fixed_columns) && may_equal(F::fixed_rows, B::fixed_rows) &&
@@ -50,11 +50,11 @@ template <class F, class B, class D> Status cholesky_solve(const F &f, const B &
 /// it. Only lower triangles are read and written. Errors: vonkErrNotPosDef, with objects before the failing one
 /// complete and later ones untouched; vonkErrSize, vonkErrNullPtr. No array is too short: count 0 is vonkOk. Overlap:
 /// dst may be a (in place), with the same strides.
-template <class A, class D> Status cholesky(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status cholesky(A &&a, D &&dst) {
     return detail::cholesky(detail::operand(a), detail::operand(dst));
 }
 /// The same object by object, to learn which fails.
-template <class A, class D> Status cholesky(A &&a, D &&dst, Failed &failed) {
+template <class A, class D> VONKK3_INLINE Status cholesky(A &&a, D &&dst, Failed &failed) {
     const auto from = detail::operand(a);
     const auto to = detail::operand(dst);
     if (!detail::counts_agree(to, from)) return vonkErrSize;
@@ -64,7 +64,7 @@ template <class A, class D> Status cholesky(A &&a, D &&dst, Failed &failed) {
 
 /// x = the solution of a x = b, by what vonk::cholesky left in `factors`: one system, one matrix with many right-hand
 /// sides, or one matrix for each. Errors: vonkErrSize, vonkErrNullPtr. Overlap: x may be b (in place).
-template <class F, class B, class D> Status cholesky_solve(F &&factors, B &&b, D &&x) {
+template <class F, class B, class D> VONKK3_INLINE Status cholesky_solve(F &&factors, B &&b, D &&x) {
     return detail::cholesky_solve(detail::operand(factors), detail::operand(b), detail::operand(x));
 }
 

@@ -20,10 +20,9 @@ template <class T, Size R, Layout L> constexpr auto as_rows(const View<T, R, 1, 
                                                         Strides{s.object, 0, s.element, s.shift});
 }
 
-template <bool Exact, class A, class D> Status copy_arrays(const A &a, const D &d) {
+template <bool Exact, class A, class D> VONKK3_INLINE Status copy_arrays(const A &a, const D &d) {
     using Group = exports::Copy<kind_of<A>()>;
     static_assert(Exists<Group>::value, "vonkk3: behind one pointer per element position nothing is transposed");
-    static_assert(A::is_matrix == D::is_matrix, "vonkk3: vectors are copied to vectors, matrices to matrices");
     static_assert(std::is_same_v<Plain<A>, Plain<D>>,
                   "vonkk3: the operands have different element types (float and double)");
     static_assert(!std::is_const_v<typename D::element>, "vonkk3: the destination is const");
@@ -40,7 +39,7 @@ template <bool Exact, class A, class D> Status copy_arrays(const A &a, const D &
     } else return vonkErrSize;
 }
 
-template <bool Exact, class A, class D> Status copy(const A &a, const D &d) {
+template <bool Exact, class A, class D> VONKK3_INLINE Status copy_views(const A &a, const D &d) {
     static_assert(A::is_array == D::is_array, "vonkk3: one object is copied to one, an array to an array");
     static_assert(!D::is_transposed, "vonkk3: the destination is transposed");
     VONKK3_SIZES_FIT((like_shape<D, A>));
@@ -51,7 +50,15 @@ template <bool Exact, class A, class D> Status copy(const A &a, const D &d) {
     else return copy_arrays<Exact>(as_array(a), as_array(d));
 }
 
-template <bool Exact, class A, class D> Status extract(const A &a, D &&dst) {
+template <bool Exact, class A, class D> VONKK3_INLINE Status copy(const A &a, const D &d) {
+    if constexpr (are_views<A, D>()) {
+        static_assert(A::is_matrix == D::is_matrix, "vonkk3: vectors are copied to vectors, matrices to matrices");
+        if constexpr (A::is_matrix == D::is_matrix) return copy_views<Exact>(a, d);
+    }
+    return vonkErrSize;
+}
+
+template <bool Exact, class A, class D> VONKK3_INLINE Status extract(const A &a, D &&dst) {
     using T = Plain<A>;
     constexpr Layout layout = A::is_table && !A::is_array ? Layout::P : strided(A::layout);
     if constexpr (!Exact && A::is_transposed && layout == Layout::S2)
@@ -78,7 +85,7 @@ template <bool Exact, class A, class D> Status extract(const A &a, D &&dst) {
     }
 }
 
-template <class D> Status exact_identity(const D &d) {
+template <class D> VONKK3_INLINE Status exact_identity(const D &d) {
     using Call = Choice<true, exports::LoadIdentity<exports::ma>, D>;
     constexpr Layout layout = strided(D::layout);
     constexpr auto f = exports::LoadIdentity<exports::ma>::template function<typename Call::T, 0, layout>();
@@ -87,7 +94,7 @@ template <class D> Status exact_identity(const D &d) {
 
 // One call an object, as only that makes an identity. By columns if the elements lie so; what the export has no strides
 // for is written here.
-template <class D> Status identity(const D &d) {
+template <class D> VONKK3_INLINE Status identity(const D &d) {
     for (Size n = 0; n < d.count(); ++n) {
         const auto one = as_array(d.slice(n, 1));
         bool simple = d.rows() <= d.columns();
@@ -128,19 +135,19 @@ template <class D> constexpr bool takes_identity() {
 /// dst = a, from any layout to any other: arrays to arrays, one object to one. A source in plain memory or lists may be
 /// vonk::transposed. Errors: vonkErrSize, vonkErrNullPtr; entries of tables and lists are not checked. Overlap: dst may
 /// be a (in place), with the same strides, unless it is transposed.
-template <class A, class D> Status copy(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status copy(A &&a, D &&dst) {
     return detail::copy<false>(detail::operand(a), detail::operand(dst));
 }
 
 /// Gathers the elements into one dense block, object by object and row by row: a pointer, or a container that is long
 /// enough (else vonkErrSize). A source may be vonk::transposed, but not an array behind one pointer per element
 /// position, nor one matrix of that kind with a shift (vonkErrSize).
-template <class A, class D> Status extract(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status extract(A &&a, D &&dst) {
     return detail::extract<false>(detail::operand(a), std::forward<D>(dst));
 }
 
 /// Makes every matrix of dst an identity: 1 where row and column are equal, else 0.
-template <class D> Status identity(D &&dst) {
+template <class D> VONKK3_INLINE Status identity(D &&dst) {
     const auto d = detail::operand(dst);
     if constexpr (detail::takes_identity<std::remove_const_t<decltype(d)>>()) {
         detail::check_strides(d, true);
@@ -150,13 +157,13 @@ template <class D> Status identity(D &&dst) {
 
 namespace exact {
 
-template <class A, class D> Status copy(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status copy(A &&a, D &&dst) {
     return detail::copy<true>(detail::operand(a), detail::operand(dst));
 }
-template <class A, class D> Status extract(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status extract(A &&a, D &&dst) {
     return detail::extract<true>(detail::operand(a), std::forward<D>(dst));
 }
-template <class D> Status identity(D &&dst) {
+template <class D> VONKK3_INLINE Status identity(D &&dst) {
     const auto d = detail::operand(dst);
     if constexpr (detail::takes_identity<std::remove_const_t<decltype(d)>>())
         return detail::exact_identity(detail::as_array(d));

@@ -14,7 +14,7 @@ inline constexpr Overlap in_place_unless_transposed = V::is_transposed ? Overlap
 
 // Two sources with a layout: dst = a op b, element by element.
 template <bool Exact, template <exports::Kind...> class Table, class A, class B, class D>
-Status combine_sources(const A &a, const B &b, const D &d) {
+VONKK3_INLINE Status combine_sources(const A &a, const B &b, const D &d) {
     using Group = Table<kind_of<A>(), kind_of<B>()>;
     if constexpr (makes_sense<Group, D, A, B>()) {
         VONKK3_SIZES_FIT((like_shape<D, A, B>)&&(like_shape<A, B>));
@@ -29,7 +29,7 @@ Status combine_sources(const A &a, const B &b, const D &d) {
 
 // One source and a number.
 template <bool Exact, class Group, class A, class X, class D>
-Status combine_constant(const A &a, const X &x, const D &d) {
+VONKK3_INLINE Status combine_constant(const A &a, const X &x, const D &d) {
     if constexpr (makes_sense<Group, D, A>()) {
         VONKK3_SIZES_FIT((like_shape<D, A>));
         if (!shapes_agree(d, a) || !counts_agree(d, a)) return vonkErrSize;
@@ -42,8 +42,7 @@ Status combine_constant(const A &a, const X &x, const D &d) {
 }
 
 template <bool Exact, template <exports::Kind...> class Table, class A, class B, class D>
-Status elementwise(const A &a, const B &b, const D &d) {
-    static_assert(is_view<D>, "vonkk3: the destination is a vector or a matrix");
+VONKK3_INLINE Status elementwise(const A &a, const B &b, const D &d) {
     if constexpr (is_constant<B>) return combine_constant<Exact, Table<kind_of<A>(), exports::c>>(a, b, d);
     else if constexpr (is_constant<A>) return combine_constant<Exact, Table<exports::c, kind_of<B>()>>(b, a, d);
     else return combine_sources<Exact, Table>(a, b, d);
@@ -62,18 +61,18 @@ template <Kind...> struct Mul;
 ///
 /// Shapes: all as dst, transposed sources as they enter. Errors: vonkErrSize, vonkErrNullPtr. Overlap: dst may be a
 /// source that is not transposed (in place), with the same strides.
-template <class A, class B, class D> Status add(A &&a, B &&b, D &&dst) {
+template <class A, class B, class D> VONKK3_INLINE Status add(A &&a, B &&b, D &&dst) {
     return detail::elementwise<false, exports::Add>(detail::operand(a), detail::operand(b), detail::operand(dst));
 }
 
 /// dst = a - b, as vonk::add; also of a number and a vector.
-template <class A, class B, class D> Status subtract(A &&a, B &&b, D &&dst) {
+template <class A, class B, class D> VONKK3_INLINE Status subtract(A &&a, B &&b, D &&dst) {
     return detail::elementwise<false, exports::Sub>(detail::operand(a), detail::operand(b), detail::operand(dst));
 }
 
 /// dst = a * factor, of vectors and of matrices, which may be vonk::transposed. Shapes, errors and overlap as
 /// vonk::add.
-template <class A, class X, class D> Status scale(A &&a, X factor, D &&dst) {
+template <class A, class X, class D> VONKK3_INLINE Status scale(A &&a, X factor, D &&dst) {
     static_assert(std::is_arithmetic_v<X>, "vonkk3: the factor is a number; vonk::multiply multiplies matrices");
     return detail::elementwise<false, exports::Mul>(detail::operand(a), detail::operand(factor), detail::operand(dst));
 }
@@ -82,13 +81,13 @@ template <class A, class X, class D> Status scale(A &&a, X factor, D &&dst) {
 /// docs/reference/exceptions.md.
 namespace exact {
 
-template <class A, class B, class D> Status add(A &&a, B &&b, D &&dst) {
+template <class A, class B, class D> VONKK3_INLINE Status add(A &&a, B &&b, D &&dst) {
     return detail::elementwise<true, exports::Add>(detail::operand(a), detail::operand(b), detail::operand(dst));
 }
-template <class A, class B, class D> Status subtract(A &&a, B &&b, D &&dst) {
+template <class A, class B, class D> VONKK3_INLINE Status subtract(A &&a, B &&b, D &&dst) {
     return detail::elementwise<true, exports::Sub>(detail::operand(a), detail::operand(b), detail::operand(dst));
 }
-template <class A, class X, class D> Status scale(A &&a, X factor, D &&dst) {
+template <class A, class X, class D> VONKK3_INLINE Status scale(A &&a, X factor, D &&dst) {
     return detail::elementwise<true, exports::Mul>(detail::operand(a), detail::operand(factor), detail::operand(dst));
 }
 

@@ -20,7 +20,7 @@ inline constexpr Size largest_local_order = 32;
 struct NoScratch {};
 
 // The call with a scratch of the caller's, of the right size on the stack, or none.
-template <class Call, Size Order, class X, class F> Status with_scratch(X &&scratch, Size order, F call) {
+template <class Call, Size Order, class X, class F> VONKK3_INLINE Status with_scratch(X &&scratch, Size order, F call) {
     using T = typename Call::T;
     using U = std::remove_reference_t<X>;
     if constexpr (Call::order != 0) return call(Nothing{});
@@ -44,7 +44,8 @@ template <class V> constexpr bool is_square() {
     return may_equal(V::fixed_rows, V::fixed_columns);
 }
 
-template <bool Exact, class A, class P, class D> Status lu(const A &a, P &&pivots, const D &d, Size &failed) {
+template <bool Exact, class A, class P, class D>
+VONKK3_INLINE Status lu(const A &a, P &&pivots, const D &d, Size &failed) {
     using Group = exports::LUDecomp<kind_of<A>()>;
     failed = 0;
     if constexpr (makes_sense<Group, D, A>() && is_square<A>()) {
@@ -69,7 +70,7 @@ template <bool Exact, class A, class P, class D> Status lu(const A &a, P &&pivot
 }
 
 template <bool Exact, class F, class P, class B, class D>
-Status lu_solve(const F &f, P &&pivots, const B &b, const D &d) {
+VONKK3_INLINE Status lu_solve(const F &f, P &&pivots, const B &b, const D &d) {
     using Group = exports::LUBackSubst<kind_of<F>(), kind_of<B>()>;
     if constexpr (makes_sense<Group, D, F, B>() && is_square<F>()) {
         VONKK3_SIZES_FIT(may_equal(F::fixed_rows, B::fixed_rows) && may_equal(F::fixed_rows, D::fixed_rows));
@@ -87,7 +88,7 @@ Status lu_solve(const F &f, P &&pivots, const B &b, const D &d) {
     } else return vonkErrSize;
 }
 
-template <class A, class B, class D> Status solve(const A &a, const B &b, const D &d, Size &failed) {
+template <class A, class B, class D> VONKK3_INLINE Status solve(const A &a, const B &b, const D &d, Size &failed) {
     static_assert(A::is_matrix && !B::is_matrix && !D::is_matrix, "vonkk3: a matrix, a right-hand side and a solution");
     static_assert(D::is_array == (A::is_array || B::is_array),
                   "vonkk3: the destination is an array if, and only if, a source is one");
@@ -120,7 +121,7 @@ template <class A, class B, class D> Status solve(const A &a, const B &b, const 
     }
 }
 
-template <class A, class D, class X> Status determinant(const A &a, D &&dst, X &&scratch) {
+template <class A, class D, class X> VONKK3_INLINE Status determinant(const A &a, D &&dst, X &&scratch) {
     using Group = exports::Det<kind_of<A>()>;
     if constexpr (sources_make_sense<Group, A>() && is_square<A>()) {
         using Call = Choice<true, Group, A>;
@@ -134,7 +135,7 @@ template <class A, class D, class X> Status determinant(const A &a, D &&dst, X &
     } else return vonkErrSize;
 }
 
-template <class A, class D, class X> Status inverse(const A &a, const D &d, X &&scratch) {
+template <class A, class D, class X> VONKK3_INLINE Status inverse(const A &a, const D &d, X &&scratch) {
     using Group = exports::Invert<kind_of<A>()>;
     if constexpr (makes_sense<Group, D, A>() && is_square<A>()) {
         VONKK3_SIZES_FIT((like_shape<D, A>));
@@ -160,18 +161,18 @@ template <class A, class D, class X> Status inverse(const A &a, const D &d, X &&
 /// Errors: vonkErrSingular if a pivot is below 2^-23 = 1.19e-7, an absolute bound (objects before it are complete,
 /// later ones untouched); vonkErrSize, vonkErrNullPtr. Overlap: dst may be a (in place), with the same strides; pivots
 /// overlap nothing.
-template <class A, class P, class D> Status lu(A &&a, P &&pivots, D &&dst) {
+template <class A, class P, class D> VONKK3_INLINE Status lu(A &&a, P &&pivots, D &&dst) {
     Size failed = 0;
     return detail::lu<false>(detail::operand(a), std::forward<P>(pivots), detail::operand(dst), failed);
 }
-template <class A, class P, class D> Status lu(A &&a, P &&pivots, D &&dst, Failed &failed) {
+template <class A, class P, class D> VONKK3_INLINE Status lu(A &&a, P &&pivots, D &&dst, Failed &failed) {
     return detail::lu<false>(detail::operand(a), std::forward<P>(pivots), detail::operand(dst), failed.object);
 }
 
 /// x = the solution of a x = b, by what vonk::lu left in `factors` and `pivots`: one system, one matrix with many
 /// right-hand sides, or one matrix for each. Errors: vonkErrSize, vonkErrNullPtr. x must not overlap a source, b
 /// neither.
-template <class F, class P, class B, class D> Status lu_solve(F &&factors, P &&pivots, B &&b, D &&x) {
+template <class F, class P, class B, class D> VONKK3_INLINE Status lu_solve(F &&factors, P &&pivots, B &&b, D &&x) {
     return detail::lu_solve<false>(detail::operand(factors), std::forward<P>(pivots), detail::operand(b),
                                    detail::operand(x));
 }
@@ -179,31 +180,31 @@ template <class F, class P, class B, class D> Status lu_solve(F &&factors, P &&p
 /// x = the solution of a x = b, by LU decomposition, with the factors on the stack: of fixed sizes up to 32. One
 /// system, one matrix with many right-hand sides, or one matrix for each object; object by object. Errors as of
 /// vonk::lu. x must not overlap a source.
-template <class A, class B, class D> Status solve(A &&a, B &&b, D &&x) {
+template <class A, class B, class D> VONKK3_INLINE Status solve(A &&a, B &&b, D &&x) {
     Size failed = 0;
     return detail::solve(detail::operand(a), detail::operand(b), detail::operand(x), failed);
 }
-template <class A, class B, class D> Status solve(A &&a, B &&b, D &&x, Failed &failed) {
+template <class A, class B, class D> VONKK3_INLINE Status solve(A &&a, B &&b, D &&x, Failed &failed) {
     return detail::solve(detail::operand(a), detail::operand(b), detail::operand(x), failed.object);
 }
 
 /// dst[n] = the determinant; dst is a number, or a pointer to or container of one per object. A size known at run time
 /// wants `scratch`: scratch_size<T>(order) bytes, as a pointer or a container. A singular matrix is no error. dst and
 /// scratch overlap nothing.
-template <class A, class D> Status determinant(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status determinant(A &&a, D &&dst) {
     return detail::determinant(detail::operand(a), std::forward<D>(dst), detail::NoScratch{});
 }
-template <class A, class D, class X> Status determinant(A &&a, D &&dst, X &&scratch) {
+template <class A, class D, class X> VONKK3_INLINE Status determinant(A &&a, D &&dst, X &&scratch) {
     return detail::determinant(detail::operand(a), std::forward<D>(dst), scratch);
 }
 
 /// dst = the inverse. A size known at run time wants `scratch`, as of vonk::determinant. Errors: vonkErrSingular, with
 /// objects before the failing one complete; bounds are absolute and differ between sizes, types and layouts, see
 /// docs/reference/inverse.md. Overlap: of sizes 3x3 to 6x6 dst may be a (in place), else none.
-template <class A, class D> Status inverse(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status inverse(A &&a, D &&dst) {
     return detail::inverse(detail::operand(a), detail::operand(dst), detail::NoScratch{});
 }
-template <class A, class D, class X> Status inverse(A &&a, D &&dst, X &&scratch) {
+template <class A, class D, class X> VONKK3_INLINE Status inverse(A &&a, D &&dst, X &&scratch) {
     if constexpr (std::is_same_v<X, Failed &>) {
         const auto from = detail::operand(a);
         const auto to = detail::operand(dst);
@@ -218,11 +219,11 @@ namespace exact {
 
 using vonk::determinant;
 using vonk::inverse;
-template <class A, class P, class D> Status lu(A &&a, P &&pivots, D &&dst) {
+template <class A, class P, class D> VONKK3_INLINE Status lu(A &&a, P &&pivots, D &&dst) {
     Size failed = 0;
     return detail::lu<true>(detail::operand(a), std::forward<P>(pivots), detail::operand(dst), failed);
 }
-template <class F, class P, class B, class D> Status lu_solve(F &&factors, P &&pivots, B &&b, D &&x) {
+template <class F, class P, class B, class D> VONKK3_INLINE Status lu_solve(F &&factors, P &&pivots, B &&b, D &&x) {
     return detail::lu_solve<true>(detail::operand(factors), std::forward<P>(pivots), detail::operand(b),
                                   detail::operand(x));
 }

@@ -8,7 +8,7 @@
 namespace vonk {
 namespace detail {
 
-template <bool Exact, class A, class D> Status transpose(const A &a, const D &d) {
+template <bool Exact, class A, class D> VONKK3_INLINE Status transpose(const A &a, const D &d) {
     using Group = exports::Transpose<kind_of<A>()>;
     if constexpr (makes_sense<Group, D, A>()) {
         VONKK3_SIZES_FIT(may_equal(A::fixed_rows, D::fixed_columns) && may_equal(A::fixed_columns, D::fixed_rows));
@@ -25,7 +25,7 @@ template <bool Exact, class A, class D> Status transpose(const A &a, const D &d)
     } else return vonkErrSize;
 }
 
-template <bool Exact, class A, class D> Status trace(const A &a, D &&dst) {
+template <bool Exact, class A, class D> VONKK3_INLINE Status trace(const A &a, D &&dst) {
     using Group = exports::Trace<kind_of<A>()>;
     if constexpr (sources_make_sense<Group, A>()) {
         VONKK3_SIZES_FIT(may_equal(A::fixed_rows, A::fixed_columns));
@@ -37,7 +37,7 @@ template <bool Exact, class A, class D> Status trace(const A &a, D &&dst) {
     } else return vonkErrSize;
 }
 
-template <bool Exact, class A, class D> Status frobenius(const A &a, D &&dst) {
+template <bool Exact, class A, class D> VONKK3_INLINE Status frobenius(const A &a, D &&dst) {
     using Group = exports::FrobNorm<kind_of<A>()>;
     if constexpr (sources_make_sense<Group, A>()) {
         using Call = Choice<Exact, Group, A>;
@@ -53,28 +53,28 @@ template <bool Exact, class A, class D> Status frobenius(const A &a, D &&dst) {
 
 /// dst = the transpose of a, moved in memory; vonk::transposed(a) as an operand moves nothing. Errors: vonkErrSize,
 /// vonkErrNullPtr. Behind one pointer per element position a must be square. dst must not overlap a.
-template <class A, class D> Status transpose(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status transpose(A &&a, D &&dst) {
     return detail::transpose<false>(detail::operand(a), detail::operand(dst));
 }
 
 /// dst[n] = sum of the diagonal of square matrices; dst is a number, or a pointer to or container of one per object.
-template <class A, class D> Status trace(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status trace(A &&a, D &&dst) {
     return detail::trace<false>(detail::operand(a), std::forward<D>(dst));
 }
 
 /// dst[n] = root of the sum of the squares of all elements; dst as of vonk::trace. Correctly rounded root, 0 for a
 /// matrix of zeros: of floats of fixed size exact::frobenius is an estimate, faster and NaN for zeros.
-template <class A, class D> Status frobenius(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status frobenius(A &&a, D &&dst) {
     return detail::frobenius<false>(detail::operand(a), std::forward<D>(dst));
 }
 
 namespace exact {
 
 using vonk::trace;
-template <class A, class D> Status transpose(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status transpose(A &&a, D &&dst) {
     return detail::transpose<true>(detail::operand(a), detail::operand(dst));
 }
-template <class A, class D> Status frobenius(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status frobenius(A &&a, D &&dst) {
     return detail::frobenius<true>(detail::operand(a), std::forward<D>(dst));
 }
 

@@ -9,7 +9,8 @@ namespace vonk {
 namespace detail {
 
 template <bool Exact, class Group, class A, class B, class D>
-Status invoke_product(const A &a, const B &b, const D &d, Size a_columns, Size a_rows, Size b_columns, Size b_rows) {
+VONKK3_INLINE Status invoke_product(const A &a, const B &b, const D &d, Size a_columns, Size a_rows, Size b_columns,
+                                    Size b_rows) {
     using Call = Choice<Exact, Group, D, A, B>;
     return invoke<Call>(a, open_size<Call>(Number{a_columns}), open_size<Call>(Number{a_rows}), b,
                         open_size<Call>(Number{b_columns}), open_size<Call>(Number{b_rows}), d,
@@ -24,7 +25,8 @@ constexpr bool is_table_product(bool any_transposed, bool any_array, bool second
     return !any_array || std::uint64_t(k) * k <= std::uint64_t(m) * n;
 }
 
-template <bool Exact, class A, class B, class D> Status multiply_matrices(const A &a, const B &b, const D &d) {
+template <bool Exact, class A, class B, class D>
+VONKK3_INLINE Status multiply_matrices(const A &a, const B &b, const D &d) {
     using Group = exports::Mul<kind_of<A>(), kind_of<B>()>;
     if constexpr (makes_sense<Group, D, A, B>()) {
         static_assert(D::is_matrix, "vonkk3: the product of two matrices is a matrix");
@@ -56,14 +58,15 @@ template <bool Exact, class A, class B, class D> Status multiply_matrices(const 
         else if constexpr (B::is_array && !(fixed && fixed_rows<D> == fixed_columns<D>)) {
             // The size check of these groups is that of other ones. With the second matrix as a transposed one of
             // exchanged strides it compares the first matrix's columns, which nothing else uses then, with n.
-            const auto other = exchanged(b);
+            auto other = exchanged(b);
             using Other = exports::Mul<kind_of<A>(), kind_of<decltype(other)>()>;
             return invoke_product<false, Other>(a, other, d, n, m, n, k);
         } else return invoke_product<false, Group>(a, b, d, k, m, n, k);
     } else return vonkErrSize;
 }
 
-template <bool Exact, class A, class B, class D> Status multiply_vector(const A &a, const B &b, const D &d) {
+template <bool Exact, class A, class B, class D>
+VONKK3_INLINE Status multiply_vector(const A &a, const B &b, const D &d) {
     using Group = exports::Mul<kind_of<A>(), kind_of<B>()>;
     if constexpr (makes_sense<Group, D, A, B>()) {
         static_assert(!D::is_matrix, "vonkk3: the product of a matrix and a vector is a vector");
@@ -87,14 +90,19 @@ template <bool Exact, class A, class B, class D> Status multiply_vector(const A 
     } else return vonkErrSize;
 }
 
-template <bool Exact, class A, class B, class D> Status multiply(const A &a, const B &b, const D &d) {
-    static_assert(is_view<A> && is_view<B> && is_view<D>, "vonkk3: numbers are multiplied by vonk::scale");
-    static_assert(A::is_matrix, "vonkk3: the first factor is a matrix");
-    if constexpr (B::is_matrix) return multiply_matrices<Exact>(a, b, d);
-    else return multiply_vector<Exact>(a, b, d);
+template <bool Exact, class A, class B, class D> VONKK3_INLINE Status multiply(const A &a, const B &b, const D &d) {
+    constexpr bool numbers = is_constant<A> || is_constant<B> || is_constant<D>;
+    static_assert(!numbers, "vonkk3: numbers are multiplied by vonk::scale");
+    if constexpr (is_view<A> && is_view<B> && is_view<D>) {
+        static_assert(A::is_matrix, "vonkk3: the first factor is a matrix");
+        if constexpr (!A::is_matrix) return vonkErrSize;
+        else if constexpr (B::is_matrix) return multiply_matrices<Exact>(a, b, d);
+        else return multiply_vector<Exact>(a, b, d);
+    } else return vonkErrSize;
 }
 
-template <class A, class X, class Y, class D> Status gaxpy(const A &a, const X &x, const Y &y, const D &d) {
+template <class A, class X, class Y, class D>
+VONKK3_INLINE Status gaxpy(const A &a, const X &x, const Y &y, const D &d) {
     using Group = exports::Gaxpy<kind_of<A>(), kind_of<X>(), kind_of<Y>()>;
     if constexpr (makes_sense<Group, D, A, X, Y>()) {
         VONKK3_SIZES_FIT(may_equal(A::fixed_columns, X::fixed_rows) && may_equal(A::fixed_rows, Y::fixed_rows) &&
@@ -115,19 +123,19 @@ template <class A, class X, class Y, class D> Status gaxpy(const A &a, const X &
 ///
 /// Shapes: a is m by k, b k by n (a vector: k), dst m by n, transposed ones as they enter; not square ones, too, but
 /// not behind one pointer per element position. Errors: vonkErrSize, vonkErrNullPtr. dst must not overlap a source.
-template <class A, class B, class D> Status multiply(A &&a, B &&b, D &&dst) {
+template <class A, class B, class D> VONKK3_INLINE Status multiply(A &&a, B &&b, D &&dst) {
     return detail::multiply<false>(detail::operand(a), detail::operand(b), detail::operand(dst));
 }
 
 /// dst = a x + y, with one matrix, and one vector or an array of vectors. dst must not overlap a source.
-template <class A, class X, class Y, class D> Status gaxpy(A &&a, X &&x, Y &&y, D &&dst) {
+template <class A, class X, class Y, class D> VONKK3_INLINE Status gaxpy(A &&a, X &&x, Y &&y, D &&dst) {
     return detail::gaxpy(detail::operand(a), detail::operand(x), detail::operand(y), detail::operand(dst));
 }
 
 namespace exact {
 
 using vonk::gaxpy;
-template <class A, class B, class D> Status multiply(A &&a, B &&b, D &&dst) {
+template <class A, class B, class D> VONKK3_INLINE Status multiply(A &&a, B &&b, D &&dst) {
     return detail::multiply<true>(detail::operand(a), detail::operand(b), detail::operand(dst));
 }
 

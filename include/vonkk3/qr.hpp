@@ -13,7 +13,7 @@ inline constexpr Size largest_local_work = 1024; // elements on the stack
 struct NoWork {};
 
 // The call with a workspace of `rows` elements: the caller's, or of the right size on the stack.
-template <class T, Size Rows, class W, class F> Status with_work(W &&work, Size rows, F call) {
+template <class T, Size Rows, class W, class F> VONKK3_INLINE Status with_work(W &&work, Size rows, F call) {
     if constexpr (std::is_same_v<std::remove_const_t<std::remove_reference_t<W>>, NoWork>) {
         static_assert(Rows != dynamic && Rows <= largest_local_work,
                       "vonkk3: this size wants a workspace as a last argument: as many elements as rows");
@@ -27,7 +27,7 @@ template <class T, Size Rows, class W, class F> Status with_work(W &&work, Size 
     }
 }
 
-template <class A, class D, class W> Status qr(const A &a, const D &d, W &&work) {
+template <class A, class D, class W> VONKK3_INLINE Status qr(const A &a, const D &d, W &&work) {
     using Group = exports::QRDecomp<kind_of<A>()>;
     if constexpr (makes_sense<Group, D, A>()) {
         VONKK3_SIZES_FIT((like_shape<D, A>)&&(!A::is_fixed || A::fixed_rows >= A::fixed_columns));
@@ -42,7 +42,7 @@ template <class A, class D, class W> Status qr(const A &a, const D &d, W &&work)
 }
 
 template <bool Exact, class F, class B, class D, class W>
-Status qr_solve(const F &f, const B &b, const D &d, W &&work) {
+VONKK3_INLINE Status qr_solve(const F &f, const B &b, const D &d, W &&work) {
     using Group = exports::QRBackSubst<kind_of<F>(), kind_of<B>()>;
     if constexpr (makes_sense<Group, D, F, B>()) {
         VONKK3_SIZES_FIT(may_equal(F::fixed_rows, B::fixed_rows) && may_equal(F::fixed_columns, D::fixed_rows));
@@ -59,7 +59,8 @@ Status qr_solve(const F &f, const B &b, const D &d, W &&work) {
     } else return vonkErrSize;
 }
 
-template <class A, class B, class D> Status least_squares(const A &a, const B &b, const D &d, Size &failed) {
+template <class A, class B, class D>
+VONKK3_INLINE Status least_squares(const A &a, const B &b, const D &d, Size &failed) {
     static_assert(A::is_matrix && !B::is_matrix && !D::is_matrix, "vonkk3: a matrix, a right-hand side and a solution");
     static_assert(D::is_array == (A::is_array || B::is_array),
                   "vonkk3: the destination is an array if, and only if, a source is one");
@@ -94,10 +95,10 @@ template <class A, class B, class D> Status least_squares(const A &a, const B &b
 /// nothing. Errors: vonkErrSingular if the SQUARED norm of what a column adds is below 2^-23 = 1.19e-7, an absolute
 /// bound, so scale small data; objects before the failing one are complete, later ones untouched. Overlap: dst may be a
 /// (in place), with the same strides.
-template <class A, class D> Status qr(A &&a, D &&dst) {
+template <class A, class D> VONKK3_INLINE Status qr(A &&a, D &&dst) {
     return detail::qr(detail::operand(a), detail::operand(dst), detail::NoWork{});
 }
-template <class A, class D, class W> Status qr(A &&a, D &&dst, W &&work) {
+template <class A, class D, class W> VONKK3_INLINE Status qr(A &&a, D &&dst, W &&work) {
     if constexpr (std::is_same_v<W, Failed &>) { // object by object
         const auto from = detail::operand(a);
         const auto to = detail::operand(dst);
@@ -112,10 +113,10 @@ template <class A, class D, class W> Status qr(A &&a, D &&dst, W &&work) {
 /// or one matrix for each. b has as many elements as a has rows, x as many as columns. `work` as of vonk::qr; its
 /// elements past those of x hold the residual of the last object in another basis. Errors: vonkErrSize, vonkErrNullPtr.
 /// Overlap: x may begin where b does (in place).
-template <class F, class B, class D> Status qr_solve(F &&factors, B &&b, D &&x) {
+template <class F, class B, class D> VONKK3_INLINE Status qr_solve(F &&factors, B &&b, D &&x) {
     return detail::qr_solve<false>(detail::operand(factors), detail::operand(b), detail::operand(x), detail::NoWork{});
 }
-template <class F, class B, class D, class W> Status qr_solve(F &&factors, B &&b, D &&x, W &&work) {
+template <class F, class B, class D, class W> VONKK3_INLINE Status qr_solve(F &&factors, B &&b, D &&x, W &&work) {
     return detail::qr_solve<false>(detail::operand(factors), detail::operand(b), detail::operand(x),
                                    std::forward<W>(work));
 }
@@ -123,21 +124,21 @@ template <class F, class B, class D, class W> Status qr_solve(F &&factors, B &&b
 /// x = what minimises |a x - b|, by QR decomposition with the factors on the stack: of fixed sizes up to 1024 elements.
 /// One system, one matrix with many right-hand sides, or one matrix for each; object by object. Errors as of vonk::qr.
 /// x must not overlap a source.
-template <class A, class B, class D> Status least_squares(A &&a, B &&b, D &&x) {
+template <class A, class B, class D> VONKK3_INLINE Status least_squares(A &&a, B &&b, D &&x) {
     Size failed = 0;
     return detail::least_squares(detail::operand(a), detail::operand(b), detail::operand(x), failed);
 }
-template <class A, class B, class D> Status least_squares(A &&a, B &&b, D &&x, Failed &failed) {
+template <class A, class B, class D> VONKK3_INLINE Status least_squares(A &&a, B &&b, D &&x, Failed &failed) {
     return detail::least_squares(detail::operand(a), detail::operand(b), detail::operand(x), failed.object);
 }
 
 namespace exact {
 
 using vonk::qr;
-template <class F, class B, class D> Status qr_solve(F &&factors, B &&b, D &&x) {
+template <class F, class B, class D> VONKK3_INLINE Status qr_solve(F &&factors, B &&b, D &&x) {
     return detail::qr_solve<true>(detail::operand(factors), detail::operand(b), detail::operand(x), detail::NoWork{});
 }
-template <class F, class B, class D, class W> Status qr_solve(F &&factors, B &&b, D &&x, W &&work) {
+template <class F, class B, class D, class W> VONKK3_INLINE Status qr_solve(F &&factors, B &&b, D &&x, W &&work) {
     return detail::qr_solve<true>(detail::operand(factors), detail::operand(b), detail::operand(x),
                                   std::forward<W>(work));
 }

@@ -18,6 +18,13 @@
 #include <type_traits>
 #include <utility>
 
+// A call is to leave nothing but the export's.
+#if defined(__GNUC__)
+#define VONKK3_INLINE [[gnu::always_inline]] inline
+#else
+#define VONKK3_INLINE inline
+#endif
+
 namespace vonk {
 
 using Size = std::uint32_t;        ///< elements or objects
@@ -266,7 +273,8 @@ private:
         constexpr std::ptrdiff_t e = sizeof(T);
         strides_.element = e;
         strides_.row = is_matrix ? detail::to_stride(e * stored_columns()) : 0;
-        strides_.object = is_table ? e : detail::to_stride(e * stored_rows() * (is_matrix ? stored_columns() : 1));
+        if (is_array)
+            strides_.object = is_table ? e : detail::to_stride(e * stored_rows() * (is_matrix ? stored_columns() : 1));
     }
 
     pointer data_;
@@ -362,6 +370,9 @@ constexpr bool wanted(Kind kind, int rank) { return rank == (is_matrix(kind) ? 2
 
 template <class T> inline constexpr bool never = false;
 
+// What stands for a view after an error of the compiler, so that one sentence is all it says.
+struct Unfit {};
+
 // A view of one or more objects of a type with a shape, `step` bytes apart.
 template <Kind K, class U> auto shaped(U *first, std::size_t count, std::ptrdiff_t step) {
     using S = ShapeOf<U>;
@@ -385,25 +396,24 @@ template <Kind K, class U, class Pointer> auto shaped_list(Pointer *list, std::s
 // An array of objects from `count` items, which are objects with a shape, pointers to such or to elements, or, with the
 // sizes given, elements; of these there are `elements`, or `count` is that of the objects.
 template <Kind K, Size R, Size C, class U> auto array_of(U *first, std::size_t count, bool elements) {
-    if constexpr (std::is_pointer_v<U>) {
-        using V = std::remove_pointer_t<U>;
-        if constexpr (R != dynamic) {
-            static_assert(ShapeOf<V>::rank == 0, "vonkk3: sizes are given, so pointers lead to elements");
-            return View<V, R, C, Layout::L, K>(first, count);
-        } else {
-            static_assert(wanted(K, ShapeOf<V>::rank), "vonkk3: say the sizes, as in vonk::matrices<3, 3>(pointers) "
-                                                       "and vonk::vectors<3>(pointers)");
-            return shaped_list<K, V>(first, count, 0);
+    using V = std::remove_pointer_t<U>; // of a list, what its pointers lead to
+    if constexpr (R != dynamic) {
+        static_assert(ShapeOf<V>::rank == 0,
+                      "vonkk3: elements are float or double, and sizes are not given beside a type "
+                      "that has its own");
+        if constexpr (ShapeOf<V>::rank != 0) return Unfit{};
+        else if constexpr (std::is_pointer_v<U>) return View<V, R, C, Layout::L, K>(first, count);
+        else {
+            require(!elements || count % (R * C) == 0, "the elements do not fill whole matrices or vectors");
+            return View<V, R, C, Layout::standard, K>(first, elements ? count / (R * C) : count);
         }
-    } else if constexpr (R != dynamic) {
-        static_assert(ShapeOf<U>::rank == 0, "vonkk3: sizes are given, so there must be plain elements");
-        require(!elements || count % (R * C) == 0, "the elements do not fill whole matrices or vectors");
-        return View<U, R, C, Layout::standard, K>(first, elements ? count / (R * C) : count);
     } else {
-        static_assert(wanted(K, ShapeOf<U>::rank),
+        static_assert(wanted(K, ShapeOf<V>::rank),
                       "vonkk3: the items are not matrices (or vectors) by their type; say the sizes, as in "
                       "vonk::matrices<4, 4>(elements) and vonk::vectors<3>(elements)");
-        return shaped<K>(first, count, sizeof(U));
+        if constexpr (!wanted(K, ShapeOf<V>::rank)) return Unfit{};
+        else if constexpr (std::is_pointer_v<U>) return shaped_list<K, V>(first, count, 0);
+        else return shaped<K>(first, count, sizeof(U));
     }
 }
 
@@ -411,7 +421,7 @@ template <Kind K, Size R, Size C, class X> auto one_of(X &x) {
     if constexpr (R != dynamic) {
         static_assert(is_container<X> && ShapeOf<ItemOf<X>>::rank == 0,
                       "vonkk3: sizes are given, so there must be plain elements");
-        require(items_count(x) == R * C, "there are not as many elements as the sizes say");
+        require(items_count(x) >= R * C, "there are fewer elements than the sizes say");
         return View<ItemOf<X>, R, C, Layout::standard, K>(items(x));
     } else if constexpr (wanted(K, ShapeOf<X>::rank)) return shaped<K>(&x, 1, 0);
     else if constexpr (K == Kind::vector && is_container<X>) {
@@ -420,6 +430,7 @@ template <Kind K, Size R, Size C, class X> auto one_of(X &x) {
     } else {
         static_assert(never<X>, "vonkk3: the type is not that of one matrix; say its sizes, as in "
                                 "vonk::matrix<4, 4>(elements)");
+        return Unfit{};
     }
 }
 
