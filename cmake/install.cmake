@@ -1,7 +1,7 @@
 # cmake --install: library at all levels, with its links, headers, CMake package, pkg-config file, man pages and the catalogue as data.
 include(CMakePackageConfigHelpers)
 
-install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h" PATTERN "*.hpp")
 install(TARGETS vonkk3 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 if(VONKK3_STATIC)
   install(TARGETS vonkk3_static ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})

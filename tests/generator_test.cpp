@@ -89,10 +89,38 @@ TEST(CheckedInFiles, TheHeadersAreCurrentAndThereIsNoOther) {
     for (const auto &[name, content] : headers)
         EXPECT_TRUE(read(root / "include" / name) == content) << name << " " << howToUpdate;
     for (const fs::directory_entry &entry : fs::recursive_directory_iterator(root / "include"))
-        if (entry.is_regular_file()) {
+        if (entry.is_regular_file() && entry.path().extension() == ".h") {
             EXPECT_TRUE(headers.contains(fs::relative(entry.path(), root / "include").generic_string()))
                 << entry.path() << " is a header of no family";
         }
+}
+
+TEST(CheckedInFiles, TheTablesOfTheCppHeadersAreCurrentAndThereIsNoOther) {
+    const auto tables = emit::cppExports();
+    EXPECT_EQ(tables.size(), 7U);
+    for (const auto &[name, content] : tables)
+        EXPECT_TRUE(read(root / "include" / name) == content) << name << " " << howToUpdate;
+    for (const fs::directory_entry &entry : fs::directory_iterator(root / "include/vonkk3/exports"))
+        EXPECT_TRUE(tables.contains("vonkk3/exports/" + entry.path().filename().string()))
+            << entry.path() << " is a table of no header";
+}
+
+// Exports that a caller would fall into, and their siblings that are right, by the exceptions' own words.
+TEST(CppTables, AvoidWhatExceptionsSpeakAgainst) {
+    const auto tables = emit::cppExports();
+    const auto avoids = [&](const char *header, const std::string &group, const std::string &condition) {
+        const std::string &text = tables.at(std::string("vonkk3/exports/") + header + ".hpp");
+        const std::size_t begin = text.find("struct " + group + " {"), end = text.find("\n};", begin);
+        ASSERT_NE(begin, std::string::npos) << group;
+        EXPECT_EQ(text.substr(begin, end - begin).find("return " + condition + ";") != std::string::npos,
+                  !condition.empty())
+            << group;
+    };
+    avoids("matrix", "Sub<mT, mT>", "is_float && order == 6 && layout == Layout::standard");
+    avoids("matrix", "Sub<maT, maT>", "is_float && order == 6 && (layout == Layout::standard || layout == Layout::L)");
+    avoids("qr", "QRBackSubst<ma, va>", "!is_float && layout == Layout::L");
+    avoids("vector", "L2Norm<va>", "is_float && order != 0 && (layout == Layout::standard || layout == Layout::L)");
+    EXPECT_EQ(tables.at("vonkk3/exports/cholesky.hpp").find("avoid"), std::string::npos);
 }
 
 TEST(CheckedInFiles, TheTableOfFunctionsIsCurrentAndPointsAtTheSections) {

@@ -28,6 +28,7 @@ void write(const fs::path &path, const std::string &content) {
 
 void writeTree(const fs::path &root) {
     for (const auto &[name, content] : emit::headers()) write(root / "include" / name, content);
+    for (const auto &[name, content] : emit::cppExports()) write(root / "include" / name, content);
     write(root / "docs/functions.md", emit::functions());
     for (const auto &[name, content] : emit::reference()) write(root / "docs/reference" / name, content);
 }
