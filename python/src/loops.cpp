@@ -604,7 +604,8 @@ void choleskySolve(char **data, const Size *dimensions, const Size *steps, void 
 
 // ---- Inverse
 
-// From LU factors: the columns of the identity are the right-hand sides.
+// From LU factors: the columns of the identity are the right-hand sides. For all orders that have no unrolled form, and
+// for matrices that the library's absolute tolerance for determinants refuses, or that are not plain.
 template <typename T> std::int32_t invertByLu(const View &a, const View &x) {
     const Size n = a.rows;
     Room<T> room(3 * n * n);
@@ -630,29 +631,6 @@ template <typename T> bool isPlain(Size n, T ofMatrix, T ofInverse) {
     return ofMatrix <= most && static_cast<double>(ofMatrix) * ofInverse <= condition;
 }
 
-// A matrix that the library's absolute tolerance refuses, or that is not plain.
-template <typename T> std::int32_t invertScaled(const View &a, const View &x) {
-    const Size n = a.rows;
-    T matrix[36], result[36];
-    pack(a, matrix);
-    Scaling scaling;
-    const Size row = n * static_cast<Size>(sizeof(T));
-    if (!equilibrate(matrix, n, n, scaling, 0, true)) {
-        if (std::all_of(matrix, matrix + n * n, [](T value) { return std::isfinite(value); })) return errSingular;
-        fill(x, nan<T>);
-        return ok;
-    }
-    if (Exports<T>::Invert_ma_S2(matrix, 0, s(row), sizeof(T), u(n), nullptr, result, 0, s(row), sizeof(T), 1) != ok ||
-        !isPlain(n, largest(matrix, n * n), largest(result, n * n)))
-        return invertByLu<T>(a, x);
-    for (Size i = 0; i < n; ++i)
-        for (Size j = 0; j < n; ++j)
-            result[i * n + j] = std::ldexp(result[i * n + j], -scaling.col[static_cast<std::size_t>(i)] -
-                                                                  scaling.row[static_cast<std::size_t>(j)]);
-    unpack(result, x);
-    return ok;
-}
-
 template <typename T> void inv(char **data, const Size *dimensions, const Size *steps, void *) {
     const Flags flags;
     Arguments<T> arguments(data, dimensions, steps, 1, 2);
@@ -662,8 +640,7 @@ template <typename T> void inv(char **data, const Size *dimensions, const Size *
     if (n == 0) return status.succeed(0, arguments.count);
     const bool fixed = n >= 3 && n <= 6;
     auto failed = [&](Size object, std::int32_t) {
-        const std::int32_t done =
-            fixed ? invertScaled<T>(a.from(object), x.from(object)) : invertByLu<T>(a.from(object), x.from(object));
+        const std::int32_t done = invertByLu<T>(a.from(object), x.from(object));
         status.set(object, done);
         if (done != ok) fill(x.from(object), nan<T>);
     };

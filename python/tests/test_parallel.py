@@ -58,9 +58,12 @@ def test_in_place_and_overlapping_results():
     again = a.copy()
     parallel.inv(again, out=again, threads=2)
     assert again.tobytes() == expected.tobytes()
-    whole = np.concatenate([a, a[:1]])
-    parallel.matmul(whole[:-1], np.eye(4), out=whole[1:], threads=3)
-    assert np.array_equal(whole[1:], a)
+    flat = a.reshape(-1, 4, 4)[:3000]
+    doubled = vonkk3.matmul(flat, 2 * np.eye(4))
+    for _ in range(20): # what one thread stores is what the next one reads
+        whole = np.concatenate([flat, flat[:1000]])
+        parallel.matmul(whole[:-1000], 2 * np.eye(4), out=whole[1000:], threads=3)
+        assert np.array_equal(whole[1000:], doubled)
 
 
 def test_failures():
