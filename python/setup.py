@@ -57,7 +57,7 @@ setup(
     package_data={"vonkk3": ["py.typed", "*.pyi"]},
     ext_modules=[Extension("vonkk3._core", ["src/module.cpp", "src/loops.cpp"], include_dirs=["src", numpy.get_include()],
                            depends=["src/loops.h", "src/views.h", "src/scaling.h"],
-                           extra_compile_args=["-std=c++20", "-O2", "-fvisibility=hidden", "-Wall", "-Wextra"])],
+                           extra_compile_args=["-std=c++20", "-O3", "-ffp-contract=off", "-fvisibility=hidden", "-Wall", "-Wextra"])],
     cmdclass={"build_ext": BuildWithLibrary},
     zip_safe=False,
 )

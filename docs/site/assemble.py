@@ -55,7 +55,8 @@ def main():
     shutil.rmtree(pages, ignore_errors=True)
     shutil.copytree(SITE / "pages", pages)
     reference(catalogue, pages / "reference")
-    shutil.copy(ROOT / "docs" / "layouts.svg", pages / "layouts.svg")
+    for file in ("layouts.svg", "python.svg", "python-scaling.svg", "python-benchmarks.md"):
+        shutil.copy(ROOT / "docs" / file, pages / file)
     shutil.copytree(SITE / "finder", pages / "assets")
     pack.write(catalogue, pages / "assets" / "catalogue.js")
     plots.write(SITE / "data" / "benchmarks.json", pages / "plots")

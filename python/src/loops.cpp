@@ -106,7 +106,9 @@ public:
         failures += status != ok;
     }
     void succeed(Size first, Size count) const {
-        for (Size k = first; k < first + count; ++k) set(k, ok);
+        if (view.outer == sizeof(std::int32_t)) std::fill_n(p<std::int32_t>(view.from(first)), count, ok);
+        else
+            for (Size k = first; k < first + count; ++k) set(k, ok);
     }
 
 private:
@@ -334,8 +336,7 @@ template <typename T> void det(char **data, const Size *dimensions, const Size *
             if constexpr (std::is_same_v<T, float>) {
                 constexpr int least = -20, most = 20;
                 const Size size = n * n * a.size;
-                if (a.contiguous() && a.row == n * a.size && (a.outer == size || count == 1) &&
-                    inRange(p<float>(a), n * n * count, least, most))
+                if (a.packed() && (a.outer == size || count == 1) && inRange(p<float>(a), n * n * count, least, most))
                     return ok;
                 for (Size k = 0; k < count; ++k)
                     if (!inRange(a.from(k), least, most)) block[k] = oneDeterminant<T>(a.from(k));
@@ -388,7 +389,7 @@ template <typename T> void lu(char **data, const Size *dimensions, const Size *s
     const View pivots = arguments.vector(n, sizeof(std::uint32_t));
     const Status status(arguments.scalar(sizeof(std::int32_t)));
     if (n == 0) return status.succeed(0, arguments.count);
-    const bool packed = factors.contiguous() && factors.row == n * factors.size;
+    const bool packed = factors.packed();
     Room<T> room(packed ? 0 : n * n);
     Room<std::uint32_t> places(n);
     for (Size k = 0; k < arguments.count; ++k) {
@@ -603,7 +604,8 @@ void choleskySolve(char **data, const Size *dimensions, const Size *steps, void 
 
 // ---- Inverse
 
-// From LU factors: the columns of the identity are the right-hand sides.
+// From LU factors: the columns of the identity are the right-hand sides. For all orders that have no unrolled form, and
+// for matrices that the library's absolute tolerance for determinants refuses, or that are not plain.
 template <typename T> std::int32_t invertByLu(const View &a, const View &x) {
     const Size n = a.rows;
     Room<T> room(3 * n * n);
@@ -629,29 +631,6 @@ template <typename T> bool isPlain(Size n, T ofMatrix, T ofInverse) {
     return ofMatrix <= most && static_cast<double>(ofMatrix) * ofInverse <= condition;
 }
 
-// A matrix that the library's absolute tolerance refuses, or that is not plain.
-template <typename T> std::int32_t invertScaled(const View &a, const View &x) {
-    const Size n = a.rows;
-    T matrix[36], result[36];
-    pack(a, matrix);
-    Scaling scaling;
-    const Size row = n * static_cast<Size>(sizeof(T));
-    if (!equilibrate(matrix, n, n, scaling, 0, true)) {
-        if (std::all_of(matrix, matrix + n * n, [](T value) { return std::isfinite(value); })) return errSingular;
-        fill(x, nan<T>);
-        return ok;
-    }
-    if (Exports<T>::Invert_ma_S2(matrix, 0, s(row), sizeof(T), u(n), nullptr, result, 0, s(row), sizeof(T), 1) != ok ||
-        !isPlain(n, largest(matrix, n * n), largest(result, n * n)))
-        return invertByLu<T>(a, x);
-    for (Size i = 0; i < n; ++i)
-        for (Size j = 0; j < n; ++j)
-            result[i * n + j] = std::ldexp(result[i * n + j], -scaling.col[static_cast<std::size_t>(i)] -
-                                                                  scaling.row[static_cast<std::size_t>(j)]);
-    unpack(result, x);
-    return ok;
-}
-
 template <typename T> void inv(char **data, const Size *dimensions, const Size *steps, void *) {
     const Flags flags;
     Arguments<T> arguments(data, dimensions, steps, 1, 2);
@@ -661,8 +640,7 @@ template <typename T> void inv(char **data, const Size *dimensions, const Size *
     if (n == 0) return status.succeed(0, arguments.count);
     const bool fixed = n >= 3 && n <= 6;
     auto failed = [&](Size object, std::int32_t) {
-        const std::int32_t done =
-            fixed ? invertScaled<T>(a.from(object), x.from(object)) : invertByLu<T>(a.from(object), x.from(object));
+        const std::int32_t done = invertByLu<T>(a.from(object), x.from(object));
         status.set(object, done);
         if (done != ok) fill(x.from(object), nan<T>);
     };
@@ -675,7 +653,7 @@ template <typename T> void inv(char **data, const Size *dimensions, const Size *
         if (done != ok) return done;
         status.succeed(first, count);
         const auto packed = [&](const View &view) {
-            return view.contiguous() && view.row == n * view.size && (view.outer == n * view.row || count == 1);
+            return view.packed() && (view.outer == n * view.row || count == 1);
         };
         if (!packed(a) || !packed(x)) {
             for (Size k = first; k < first + count; ++k)
@@ -804,27 +782,45 @@ template <typename T> void qrR(char **data, const Size *dimensions, const Size *
     eachQr<T>(a, arguments.count, status, [&](const T *factors, Size k) { storeR(factors, r.from(k)); });
 }
 
-// Q and R. The library applies Q' to a right-hand side and leaves the product in `work`: of column i of the identity
-// that is row i of Q.
+// The first n columns of the product of the reflections I - 2 v v' / (v'v), applied to the identity from the last one
+// on. Compact factors hold v below the diagonal, and its leading 1 is left out.
+template <typename T, Size order> void formQ(const T *factors, Size rows, Size cols, T *q, T *sums) {
+    const Size m = order ? order : rows, n = order ? order : cols; // fixed, loops are unrolled
+    std::fill_n(q, m * n, T{0});
+    for (Size i = 0; i < n; ++i) q[i * n + i] = 1;
+    for (Size k = std::min(n, m - 1) - 1; k >= 0; --k) {
+        T square = 1;
+        std::copy(q + k * n + k, q + (k + 1) * n, sums);
+        for (Size i = k + 1; i < m; ++i) {
+            const T v = factors[i * n + k];
+            square += v * v;
+            for (Size j = k; j < n; ++j) sums[j - k] += v * q[i * n + j];
+        }
+        const T beta = -2 / square;
+        for (Size j = k; j < n; ++j) q[k * n + j] += sums[j - k] *= beta;
+        for (Size i = k + 1; i < m; ++i)
+            for (Size j = k; j < n; ++j) q[i * n + j] += factors[i * n + k] * sums[j - k];
+    }
+}
+
 template <typename T> void qr(char **data, const Size *dimensions, const Size *steps, void *) {
     const Flags flags;
     Arguments<T> arguments(data, dimensions, steps, 1, 3);
-    const Size m = dimensions[1], n = dimensions[2], row = n * static_cast<Size>(sizeof(T));
+    const Size m = dimensions[1], n = dimensions[2];
     const View a = arguments.matrix(m, n), q = arguments.matrix(m, n), r = arguments.matrix(n, n);
     const Status status(arguments.scalar(sizeof(std::int32_t)));
     if (n == 0) return status.succeed(0, arguments.count);
-    Room<T> room(2 * m + n);
-    T *const work = room.data(), *const unit = work + m, *const x = unit + m;
-    std::fill_n(unit, m, T{0});
+    Room<T> room(m * n + n);
+    const auto form = m != n   ? formQ<T, 0>
+                      : n == 3 ? formQ<T, 3>
+                      : n == 4 ? formQ<T, 4>
+                      : n == 6 ? formQ<T, 6>
+                               : formQ<T, 0>;
     eachQr<T>(a, arguments.count, status, [&](const T *factors, Size k) {
         storeR(factors, r.from(k));
         if (!factors) return fill(q.from(k), nan<T>);
-        for (Size i = 0; i < m; ++i) {
-            unit[i] = 1;
-            Exports<T>::QRBackSubst_mv(factors, s(row), work, unit, x, u(n), u(m));
-            unit[i] = 0;
-            for (Size j = 0; j < n; ++j) std::memcpy(q.at(k) + i * q.row + j * q.elem, work + j, sizeof(T));
-        }
+        form(factors, m, n, room.data(), room.data() + m * n);
+        unpack(room.data(), q.from(k));
     });
 }
 

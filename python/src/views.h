@@ -29,7 +29,8 @@ struct View {
         return view;
     }
     Size elements() const { return rows * cols; }
-    bool contiguous() const { return elem == size; }
+    bool contiguous() const { return elem == size; }                                  // its rows
+    bool packed() const { return elem == size && (row == cols * size || rows == 1); } // the object
 };
 
 inline bool narrow(Size stride) {
@@ -40,12 +41,14 @@ inline bool coreNarrow(const View &view) { return narrow(view.row) && narrow(vie
 
 // Copies one object to a packed block.
 template <typename T> void pack(const View &from, T *to) {
+    if (from.packed()) return void(std::copy_n(reinterpret_cast<const T *>(from.data), from.elements(), to));
     for (Size i = 0; i < from.rows; ++i)
         for (Size j = 0; j < from.cols; ++j, ++to) std::memcpy(to, from.data + i * from.row + j * from.elem, sizeof(T));
 }
 
 // Copies a packed block to one object.
 template <typename T> void unpack(const T *from, const View &to) {
+    if (to.packed()) return void(std::copy_n(from, to.elements(), reinterpret_cast<T *>(to.data)));
     for (Size i = 0; i < to.rows; ++i)
         for (Size j = 0; j < to.cols; ++j, ++from) std::memcpy(to.data + i * to.row + j * to.elem, from, sizeof(T));
 }

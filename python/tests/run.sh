@@ -31,4 +31,4 @@ VONKK3_BUILD=$build DIST_EXTRA_CONFIG="$scratch/build.cfg" \
 "$python" -m venv --system-site-packages "$scratch/venv"
 "$scratch/venv/bin/python" -m pip --quiet install --no-deps "$scratch"/vonkk3-*.whl
 cd "$scratch"
-VONKK3_BUILD=$build "$scratch/venv/bin/python" -m pytest -q -p no:cacheprovider --rootdir "$here" "$@" "$here"
+VONKK3_BUILD=$build "$scratch/venv/bin/python" -m pytest -q -rs -p no:cacheprovider --rootdir "$here" "$@" "$here"

@@ -1,6 +1,7 @@
 """What fails says what and where, and leaves the rest done."""
 import concurrent.futures
 import pickle
+import sys
 import warnings
 
 import numpy as np
@@ -134,12 +135,9 @@ def test_nan_and_infinity(order):
     bad = np.eye(order)
     bad[0, 0] = np.nan
     assert np.isnan(vonkk3.det(bad))
-    if 3 <= order <= 6:
-        assert np.isnan(vonkk3.inv(bad)).any()
-    with pytest.raises(LinAlgError):
-        vonkk3.solve(bad, np.ones(order))
-    with pytest.raises(LinAlgError):
-        vonkk3.cholesky(bad)
+    for call in (vonkk3.inv, vonkk3.lu_factor, vonkk3.qr, vonkk3.cholesky, lambda a: vonkk3.solve(a, np.ones(order))):
+        with pytest.raises(LinAlgError):
+            call(bad)
     bad[0, 0] = np.inf
     assert not np.isfinite(vonkk3.det(bad))
 
@@ -180,15 +178,15 @@ def test_no_warnings():
     with warnings.catch_warnings():
         warnings.simplefilter("error")
         vonkk3.add(np.array([np.inf, 1e308]), np.array([-np.inf, 1e308]))
-        vonkk3.inv(np.full((3, 3), np.nan))
+        vonkk3.inv(np.full((3, 3), np.nan), status=True)
         vonkk3.det(np.full((5, 4, 4), 1e30, np.float32))
         vonkk3.inv(np.zeros((3, 3)), status=True)
 
 
 def test_a_failure_belongs_to_its_thread():
     def work(singular):
-        a = np.zeros((2000, 3, 3)) if singular else np.tile(np.eye(3), (2000, 1, 1))
-        for _ in range(50):
+        a = np.zeros((500, 3, 3)) if singular else np.tile(np.eye(3), (500, 1, 1))
+        for _ in range(300):
             try:
                 vonkk3.inv(a)
                 if singular:
@@ -198,5 +196,10 @@ def test_a_failure_belongs_to_its_thread():
                     return "another thread's failure was raised"
         return ""
 
-    with concurrent.futures.ThreadPoolExecutor(4) as pool:
-        assert list(pool.map(work, [True, False] * 4)) == [""] * 8
+    interval = sys.getswitchinterval()
+    sys.setswitchinterval(1e-6)
+    try:
+        with concurrent.futures.ThreadPoolExecutor(4) as pool:
+            assert list(pool.map(work, [True, False] * 2)) == [""] * 4
+    finally:
+        sys.setswitchinterval(interval)

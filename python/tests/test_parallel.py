@@ -1,6 +1,8 @@
 """Objects spread over threads: the same bits, and errors at the same places."""
 import inspect
 import multiprocessing
+import threading
+import time
 
 import numpy as np
 import pytest
@@ -56,9 +58,12 @@ def test_in_place_and_overlapping_results():
     again = a.copy()
     parallel.inv(again, out=again, threads=2)
     assert again.tobytes() == expected.tobytes()
-    whole = np.concatenate([a, a[:1]])
-    parallel.matmul(whole[:-1], np.eye(4), out=whole[1:], threads=3)
-    assert np.array_equal(whole[1:], a)
+    flat = a.reshape(-1, 4, 4)[:3000]
+    doubled = vonkk3.matmul(flat, 2 * np.eye(4))
+    for _ in range(20): # what one thread stores is what the next one reads
+        whole = np.concatenate([flat, flat[:1000]])
+        parallel.matmul(whole[:-1000], 2 * np.eye(4), out=whole[1000:], threads=3)
+        assert np.array_equal(whole[1000:], doubled)
 
 
 def test_failures():
@@ -74,6 +79,21 @@ def test_failures():
         parallel.inv(a, out=np.empty((5000, 3, 2)), threads=2)
     with pytest.raises(TypeError):
         parallel.add(a, threads=2)
+
+
+def test_the_interpreter_runs_on():
+    """Another thread's call of some hundred milliseconds does not stop this one."""
+    matrices = np.broadcast_to(np.eye(9) + 0.1, (300_000, 9, 9))
+    start = time.perf_counter()
+    vonkk3.det(matrices)
+    alone = time.perf_counter() - start
+    thread = threading.Thread(target=vonkk3.det, args=(matrices,))
+    thread.start()
+    longest, last = 0.0, time.perf_counter()
+    while thread.is_alive():
+        now = time.perf_counter()
+        longest, last = max(longest, now - last), now
+    assert longest < alone / 2
 
 
 def inverse_in_a_child(queue):

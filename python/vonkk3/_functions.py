@@ -137,11 +137,10 @@ def inv(a, out=None, *, status=False):
 
     Notes
     -----
-    Orders 3 and 4 by cofactors, 5 and 6 by blocks, all others by LU decomposition. A matrix that the library's absolute
-    tolerance refuses is scaled by powers of two, which rounds nothing, and tried again. If that fails, or the matrix is
-    badly conditioned (its largest element times that of the inverse is above 2**8 in float32 or 2**20 in float64; 2**6
-    and 2**13 in order 6), LU decomposition gives the inverse and decides whether the matrix is singular, as in `solve`.
-    A matrix with a NaN gives NaN for orders 3 to 6, and fails for others.
+    Orders 3 and 4 by cofactors, 5 and 6 by blocks, all others by LU decomposition; so are matrices whose determinant is
+    below the library's absolute tolerance, and those that are badly conditioned: where the largest element times that of
+    the inverse is above 2**8 in float32 or 2**20 in float64 (2**6 and 2**13 in order 6). LU decomposition decides whether
+    a matrix is singular, as in `solve`. One with a NaN counts as singular.
 
     Examples
     --------
