@@ -23,7 +23,8 @@ for page in README CONTRIBUTING CHANGELOG; do
 done
 
 # The picture of the house has every folder of the sources.
-for folder in "$source"/src/*/ "$source"/tests/model/ "$source"/tests/fuzz/ "$source"/tools/ "$source"/bench/; do
+for folder in "$source"/src/*/ "$source"/tests/model/ "$source"/tests/fuzz/ "$source"/tools/ "$source"/fortran/ \
+    "$source"/bench/; do
     name=${folder#"$source"/}
     grep -q "${name%/}" "$source/docs/architecture.md" ||
         { echo "FAILED: docs/architecture.md does not name ${name%/}"; exit 1; }
