@@ -28,8 +28,8 @@ contains
     pure function view_1_32f(x) result(v)
         real(c_float), intent(in), target :: x(:)
         type(view) :: v
-        call take_extents(v, shape(x, c_int64_t))
-        if (size(x, kind=c_int64_t) == 0) return
+        call take_extent(v, 1, size(x, 1, c_int64_t))
+        if (minval(v%extent) == 0) return
         v%base = c_loc(x(1))
         if (size(x, 1) > 1) call take_stride(v, 1, c_loc(x(2)))
     end function
@@ -37,8 +37,9 @@ contains
     pure function view_2_32f(x) result(v)
         real(c_float), intent(in), target :: x(:, :)
         type(view) :: v
-        call take_extents(v, shape(x, c_int64_t))
-        if (size(x, kind=c_int64_t) == 0) return
+        call take_extent(v, 1, size(x, 1, c_int64_t))
+        call take_extent(v, 2, size(x, 2, c_int64_t))
+        if (minval(v%extent) == 0) return
         v%base = c_loc(x(1, 1))
         if (size(x, 1) > 1) call take_stride(v, 1, c_loc(x(2, 1)))
         if (size(x, 2) > 1) call take_stride(v, 2, c_loc(x(1, 2)))
@@ -47,8 +48,10 @@ contains
     pure function view_3_32f(x) result(v)
         real(c_float), intent(in), target :: x(:, :, :)
         type(view) :: v
-        call take_extents(v, shape(x, c_int64_t))
-        if (size(x, kind=c_int64_t) == 0) return
+        call take_extent(v, 1, size(x, 1, c_int64_t))
+        call take_extent(v, 2, size(x, 2, c_int64_t))
+        call take_extent(v, 3, size(x, 3, c_int64_t))
+        if (minval(v%extent) == 0) return
         v%base = c_loc(x(1, 1, 1))
         if (size(x, 1) > 1) call take_stride(v, 1, c_loc(x(2, 1, 1)))
         if (size(x, 2) > 1) call take_stride(v, 2, c_loc(x(1, 2, 1)))
@@ -58,8 +61,8 @@ contains
     pure function view_1_64f(x) result(v)
         real(c_double), intent(in), target :: x(:)
         type(view) :: v
-        call take_extents(v, shape(x, c_int64_t))
-        if (size(x, kind=c_int64_t) == 0) return
+        call take_extent(v, 1, size(x, 1, c_int64_t))
+        if (minval(v%extent) == 0) return
         v%base = c_loc(x(1))
         if (size(x, 1) > 1) call take_stride(v, 1, c_loc(x(2)))
     end function
@@ -67,8 +70,9 @@ contains
     pure function view_2_64f(x) result(v)
         real(c_double), intent(in), target :: x(:, :)
         type(view) :: v
-        call take_extents(v, shape(x, c_int64_t))
-        if (size(x, kind=c_int64_t) == 0) return
+        call take_extent(v, 1, size(x, 1, c_int64_t))
+        call take_extent(v, 2, size(x, 2, c_int64_t))
+        if (minval(v%extent) == 0) return
         v%base = c_loc(x(1, 1))
         if (size(x, 1) > 1) call take_stride(v, 1, c_loc(x(2, 1)))
         if (size(x, 2) > 1) call take_stride(v, 2, c_loc(x(1, 2)))
@@ -77,19 +81,22 @@ contains
     pure function view_3_64f(x) result(v)
         real(c_double), intent(in), target :: x(:, :, :)
         type(view) :: v
-        call take_extents(v, shape(x, c_int64_t))
-        if (size(x, kind=c_int64_t) == 0) return
+        call take_extent(v, 1, size(x, 1, c_int64_t))
+        call take_extent(v, 2, size(x, 2, c_int64_t))
+        call take_extent(v, 3, size(x, 3, c_int64_t))
+        if (minval(v%extent) == 0) return
         v%base = c_loc(x(1, 1, 1))
         if (size(x, 1) > 1) call take_stride(v, 1, c_loc(x(2, 1, 1)))
         if (size(x, 2) > 1) call take_stride(v, 2, c_loc(x(1, 2, 1)))
         if (size(x, 3) > 1) call take_stride(v, 3, c_loc(x(1, 1, 2)))
     end function
 
-    pure subroutine take_extents(v, extents)
+    pure subroutine take_extent(v, dimension, elements)
         type(view), intent(inout) :: v
-        integer(c_int64_t), intent(in) :: extents(:)
-        if (any(extents > huge(v%extent))) v%status = vonkErrSize
-        v%extent(:size(extents)) = int(min(extents, int(huge(v%extent), c_int64_t)), c_int32_t)
+        integer, intent(in) :: dimension
+        integer(c_int64_t), intent(in) :: elements
+        if (elements > huge(v%extent)) v%status = vonkErrSize
+        v%extent(dimension) = int(min(elements, int(huge(v%extent), c_int64_t)), c_int32_t)
     end subroutine
 
     pure subroutine take_stride(v, dimension, next)
