@@ -6,7 +6,7 @@ set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 . scripts/presets.sh
-need g++ gcc clang libclang-rt-dev clang-format cmake ninja-build make ccache binutils pkg-config git \
+need g++ gcc gfortran clang libclang-rt-dev clang-format cmake ninja-build make ccache binutils pkg-config git \
     libgtest-dev libcli11-dev libbenchmark-dev libeigen3-dev libglm-dev libcglm-dev libxsmm-dev liblapacke-dev \
     libopenblas-dev qemu-user man-db groff-base \
     python3 python3-dev python3-numpy python3-pytest python3-hypothesis python3-setuptools python3-wheel python3-pip \

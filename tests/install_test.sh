@@ -1,7 +1,7 @@
 #!/bin/sh
-# Installs into a scratch prefix and uses the library from there as a stranger would: a C and a C++ program, each by
-# find_package and by pkg-config, and a program that opens the library by its names at run time. Of the builds for
-# several instruction sets the loader must take the best that the processor has.
+# Installs into a scratch prefix and uses the library from there as a stranger would: a C, a C++ and a Fortran program,
+# each by find_package and by pkg-config, and a program that opens the library by its names at run time. Of the builds
+# for several instruction sets the loader must take the best that the processor has.
 #
 #     install_test.sh BUILD_FOLDER TESTS_FOLDER C_COMPILER CXX_COMPILER
 set -eu
@@ -38,6 +38,20 @@ readelf -dW "$scratch/c_program" | grep -q 'NEEDED.*\[libvonkk3\.so\.4\]'
 echo "by dlopen"
 "$cc" -std=c99 -D_POSIX_C_SOURCE=200809L "$tests/install/opens.c" -ldl -o "$scratch/opens"
 "$scratch/opens" vonkk3.so libvonkk3.so libvonkk3.so.4 >/dev/null
+
+echo "from Fortran"
+if command -v gfortran >/dev/null; then
+    mkdir "$scratch/fortran"
+    # Objects and module files are put into the current folder.
+    (cd "$scratch/fortran" && gfortran -c $(pkg-config --variable=fortran_sources vonkk3))
+    gfortran -std=f2018 -I"$scratch/fortran" "$tests/install/program.f90" "$scratch"/fortran/*.o \
+        $(pkg-config --libs vonkk3) -o "$scratch/fortran_program"
+    "$scratch/fortran_program"
+    cmake -S "$tests/install/fortran" -B "$scratch/fortran_user" -DCMAKE_PREFIX_PATH="$prefix" \
+        -DCMAKE_Fortran_COMPILER=gfortran >/dev/null
+    cmake --build "$scratch/fortran_user" >/dev/null
+    "$scratch/fortran_user/program"
+else echo "  left out: there is no gfortran"; fi
 
 echo "by instruction set"
 . "$tests/../scripts/levels.sh"

@@ -24,7 +24,7 @@ done
 
 # The picture of the house has every folder of the sources.
 for folder in "$source"/src/*/ "$source"/tests/model/ "$source"/tests/fuzz/ "$source"/tools/ "$source"/bench/ \
-    "$source"/python/; do
+    "$source"/python/ "$source"/fortran/; do
     name=${folder#"$source"/}
     grep -q "${name%/}" "$source/docs/architecture.md" ||
         { echo "FAILED: docs/architecture.md does not name ${name%/}"; exit 1; }

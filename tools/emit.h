@@ -1,5 +1,5 @@
 // What the generator writes, each from the catalogue alone: the public headers, the export stubs, the list of exports,
-// functions.json, the reference pages, man pages and the table of all functions.
+// functions.json, the reference pages, man pages, the Fortran modules and the table of all functions.
 #pragma once
 
 #include <map>
@@ -18,5 +18,6 @@ std::string functions();                         // docs/functions.md
 std::string functionsJson();                     // the catalogue as data for bindings and editors
 std::map<std::string, std::string> reference();  // Markdown pages by name
 std::map<std::string, std::string> man();        // man pages by name
+std::map<std::string, std::string> fortran();    // Fortran modules by file name
 
 } // namespace emit

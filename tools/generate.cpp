@@ -1,7 +1,7 @@
 // The generator: writes what follows from the catalogue.
 //
 //     generate tree ROOT     the files that are checked in: include/, docs/functions.md and docs/reference/
-//     generate build FOLDER  the files of one build: stubs/*.cpp, exports.txt, functions.json and man3/
+//     generate build FOLDER  the files of one build: stubs/*.cpp, exports.txt, functions.json, man3/ and fortran/
 //
 // A file that would not change is left alone, so that nothing is compiled again for it.
 #include "emit.h"
@@ -38,6 +38,7 @@ void writeBuild(const fs::path &folder) {
     write(folder / "exports.txt", emit::exports());
     write(folder / "functions.json", emit::functionsJson());
     for (const auto &[name, content] : emit::man()) write(folder / "man3" / name, content);
+    for (const auto &[name, content] : emit::fortran()) write(folder / "fortran" / name, content);
 }
 
 } // namespace
