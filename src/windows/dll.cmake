@@ -22,9 +22,9 @@ function(add_vonkk3 target level folder)
   # Visibility is another system's: there the headers' prototypes are the exports, here the list is.
   target_compile_options(${target}_objects PRIVATE -Wno-attributes)
   if(NOT level STREQUAL "x86-64")
-    # The Windows convention aligns the stack to 16 bytes and GCC cannot align it further there, but stores registers of
-    # 32 and 64 bytes to it by instructions that fault at other addresses. The assembler writes those that do not.
-    # A test reads off the DLL that none is left.
+    # The Windows convention aligns the stack to 16 bytes, and GCC cannot align it further there, but takes registers of
+    # 32 and 64 bytes on it for aligned. Debian's stores them by instructions that do not mind; others' are made to by the
+    # assembler. A test reads off the DLL that none is left that minds.
     target_compile_options(${target}_objects PRIVATE -Wa,-muse-unaligned-vector-move)
   endif()
   file(MAKE_DIRECTORY ${folder})

@@ -56,11 +56,15 @@ expect "exceptions find their way through every function" sh -c "grep -q '^\.pda
 tr -d '\000' <"$library" | LC_ALL=C grep -a -q 'FileVersion4\.1\.11\.30'
 expect "the version shows" test $? -eq 0
 
-# What moves 32 or 64 bytes and faults at an address that is not a multiple of them. GCC takes the stack for aligned so,
-# and Windows aligns it to 16.
-$tools-objdump -d --no-show-raw-insn "$library" >"$scratch/code"
+# What moves 32 or 64 bytes and faults at an address that is not a multiple of them.
+needs_alignment() { # OBJECT
+    $tools-objdump -d --no-show-raw-insn "$1" >"$scratch/code"
+    grep -E '[[:space:]]vmov(ap[sd]|dqa(32|64)?|ntp[sd]|ntdqa?)[[:space:]].*%[yz]mm' "$scratch/code" | grep '('
+}
+needs_alignment "$library" >"$scratch/aligned"
 expect "code is found" grep -q 'ret' "$scratch/code"
-grep -E 'v(mov(ap[sd]|dqa(32|64)?|ntp[sd]|ntdqa?))[[:space:]].*%[yz]mm' "$scratch/code" | grep '(' >"$scratch/aligned"
 expect "nothing needs more than 16 bytes of alignment" empty "$scratch/aligned"
+printf 'vmovaps %%ymm0, 32(%%rsp)\nvmovdqa64 (%%rax), %%zmm1\n' | $tools-as -o "$scratch/aligned.o" -
+expect "what needs it would be found" test "$(needs_alignment "$scratch/aligned.o" | wc -l)" -eq 2
 
 [ "$failures" -eq 0 ]
