@@ -4,8 +4,8 @@
  *     cl /W4 /Iinclude example\choose.c
  *     choose bin
  *
- * A program that is linked with /DELAYLOAD:vonkk3.dll (and delayimp.lib) only needs loadBest before its first call: what
- * is loaded under a name serves all who ask for the name. */
+ * A program that is linked with /DELAYLOAD:vonkk3.dll (and delayimp.lib) only needs loadBest before its first call:
+ * what is loaded under a name serves all who ask for the name. */
 #include <stdio.h>
 #include <string.h>
 #include <vonkk3.h>
@@ -39,9 +39,9 @@ static const char *bestLevel(void) {
     /* FMA, SSE3 to SSE4.2, CMPXCHG16B, MOVBE, POPCNT, XSAVE by the system, AVX, F16C */
     const unsigned v3InLeaf1 = 1u << 0 | 1u << 9 | 1u << 12 | 1u << 13 | 1u << 19 | 1u << 20 | 1u << 22 | 1u << 23 |
                                1u << 27 | 1u << 28 | 1u << 29;
-    const unsigned v3InLeaf7 = 1u << 3 | 1u << 5 | 1u << 8;                              /* BMI1, AVX2, BMI2 */
-    const unsigned v4InLeaf7 = 1u << 16 | 1u << 17 | 1u << 28 | 1u << 30 | 1u << 31;     /* AVX512 F, DQ, CD, BW, VL */
-    const unsigned v3InExtended = 1u << 0 | 1u << 5;                                     /* LAHF, LZCNT */
+    const unsigned v3InLeaf7 = 1u << 3 | 1u << 5 | 1u << 8;                          /* BMI1, AVX2, BMI2 */
+    const unsigned v4InLeaf7 = 1u << 16 | 1u << 17 | 1u << 28 | 1u << 30 | 1u << 31; /* AVX512 F, DQ, CD, BW, VL */
+    const unsigned v3InExtended = 1u << 0 | 1u << 5;                                 /* LAHF, LZCNT */
     unsigned leaf0[4], leaf1[4], leaf7[4], extended[4];
     askProcessor(0, leaf0);
     askProcessor(1, leaf1);

@@ -19,6 +19,7 @@ add_dependencies(vonkk3_windows_inputs vonkk3_generated)
 
 function(add_vonkk3 target level folder)
   add_vonkk3_of_kind(OBJECT ${target}_objects ${level})
+  target_sources(${target}_objects PRIVATE windows/stack_probe.cpp)
   # Visibility is another system's: there the headers' prototypes are the exports, here the list is.
   target_compile_options(${target}_objects PRIVATE -Wno-attributes)
   if(NOT level STREQUAL "x86-64")

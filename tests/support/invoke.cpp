@@ -36,8 +36,8 @@ using Words = std::array<std::uint64_t, integerWords + 2>;
 constexpr std::size_t registers = 4;
 
 // Bit k of the mask says that parameter k is a real, a Real32 too: it is the lower half of its register.
-template <unsigned mask, std::size_t place>
-using Word = std::conditional_t<place < registers && (mask >> place & 1) != 0, double, std::uint64_t>;
+template <unsigned mask, std::size_t place> constexpr bool isReal = place < registers && ((mask >> place) & 1) != 0;
+template <unsigned mask, std::size_t place> using Word = std::conditional_t<isReal<mask, place>, double, std::uint64_t>;
 
 template <unsigned mask, std::size_t... place>
 std::int32_t callWith(void *address, const Words &words, std::index_sequence<place...>) {

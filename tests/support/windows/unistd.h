@@ -6,7 +6,7 @@
 #include <csignal>
 #include <cstdint>
 
-constexpr int SIGBUS = 7, SIGALRM = 14; // never raised
+constexpr int SIGBUS = 7, SIGALRM = 14;       // never raised
 inline unsigned alarm(unsigned) { return 0; } // nobody watches for calls that do not come back
 
 struct siginfo_t {
