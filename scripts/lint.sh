@@ -43,7 +43,7 @@ tidy_changed() {
         return 0
     fi
     changed=$(git diff --name-only --diff-filter=d "$base" -- 'src/*.cpp' 'tools/*.cpp' 'tests/*.cpp' \
-        ':!tests/install' ':!tests/cpp')
+        ':!tests/install' ':!tests/cpp' ':!*/windows/*')
     echo "changed since $(git rev-parse --short "$base"): $(printf '%s' "$changed" | grep -c .) files"
     # File names are words, so they go unquoted.
     [ -z "$changed" ] || tidy $changed
@@ -57,7 +57,7 @@ case ${1:-} in
     need clang cmake ninja-build
     configure clang -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
     cmake --build --preset clang --target vonkk3_generated >/dev/null
-    tidy $(git ls-files 'src/*.cpp' 'tools/*.cpp' 'tests/*.cpp' ':!tests/install') build/clang/src/generated/stubs/*.cpp
+    tidy $(git ls-files 'src/*.cpp' 'tools/*.cpp' 'tests/*.cpp' ':!tests/install' ':!*/windows/*') build/clang/src/generated/stubs/*.cpp
     ;;
 *)
     echo "lint.sh: no such option: $1" >&2

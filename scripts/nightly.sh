@@ -12,6 +12,7 @@
 #     threads       every export from eight threads on a library with the thread sanitizer
 #     valgrind      memory errors alone: its 80-bit arithmetic has 64 bits, so that results differ
 #     abi           scripts/abi.sh
+#     windows       scripts/windows.sh: the DLL and its tests by Wine
 #     faults        scripts/faults.py: every deliberate fault turns a test red
 #
 # A step or chunk that is done at this commit is not done again: a night that is cut short goes on in the next. Results are
@@ -39,7 +40,7 @@ while [ $# -gt 0 ]; do
     esac
     shift
 done
-all="tests compilers levels abi threads valgrind coverage fuzz comparisons faults"
+all="tests compilers levels abi windows threads valgrind coverage fuzz comparisons faults"
 [ -n "$steps" ] || steps=$all
 for step in $steps; do
     case " $all " in *" $step "*) ;; *) echo "nightly.sh: no such step: $step" >&2; exit 2 ;; esac
@@ -129,6 +130,8 @@ step_valgrind() {
 }
 
 step_abi() { record abi sh scripts/abi.sh; }
+
+step_windows() { record windows sh scripts/windows.sh; }
 
 step_faults() { record faults python3 scripts/faults.py; }
 

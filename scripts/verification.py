@@ -19,6 +19,7 @@ STEPS = {
     "threads": "Eight threads, thread sanitizer",
     "valgrind": "Memory errors, Valgrind",
     "abi": "Functions and types of the header",
+    "windows": "Windows DLL, by Wine",
     "faults": "Deliberate faults",
 }
 

@@ -13,6 +13,9 @@
 #include <set>
 #include <sstream>
 #include <string>
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 namespace {
 
@@ -77,6 +80,14 @@ TEST(Version, HasItsFieldsInTheirOrder) {
     for (std::size_t k = 0; k < sizeof expected; ++k) EXPECT_EQ(bytes[k], expected[k]) << "byte " << k;
 }
 
+#ifdef _WIN32
+std::string protectionAt(const void *address) {
+    MEMORY_BASIC_INFORMATION info{};
+    if (VirtualQuery(address, &info, sizeof info) == 0) return "not mapped";
+    if ((info.Protect & (PAGE_READONLY | PAGE_EXECUTE_READ)) != 0) return "r-";
+    return (info.Protect & (PAGE_READWRITE | PAGE_WRITECOPY)) != 0 ? "rw" : "neither";
+}
+#else
 // "r--p" of the memory map's line that holds the address.
 std::string protectionAt(const void *address) {
     const auto wanted = reinterpret_cast<std::uintptr_t>(address);
@@ -92,6 +103,7 @@ std::string protectionAt(const void *address) {
     }
     return "not mapped";
 }
+#endif
 
 TEST(Version, LiesInMemoryThatNobodyCanWrite) {
     const VonkLibVersion *version = vonkGetLibVersion();

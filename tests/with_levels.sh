@@ -2,14 +2,15 @@
 # Runs a program on the library and on its builds for wider processors, as its options --library. Says which of these
 # this processor does not run.
 #
-#     with_levels.sh BUILD_FOLDER BASE,LEVEL,... PROGRAM [OPTION...]
+#     with_levels.sh BUILD_FOLDER BASE,LEVEL,... PROGRAM [OPTION...]      the file is VONKK3_FILE, or vonkk3.so
 . "$(dirname "$0")/../scripts/levels.sh"
 build=$1
 levels=$(echo "${2#*,}" | tr ',' ' ')
 shift 2
-set -- "$@" --library "$build/vonkk3.so"
+file=${VONKK3_FILE:-vonkk3.so}
+set -- "$@" --library "$build/$file"
 for level in $levels; do
-    if runs_level "$level"; then set -- "$@" --library "$build/levels/$level/vonkk3.so"
+    if runs_level "$level"; then set -- "$@" --library "$build/levels/$level/$file"
     else echo "left out: this processor does not run $level"; fi
 done
 exec "$@"

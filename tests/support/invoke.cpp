@@ -3,7 +3,8 @@
 // In the System V convention for x86-64, integers and pointers take general registers and then the stack, 8 bytes
 // each, while the first reals take xmm registers, independently of one another. So every parameter list of the
 // library is a prefix of one long list of 64-bit words, with the constants apart from it: 24 words and two reals
-// serve all exports.
+// serve all exports. In that of Windows a parameter has one place for both kinds: of the first four an integer takes a
+// general register and a real the xmm register of the same number, and the rest lies on the stack.
 #include "invoke.h"
 
 #include <array>
@@ -11,6 +12,7 @@
 #include <cstdlib>
 #include <dlfcn.h>
 #include <stdexcept>
+#include <type_traits>
 #include <utility>
 
 namespace support {
@@ -19,6 +21,7 @@ namespace {
 constexpr std::size_t integerWords = 24;
 constexpr std::uint64_t rubbish = 0xa5c3'96e1'5ad2'4b87;
 
+#ifndef _WIN32
 using Integers = std::array<std::uint64_t, integerWords>;
 
 template <std::size_t> using Word = std::uint64_t;
@@ -28,6 +31,29 @@ std::int32_t call(void *address, const Integers &integers, Real first, Real seco
     using Export = std::int32_t (*)(Word<place>..., Real, Real);
     return reinterpret_cast<Export>(address)(integers[place]..., first, second);
 }
+#else
+using Words = std::array<std::uint64_t, integerWords + 2>;
+constexpr std::size_t registers = 4;
+
+// Bit k of the mask says that parameter k is a real, a Real32 too: it is the lower half of its register.
+template <unsigned mask, std::size_t place> constexpr bool isReal = place < registers && ((mask >> place) & 1) != 0;
+template <unsigned mask, std::size_t place> using Word = std::conditional_t<isReal<mask, place>, double, std::uint64_t>;
+
+template <unsigned mask, std::size_t... place>
+std::int32_t callWith(void *address, const Words &words, std::index_sequence<place...>) {
+    using Export = std::int32_t (*)(Word<mask, place>...);
+    return reinterpret_cast<Export>(address)(std::bit_cast<Word<mask, place>>(words[place])...);
+}
+
+template <unsigned mask> std::int32_t call(void *address, const Words &words) {
+    return callWith<mask>(address, words, std::make_index_sequence<std::tuple_size_v<Words>>{});
+}
+
+using Caller = std::int32_t (*)(void *, const Words &);
+template <std::size_t... mask> constexpr std::array<Caller, sizeof...(mask)> callers(std::index_sequence<mask...>) {
+    return {&call<mask>...};
+}
+#endif
 
 } // namespace
 
@@ -48,6 +74,7 @@ std::string defaultLibrary() {
 #endif
 }
 
+#ifndef _WIN32
 std::int32_t invoke(void *address, const catalogue::Function &function, std::span<const std::uint64_t> words) {
     Integers integers;
     integers.fill(rubbish);
@@ -64,5 +91,18 @@ std::int32_t invoke(void *address, const catalogue::Function &function, std::spa
     return call(address, integers, std::bit_cast<float>(static_cast<std::uint32_t>(reals[0])),
                 std::bit_cast<float>(static_cast<std::uint32_t>(reals[1])), places);
 }
+#else
+std::int32_t invoke(void *address, const catalogue::Function &function, std::span<const std::uint64_t> words) {
+    static constexpr auto byMask = callers(std::make_index_sequence<1 << registers>{});
+    Words all;
+    all.fill(rubbish);
+    unsigned mask = 0;
+    for (std::size_t k = 0; k < function.parameters.size(); ++k) {
+        all.at(k) = words[k];
+        if (k < registers && function.parameters[k].kind == catalogue::Kind::constant) mask |= 1U << k;
+    }
+    return byMask.at(mask)(address, all);
+}
+#endif
 
 } // namespace support
