@@ -13,6 +13,7 @@
 #     valgrind      memory errors alone: its 80-bit arithmetic has 64 bits, so that results differ
 #     abi           scripts/abi.sh
 #     windows       scripts/windows.sh: the DLL and its tests by Wine
+#     site          scripts/docs.sh --test: the documentation, by clicks in a browser
 #     faults        scripts/faults.py: every deliberate fault turns a test red
 #
 # A step or chunk that is done at this commit is not done again: a night that is cut short goes on in the next. Results are
@@ -40,7 +41,7 @@ while [ $# -gt 0 ]; do
     esac
     shift
 done
-all="tests compilers levels abi windows threads valgrind coverage fuzz comparisons faults"
+all="tests compilers levels abi windows threads valgrind coverage fuzz comparisons site faults"
 [ -n "$steps" ] || steps=$all
 for step in $steps; do
     case " $all " in *" $step "*) ;; *) echo "nightly.sh: no such step: $step" >&2; exit 2 ;; esac
@@ -132,6 +133,8 @@ step_valgrind() {
 step_abi() { record abi sh scripts/abi.sh; }
 
 step_windows() { record windows sh scripts/windows.sh; }
+
+step_site() { record site sh scripts/docs.sh --test "$gcc"; }
 
 step_faults() { record faults python3 scripts/faults.py; }
 

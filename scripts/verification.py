@@ -20,6 +20,7 @@ STEPS = {
     "valgrind": "Memory errors, Valgrind",
     "abi": "Functions and types of the header",
     "windows": "Windows DLL, by Wine",
+    "site": "Documentation site",
     "faults": "Deliberate faults",
 }
 
