@@ -39,7 +39,8 @@ def main():
     pages = {path: Page(path.read_text(encoding="utf-8")) for path in root.rglob("*.html")}
     functions = set(re.findall(r'\["(vonk\w+)"', (root / "assets" / "catalogue.js").read_text(encoding="utf-8")))
     beginnings = {"_".join(name.split("_")[:k]) for name in functions for k in range(1, 6)}
-    beginnings |= {"vonkGetLibVersion", "vonkOk", "vonkErrSize", "vonkErrNullPtr", "vonkErrSingular", "vonkErrNotPosDef", "vonkk3"}
+    beginnings |= {"vonkGetLibVersion", "vonkOk", "vonkErrSize", "vonkErrNullPtr", "vonkErrSingular", "vonkErrNotPosDef", "vonkErrStride", "vonkStatusText",
+                   "vonkk3"}
     errors = []
     for path, page in pages.items():
         for name in sorted(page.names - functions - beginnings):
