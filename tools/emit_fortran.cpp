@@ -212,9 +212,10 @@ const Operand *operandOf(const Function &function, const Parameter &parameter) {
     return parameter.kind == Kind::base ? &function.operands[parameter.operand] : nullptr;
 }
 
-std::string dispatcher(const Forms &forms, const std::vector<Function> &functions) {
+// The name, what it uses and its arguments: views in place of bases and strides, the rest as in the export.
+std::string dispatcherHead(const Forms &forms, const std::vector<Function> &functions) {
     const Function &function = forms.any();
-    Names names, views, pointers, numbers, constants, sizes, modules;
+    Names names, views, pointers, constants, numbers, used;
     for (const Parameter &parameter : function.parameters) {
         if (isStride(parameter.kind)) continue;
         names.push_back(parameter.name);
@@ -222,31 +223,36 @@ std::string dispatcher(const Forms &forms, const std::vector<Function> &function
         else if (parameter.kind == Kind::dense) pointers.push_back(parameter.name);
         else if (parameter.kind == Kind::constant) constants.push_back(parameter.name);
         else numbers.push_back(parameter.name);
-        if (parameter.kind == Kind::size) sizes.push_back(parameter.name);
     }
-    Names used;
     for (const Function *fixed : forms.fixed) used.push_back(fixed->name);
-    if (forms.runTime != nullptr)
-        used.push_back(refusesRectangles(function)
-                           ? formsOf(functions, function.type, "Mul", function.group + "T").runTime->name
-                           : forms.runTime->name);
+    if (refusesRectangles(function))
+        used.push_back(formsOf(functions, function.type, "Mul", function.group + "T").runTime->name);
+    else if (forms.runTime != nullptr) used.push_back(forms.runTime->name);
     std::string result = list("    function " + forms.name() + "(", names, ") result(status)");
     result += list("        use vonkk3_" + std::string(function.section->header) + ", only: ", used, "");
     result += list("        type(view), intent(in) :: ", views, "");
     if (!pointers.empty()) result += list("        type(c_ptr), intent(in) :: ", pointers, "");
     if (!constants.empty()) result += list("        real(wp), intent(in) :: ", constants, "");
     if (!numbers.empty()) result += list("        integer(c_int32_t), intent(in) :: ", numbers, "");
-    result += "        integer(c_int32_t) :: status\n";
+    return result + "        integer(c_int32_t) :: status\n";
+}
+
+// The order decides, if all sizes are equal.
+std::string dispatcher(const Forms &forms, const std::vector<Function> &functions) {
+    const Function &function = forms.any();
+    std::string result = dispatcherHead(forms, functions);
     if (forms.runTime == nullptr)
         return result + "\n" + callOf(*forms.fixed.front(), "        ") + "    end function\n";
-    std::string order = sizes.front();
-    if (sizes.size() > 1) {
-        result += "        integer(c_int32_t) :: order\n";
-        std::string equal;
-        for (std::size_t k = 1; k < sizes.size(); ++k)
-            equal += (k > 1 ? " .and. " : "") + sizes[k] + " == " + sizes.front();
+    std::string order, equal;
+    for (const Parameter &parameter : function.parameters) {
+        if (parameter.kind != Kind::size) continue;
+        if (order.empty()) order = parameter.name;
+        else equal += (equal.empty() ? "" : " .and. ") + parameter.name + " == " + order;
+    }
+    if (!equal.empty()) {
+        result += "        integer(c_int32_t) :: order\n\n        order = merge(";
+        result += order + ", 0_c_int32_t, " + equal + ")\n";
         order = "order";
-        result += "\n        order = merge(" + sizes.front() + ", 0_c_int32_t, " + equal + ")\n";
     } else {
         result += "\n";
     }
@@ -286,74 +292,85 @@ std::string colons(int rank) {
 }
 
 // A specific procedure of a generic name: views of the arrays, the sizes compared, the call.
-std::string wrapper(const Forms &forms, std::string_view generic) {
-    const Function &function = forms.any();
-    const bool array = function.array();
-    std::string count;
-    Names names, arguments, declarations, viewed, viewNames, fits;
-    const auto fit = [&](const std::string &left, const std::string &right) {
-        if (left != right) fits.push_back(left + " == " + right);
-    };
-    for (const Operand &operand : function.operands)
-        if (operand.array) {
-            count = extent(operand.name, rankOf(operand));
-            break;
+class Wrapper {
+public:
+    explicit Wrapper(const Forms &forms) : forms(forms), function(forms.any()) {
+        for (const Operand &operand : function.operands)
+            if (operand.array && count.empty()) count = extent(operand.name, rankOf(operand));
+        for (const Parameter &parameter : function.parameters) {
+            if (isStride(parameter.kind)) continue;
+            const Operand *operand = operandOf(function, parameter);
+            if (operand != nullptr) takeOperand(*operand);
+            else if (parameter.name == "pivots") takePivots(parameter);
+            else if (parameter.kind == Kind::dense) takeResult(parameter);
+            else if (parameter.kind == Kind::constant) take(parameter.name, "real(wp), intent(in)", 0, parameter.name);
+            else if (parameter.kind == Kind::count) arguments.push_back(count);
+            else takeSize(parameter);
         }
-    for (const Parameter &parameter : function.parameters) {
-        const Operand *operand = operandOf(function, parameter);
-        if (isStride(parameter.kind)) continue;
-        if (operand != nullptr) {
-            names.push_back(parameter.name);
-            declarations.push_back("        real(wp), intent(" + std::string(operand->written ? "inout" : "in") +
-                                   "), target :: " + parameter.name + colons(rankOf(*operand)) + "\n");
-            viewed.push_back("        " + parameter.name + "_ = view_of(" + parameter.name + ")\n");
-            viewNames.push_back(parameter.name + "_");
-            arguments.push_back(parameter.name + "_");
-            const catalogue::Shape shape = shapeOf(function, *operand);
-            fit(extent(operand->name, 1), valueOf(function, shape.rows));
-            if (operand->matrix) fit(extent(operand->name, 2), valueOf(function, shape.columns));
-            if (operand->array) fit(extent(operand->name, rankOf(*operand)), count);
-        } else if (parameter.kind == Kind::dense) {
-            const bool isPivots = parameter.name == "pivots";
-            const bool severalPivots = isPivots && lengthOf(function, parameter).find("count") != std::string::npos;
-            const int rank = isPivots ? (severalPivots ? 2 : 1) : int(array);
-            names.push_back(parameter.name);
-            declarations.push_back(
-                "        " + std::string(isPivots ? "integer(c_int32_t), intent(in)" : "real(wp), intent(inout)") +
-                ", target" + (rank > 0 ? ", contiguous" : "") + " :: " + parameter.name + colons(rank) + "\n");
-            arguments.push_back("c_loc(" + parameter.name + ")");
-            if (isPivots) fit("size(" + parameter.name + ", 1)", valueOf(function, "order"));
-            if (rank > int(isPivots)) fit("size(" + parameter.name + (isPivots ? ", 2)" : ")"), count);
-        } else if (parameter.kind == Kind::constant) {
-            names.push_back(parameter.name);
-            declarations.push_back("        real(wp), intent(in) :: " + parameter.name + "\n");
-            arguments.push_back(parameter.name);
-        } else if (parameter.kind == Kind::count) {
-            arguments.push_back(count);
-        } else {
-            arguments.push_back(valueOf(function, parameter.name));
-            const std::string isThere = valueOf(function, parameter.name) + " > 0";
-            if (std::ranges::find(fits, isThere) == fits.end()) fits.push_back(isThere);
-        }
+        names.emplace_back("status");
     }
-    names.emplace_back("status");
-    std::string result = text::wrapWords(formula(function), "    ! ", "    ! ");
-    result += list("    subroutine " + std::string(generic) + "_" + function.group + "(", names, ")");
-    for (const std::string &line : declarations) result += line;
-    result += "        integer(c_int32_t), intent(out), optional :: status\n" +
-              list("        type(view) :: ", viewNames, "") + "        integer(c_int32_t) :: s\n\n";
-    for (const std::string &line : viewed) result += line;
-    std::string conditions;
-    for (const std::string &condition : fits)
-        conditions += (conditions.empty() ? "" : " .and. &\n            ") + condition;
-    result += "        s = joint_status([";
-    for (std::size_t k = 0; k < viewNames.size(); ++k) result += (k > 0 ? ", " : "") + viewNames[k] + "%status";
-    result += "], &\n            " + (conditions.empty() ? std::string(".true.") : conditions) + ")\n";
-    result += "        if (s == vonkOk" + (array ? " .and. " + count + " > 0" : "") + ") &\n" +
-              list("            s = " + forms.name() + "(", arguments, ")");
-    result += "        call conclude('vonk_" + std::string(generic) + "', s, status)\n    end subroutine\n";
-    return result;
-}
+
+    std::string text(std::string_view generic) const {
+        std::string result = text::wrapWords(formula(function), "    ! ", "    ! ");
+        result += list("    subroutine " + std::string(generic) + "_" + function.group + "(", names, ")");
+        result += declarations + "        integer(c_int32_t), intent(out), optional :: status\n";
+        result += list("        type(view) :: ", views, "") + "        integer(c_int32_t) :: s\n\n";
+        std::string statuses;
+        for (const std::string &view : views) {
+            result += "        " + view + " = view_of(" + view.substr(0, view.size() - 1) + ")\n";
+            statuses += (statuses.empty() ? "" : ", ") + view + "%status";
+        }
+        std::string conditions;
+        for (const std::string &fit : fits) conditions += (conditions.empty() ? "" : " .and. &\n            ") + fit;
+        result += "        s = joint_status([" + statuses + "], &\n            " + conditions + ")\n";
+        result += "        if (s == vonkOk" + (function.array() ? " .and. " + count + " > 0" : "") + ") &\n";
+        result += list("            s = " + forms.name() + "(", arguments, ")");
+        return result + "        call conclude('vonk_" + std::string(generic) + "', s, status)\n    end subroutine\n";
+    }
+
+private:
+    const Forms &forms;
+    const Function &function;
+    std::string count, declarations;
+    Names names, arguments, views, fits;
+
+    void take(const std::string &name, const std::string &type, int rank, const std::string &argument) {
+        names.push_back(name);
+        declarations += "        " + type + " :: " + name + colons(rank) + "\n";
+        arguments.push_back(argument);
+    }
+    void fit(const std::string &left, const std::string &right) {
+        if (left != right) fits.push_back(left + " == " + right);
+    }
+
+    void takeOperand(const Operand &operand) {
+        const std::string intent = operand.written ? "inout" : "in";
+        take(operand.name, "real(wp), intent(" + intent + "), target", rankOf(operand), operand.name + "_");
+        views.push_back(operand.name + "_");
+        const catalogue::Shape shape = shapeOf(function, operand);
+        fit(extent(operand.name, 1), valueOf(function, shape.rows));
+        if (operand.matrix) fit(extent(operand.name, 2), valueOf(function, shape.columns));
+        if (operand.array) fit(extent(operand.name, rankOf(operand)), count);
+    }
+    void takePivots(const Parameter &pivots) {
+        const bool several = lengthOf(function, pivots).find("count") != std::string::npos;
+        take(pivots.name, "integer(c_int32_t), intent(in), target, contiguous", several ? 2 : 1, "c_loc(pivots)");
+        fit("size(pivots, 1)", valueOf(function, "order"));
+        if (several) fit("size(pivots, 2)", count);
+    }
+    // One number per object, packed.
+    void takeResult(const Parameter &result) {
+        const bool array = function.array();
+        take(result.name, std::string("real(wp), intent(inout), target") + (array ? ", contiguous" : ""), int(array),
+             "c_loc(" + result.name + ")");
+        if (array) fit("size(" + result.name + ")", count);
+    }
+    void takeSize(const Parameter &size) {
+        arguments.push_back(valueOf(function, size.name));
+        const std::string isThere = arguments.back() + " > 0";
+        if (std::ranges::find(fits, isThere) == fits.end()) fits.push_back(isThere);
+    }
+};
 
 std::string stridedModule(const std::vector<Function> &functions, Type type) {
     const std::string name = "vonkk3_s2_" + std::string(suffix(type));
@@ -365,13 +382,14 @@ std::string stridedModule(const std::vector<Function> &functions, Type type) {
             bodies += "\n" + dispatcher(forms, functions);
             interfaces += "    public :: " + forms.name() + "\n";
             if (use.generic.empty()) continue;
-            bodies += "\n" + wrapper(forms, use.generic);
+            bodies += "\n" + Wrapper(forms).text(use.generic);
             specific.push_back(std::string(use.generic) + "_" + group);
         }
         if (specific.empty()) continue;
         const std::string generic = "vonk_" + std::string(use.generic);
-        interfaces += "    public :: " + generic + "\n    interface " + generic + "\n" +
-                      list("        module procedure ", specific, "") + "    end interface\n";
+        interfaces += "    public :: " + generic + "\n";
+        interfaces += "    interface " + generic + "\n";
+        interfaces += list("        module procedure ", specific, "") + "    end interface\n";
     }
     return moduleStart(name, "The strided layout by views: a function per operation and operand group calls the export "
                              "of the order, or else that of run-time size; and the generic names that need no more. "
