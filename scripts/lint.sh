@@ -15,7 +15,7 @@ check_format() {
     need clang-format
     # Found without git, which may know nothing of the tree: an archive, or somebody else's checkout.
     find bench examples include python src tests tools \( -name '*.cpp' -o -name '*.h' -o -name '*.hpp' \) \
-        ! -path 'include/vonkk3/exports/*' ! -path 'include/*.h' -print0 |
+        ! -path '*/build/*' ! -path 'include/vonkk3/exports/*' ! -path 'include/*.h' -print0 |
         xargs -0 clang-format --dry-run --Werror
 }
 

@@ -23,8 +23,7 @@ template <std::size_t width> struct BoundedSum {
     BoundedSum() = default;
     VONKK3_INLINE BoundedSum(const Doubles<width> &value, const Doubles<width> &magnitude)
         : value(value), magnitude(magnitude) {}
-    VONKK3_INLINE BoundedSum(const BoundedTerm<width> &term)
-        : value(term.value), magnitude(term.value.magnitude()) {}
+    VONKK3_INLINE BoundedSum(const BoundedTerm<width> &term) : value(term.value), magnitude(term.value.magnitude()) {}
 };
 
 template <std::size_t width>
