@@ -2,6 +2,7 @@
 # Runs the example programs: the flowers' confusion table, the solutions of sample systems, the fits of reference data,
 # and the answer (message and exit status) to every kind of malformed and singular input.
 # Usage: examples_test.sh <iris program> <solve program> <least_squares program> <examples folder>
+# The rigid bodies, and those programs that are there in C++, too, stand beside the iris program.
 
 if [ $# -ne 4 ]; then
     echo "usage: $0 <iris program> <solve program> <least_squares program> <examples folder>" >&2
@@ -195,6 +196,27 @@ printf '%0600d\n' 0 | misfit 'a long line' 'line 1: the line is too long'
 { printf 'linear 1\nB0 1\nB1 1\n'; yes '1 2' | head -n 1001; } | misfit 'too many observations' 'line 1004: too many'
 check 'least_squares: no such file' 1 'certified' "$work/none" "$least_squares" "$work/none"
 check 'least_squares: a folder' 1 'certified' "$work" "$least_squares" "$work"
+
+# ---- C++: the same output from a shorter program
+
+: >"$work/in"
+programs=$(dirname "$iris")
+for option in '' --cholesky; do
+    check "iris_cpp: table $option" 0 "=$work/table" - "${iris}_cpp" $option "$examples/iris.csv"
+done
+check 'iris_cpp: no argument' 1 - 'usage: iris_cpp' "${iris}_cpp"
+check 'iris_cpp: no such file' 1 - "cannot open $work/none" "${iris}_cpp" "$work/none"
+printf 'sepal_length,sepal_width,petal_length,petal_width,species\n1,2,x,4,setosa\n' >"$work/flowers"
+check 'iris_cpp: not a number' 1 - "$work/flowers, line 2: expected four numbers" "${iris}_cpp" "$work/flowers"
+check 'rigid_bodies' 0 'kinetic energy of the spins: 5114.087885738' - "$programs/rigid_bodies"
+cp "$work/out" "$work/bodies"
+check 'rigid_bodies_cpp' 0 "=$work/bodies" - "$programs/rigid_bodies_cpp"
+for example in iris rigid_bodies; do
+    lines() { grep -c '[^ ]' "$examples/$example.$1"; }
+    problem=
+    [ "$(lines cpp)" -lt "$(lines c)" ] || problem="$(lines cpp) lines, not fewer than the $(lines c) in C"
+    passed_or_failed "$example.cpp is shorter" "$problem"
+done
 
 # ---- solve: what has a solution
 

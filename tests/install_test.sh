@@ -24,6 +24,7 @@ cmake -S "$tests/install" -B "$scratch/user" -DCMAKE_PREFIX_PATH="$prefix" -DCMA
 cmake --build "$scratch/user" >/dev/null
 test "$("$scratch/user/c_program")" = v4.1
 "$scratch/user/cpp_program"
+"$scratch/user/door_program"
 
 echo "by pkg-config"
 export PKG_CONFIG_PATH="$libraries/pkgconfig"
@@ -31,8 +32,10 @@ flags=$(pkg-config --cflags --libs vonkk3)
 # The flags are words, so they go unquoted.
 "$cc" -std=c99 -pedantic -Wall -Wextra -Werror "$tests/install/program.c" $flags -o "$scratch/c_program"
 "$cxx" -std=c++20 -Wall -Wextra -Werror "$tests/install/program.cpp" $flags -o "$scratch/cpp_program"
+"$cxx" -std=c++17 -Wall -Wextra -Werror "$tests/install/door.cpp" $flags -o "$scratch/door_program"
 test "$("$scratch/c_program")" = v4.1
 "$scratch/cpp_program"
+"$scratch/door_program"
 readelf -dW "$scratch/c_program" | grep -q 'NEEDED.*\[libvonkk3\.so\.4\]'
 
 echo "by dlopen"

@@ -1,11 +1,12 @@
 #!/bin/sh
-# The README's C example compiles as it stands and prints the right solutions, and what it links to is there.
+# The README's C and C++ examples compile as they stand and print the right solutions, and what it links to is there.
 #
-#     readme_test.sh SOURCE_FOLDER BUILD_FOLDER C_COMPILER
+#     readme_test.sh SOURCE_FOLDER BUILD_FOLDER C_COMPILER CXX_COMPILER
 set -eu
 source=$1
 build=$2
 cc=$3
+cxx=$4
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
@@ -15,6 +16,10 @@ awk '/^```c$/ { inside = 1; next } /^```$/ { inside = 0 } inside' "$source/READM
 "$scratch/example" >"$scratch/output"
 cat "$scratch/output"
 test "$(cat "$scratch/output")" = "x = 1 1 1 and 1 1 1"
+awk '/^```cpp$/ { inside = 1; next } /^```$/ { inside = 0 } inside' "$source/README.md" >"$scratch/example.cpp"
+"$cxx" -std=c++17 -pedantic -Wall -Wextra -Werror -I"$source/include" "$scratch/example.cpp" -L"$build" -lvonkk3 \
+    -Wl,-rpath,"$build" -o "$scratch/example"
+test "$("$scratch/example")" = "x = 1 1 1 and 1 1 1"
 
 for page in README CONTRIBUTING CHANGELOG; do
     grep -oE '\]\([^)#]+\)' "$source/$page.md" | tr -d '()]' | while read -r link; do

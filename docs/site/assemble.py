@@ -9,6 +9,7 @@ and the plots; and mkdocs.yml.
 import html
 import json
 import pathlib
+import re
 import shutil
 import sys
 
@@ -48,12 +49,25 @@ def reference(catalogue, folder):
         page.write_text(text.replace("(README.md", "(index.md"), encoding="utf-8")
 
 
+def section(match):
+    """What stands between [start:name] and [end:name] of a file: the snippets' extension takes whole files only."""
+    path, name = match.groups()
+    text = (ROOT / path).read_text(encoding="utf-8")
+    found = re.search(rf"^.*\[start:{name}\]\n(.*?)^.*\[end:{name}\]$", text, re.MULTILINE | re.DOTALL)
+    if found is None:
+        sys.exit(f"assemble.py: {path} has no section {name}")
+    return found.group(1).rstrip("\n")
+
+
 def main():
     catalogue = json.loads(pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))
     folder = pathlib.Path(sys.argv[2])
     pages = folder / "pages"
     shutil.rmtree(pages, ignore_errors=True)
     shutil.copytree(SITE / "pages", pages)
+    for page in pages.rglob("*.md"):
+        text = page.read_text(encoding="utf-8")
+        page.write_text(re.sub(r'^--8<-- "([^":]+):([\w-]+)"$', section, text, flags=re.MULTILINE), encoding="utf-8")
     reference(catalogue, pages / "reference")
     for file in ("layouts.svg", "python.svg", "python-scaling.svg", "python-benchmarks.md"):
         shutil.copy(ROOT / "docs" / file, pages / file)

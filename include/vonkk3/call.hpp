@@ -38,6 +38,7 @@ template <class X> VONKK3_INLINE auto operand(X &&x) {
     if constexpr (is_view<U> || std::is_same_v<U, Unfit>) return x;
     else if constexpr (is_soa<U>) return x.view();
     else if constexpr (std::is_arithmetic_v<U>) return Constant<U>{x};
+    else if constexpr (Adapter<U>::exists) return Adapter<U>::view(x);
     else if constexpr (S::rank == 1) return vonk::vector(x);
     else if constexpr (S::rank == 2) {
         static_assert(!S::of_arrays, "vonkk3: an array of arrays may be a matrix or many vectors: say vonk::matrix(x) "

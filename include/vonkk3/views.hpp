@@ -18,8 +18,8 @@
 #include <type_traits>
 #include <utility>
 
-// A call is to leave nothing but the export's.
-#if defined(__GNUC__)
+// Optimised, a call leaves nothing but the export's, however many there are in a function.
+#if defined(__GNUC__) && defined(__OPTIMIZE__)
 #define VONKK3_INLINE [[gnu::always_inline]] inline
 #else
 #define VONKK3_INLINE inline
@@ -313,6 +313,9 @@ template <class E, Size Rows, Size Columns, std::ptrdiff_t RowStride, std::ptrdi
     static constexpr std::ptrdiff_t row_stride = RowStride, element_stride = ElementStride;
     static constexpr bool of_arrays = false;
 };
+
+/// What makes a view of something whose sizes or strides are known at run time only; specialised as in eigen.hpp.
+template <class X, class = void> struct Adapter { static constexpr bool exists = false; };
 
 namespace detail {
 

@@ -1,5 +1,7 @@
 // Writes the sources of the test `cpp_exports`: a library that only records which export was called with what, and for
-// every export the C++ call that must lead to it, with the arguments that it must get there.
+// every export the C++ call that must lead to it, with the arguments that it must get there. Of fixed sizes other than
+// 3 it is the choice of the export for the operands' types alone, made by the compiler: the arguments do not hang on
+// the size, and whole calls take four times as long to compile.
 //
 //     emit_calls FOLDER
 #include "catalogue.h"
@@ -84,10 +86,13 @@ std::string expectation(const Function &function, const Parameter &parameter) {
     throw std::logic_error("a parameter of no kind");
 }
 
-std::string viewOf(const Function &function, int index) {
-    const Operand &operand = function.operands[index];
-    Dimensions size = entering(function, operand);
-    if (operand.transposed) std::swap(size.rows, size.columns);
+Dimensions stored(const Function &function, const Operand &operand) {
+    const Dimensions size = entering(function, operand);
+    return operand.transposed ? Dimensions{size.columns, size.rows} : size;
+}
+
+// The arguments of the template vonk::View.
+std::string viewType(const Function &function, const Operand &operand) {
     const std::string layout =
         operand.layout == catalogue::Layout::standard ? "standard" : std::string(suffix(operand.layout));
     const std::string singular = operand.matrix ? "matrix" : "vector", plural = operand.matrix ? "matrices" : "vectors";
@@ -96,12 +101,32 @@ std::string viewOf(const Function &function, int index) {
     const std::string plain = operand.array || !isList(operand.layout)    ? layout
                               : operand.layout == catalogue::Layout::list ? "standard"
                                                                           : "S2";
+    const Dimensions size = stored(function, operand);
     const bool fixed = function.order != 0;
     std::ostringstream text;
-    text << "view<" << (operand.written ? "" : "const ") << element(function.type) << ", " << (fixed ? size.rows : 0)
-         << ", " << (fixed || !operand.matrix ? size.columns : 0) << ", Layout::" << plain << ", Kind::" << kind << ">("
-         << index + 1 << ", " << size.rows << ", " << size.columns << ")";
+    text << (operand.written ? "" : "const ") << element(function.type) << ", " << (fixed ? size.rows : 0) << ", "
+         << (fixed || !operand.matrix ? size.columns : 0) << ", Layout::" << plain << ", Kind::" << kind;
     return text.str();
+}
+
+std::string viewOf(const Function &function, int index) {
+    const Operand &operand = function.operands[index];
+    const Dimensions size = stored(function, operand);
+    return "view<" + viewType(function, operand) + ">(" + std::to_string(index + 1) + ", " + std::to_string(size.rows) +
+           ", " + std::to_string(size.columns) + ")";
+}
+
+// The choice of the export by the types of the operands, as the operations make it.
+std::string choiceOf(const Function &function) {
+    std::string group = function.group, kinds, types;
+    if (function.family->operands == "m@@") group = "m" + group + group;
+    for (const char letter : group) {
+        if (letter != 'a' && letter != 'T') kinds += kinds.empty() ? "vonk::exports::" : ", vonk::exports::";
+        kinds += letter;
+    }
+    for (const Operand &operand : function.operands) types += ", vonk::View<" + viewType(function, operand) + ">";
+    return "vonk::detail::Choice<true, vonk::exports::" + std::string(function.family->operation) + "<" + kinds + ">" +
+           types + ">::function()";
 }
 
 std::string block(const char *type, const char *name) {
@@ -176,6 +201,11 @@ std::string callsFile(const std::string &name, const std::vector<const Function 
     std::string file(opening);
     file += "void check_" + name + "() {\n";
     for (const Function *function : functions) {
+        if (function->order > 3) {
+            file += "    static_assert(" + choiceOf(*function) + " == &" + function->name + ");\n    chosen(\"" +
+                    function->name + "\");\n";
+            continue;
+        }
         std::string values;
         for (const Parameter &parameter : function->parameters)
             values += (values.empty() ? "" : ", ") + expectation(*function, parameter);

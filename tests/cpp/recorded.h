@@ -7,6 +7,8 @@
 
 /* The last call must have been of this export, with these arguments, and nothing else called since the last look. */
 void expect_call(const char *name, bool ok, std::initializer_list<long long> arguments);
+/* The compiler has found that the operands choose this export. */
+void chosen(const char *name);
 extern "C" {
 #endif
 
