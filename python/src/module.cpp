@@ -91,8 +91,10 @@ PyObject *makeUfunc(const Operation &operation, const char *documentation) {
         loops->types[i] = typeNumber(operation.types[i], NPY_FLOAT32);
         loops->types[operands + i] = typeNumber(operation.types[i], NPY_FLOAT64);
     }
+    // Messages name the function that calls it: a leading underscore is for the package alone.
+    const char *const name = operation.name + (operation.name[0] == '_');
     return PyUFunc_FromFuncAndDataAndSignature(loops->functions, loops->data, loops->types, 2, operation.inputs,
-                                               operation.outputs, PyUFunc_None, operation.name, documentation, 0,
+                                               operation.outputs, PyUFunc_None, name, documentation, 0,
                                                operation.signature);
 }
 

@@ -159,6 +159,13 @@ def test_strides_beyond_32_bits(n, dtype):
     memory.close()
 
 
+def test_more_objects_than_one_call_takes(dtype):
+    many = 2**24 + 3
+    assert (vonkk3.trace(np.broadcast_to(np.eye(3, dtype=dtype), (many, 3, 3))) == 3).all()
+    out = np.zeros((many, 2), dtype)[:, 1]
+    assert vonkk3.norm(np.broadcast_to(np.array([3, 4], dtype), (many, 2)), out=out) is out and (out == 5).all()
+
+
 @pytest.mark.parametrize("shape", [(0, 3, 3), (4, 0, 0), (0, 0, 0), (2, 0, 5)])
 def test_empty(shape, dtype):
     a = np.zeros(shape, dtype)
