@@ -259,8 +259,10 @@ template <class T, vonk::Size M, vonk::Size K, vonk::Size N, bool Open> void mul
             return vonk::View<typename V::element, 0, 0, V::layout, V::kind>(view);
         } else return view;
     };
-    const auto A = size(vonk::matrices<M, K>(a)), B = size(vonk::matrices<K, N>(b));
-    const auto At = size(vonk::matrices<K, M>(a)), Bt = size(vonk::matrices<N, K>(b));
+    const auto A = size(vonk::matrices<M, K>(a));
+    const auto B = size(vonk::matrices<K, N>(b));
+    const auto At = size(vonk::matrices<K, M>(a));
+    const auto Bt = size(vonk::matrices<N, K>(b));
     const auto D = size(vonk::matrices<M, N>(d));
     const auto check = [&](const auto &left, const auto &right, const char *what) {
         std::fill(d.begin(), d.end(), T(99));
