@@ -109,6 +109,24 @@ TEST(CppViews, ExchangeStridesWhereDataLieByColumns) {
     EXPECT_EQ(&leading(1, 1), p + 4);
 }
 
+// As much of a std::mdspan as a view looks at: two matrices of static sizes 2 by 3 with strides of its own.
+struct Mdspan {
+    float *data;
+    float *data_handle() const { return data; }
+    std::size_t extent(std::size_t r) const { return r == 0 ? 2 : r + 1; }
+    std::size_t stride(std::size_t r) const { return r == 0 ? 20 : r == 1 ? 2 : 5; }
+    static constexpr std::size_t rank() { return 3; }
+    static constexpr std::size_t static_extent(std::size_t r) { return r == 0 ? std::size_t(-1) : r + 1; }
+};
+
+TEST(CppViews, TakeTheStridesOfAnMdspan) {
+    float p[40];
+    const auto view = vonk::matrices(Mdspan{p});
+    static_assert(decltype(view)::fixed_rows == 2 && decltype(view)::fixed_columns == 3);
+    EXPECT_EQ(view.count(), 2U);
+    EXPECT_EQ(&view(1, 1, 2), p + 20 + 2 + 10);
+}
+
 TEST(CppViews, AreSlicedAndIndexedInEveryLayout) {
     float p[10][2][2];
     EXPECT_EQ(&vonk::matrices(p).slice(4, 3)(2, 1, 0), &p[6][1][0]);
@@ -160,6 +178,27 @@ TEST(CppStatus, SizesKnownAtRunTimeAreCompared) {
               vonkErrSize);
     std::vector<std::uint32_t> pivots(2);
     EXPECT_EQ(vonk::lu(vonk::matrix<3, 3>(a), pivots, vonk::matrix<3, 3>(a)), vonkErrSize);
+}
+
+TEST(CppStatus, EmptyContainersAreNoError) {
+    std::vector<std::array<std::array<float, 3>, 3>> a, d;
+    std::vector<std::array<float, 3>> x, y;
+    std::vector<std::uint32_t> pivots;
+    Numbers<float> results, component;
+    EXPECT_EQ(vonk::add(a, a, d), vonkOk);
+    EXPECT_EQ(vonk::multiply(a, x, y), vonkOk);
+    EXPECT_EQ(vonk::norm(x, results), vonkOk);
+    EXPECT_EQ(vonk::lu(a, pivots, d), vonkOk);
+    EXPECT_EQ(vonk::lu_solve(a, pivots, x, y), vonkOk);
+    EXPECT_EQ(vonk::cholesky(a, d), vonkOk);
+    EXPECT_EQ(vonk::cholesky_solve(a, x, y), vonkOk);
+    EXPECT_EQ(vonk::solve(a, x, y), vonkOk);
+    EXPECT_EQ(vonk::identity(d), vonkOk);
+    EXPECT_EQ(vonk::extract(a, results), vonkOk);
+    const auto soa = vonk::soa(component, component, component);
+    EXPECT_EQ(vonk::cross(soa, soa, soa), vonkOk);
+    EXPECT_EQ(vonk::add(vonk::matrices<3, 3>(static_cast<float *>(nullptr), 2), a, d), vonkErrSize);
+    EXPECT_EQ(vonk::inverse(vonk::matrices<3, 3>(static_cast<float *>(nullptr), 0), d), vonkErrNullPtr);
 }
 
 TEST(CppStatus, StridesInElementsAreCaught) {
