@@ -366,6 +366,39 @@ TYPED_TEST(CppOperations, ProductsOfAllShapes) {
     multiplies<T, 3, 7, 3, false>();
 }
 
+// The same ways round in lists, and of matrices that lie by columns.
+TYPED_TEST(CppOperations, ProductsInListsAndByColumns) {
+    using T = TypeParam;
+    auto a = numbers<T>(4 * 6, 5), b = numbers<T>(4 * 12, 6), d = numbers<T>(4 * 8, 7);
+    std::vector<T *> la, lb, ld;
+    for (int n = 0; n < 4; ++n) la.push_back(&a[6 * n]), lb.push_back(&b[12 * (3 - n)]), ld.push_back(&d[8 * n]);
+    const auto check = [&](const auto &A, const auto &B, const auto &D, const char *what) {
+        std::fill(d.begin(), d.end(), T(99));
+        ASSERT_EQ(vonk::multiply(A, B, D), vonkOk) << what;
+        for (vonk::Size n = 0; n < 4; ++n)
+            for (vonk::Size i = 0; i < 2; ++i)
+                for (vonk::Size j = 0; j < 4; ++j) {
+                    T sum = 0;
+                    for (vonk::Size k = 0; k < 3; ++k)
+                        sum += vonk::detail::nth(A, n)(i, k) * vonk::detail::nth(B, n)(k, j);
+                    ASSERT_EQ(D(n, i, j), sum) << what;
+                }
+    };
+    using vonk::transposed;
+    const auto A = vonk::matrices<2, 3>(la);
+    const auto At = vonk::matrices<3, 2>(la).element_stride(sizeof(T));
+    const auto B = vonk::matrices<3, 4>(lb);
+    const auto Bt = vonk::matrices<4, 3>(lb);
+    const auto D = vonk::matrices<2, 4>(ld);
+    check(A, B, D, "mama"), check(A, transposed(Bt), D, "mamaT"), check(transposed(At), B, D, "maTma");
+    check(A[1], B, D, "mma"), check(A, B[1], D, "mam"), check(transposed(At[2]), transposed(Bt), D, "mTmaT");
+    const auto Ac = vonk::matrices<2, 3>(a).column_major();
+    const auto Bc = vonk::matrices<3, 4>(b).column_major();
+    const auto Dc = vonk::matrices<2, 4>(d).column_major();
+    check(Ac, Bc, Dc, "by columns"), check(Ac[1], Bc, Dc, "one by columns"),
+        check(Ac, Bc[1], vonk::matrices<2, 4>(d), "mixed");
+}
+
 TYPED_TEST(CppOperations, ProductsBehindTables) {
     using T = TypeParam;
     auto a = numbers<T>(4 * 10, 5), d = numbers<T>(2 * 10, 6);
