@@ -109,6 +109,24 @@ TEST(CppViews, ExchangeStridesWhereDataLieByColumns) {
     EXPECT_EQ(&leading(1, 1), p + 4);
 }
 
+// As much of a std::mdspan as a view looks at: two matrices of static sizes 2 by 3 with strides of its own.
+struct Mdspan {
+    float *data;
+    float *data_handle() const { return data; }
+    std::size_t extent(std::size_t r) const { return r == 0 ? 2 : r + 1; }
+    std::size_t stride(std::size_t r) const { return r == 0 ? 20 : r == 1 ? 2 : 5; }
+    static constexpr std::size_t rank() { return 3; }
+    static constexpr std::size_t static_extent(std::size_t r) { return r == 0 ? std::size_t(-1) : r + 1; }
+};
+
+TEST(CppViews, TakeTheStridesOfAnMdspan) {
+    float p[40];
+    const auto view = vonk::matrices(Mdspan{p});
+    static_assert(decltype(view)::fixed_rows == 2 && decltype(view)::fixed_columns == 3);
+    EXPECT_EQ(view.count(), 2U);
+    EXPECT_EQ(&view(1, 1, 2), p + 20 + 2 + 10);
+}
+
 TEST(CppViews, AreSlicedAndIndexedInEveryLayout) {
     float p[10][2][2];
     EXPECT_EQ(&vonk::matrices(p).slice(4, 3)(2, 1, 0), &p[6][1][0]);
@@ -160,6 +178,27 @@ TEST(CppStatus, SizesKnownAtRunTimeAreCompared) {
               vonkErrSize);
     std::vector<std::uint32_t> pivots(2);
     EXPECT_EQ(vonk::lu(vonk::matrix<3, 3>(a), pivots, vonk::matrix<3, 3>(a)), vonkErrSize);
+}
+
+TEST(CppStatus, EmptyContainersAreNoError) {
+    std::vector<std::array<std::array<float, 3>, 3>> a, d;
+    std::vector<std::array<float, 3>> x, y;
+    std::vector<std::uint32_t> pivots;
+    Numbers<float> results, component;
+    EXPECT_EQ(vonk::add(a, a, d), vonkOk);
+    EXPECT_EQ(vonk::multiply(a, x, y), vonkOk);
+    EXPECT_EQ(vonk::norm(x, results), vonkOk);
+    EXPECT_EQ(vonk::lu(a, pivots, d), vonkOk);
+    EXPECT_EQ(vonk::lu_solve(a, pivots, x, y), vonkOk);
+    EXPECT_EQ(vonk::cholesky(a, d), vonkOk);
+    EXPECT_EQ(vonk::cholesky_solve(a, x, y), vonkOk);
+    EXPECT_EQ(vonk::solve(a, x, y), vonkOk);
+    EXPECT_EQ(vonk::identity(d), vonkOk);
+    EXPECT_EQ(vonk::extract(a, results), vonkOk);
+    const auto soa = vonk::soa(component, component, component);
+    EXPECT_EQ(vonk::cross(soa, soa, soa), vonkOk);
+    EXPECT_EQ(vonk::add(vonk::matrices<3, 3>(static_cast<float *>(nullptr), 2), a, d), vonkErrSize);
+    EXPECT_EQ(vonk::inverse(vonk::matrices<3, 3>(static_cast<float *>(nullptr), 0), d), vonkErrNullPtr);
 }
 
 TEST(CppStatus, StridesInElementsAreCaught) {
@@ -259,8 +298,10 @@ template <class T, vonk::Size M, vonk::Size K, vonk::Size N, bool Open> void mul
             return vonk::View<typename V::element, 0, 0, V::layout, V::kind>(view);
         } else return view;
     };
-    const auto A = size(vonk::matrices<M, K>(a)), B = size(vonk::matrices<K, N>(b));
-    const auto At = size(vonk::matrices<K, M>(a)), Bt = size(vonk::matrices<N, K>(b));
+    const auto A = size(vonk::matrices<M, K>(a));
+    const auto B = size(vonk::matrices<K, N>(b));
+    const auto At = size(vonk::matrices<K, M>(a));
+    const auto Bt = size(vonk::matrices<N, K>(b));
     const auto D = size(vonk::matrices<M, N>(d));
     const auto check = [&](const auto &left, const auto &right, const char *what) {
         std::fill(d.begin(), d.end(), T(99));
@@ -323,6 +364,39 @@ TYPED_TEST(CppOperations, ProductsOfAllShapes) {
     multiplies<T, 2, 3, 4, false>();
     multiplies<T, 5, 3, 2, true>();
     multiplies<T, 3, 7, 3, false>();
+}
+
+// The same ways round in lists, and of matrices that lie by columns.
+TYPED_TEST(CppOperations, ProductsInListsAndByColumns) {
+    using T = TypeParam;
+    auto a = numbers<T>(4 * 6, 5), b = numbers<T>(4 * 12, 6), d = numbers<T>(4 * 8, 7);
+    std::vector<T *> la, lb, ld;
+    for (int n = 0; n < 4; ++n) la.push_back(&a[6 * n]), lb.push_back(&b[12 * (3 - n)]), ld.push_back(&d[8 * n]);
+    const auto check = [&](const auto &A, const auto &B, const auto &D, const char *what) {
+        std::fill(d.begin(), d.end(), T(99));
+        ASSERT_EQ(vonk::multiply(A, B, D), vonkOk) << what;
+        for (vonk::Size n = 0; n < 4; ++n)
+            for (vonk::Size i = 0; i < 2; ++i)
+                for (vonk::Size j = 0; j < 4; ++j) {
+                    T sum = 0;
+                    for (vonk::Size k = 0; k < 3; ++k)
+                        sum += vonk::detail::nth(A, n)(i, k) * vonk::detail::nth(B, n)(k, j);
+                    ASSERT_EQ(D(n, i, j), sum) << what;
+                }
+    };
+    using vonk::transposed;
+    const auto A = vonk::matrices<2, 3>(la);
+    const auto At = vonk::matrices<3, 2>(la).element_stride(sizeof(T));
+    const auto B = vonk::matrices<3, 4>(lb);
+    const auto Bt = vonk::matrices<4, 3>(lb);
+    const auto D = vonk::matrices<2, 4>(ld);
+    check(A, B, D, "mama"), check(A, transposed(Bt), D, "mamaT"), check(transposed(At), B, D, "maTma");
+    check(A[1], B, D, "mma"), check(A, B[1], D, "mam"), check(transposed(At[2]), transposed(Bt), D, "mTmaT");
+    const auto Ac = vonk::matrices<2, 3>(a).column_major();
+    const auto Bc = vonk::matrices<3, 4>(b).column_major();
+    const auto Dc = vonk::matrices<2, 4>(d).column_major();
+    check(Ac, Bc, Dc, "by columns"), check(Ac[1], Bc, Dc, "one by columns"),
+        check(Ac, Bc[1], vonk::matrices<2, 4>(d), "mixed");
 }
 
 TYPED_TEST(CppOperations, ProductsBehindTables) {

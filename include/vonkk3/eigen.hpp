@@ -48,7 +48,7 @@ struct Adapter<X,
             constexpr Size length = X::SizeAtCompileTime > 0 ? Size(X::SizeAtCompileTime) : dynamic;
             return View < T, length, 1, unit ? Layout::standard : Layout::S2,
                    Kind::vector > (x.data(), 1, detail::to_size(std::size_t(x.size())), 1,
-                                   detail::Strides{0, 0, detail::to_stride(e * x.innerStride()), 0});
+                                   Strides{0, 0, detail::to_stride(e * x.innerStride()), 0});
         } else {
             constexpr bool fixed = X::RowsAtCompileTime > 0 && X::ColsAtCompileTime > 0;
             constexpr Size rows = fixed ? Size(X::RowsAtCompileTime) : dynamic;
@@ -58,7 +58,7 @@ struct Adapter<X,
             return View < T, rows, columns, by_rows && unit ? Layout::standard : Layout::S2,
                    Kind::matrix > (x.data(), 1, detail::to_size(std::size_t(x.rows())),
                                    detail::to_size(std::size_t(x.cols())),
-                                   detail::Strides{0, by_rows ? outer : inner, by_rows ? inner : outer, 0});
+                                   Strides{0, by_rows ? outer : inner, by_rows ? inner : outer, 0});
         }
     }
 };

@@ -103,11 +103,12 @@ constexpr Layout of_one_object(Layout layout) {
                                    : layout;
 }
 
+} // namespace detail
+
+/// All that moves an address, in bytes; what a layout has not is not looked at.
 struct Strides {
     std::int32_t object = 0, row = 0, element = 0, shift = 0;
 };
-
-} // namespace detail
 
 /// The one class behind Matrix, Matrices, Vector and Vectors. Rows and Columns are those that lie in memory, also where
 /// the view is transposed; a vector has its length as Rows.
@@ -146,7 +147,7 @@ public:
     }
 
     /// The general form, with the strides as they are.
-    constexpr View(pointer data, Size count, Size rows, Size columns, detail::Strides strides)
+    constexpr View(pointer data, Size count, Size rows, Size columns, Strides strides)
         : data_(data), strides_(strides), count_(count), rows_(rows), columns_(columns) {}
 
     /// To const elements, run-time sizes, or the strided layout that the other's is a special case of.
@@ -160,7 +161,7 @@ public:
           columns_(other.stored_columns()) {}
 
     constexpr pointer data() const { return data_; }
-    constexpr detail::Strides strides() const { return strides_; }
+    constexpr Strides strides() const { return strides_; }
     constexpr Size count() const { return count_; } ///< objects; 1 of a single one
     constexpr Size stored_rows() const { return Rows != dynamic ? Rows : rows_; }
     constexpr Size stored_columns() const { return Rows != dynamic ? Columns : columns_; }
@@ -172,7 +173,7 @@ public:
     constexpr auto object_stride(std::ptrdiff_t bytes) const {
         static_assert(is_array, "vonkk3: one object has no object stride");
         static_assert(!is_list, "vonkk3: in a list every object has its own pointer, and there is no object stride");
-        detail::Strides strides = strides_;
+        Strides strides = strides_;
         strides.object = detail::to_stride(bytes);
         return View < T, Rows, Columns, is_table ? Layout::PS2 : L, K > (data_, count_, rows_, columns_, strides);
     }
@@ -187,7 +188,7 @@ public:
     /// Bytes from element to element of a row, or of a vector. The layout becomes S2 or LS2.
     constexpr auto element_stride(std::ptrdiff_t bytes) const {
         static_assert(!is_table, "vonkk3: with one pointer per element position there is no element stride");
-        detail::Strides strides = strides_;
+        Strides strides = strides_;
         strides.element = detail::to_stride(bytes);
         return View<T, Rows, Columns, detail::strided(L), K>(data_, count_, rows_, columns_, strides);
     }
@@ -195,7 +196,7 @@ public:
     /// column to column. Nothing is moved: rows and elements exchange their strides.
     constexpr auto column_major() const {
         static_assert(is_matrix && !is_table, "vonkk3: only a matrix with strides lies by columns");
-        detail::Strides strides = strides_;
+        Strides strides = strides_;
         strides.row = sizeof(T);
         strides.element = detail::to_stride(std::ptrdiff_t(stored_rows()) * std::ptrdiff_t(sizeof(T)));
         return View<T, Rows, Columns, detail::strided(L), K>(data_, count_, rows_, columns_, strides);
@@ -212,7 +213,7 @@ public:
     constexpr auto operator[](std::size_t n) const {
         static_assert(is_array, "vonkk3: [n] is object n of an array; elements are (i) and (i, j)");
         using One = View<T, Rows, Columns, detail::of_one_object(L), detail::single(K)>;
-        detail::Strides strides = strides_;
+        Strides strides = strides_;
         if constexpr (is_table) {
             strides.shift = shift_of(n);
             return One(data_, 1, rows_, columns_, strides);
@@ -278,7 +279,7 @@ private:
     }
 
     pointer data_;
-    detail::Strides strides_;
+    Strides strides_;
     Size count_ = 1, rows_ = Rows, columns_ = is_matrix ? Columns : 1;
 };
 
@@ -345,8 +346,14 @@ namespace detail {
 
 template <class U> using ShapeOf = Shape<std::remove_cv_t<U>>;
 
+// An empty container may have no address, which the library would take for an error before it sees the count.
+alignas(16) inline char nowhere[16];
+template <class U> U *address_of_items(U *data, std::size_t count) {
+    return data == nullptr && count == 0 ? reinterpret_cast<U *>(&nowhere[0]) : data;
+}
+
 // Contiguous items: a C array, or what has data() and size().
-template <class X> constexpr auto items(X &x) -> decltype(x.data()) { return x.data(); }
+template <class X> constexpr auto items(X &x) -> decltype(x.data()) { return address_of_items(x.data(), x.size()); }
 template <class X> constexpr auto items_count(X &x) -> decltype(x.size()) { return x.size(); }
 template <class U, std::size_t N> constexpr U *items(U (&x)[N]) { return x; }
 template <class U, std::size_t N> constexpr std::size_t items_count(U (&)[N]) { return N; }
@@ -420,6 +427,38 @@ template <Kind K, Size R, Size C, class U> auto array_of(U *first, std::size_t c
     }
 }
 
+// A std::mdspan, or what looks like one; its strides count elements.
+template <class X, class = void> inline constexpr bool is_mdspan = false;
+template <class X>
+inline constexpr bool is_mdspan<X, std::void_t<decltype(std::declval<X &>().data_handle()),
+                                               decltype(std::declval<X &>().stride(0)), decltype(X::rank())>> = true;
+
+template <Kind K, class X> auto of_mdspan(const X &x) {
+    using T = std::remove_pointer_t<decltype(x.data_handle())>;
+    constexpr std::size_t first = is_array(K) ? 1 : 0, rank = first + (is_matrix(K) ? 2 : 1);
+    static_assert(X::rank() == rank,
+                  "vonkk3: the mdspan has another rank: 1 for a vector, 2 for a matrix, and one more, "
+                  "the first, for an array");
+    if constexpr (X::rank() == rank) {
+        constexpr auto open = static_cast<std::size_t>(-1);
+        constexpr bool fixed = X::static_extent(first) != open && X::static_extent(rank - 1) != open;
+        constexpr Size rows = fixed ? Size(X::static_extent(first)) : dynamic;
+        constexpr Size columns = !is_matrix(K) ? 1 : fixed ? Size(X::static_extent(rank - 1)) : dynamic;
+        const auto bytes = [&](std::size_t r) {
+            return to_stride(std::ptrdiff_t(x.stride(r)) * std::ptrdiff_t(sizeof(T)));
+        };
+        return View<T, rows, columns, Layout::S2, K>(
+            x.data_handle(), is_array(K) ? to_size(std::size_t(x.extent(0))) : 1, to_size(std::size_t(x.extent(first))),
+            is_matrix(K) ? to_size(std::size_t(x.extent(rank - 1))) : 1,
+            Strides{is_array(K) ? bytes(0) : 0, is_matrix(K) ? bytes(first) : 0, bytes(rank - 1), 0});
+    } else return Unfit{};
+}
+
+// What vonk::matrix and vonk::vector take whole; a pointer takes sizes with it.
+template <class X>
+inline constexpr bool is_source =
+    !std::is_pointer_v<std::remove_cv_t<std::remove_reference_t<X>>> && !is_mdspan<std::remove_reference_t<X>>;
+
 template <Kind K, Size R, Size C, class X> auto one_of(X &x) {
     if constexpr (R != dynamic) {
         static_assert(is_container<X> && ShapeOf<ItemOf<X>>::rank == 0,
@@ -441,10 +480,9 @@ template <Kind K, Size R, Size C, class X> auto one_of(X &x) {
 
 // ---- Making views
 
-/// One matrix: of a float[R][C], a std::array of std::array, a glm::mat4; with sizes, matrix<R, C>(x), of a container
-/// of R * C elements.
-template <Size Rows = dynamic, Size Columns = dynamic, class X,
-          class = std::enable_if_t<!std::is_pointer_v<std::decay_t<X>> || std::is_array_v<std::remove_reference_t<X>>>>
+/// One matrix: of a float[R][C], a std::array of std::array, a glm::mat4; with sizes, matrix<R, C>(x), of the first
+/// R * C elements of a container.
+template <Size Rows = dynamic, Size Columns = dynamic, class X, class = std::enable_if_t<detail::is_source<X>>>
 auto matrix(X &&x) {
     return detail::one_of<Kind::matrix, Rows, Columns>(x);
 }
@@ -458,9 +496,7 @@ template <class T> constexpr auto matrix(T *data, std::size_t rows, std::size_t 
 }
 
 /// One vector: of a float[N], a std::array, a glm::vec3, a container of elements; vector<N>(x) says the length.
-template <Size Length = dynamic, class X,
-          class = std::enable_if_t<!std::is_pointer_v<std::decay_t<X>> || std::is_array_v<std::remove_reference_t<X>>>>
-auto vector(X &&x) {
+template <Size Length = dynamic, class X, class = std::enable_if_t<detail::is_source<X>>> auto vector(X &&x) {
     return detail::one_of<Kind::vector, Length, 1>(x);
 }
 template <Size Length, class T> constexpr auto vector(T *const &data) { return Vector<T, Length>(data); }
@@ -495,6 +531,21 @@ template <class T> constexpr auto vectors(T *data, std::size_t count, std::size_
     if constexpr (std::is_pointer_v<T>)
         return Vectors<std::remove_pointer_t<T>, dynamic, Layout::L>(data, count, length);
     else return Vectors<T>(data, count, length);
+}
+
+/// The same of a std::mdspan (C++23), whatever its layout: of rank 2 one matrix or an array of vectors, of rank 3 an
+/// array of matrices, of rank 1 one vector. The array's index is the first.
+template <class X, class = std::enable_if_t<detail::is_mdspan<X>>> auto matrix(const X &x) {
+    return detail::of_mdspan<Kind::matrix>(x);
+}
+template <class X, class = std::enable_if_t<detail::is_mdspan<X>>> auto matrices(const X &x) {
+    return detail::of_mdspan<Kind::matrices>(x);
+}
+template <class X, class = std::enable_if_t<detail::is_mdspan<X>>> auto vector(const X &x) {
+    return detail::of_mdspan<Kind::vector>(x);
+}
+template <class X, class = std::enable_if_t<detail::is_mdspan<X>>> auto vectors(const X &x) {
+    return detail::of_mdspan<Kind::vectors>(x);
 }
 
 namespace detail {
