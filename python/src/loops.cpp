@@ -1,9 +1,10 @@
 // The inner loops: from numpy's pointers, sizes and strides to calls of the library.
 //
-// Each operation takes the S2 forms, which take any strides and are the same bits on every machine; a matrix product
-// whose rows are contiguous takes the standard layout, which is faster. A broadcast operand has an object stride of 0.
-// numpy sees to broadcasting, types, alignment and byte order, and copies inputs that an output overlaps: within a loop
-// no output overlaps an input, but for element-wise operations in place.
+// Each operation takes the S2 forms, which take any strides and are the same bits on every machine; matrix products
+// whose rows are contiguous, and sums of contiguous vectors, take the standard layout, which is faster, with the same
+// bits but for signs of zeros in products of float32. A broadcast operand has an object stride of 0. numpy sees to
+// broadcasting, types, alignment and byte order, and copies inputs that an output overlaps: within a loop no output
+// overlaps an input, but for element-wise operations in place.
 #include "loops.h"
 
 #include "export_table.h"
@@ -53,12 +54,12 @@ public:
         View view = next(sizeof(T));
         view.rows = rows, view.cols = cols;
         view.row = *cores++, view.elem = *cores++;
-        return apart(view);
+        return copiedIfInPlace(view);
     }
     View vector(Size cols, Size size = sizeof(T)) {
         View view = next(size);
         view.cols = cols, view.elem = *cores++;
-        return apart(view);
+        return copiedIfInPlace(view);
     }
     View scalar(Size size = sizeof(T)) { return next(size); } // always an output
     // A vector as a matrix of one column, or a matrix of `cols` columns.
@@ -66,7 +67,7 @@ public:
         if (!one) return matrix(rows, cols);
         View view = next(sizeof(T));
         view.rows = rows, view.row = *cores++, view.elem = view.size;
-        return apart(view);
+        return copiedIfInPlace(view);
     }
 
 private:
@@ -76,7 +77,7 @@ private:
         view.data = *data++, view.outer = *outers++, view.size = size, view.elem = size;
         return view;
     }
-    View apart(View view) {
+    View copiedIfInPlace(View view) {
         if (view.written || std::find(firstOutput, end, view.data) == end) return view;
         const Size objects = view.outer == 0 ? 1 : count, object = view.elements() * view.size;
         std::vector<char> &copy = copies.emplace_back(static_cast<std::size_t>(objects * object));
@@ -902,13 +903,17 @@ template <typename T> void multiply(char **data, const Size *dimensions, const S
 
 template <typename T> void saxpy(char **data, const Size *dimensions, const Size *steps, void *) {
     const Flags flags;
+    constexpr Size size = sizeof(T);
+    const bool packed = steps[1] == size && steps[2] == size && steps[3] == size;
     inVectors(steps, 4, dimensions[0], [&](Size start, Size total) {
         const Size most = steps[0] == 0 ? total : 1;
-        for (Size first = start; first < start + total; first += most)
-            Exports<T>::Saxpy_vv_S2(element<T>(data[1], steps[1], first), s(most == 1 ? 0 : steps[1]),
-                                    *element<T>(data[0], steps[0], first), element<T>(data[2], steps[2], first),
-                                    s(most == 1 ? 0 : steps[2]), element<T>(data[3], steps[3], first),
-                                    s(most == 1 ? 0 : steps[3]), u(most));
+        for (Size first = start; first < start + total; first += most) {
+            const T constant = *element<T>(data[0], steps[0], first);
+            T *const x = element<T>(data[1], steps[1], first), *const y = element<T>(data[2], steps[2], first);
+            T *const result = element<T>(data[3], steps[3], first);
+            if (packed || most == 1) Exports<T>::Saxpy_vv(x, constant, y, result, u(most));
+            else Exports<T>::Saxpy_vv_S2(x, s(steps[1]), constant, y, s(steps[2]), result, s(steps[3]), u(most));
+        }
     });
 }
 
