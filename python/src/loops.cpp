@@ -38,6 +38,9 @@ std::uint32_t u(Size size) { return static_cast<std::uint32_t>(size); }
 
 template <typename T> T *p(const View &view) { return reinterpret_cast<T *>(view.data); }
 
+// `out` is an operand in which objects lie differently: broadcast, or with other core dimensions.
+struct InPlace {};
+
 // Hands out numpy's arguments one by one: dimensions and steps of the cores follow those of the loop.
 //
 // numpy copies an input that an output overlaps, but not one that an output IS. Such an input is copied here: few
@@ -45,8 +48,8 @@ template <typename T> T *p(const View &view) { return reinterpret_cast<T *>(view
 template <typename T> class Arguments {
 public:
     Arguments(char **data, const Size *dimensions, const Size *steps, int inputs, int outputs)
-        : count(dimensions[0]), data(data), firstOutput(data + inputs), end(firstOutput + outputs), outers(steps),
-          cores(steps + inputs + outputs) {}
+        : count(dimensions[0]), firstData(data), data(data), firstOutput(data + inputs), end(firstOutput + outputs),
+          firstOuter(steps), outers(steps), cores(steps + inputs + outputs) {}
 
     const Size count;
 
@@ -78,7 +81,11 @@ private:
         return view;
     }
     View copiedIfInPlace(View view) {
-        if (view.written || std::find(firstOutput, end, view.data) == end) return view;
+        if (view.written) return view;
+        char **const output = std::find(firstOutput, end, view.data);
+        if (output == end) return view;
+        // Objects lie differently in the two, so that one object's result may have overwritten another's input.
+        if (count > 1 && view.outer != firstOuter[output - firstData]) throw InPlace();
         const Size objects = view.outer == 0 ? 1 : count, object = view.elements() * view.size;
         std::vector<char> &copy = copies.emplace_back(static_cast<std::size_t>(objects * object));
         char *to = copy.data();
@@ -91,9 +98,11 @@ private:
         return view;
     }
 
+    char **const firstData;
     char **data;
     char **const firstOutput;
     char **const end;
+    const Size *const firstOuter;
     const Size *outers;
     const Size *cores;
     std::vector<std::vector<char>> copies;
@@ -923,6 +932,8 @@ template <Loop loop> void guarded(char **data, const Size *dimensions, const Siz
         loop(data, dimensions, steps, nothing);
     } catch (const std::bad_alloc &) {
         reportNoMemory();
+    } catch (const InPlace &) {
+        reportInPlace();
     }
 }
 
