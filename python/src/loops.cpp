@@ -1,9 +1,10 @@
 // The inner loops: from numpy's pointers, sizes and strides to calls of the library.
 //
-// Each operation takes the S2 forms, which take any strides and are the same bits on every machine; a matrix product
-// whose rows are contiguous takes the standard layout, which is faster. A broadcast operand has an object stride of 0.
-// numpy sees to broadcasting, types, alignment and byte order, and copies inputs that an output overlaps: within a loop
-// no output overlaps an input, but for element-wise operations in place.
+// Each operation takes the S2 forms, which take any strides and are the same bits on every machine; matrix products
+// whose rows are contiguous, and sums of contiguous vectors, take the standard layout, which is faster, with the same
+// bits but for signs of zeros in products of float32. A broadcast operand has an object stride of 0. numpy sees to
+// broadcasting, types, alignment and byte order, and copies inputs that an output overlaps: within a loop no output
+// overlaps an input, but for element-wise operations in place.
 #include "loops.h"
 
 #include "export_table.h"
@@ -37,6 +38,9 @@ std::uint32_t u(Size size) { return static_cast<std::uint32_t>(size); }
 
 template <typename T> T *p(const View &view) { return reinterpret_cast<T *>(view.data); }
 
+// `out` is an operand in which objects lie differently: broadcast, or with other core dimensions.
+struct InPlace {};
+
 // Hands out numpy's arguments one by one: dimensions and steps of the cores follow those of the loop.
 //
 // numpy copies an input that an output overlaps, but not one that an output IS. Such an input is copied here: few
@@ -44,8 +48,8 @@ template <typename T> T *p(const View &view) { return reinterpret_cast<T *>(view
 template <typename T> class Arguments {
 public:
     Arguments(char **data, const Size *dimensions, const Size *steps, int inputs, int outputs)
-        : count(dimensions[0]), data(data), firstOutput(data + inputs), end(firstOutput + outputs), outers(steps),
-          cores(steps + inputs + outputs) {}
+        : count(dimensions[0]), firstData(data), data(data), firstOutput(data + inputs), end(firstOutput + outputs),
+          firstOuter(steps), outers(steps), cores(steps + inputs + outputs) {}
 
     const Size count;
 
@@ -53,12 +57,12 @@ public:
         View view = next(sizeof(T));
         view.rows = rows, view.cols = cols;
         view.row = *cores++, view.elem = *cores++;
-        return apart(view);
+        return copiedIfInPlace(view);
     }
     View vector(Size cols, Size size = sizeof(T)) {
         View view = next(size);
         view.cols = cols, view.elem = *cores++;
-        return apart(view);
+        return copiedIfInPlace(view);
     }
     View scalar(Size size = sizeof(T)) { return next(size); } // always an output
     // A vector as a matrix of one column, or a matrix of `cols` columns.
@@ -66,7 +70,7 @@ public:
         if (!one) return matrix(rows, cols);
         View view = next(sizeof(T));
         view.rows = rows, view.row = *cores++, view.elem = view.size;
-        return apart(view);
+        return copiedIfInPlace(view);
     }
 
 private:
@@ -76,8 +80,12 @@ private:
         view.data = *data++, view.outer = *outers++, view.size = size, view.elem = size;
         return view;
     }
-    View apart(View view) {
-        if (view.written || std::find(firstOutput, end, view.data) == end) return view;
+    View copiedIfInPlace(View view) {
+        if (view.written) return view;
+        char **const output = std::find(firstOutput, end, view.data);
+        if (output == end) return view;
+        // Objects lie differently in the two, so that one object's result may have overwritten another's input.
+        if (count > 1 && view.outer != firstOuter[output - firstData]) throw InPlace();
         const Size objects = view.outer == 0 ? 1 : count, object = view.elements() * view.size;
         std::vector<char> &copy = copies.emplace_back(static_cast<std::size_t>(objects * object));
         char *to = copy.data();
@@ -90,9 +98,11 @@ private:
         return view;
     }
 
+    char **const firstData;
     char **data;
     char **const firstOutput;
     char **const end;
+    const Size *const firstOuter;
     const Size *outers;
     const Size *cores;
     std::vector<std::vector<char>> copies;
@@ -902,13 +912,17 @@ template <typename T> void multiply(char **data, const Size *dimensions, const S
 
 template <typename T> void saxpy(char **data, const Size *dimensions, const Size *steps, void *) {
     const Flags flags;
+    constexpr Size size = sizeof(T);
+    const bool packed = steps[1] == size && steps[2] == size && steps[3] == size;
     inVectors(steps, 4, dimensions[0], [&](Size start, Size total) {
         const Size most = steps[0] == 0 ? total : 1;
-        for (Size first = start; first < start + total; first += most)
-            Exports<T>::Saxpy_vv_S2(element<T>(data[1], steps[1], first), s(most == 1 ? 0 : steps[1]),
-                                    *element<T>(data[0], steps[0], first), element<T>(data[2], steps[2], first),
-                                    s(most == 1 ? 0 : steps[2]), element<T>(data[3], steps[3], first),
-                                    s(most == 1 ? 0 : steps[3]), u(most));
+        for (Size first = start; first < start + total; first += most) {
+            const T constant = *element<T>(data[0], steps[0], first);
+            T *const x = element<T>(data[1], steps[1], first), *const y = element<T>(data[2], steps[2], first);
+            T *const result = element<T>(data[3], steps[3], first);
+            if (packed || most == 1) Exports<T>::Saxpy_vv(x, constant, y, result, u(most));
+            else Exports<T>::Saxpy_vv_S2(x, s(steps[1]), constant, y, s(steps[2]), result, s(steps[3]), u(most));
+        }
     });
 }
 
@@ -918,6 +932,8 @@ template <Loop loop> void guarded(char **data, const Size *dimensions, const Siz
         loop(data, dimensions, steps, nothing);
     } catch (const std::bad_alloc &) {
         reportNoMemory();
+    } catch (const InPlace &) {
+        reportInPlace();
     }
 }
 

@@ -18,8 +18,9 @@ struct Operation {
 
 std::span<const Operation> operations();
 
-// Raises MemoryError in Python; called without its lock. Defined by the module.
+// Raise exceptions in Python; called without its lock. Defined by the module.
 void reportNoMemory();
+void reportInPlace();
 
 // Objects that failed in this thread since it was asked last.
 Size takeFailures();

@@ -19,6 +19,12 @@ void reportNoMemory() {
     PyGILState_Release(state);
 }
 
+void reportInPlace() {
+    const PyGILState_STATE state = PyGILState_Ensure();
+    PyErr_SetString(PyExc_ValueError, "out is an operand whose objects lie differently: pass a copy of the operand");
+    PyGILState_Release(state);
+}
+
 namespace {
 
 struct LibVersion { // VonkLibVersion

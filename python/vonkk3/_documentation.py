@@ -1,7 +1,9 @@
 """Docstrings of the functions that are ufunc objects. numpy puts the signature before each."""
 
 _OUT = """out : ndarray, optional
-    Where the result is stored. It may overlap the operands: numpy copies then what would be overwritten."""
+    Where the result is stored. It may overlap the operands: what would be overwritten is copied before. One case is a
+    `ValueError`, after which its contents are undefined: an operand itself whose objects have more dimensions than
+    those of the result."""
 
 _NOTES = """Like all ufuncs it takes ``out``, ``casting``, ``dtype`` and so on, releases the interpreter's lock, and gives no
 floating-point warnings. Integers are converted to float64; complex numbers are a `TypeError`, shapes that do not fit a
