@@ -1,4 +1,4 @@
-"""Which library file is loaded: the best level for the processor, or what the environment names."""
+"""Which library file is loaded: the package's best level for the processor, or the system's, or what the environment names."""
 import os
 import pathlib
 
@@ -6,6 +6,7 @@ from . import _core
 
 _FOLDER = pathlib.Path(__file__).parent / "lib"
 _LEVELS = ("x86-64-v4", "x86-64-v3", "x86-64")
+_SONAME = "libvonkk3.so.4"
 
 
 def _choose():
@@ -14,6 +15,11 @@ def _choose():
     if named:
         return named, "", "named by VONKK3_LIBRARY"
     level = os.environ.get("VONKK3_LEVEL")
+    if not _FOLDER.exists():  # a package of the system, beside its library
+        if level:
+            raise ImportError(f"VONKK3_LEVEL is {level!r}, but the package has no library files of its own: the system's loader "
+                              f"chooses the level of {_SONAME}. VONKK3_LIBRARY names another file")
+        return _SONAME, "", "the system's; its loader chooses the level"
     processor = _core.levels()
     if level:
         if level not in _LEVELS:
@@ -58,7 +64,8 @@ def show_config():
     """Print which library file is loaded, and why.
 
     The wheel has the library for every x86-64 processor (``x86-64``) and for those with AVX2 (``x86-64-v3``) and AVX-512
-    (``x86-64-v4``). The best one is loaded at import. The environment variable VONKK3_LEVEL names another of them, and
+    (``x86-64-v4``). The best one is loaded at import. Debian's package has none: it loads the system's ``libvonkk3.so.4``,
+    of which the system's loader chooses the level. The environment variable VONKK3_LEVEL names another of them, and
     VONKK3_LIBRARY any library file. Results are the same bits at all levels.
 
     Examples
