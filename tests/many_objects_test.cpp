@@ -122,6 +122,21 @@ TEST(ManyObjects, AreSummedIntoTheirOwnElements) {
     }
 }
 
+// Element 1 of an object lies where element 0 of the next one does.
+TEST(ManyObjects, MayBeSolvedIntoPositionsThatOverlapEachOther) {
+    for (const std::ptrdiff_t apart : {1, -1, 3}) {
+        SCOPED_TRACE(apart);
+        expectSameObjectByObject([apart](Arena &arena, std::int32_t n, std::uint32_t count) {
+            const auto factors = tableFrom<9>(static_cast<const float *>(arena.numbers.data()), 64);
+            const auto b = tableFrom<3>(static_cast<const float *>(arena.numbers.data() + 600), 64);
+            const auto x = tableFrom<3>(arena.numbers.data() + 1000, apart);
+            ASSERT_EQ(vonkCholeskyBackSubst_mava_32f_3x3_P(factors.data(), n * bytes, b.data(), n * bytes, x.data(),
+                                                           n * bytes, count),
+                      vonkOk);
+        });
+    }
+}
+
 TEST(ManyObjects, AreTransformedWithResultsOnLaterVectors) {
     for (const std::ptrdiff_t shifted : {-4, -3, 1, 4, 9}) {
         SCOPED_TRACE(shifted);
