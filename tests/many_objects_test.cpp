@@ -110,6 +110,18 @@ TEST(ManyObjects, AreMultipliedWithResultsOnTheirFactors) {
     }
 }
 
+TEST(ManyObjects, AreMultipliedByOneMatrixWithResultsOnTheirRows) {
+    for (const std::ptrdiff_t shifted : {-5, 1, 5, 25, 30}) {
+        SCOPED_TRACE(shifted);
+        expectSameObjectByObject([shifted](Arena &arena, std::int32_t n, std::uint32_t count) {
+            float *const a = arena.numbers.data() + 64 + std::ptrdiff_t(25) * n;
+            float *const b = arena.numbers.data() + 2000;
+            for (int k = 0; k < 25; ++k) b[k] = static_cast<float>(k * 7 % 5 - 2) / 8; // products stay small
+            ASSERT_EQ(vonkMul_mam_32f_5x5(a, 100, 20, b, 20, a + shifted, 100, 20, count), vonkOk);
+        });
+    }
+}
+
 TEST(ManyObjects, AreSummedIntoTheirOwnElements) {
     for (const std::ptrdiff_t at : {0, 1, 66, 200}) {
         SCOPED_TRACE(at);
