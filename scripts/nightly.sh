@@ -13,6 +13,7 @@
 #     valgrind      memory errors alone: its 80-bit arithmetic has 64 bits, so that results differ
 #     abi           scripts/abi.sh
 #     windows       scripts/windows.sh: the DLL and its tests by Wine
+#     packages      scripts/release.sh, twice with the same bytes, and tests/debian_test.sh of its packages
 #     site          scripts/docs.sh --test: the documentation, by clicks in a browser
 #     faults        scripts/faults.py: every deliberate fault turns a test red
 #
@@ -41,7 +42,7 @@ while [ $# -gt 0 ]; do
     esac
     shift
 done
-all="tests compilers levels abi windows threads valgrind coverage fuzz comparisons site faults"
+all="tests compilers levels abi windows packages threads valgrind coverage fuzz comparisons site faults"
 [ -n "$steps" ] || steps=$all
 for step in $steps; do
     case " $all " in *" $step "*) ;; *) echo "nightly.sh: no such step: $step" >&2; exit 2 ;; esac
@@ -133,6 +134,11 @@ step_valgrind() {
 step_abi() { record abi sh scripts/abi.sh; }
 
 step_windows() { record windows sh scripts/windows.sh; }
+
+step_packages() {
+    record packages sh -c 'sh scripts/release.sh --twice --no-windows --output build/release-packages &&
+        sh tests/debian_test.sh build/release-packages'
+}
 
 step_site() { record site sh scripts/docs.sh --test "$gcc"; }
 

@@ -58,6 +58,8 @@ name=vonkk3-$version
 commit=$(git rev-parse HEAD)
 SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
 export SOURCE_DATE_EPOCH LC_ALL=C TZ=UTC PYTHONDONTWRITEBYTECODE=1 PIP_NO_INDEX=1 PIP_DISABLE_PIP_VERSION_CHECK=1
+CCACHE_DIR=$(ccache --get-config cache_dir) # dpkg-buildpackage works in a home folder of its own
+export CCACHE_DIR
 umask 022
 
 step() { # WHAT COMMAND...

@@ -20,6 +20,7 @@ STEPS = {
     "valgrind": "Memory errors, Valgrind",
     "abi": "Functions and types of the header",
     "windows": "Windows DLL, by Wine",
+    "packages": "Debian packages and release",
     "site": "Documentation site",
     "faults": "Deliberate faults",
 }
@@ -27,7 +28,7 @@ STEPS = {
 # The lines of an output that say what came out.
 TELLING = re.compile(
     r"passed, |differences$|tests passed|^ok: |FAILED|FOUND|^together|reasons out of date|functions compared"
-    r"|^stat::number_of_executed|^ended: |races? |without a reason"
+    r"|^packages work|the same bytes twice|^stat::number_of_executed|^ended: |races? |without a reason"
 )
 
 
