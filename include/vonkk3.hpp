@@ -3,12 +3,12 @@
 //     vonk::check(vonk::multiply(rotation, vonk::members(bodies, &Body::spin), vonk::members(bodies,
 //     &Body::momentum)));
 //
-// Header-only, C++17. A call looks at its operands' types: single or array, matrix or vector, float or double, size and
-// layout name one export, which is called with the arguments in its order; no function pointer, no allocation and no
-// copy is left of it after optimisation. Where an export has an exception that a caller would fall into, another one is
-// taken; vonk::exact::add and so on take the one that is named. What does not fit is an error of the compiler, in one
-// sentence that begins with "vonkk3:"; sizes and counts known at run time only give vonkErrSize before anything is
-// done.
+// Header-only, C++17. A call is resolved from its operands' types: single or array, matrix or vector, float or double,
+// size and layout name one export, which is called with the arguments in its order; no function pointer, no allocation
+// and no copy is left of it after optimisation. Where an export has an exception that a caller would fall into, another
+// one is taken; vonk::exact::add and so on take the one that is named. What does not fit is an error of the compiler,
+// in one sentence that begins with "vonkk3:"; sizes and counts known at run time only give vonkErrSize before anything
+// is done.
 //
 //     views.hpp        Matrix, Matrices, Vector, Vectors and how to make them: matrix(), matrices(), vector(),
 //     vectors(),

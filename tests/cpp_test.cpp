@@ -109,7 +109,7 @@ TEST(CppViews, ExchangeStridesWhereDataLieByColumns) {
     EXPECT_EQ(&leading(1, 1), p + 4);
 }
 
-// As much of a std::mdspan as a view looks at: two matrices of static sizes 2 by 3 with strides of its own.
+// As much of a std::mdspan as a view needs: two matrices of static sizes 2 by 3 with strides of its own.
 struct Mdspan {
     float *data;
     float *data_handle() const { return data; }
