@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 . scripts/presets.sh
 need g++ gcc gfortran clang libclang-rt-dev clang-format cmake ninja-build make ccache binutils pkg-config git \
     libgtest-dev libcli11-dev libbenchmark-dev libeigen3-dev libglm-dev libcglm-dev libxsmm-dev liblapacke-dev \
-    libopenblas-dev qemu-user man-db groff-base \
+    libopenblas-dev qemu-user man-db groff-base libopenmpi-dev openmpi-bin \
     python3 python3-dev python3-numpy python3-pytest python3-hypothesis python3-setuptools python3-wheel python3-pip \
     python3-venv python3-dask python3-distributed python3-jsonschema mypy
 jobs=$(nproc)
