@@ -18,7 +18,7 @@
 #     faults        scripts/faults.py: every deliberate fault turns a test red
 #
 # A step or chunk that is done at this commit is not done again: a night that is cut short goes on in the next. Results are
-# kept in build/nightly. Exit code 1: a step failed.
+# kept in build/nightly; what the page says of steps that this machine has no results of stays. Exit code 1: a step failed.
 set -u
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -51,6 +51,7 @@ done
 need g++ gcc clang llvm libclang-rt-dev cmake make python3 valgrind libgtest-dev libcli11-dev liblapacke-dev libopenblas-dev
 if ! git diff --quiet HEAD -- ':!docs/verification.md'; then echo "nightly.sh: there are changes that are not committed" >&2; exit 2; fi
 commit=$(git rev-parse --short HEAD)
+processor=$(python3 scripts/verification.py --processor)
 results=$PWD/build/nightly
 mkdir -p "$results"
 failed=0
@@ -59,12 +60,12 @@ failed=0
 record() { # NAME COMMAND...
     file=$results/$1
     shift
-    if [ "$(sed -n 1p "$file" 2>/dev/null)" = "commit $commit" ] && [ "$(sed -n 4p "$file")" = "exit 0" ]; then return 0; fi
+    if [ "$(sed -n 1p "$file" 2>/dev/null)" = "commit $commit" ] && [ "$(sed -n 5p "$file")" = "exit 0" ]; then return 0; fi
     began=$(date +%s)
     "$@" >"$file.output" 2>&1
     code=$?
-    { echo "commit $commit"; date -u '+date %Y-%m-%d'; echo "seconds $(($(date +%s) - began))"; echo "exit $code"
-        echo "command $*"; cat "$file.output"; } >"$file"
+    { echo "commit $commit"; date -u '+date %Y-%m-%d'; echo "seconds $(($(date +%s) - began))"
+        echo "processor $processor"; echo "exit $code"; echo "command $*"; cat "$file.output"; } >"$file"
     rm "$file.output"
     [ $code -eq 0 ] || { echo "FAILED: $*"; tail -n 5 "$file"; failed=1; }
     return $code
@@ -148,5 +149,6 @@ for step in $steps; do
     echo "== $step"
     step_$step
 done
-python3 scripts/verification.py "$results" >docs/verification.md || failed=1
+python3 scripts/verification.py "$results" docs/verification.md >"$results/page" &&
+    cp "$results/page" docs/verification.md || failed=1
 exit $failed
