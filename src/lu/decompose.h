@@ -177,12 +177,12 @@ template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
 
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         RowsOfBatch<chains, order> rows;
-        std::uint32_t physical[chains * packWidth][order];
         src.template gather<access>(n, rows.elements);
-        if (!(access == Access::rows ? factor(n, rows, physical) : factorByCall(n, rows, physical))) return false;
+        if (!(access == Access::rows ? factor(n, rows) : factorByCall(n, rows))) return false;
         if constexpr (access == Access::rows)
             scatterRowsInOrder(
-                dst.view, n, [&](std::size_t k, std::size_t i) VONKK3_INLINED { return physical[k][i]; },
+                dst.view, n,
+                [&](std::size_t k, std::size_t i) VONKK3_INLINED { return loadPivot(pivotsOf(n + k), i); },
                 rows.elements);
         else {
             rows.takeBackExchanges();
@@ -192,26 +192,32 @@ template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
     }
 
 private:
+    std::byte *pivotsOf(std::size_t n) const { return reinterpret_cast<std::byte *>(pivots.object(n)); }
+
     // Stores the row indices if all is well.
-    template <std::size_t chains>
-    VONKK3_INLINE bool factor(std::size_t n, RowsOfBatch<chains, order> &rows,
-                              std::uint32_t (&physical)[chains * packWidth][order]) const {
+    template <std::size_t chains> VONKK3_INLINE bool factor(std::size_t n, RowsOfBatch<chains, order> &rows) const {
         rows.begin();
         if (!eliminateColumns<Packs<chains>>(rows, fixed<order>, true)) return false;
-        const auto blocks = reinterpret_cast<std::byte *>(physical);
-        scatterPacked(blocks, rows.rows);
-        const auto own = [&](std::size_t k, std::size_t i, std::size_t j)
-                             VONKK3_INLINED { return rows.element(k, i, j); };
-        if (!lastPivots.pass(n, physical, own, [](Real32 last) { return passesAsPivot(last); })) return false;
-        const auto target = reinterpret_cast<std::byte *>(pivots.object(n)); // the blocks of the batch, as they lie
-        for (std::size_t at = 0; at < sizeof physical; at += laneBytes) store4(target + at, load4(blocks + at));
+        std::uint32_t lastRow[chains * packWidth];
+        storePacks(reinterpret_cast<std::byte *>(lastRow), rows.rows[0][order - 1]);
+        if (!lastPivots.passClear(n, lastRow, passesLast) && !lastPivotsPass(n, rows)) return false;
+        scatterPacked(pivotsOf(n), rows.rows);
         return true;
     }
     // One body where rows are not contiguous.
     template <std::size_t chains>
-    VONKK3_NOINLINE bool factorByCall(std::size_t n, RowsOfBatch<chains, order> &rows,
-                                      std::uint32_t (&physical)[chains * packWidth][order]) const {
-        return factor(n, rows, physical);
+    VONKK3_NOINLINE bool factorByCall(std::size_t n, RowsOfBatch<chains, order> &rows) const {
+        return factor(n, rows);
+    }
+
+    static bool passesLast(Real32 last) { return passesAsPivot(last); }
+    template <std::size_t chains>
+    VONKK3_NOINLINE bool lastPivotsPass(std::size_t n, const RowsOfBatch<chains, order> &rows) const {
+        std::uint32_t physical[chains * packWidth][order];
+        scatterPacked(reinterpret_cast<std::byte *>(physical), rows.rows);
+        const auto own = [&](std::size_t k, std::size_t i, std::size_t j)
+                             VONKK3_INLINED { return rows.element(k, i, j); };
+        return lastPivots.pass(n, physical, own, passesLast);
     }
 };
 

@@ -20,9 +20,50 @@ public:
         this->pivots.findExtents();
         mayOverwriteEntries = factors.isTable() && !(disjoint(testedEntries(), this->factors.whole) &&
                                                      disjoint(testedEntries(), this->pivots.whole));
+        mayPassClear = factors.isTable() ? !mayOverwriteEntries : factors.isList() || areTestedAhead();
     }
 
-    // Whether they pass, in ascending order: after one that does not, none is looked at. physical[k] are the rows of
+    // The usual case: whether they pass, and nothing of what is looked at is stored by the batch. lastRow[k] is the row of
+    // the last pivot of object n + k. False also tells nothing.
+    template <std::size_t objects, class Passes>
+    VONKK3_INLINE bool passClear(std::size_t n, const std::uint32_t (&lastRow)[objects], const Passes &passes) const {
+        const ObjectsView &view = factors.view;
+        const std::ptrdiff_t column = strides(testedLastColumn(order, n), view.elementStride);
+        const std::ptrdiff_t nextColumn = strides(order, view.elementStride);
+        const auto inRow = [&](std::size_t k) VONKK3_INLINED {
+            return std::uintptr_t(strides(lastRow[k], view.rowStride) + column + strides(k, nextColumn));
+        };
+        const auto passesAt = [&](std::uintptr_t address) VONKK3_INLINED {
+            return passes(loadAt<Real32>(reinterpret_cast<const std::byte *>(address)));
+        };
+        const auto allPass = [&](const Extent &stored, const auto &addressOf) VONKK3_INLINED {
+            for (std::size_t k = 0; k < objects; ++k) {
+                const std::uintptr_t address = addressOf(k);
+                if (overlaps(address, stored) || overlaps(address, pivots.whole) || !passesAt(address)) return false;
+            }
+            return true;
+        };
+        if (!mayPassClear) return false;
+        if (view.isTable()) {
+            const auto offset = std::uintptr_t(view.shift + strides(n, view.objectStride));
+            return allPass(factors.whole, [&](std::size_t k) VONKK3_INLINED {
+                return ObjectsView::pointerAt(view.begin + inRow(k)) + offset +
+                       std::uintptr_t(strides(k, view.objectStride));
+            });
+        }
+        if (view.isList()) {
+            Extent stored = factors.ofObject(n);
+            for (std::size_t k = 1; k < objects; ++k) stored = stored.joinedWith(factors.ofObject(n + k));
+            return allPass(stored, [&](std::size_t k) VONKK3_INLINED { return view.object(n + k) + inRow(k); });
+        }
+        if (column < std::ptrdiff_t(factors.object.bytes())) return false; // the farther, the greater n
+        const std::uintptr_t first = view.object(n);
+        for (std::size_t k = 0; k < objects; ++k)
+            if (!passesAt(first + std::uintptr_t(strides(k, view.objectStride)) + inRow(k))) return false;
+        return true;
+    }
+
+    // The same in any case, in ascending order: after one that does not, none is looked at. physical[k] are the rows of
     // object n + k, own(k, i, j) is element (i, j) of its factors, by logical row. Also false if a look meets something
     // else that is about to be stored.
     template <std::size_t objects, class Own, class Passes>
@@ -53,7 +94,20 @@ private:
     };
 
     AliasOperand factors, pivots;
-    bool mayOverwriteEntries;
+    bool mayOverwriteEntries, mayPassClear;
+
+    // Of equally spaced objects, what is looked at for an object begins after it in all but the first few, and so after
+    // the objects before it; and it is nowhere a row index.
+    bool areTestedAhead() const {
+        const ObjectsView &view = factors.view;
+        if (view.objectStride <= 0 || view.rowStride < 0 || view.elementStride <= 0 || view.count > 1U << 28)
+            return false;
+        const Extent tested = Extent{view.begin, view.begin + sizeof(Real32)}
+                                  .extendedBy(strides(view.count - 1, view.objectStride))
+                                  .extendedBy(strides(order - 1, view.rowStride))
+                                  .extendedBy(strides(testedLastColumn(order, view.count - 1), view.elementStride));
+        return tested.begin < tested.end && disjoint(tested, pivots.whole);
+    }
 
     // The bytes of an element.
     static bool overlaps(std::uintptr_t address, const Extent &extent) {
