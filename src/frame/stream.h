@@ -19,17 +19,12 @@ concept ElementOperation = requires(const Operation &operation, const Sources &.
     requires isRegister<decltype(operation(sources.template lanes<WideRegister>(0)...))>;
 };
 
-// A constant of a call: as it is worked with, and for Real32 in all lanes.
+// A constant of a call.
 template <class T> struct Constant {
     T value;
     explicit Constant(T value) : value(value) {}
     operator Working<T>() const { return value; }
-};
-template <> struct Constant<Real32> {
-    WideRegister wide;
-    explicit Constant(Real32 value) : wide(broadcast<WideRegister>(value)) {}
-    operator Real32() const { return _mm_cvtss_f32(quad<0>(wide)); }
-    template <class Lanes> Lanes lanes() const { return narrowed<Lanes>(wide); }
+    template <class Lanes> Lanes lanes() const { return broadcast<Lanes>(value); }
 };
 
 // An operation with a constant as its second operand.

@@ -1,5 +1,5 @@
 // What is done to the elements of vectors, in scalars and in lanes. In Real32 every product and sum rounds; Real64 is
-// handed over wide and rounds when it is stored. Constants are spread to lanes once, when the operation is made.
+// handed over wide and rounds when it is stored.
 #pragma once
 
 #include "frame/operations.h"
