@@ -13,18 +13,31 @@ namespace vonkk3 {
 
 // ---- One object -----------------------------------------------------------------------------------------------------
 
-// Of `length` elements in registers, number k; the last has what is left over. Three elements lie there as load3 places
-// them.
-template <std::size_t length> inline constexpr std::size_t registersOf = (length + 3) / 4;
+// `length` elements lie in the widest registers of the target as far as they fill them, and the rest in quads, the last
+// of which has what is left over. Three elements lie there as load3 places them.
+template <std::size_t length> inline constexpr std::size_t wideRegistersOf =
+    widestRegister > 4 ? length / widestRegister : 0;
+template <std::size_t length> inline constexpr std::size_t elementsInQuads =
+    length - wideRegistersOf<length> * widestRegister;
+template <std::size_t length> inline constexpr std::size_t quadsOf = (elementsInQuads<length> + 3) / 4;
 
-template <std::size_t length> VONKK3_INLINE __m128 loadRegister(const std::byte *base, std::size_t k) {
-    const std::byte *const at = base + k * laneBytes;
-    if (k < length / 4) return load4(at);
+// Where wide register k, or quad k, of an object begins.
+template <std::size_t length> VONKK3_INLINE constexpr std::size_t wideOffset(std::size_t k) {
+    return k * sizeof(WideRegister);
+}
+template <std::size_t length> VONKK3_INLINE constexpr std::size_t quadOffset(std::size_t k) {
+    return wideOffset<length>(wideRegistersOf<length>) + k * laneBytes;
+}
+template <std::size_t length> inline constexpr bool fillsQuad(std::size_t k) { return k < elementsInQuads<length> / 4; }
+
+template <std::size_t length> VONKK3_INLINE __m128 loadQuad(const std::byte *base, std::size_t k) {
+    const std::byte *const at = base + quadOffset<length>(k);
+    if (fillsQuad<length>(k)) return load4(at);
     return length % 4 == 1 ? load1(at) : length % 4 == 2 ? load2(at) : load3(at);
 }
-template <std::size_t length> VONKK3_INLINE void storeRegister(std::byte *base, std::size_t k, __m128 lanes) {
-    std::byte *const at = base + k * laneBytes;
-    if (k < length / 4) store4(at, lanes);
+template <std::size_t length> VONKK3_INLINE void storeQuad(std::byte *base, std::size_t k, __m128 lanes) {
+    std::byte *const at = base + quadOffset<length>(k);
+    if (fillsQuad<length>(k)) store4(at, lanes);
     else if (length % 4 == 1) store1(at, lanes);
     else if (length % 4 == 2) store2(at, lanes);
     else store3(at, lanes);
@@ -33,46 +46,76 @@ template <std::size_t length> VONKK3_INLINE void storeRegister(std::byte *base, 
 // In memory.
 template <std::size_t length> struct StoredElements {
     const std::byte *base;
-    VONKK3_INLINE __m128 at(std::size_t k) const { return loadRegister<length>(base, k); }
+    VONKK3_INLINE WideRegister wide(std::size_t k) const {
+        return loadLanes<WideRegister>(base + wideOffset<length>(k));
+    }
+    VONKK3_INLINE __m128 at(std::size_t k) const { return loadQuad<length>(base, k); }
 };
+
+// Of a source that has them; rows of up to six elements have none.
+template <class Source, class Index> VONKK3_INLINE WideRegister wideOf(const Source &source, Index k) {
+    return source.wide(k);
+}
 
 // Taken out of memory.
 template <std::size_t length> struct HeldElements {
-    __m128 registers[registersOf<length>];
+    WideRegister wides[wideRegistersOf<length> + 1];
+    __m128 quads[quadsOf<length> + 1];
 
-    template <class Source> VONKK3_INLINE explicit HeldElements(const Source &source) {
-        forEachBelow<registersOf<length>>([&](std::size_t k) VONKK3_INLINED { registers[k] = source.at(k); });
+    // From registers.
+    template <class Wide, class Quad> VONKK3_INLINE HeldElements(const Wide &wide, const Quad &quad) {
+        forEachBelow<wideRegistersOf<length>>([&](auto k) VONKK3_INLINED { wides[k] = wide(k); });
+        forEachBelow<quadsOf<length>>([&](auto k) VONKK3_INLINED { quads[k] = quad(k); });
     }
+    template <class Source>
+    VONKK3_INLINE explicit HeldElements(const Source &source)
+        : HeldElements([&](auto k) VONKK3_INLINED { return wideOf(source, k); },
+                       [&](auto k) VONKK3_INLINED { return source.at(k); }) {}
     // From wherever element(j) is.
     template <class Element>
-    requires std::is_invocable_v<Element, std::size_t> VONKK3_INLINE explicit HeldElements(const Element &element) {
-        forEachBelow<length / 4>([&](std::size_t k) VONKK3_INLINED {
-            registers[k] = _mm_setr_ps(element(4 * k), element(4 * k + 1), element(4 * k + 2), element(4 * k + 3));
-        });
-        constexpr std::size_t over = length % 4, last = length - over;
-        if constexpr (over == 1) registers[last / 4] = _mm_set_ss(element(last));
-        if constexpr (over == 2) registers[last / 4] = _mm_setr_ps(element(last), element(last + 1), 0, 0);
-        if constexpr (over == 3)
-            registers[last / 4] = _mm_setr_ps(element(last), 0, element(last + 1), element(last + 2));
+    requires std::is_invocable_v<Element, std::size_t> VONKK3_INLINE explicit HeldElements(const Element &element)
+        : HeldElements(
+              [&](std::size_t k) VONKK3_INLINED {
+                  return ofQuads<WideRegister>(
+                      [&](std::size_t q) VONKK3_INLINED { return fourFrom(element, k * widestRegister + 4 * q); });
+              },
+              [&](std::size_t k) VONKK3_INLINED {
+                  const std::size_t first = quadOffset<length>(k) / sizeof(Real32);
+                  if (fillsQuad<length>(k)) return fourFrom(element, first);
+                  if (length % 4 == 1) return _mm_set_ss(element(first));
+                  if (length % 4 == 2) return _mm_setr_ps(element(first), element(first + 1), 0, 0);
+                  return _mm_setr_ps(element(first), 0, element(first + 1), element(first + 2));
+              }) {}
+
+    VONKK3_INLINE WideRegister wide(std::size_t k) const { return wides[k]; }
+    VONKK3_INLINE __m128 at(std::size_t k) const { return quads[k]; }
+    VONKK3_INLINE void store(std::byte *d) const {
+        forEachBelow<wideRegistersOf<length>>(
+            [&](auto k) VONKK3_INLINED { storeLanes(d + wideOffset<length>(k), wides[k]); });
+        forEachBelow<quadsOf<length>>([&](auto k) VONKK3_INLINED { storeQuad<length>(d, k, quads[k]); });
     }
 
-    VONKK3_INLINE __m128 at(std::size_t k) const { return registers[k]; }
-    VONKK3_INLINE void store(std::byte *d) const {
-        forEachBelow<registersOf<length>>([&](std::size_t k) VONKK3_INLINED { storeRegister<length>(d, k, at(k)); });
+private:
+    template <class Element> VONKK3_INLINE static __m128 fourFrom(const Element &element, std::size_t first) {
+        return _mm_setr_ps(element(first), element(first + 1), element(first + 2), element(first + 3));
     }
 };
 
 // d = operation(sources...): all of them are read before any is stored, or register by register.
 template <std::size_t length, class Operation, class... Sources>
 VONKK3_INLINE void workElementsAtOnce(std::byte *d, const Operation &operation, const Sources &...sources) {
-    __m128 results[registersOf<length>];
-    forEachBelow<registersOf<length>>([&](std::size_t k) VONKK3_INLINED { results[k] = operation(sources.at(k)...); });
-    forEachBelow<registersOf<length>>([&](std::size_t k) VONKK3_INLINED { storeRegister<length>(d, k, results[k]); });
+    const HeldElements<length> results(
+        [&](auto k) VONKK3_INLINED { return operation(wideOf(sources, k)...); },
+        [&](auto k) VONKK3_INLINED { return operation(sources.at(k)...); });
+    results.store(d);
 }
 template <std::size_t length, class Operation, class... Sources>
 VONKK3_INLINE void workElementsInTurn(std::byte *d, const Operation &operation, const Sources &...sources) {
-    forEachBelow<registersOf<length>>([&](std::size_t k)
-                                          VONKK3_INLINED { storeRegister<length>(d, k, operation(sources.at(k)...)); });
+    forEachBelow<wideRegistersOf<length>>([&](auto k) VONKK3_INLINED {
+        storeLanes(d + wideOffset<length>(k), operation(wideOf(sources, k)...));
+    });
+    forEachBelow<quadsOf<length>>([&](std::size_t k)
+                                      VONKK3_INLINED { storeQuad<length>(d, k, operation(sources.at(k)...)); });
 }
 
 // ---- Object by object -----------------------------------------------------------------------------------------------
@@ -207,11 +250,11 @@ VONKK3_SHARED void workRange(const Operation &shared, std::byte *d, std::size_t 
 // An operation whose sources are given the other way round.
 template <class Operation> struct Exchanged {
     Operation operation;
-    VONKK3_INLINE __m128 operator()(__m128 a, __m128 b) const { return operation(b, a); }
+    template <class Lanes> VONKK3_INLINE Lanes operator()(Lanes a, Lanes b) const { return operation(b, a); }
 };
 
 // A single object beside packed ones: repeated until its elements are back at the lanes where they began, and on, while
-// eight registers hold it.
+// registers hold it.
 template <std::size_t length, class Operation, class Element>
 VONKK3_INLINE void workBesideSingle(const Operation &operation, std::byte *d, std::size_t count, const std::byte *a,
                                     const Element &element) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/elementwise.h"
+#include "frame/packed_transpose.h"
 #include "frame/walk.h"
 #include "matrix/rows.h"
 
@@ -36,17 +37,6 @@ template <std::size_t order> VONKK3_NOINLINE void transposeInMemory(RowsView<con
 
 // ---- One object in registers: all of it is read before any of it is written -----------------------------------------
 
-// e0 ... e8 as e0 e3 e6 e1, e4 e7 e2 e5, e8
-VONKK3_INLINE void transposeRunOfThree(const std::byte *from, std::byte *to) {
-    const __m128 low = load4(from), high = load4(from + 16);
-    const Real32 last = loadAt<Real32>(from + 32);
-    const __m128 e61 = _mm_shuffle_ps(high, low, _MM_SHUFFLE(1, 1, 2, 2));
-    const __m128 e25 = _mm_shuffle_ps(low, high, _MM_SHUFFLE(1, 1, 2, 2));
-    store4(to, _mm_shuffle_ps(low, e61, _MM_SHUFFLE(2, 0, 3, 0)));
-    store4(to + 16, _mm_shuffle_ps(high, e25, _MM_SHUFFLE(2, 0, 3, 0)));
-    storeAt<Real32>(to + 32, last);
-}
-
 // Elements (i, j), (i, j + 1), (i + 1, j), (i + 1, j + 1)
 VONKK3_INLINE __m128 loadSquare(const RowsView<const Real32> &from, std::size_t i, std::size_t j) {
     return _mm_loadh_pi(load2(from.at(i, j)), pair(from.at(i + 1, j)));
@@ -80,7 +70,7 @@ VONKK3_INLINE void transposeSix(const RowsView<const Real32> &from, const RowsVi
 
 template <bool areAdjacent, std::size_t order>
 VONKK3_INLINE void transposeObject(const RowsView<const Real32> &from, const RowsView<Real32> &to, Fixed<order>) {
-    if constexpr (order == 3 && areAdjacent) transposeRunOfThree(from.base, to.base);
+    if constexpr (order <= 4 && areAdjacent) transposePacked(from.base, to.base, fixed<order>);
     else if constexpr (order == 6) transposeSix<areAdjacent>(from, to);
     else workRows<order>(to, Moved(), HeldRows<order>(TransposedRows<order>(from)));
 }
