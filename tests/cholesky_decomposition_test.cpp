@@ -43,7 +43,6 @@ std::vector<const Function *> allOf(Type type) {
 }
 
 bool isInTable(const Function &function) { return catalogue::isTable(function.operands[0].layout); }
-bool isInList(const Function &function) { return catalogue::isList(function.operands[0].layout); }
 
 bool hasElementStrides(const Function &function) { return function.layout == "S2" || function.layout == "LS2"; }
 
@@ -99,8 +98,6 @@ void expectFactor(Call &call, std::uint32_t n, std::uint32_t variant, std::uint3
 void expectDone(Call &call, std::uint32_t n) { expectFactor(call, n, n, call.size()); }
 
 const literal::Example example{fill, expectDone};
-
-TEST(CholeskyDecomposition, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
 
 TEST(CholeskyDecomposition, LeavesTheLowerFactorWithReciprocalsOnItsDiagonalInEveryForm) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders, geometries);
@@ -457,26 +454,6 @@ TEST(CholeskyDecompositionStrides, AreTakenInBytesInAllOthers) {
 
 // ---- What is tested, and when
 
-TEST(CholeskyDecompositionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(CholeskyDecompositionChecks, RefuseOrderZero) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(CholeskyDecompositionChecks, RefuseNoObjects) {
-    for (const Function *function : allArrays()) {
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        fill(call);
-        literal::blankEntries(call);
-        call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
 TEST(CholeskyDecompositionChecks, TakeANegativeCountForNoneWithoutAWordButInTables) {
     for (const Function *function : allArrays())
         for (const std::uint32_t count : {0x80000000U, 0xffffffffU}) {
@@ -489,27 +466,6 @@ TEST(CholeskyDecompositionChecks, TakeANegativeCountForNoneWithoutAWordButInTabl
             if (isInTable(*function)) expectDone(call, 0);
             else EXPECT_TRUE(call.changedNothing());
         }
-}
-
-// What is compared with null is the sum of entry and shift, when the object's turn comes.
-TEST(CholeskyDecompositionChecks, StopAtAnObjectThatLeadsToNull) {
-    for (const Function *function : allArrays()) {
-        if (!isInList(*function)) continue;
-        for (const char *operand : {"src", "dst"})
-            for (std::uint32_t null = 0; null < 3; ++null)
-                for (const std::uint32_t order : literal::sizesOf(*function, {2, 3})) {
-                    SCOPED_TRACE(function->name + ", " + operand);
-                    Call call(function->name, order, 3);
-                    fill(call);
-                    literal::Place &place = call[operand];
-                    std::byte *const kept = place.entries[null];
-                    place.entries[null] = reinterpret_cast<std::byte *>(-std::intptr_t{place.shift});
-                    EXPECT_EQ(call.run(), vonkErrNullPtr);
-                    place.entries[null] = kept;
-                    for (std::uint32_t n = 0; n < null; ++n) expectDone(call, n);
-                    for (std::uint32_t n = null; n < 3; ++n) EXPECT_FALSE(call.changedObject(n));
-                }
-    }
 }
 
 // The object that an array has at address 0, here the last.
@@ -525,21 +481,6 @@ TEST(CholeskyDecompositionChecks, StopAtTheObjectAtAddressZero) {
                   vonkErrNullPtr);
         for (std::size_t n = 0; n < count; ++n)
             for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(factors[9 * n + 4 * i], n + 1 < count ? 0.5F : -1);
-    }
-}
-
-TEST(CholeskyDecompositionChecks, FollowANullEntryThatTheShiftLeadsSomewhere) {
-    for (const Function *function : allArrays()) {
-        for (const char *operand : {"src", "dst"})
-            for (const std::size_t entry : {0, 1}) {
-                if (isInTable(*function) && entry == 1) continue; // lies above the diagonal
-                if (!isInTable(*function) && !isInList(*function)) continue;
-                SCOPED_TRACE(function->name + ", " + operand);
-                Call call(function->name, 3, 2);
-                fill(call);
-                EXPECT_EQ(literal::runThroughNull(call, operand, entry), vonkOk);
-                for (std::uint32_t n = 0; n < 2; ++n) expectDone(call, n);
-            }
     }
 }
 

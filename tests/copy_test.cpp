@@ -48,8 +48,6 @@ void expectDone(Call &call, std::uint32_t n) { EXPECT_EQ(call.get("dst", n), num
 
 const literal::Example example{fill, expectDone};
 
-TEST(Copy, HasThirtySixForms) { EXPECT_EQ(all().size(), 36U); }
-
 TEST(Copy, MovesEveryElementInEveryFormAndGeometry) {
     for (const Function *function : usual()) literal::expectResults(*function, example, sizes);
 }
@@ -85,43 +83,6 @@ TEST(Copy, CountsPositionsByTheColumnsOfTheCall) {
     }
 }
 
-// ---- Arguments
-
-TEST(Copy, CatchesNullPointersFirst) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(Copy, RefusesVectorsWithoutElementsAndIgnoresMatricesWithoutThem) {
-    for (const Function *function : all()) {
-        if (function->group == "va") {
-            literal::expectZeroSizeIsRefused(*function, example);
-            continue;
-        }
-        for (const char *size : {"cols", "rows"}) {
-            SCOPED_TRACE(function->name + ", no " + size);
-            Call call(function->name, 3, 2);
-            fill(call);
-            literal::blankEntries(call);
-            call.pass(size, 0);
-            EXPECT_EQ(call.run(), vonkOk);
-            EXPECT_TRUE(call.changedNothing());
-        }
-    }
-}
-
-// Nor does it look at the entries of a table ahead of the work.
-TEST(Copy, DoesNothingForNoObjectsWhateverTheEntriesAre) {
-    for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        fill(call);
-        literal::blankEntries(call);
-        call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkOk);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
 // ---- The form that reads through the wrong table
 
 TEST(CopyOfVectorsBetweenTables, ReadsThroughTheTableOfTheDestination) {
@@ -143,14 +104,6 @@ TEST(CopyOfVectorsBetweenTables, ReadsThroughTheTableOfTheDestination) {
             EXPECT_EQ(call.run(), vonkOk);
             for (std::uint32_t n = 0; n < 2; ++n) EXPECT_EQ(call.get("dst", n), (std::vector<double>{50, 51, 52}));
         }
-    }
-}
-
-TEST(CopyOfVectorsBetweenTables, AsksForTheTableThatItDoesNotRead) {
-    for (const char *name : {"vonkCopy_va_32f_PP", "vonkCopy_va_64f_PP"}) {
-        Call call(name, 3);
-        call.pass("src", 0);
-        EXPECT_EQ(call.run(), vonkErrNullPtr);
     }
 }
 

@@ -69,8 +69,6 @@ const literal::Example example{fill, expectDone};
 
 // ---- Results
 
-TEST(CrossProduct, HasFortyTwoForms) { EXPECT_EQ(all().size(), 42U); }
-
 TEST(CrossProduct, IsRightInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, {3});
 }
@@ -240,24 +238,6 @@ TEST(CrossProductOverlap, ShowsEachComponentToTheNextWhereTheSubtrahendIsNegated
         }
     }
     EXPECT_EQ(forms, 2U * 4U + 2U * 6U);
-}
-
-// ---- What is tested, and when
-
-TEST(CrossProductChecks, CatchEveryNullPointerAheadOfTheCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(CrossProductChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(CrossProductChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(CrossProductChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
 }
 
 } // namespace

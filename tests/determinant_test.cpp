@@ -124,22 +124,8 @@ void expectDone(Call &call, std::uint32_t n) {
 const literal::Example example{fill, expectDone};
 const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
 
-TEST(Determinant, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 TEST(Determinant, IsWorkedOutInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
-}
-
-TEST(Determinant, TestsPointersSizesEntriesAndCountInThisOrder) {
-    for (const Function *function : all()) {
-        literal::expectNullPointersAreCaught(*function, example);
-        literal::expectZeroSizeIsRefused(*function, example);
-        literal::expectCountZeroDoesNothing(*function, example);
-        const bool copies = function->order == 0 && function->layout == "P" && !function->array();
-        if (copies) literal::expectNullPositionsAreCaughtInTheCopy(*function, example);
-        else literal::expectNullPositionsAreCaughtUpFront(*function, example);
-        literal::expectNullObjectsStopTheWalk(*function, example);
-    }
 }
 
 // Its results are packed, and may lie in the source: that is read before an object's cell is written.

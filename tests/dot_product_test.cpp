@@ -53,8 +53,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(DotProduct, HasAHundredAndFiftyForms) { EXPECT_EQ(all().size(), 150U); }
-
 TEST(DotProduct, AddsTheProductsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, lengths);
 }
@@ -369,59 +367,5 @@ TEST(DotProductOverlap, DoesNoHarmInTheFirstElementOfTheOnlyObject) {
 }
 
 // ---- What is tested, and when
-
-TEST(DotProductChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(DotProductChecks, RefuseLengthZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(DotProductChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(DotProductChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-bool trustsEntries(const Function &function) {
-    return function.name == "vonkDotProduct_vav_32f_3x1_L" || function.name == "vonkDotProduct_vav_32f_4x1_L";
-}
-
-TEST(DotProductChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all())
-        if (!trustsEntries(*function)) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-// A null entry plus its shift is an address like any other: here one that was mapped low enough for a shift to reach.
-TEST(DotProductChecks, FollowNullEntriesInTwoListsOfFloats) {
-    void *const page =
-        mmap(nullptr, 4096, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_32BIT, -1, 0); // below 2^31
-    ASSERT_NE(page, MAP_FAILED);
-    std::size_t forms = 0;
-    for (const Function *function : all()) {
-        if (!trustsEntries(*function)) continue;
-        ++forms;
-        for (std::uint32_t count = 1; count <= 5; ++count)
-            for (std::uint32_t entry = 0; entry < count; ++entry) {
-                SCOPED_TRACE(function->name + ", entry " + std::to_string(entry) + " of " + std::to_string(count));
-                Call call(function->name, 0, count);
-                literal::Place &place = call["src1"];
-                const auto shift = static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(page));
-                for (std::byte *&address : place.entries) address += place.shift - std::ptrdiff_t{shift};
-                place.shift = shift;
-                fill(call);
-                place.entries[entry] = nullptr;
-                for (std::uint32_t j = 0; j < call.size(); ++j)
-                    call.setAt(static_cast<std::byte *>(page) + std::size_t{4} * j, left(entry, j));
-                ASSERT_EQ(call.run(), vonkOk);
-                literal::expectAllDone(call, example);
-            }
-    }
-    EXPECT_EQ(forms, 2U);
-    munmap(page, 4096);
-}
 
 } // namespace

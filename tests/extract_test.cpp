@@ -1,5 +1,6 @@
 // Extract: dense blocks out of every layout, the ways in which its forms transpose or do not, and the five forms that
 // take their arguments as they are.
+#include "support/exceptional.h"
 #include "support/literal.h"
 #include "support/literal_checks.h"
 
@@ -147,29 +148,6 @@ TEST(ExtractOfVectors, ReadsAnArrayAsTheRowsOfAMatrix) {
 
 // ---- Arguments
 
-TEST(Extract, CatchesNullPointersFirstButForFiveForms) {
-    std::size_t trusting = 0;
-    for (const Function *function : all()) {
-        if (literal::trustsPointers(*function)) ++trusting;
-        else literal::expectNullPointersAreCaught(*function, example);
-    }
-    EXPECT_EQ(trusting, 5U);
-}
-
-TEST(Extract, RefusesSizesOfZeroButForFiveForms) {
-    for (const Function *function : all())
-        for (const catalogue::Parameter &parameter : function->parameters) {
-            if (parameter.kind != catalogue::Kind::size && parameter.kind != catalogue::Kind::count) continue;
-            SCOPED_TRACE(function->name + ", no " + parameter.name);
-            Call call(function->name, 3, 2);
-            fill(call);
-            literal::blankEntries(call);
-            call.pass(parameter.name, 0);
-            EXPECT_EQ(call.run(), literal::trustsPointers(*function) ? vonkOk : vonkErrSize);
-            EXPECT_TRUE(call.changedNothing());
-        }
-}
-
 // Without elements they look at no pointer. Matrices in a table multiply their sizes, in 32 bits.
 TEST(ExtractInTheTrustingForms, HasNothingToDoForSizesOfZeroWhateverThePointersAre) {
     struct Sizes {
@@ -177,7 +155,7 @@ TEST(ExtractInTheTrustingForms, HasNothingToDoForSizesOfZeroWhateverThePointersA
         bool isProduct;
     };
     for (const Function *function : all()) {
-        if (!literal::trustsPointers(*function)) continue;
+        if (!literal::isException(*function, "extract-unchecked")) continue;
         for (const Sizes &sizes : {Sizes{0, 5, false}, Sizes{5, 0, false}, Sizes{0x10000, 0x10000, true}}) {
             if (sizes.isProduct && function->group != "m") continue;
             SCOPED_TRACE(function->name);

@@ -68,8 +68,6 @@ void expectDone(Call &call, std::uint32_t n) { EXPECT_EQ(call.get("dst", n), res
 
 const literal::Example example{fill, expectDone};
 
-TEST(Gaxpy, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 TEST(Gaxpy, MultipliesAndAddsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
 }
@@ -140,49 +138,6 @@ TEST(GaxpyShapes, MakeAsManyResultsAsRowsOfAsManyTermsAsColumns) {
 }
 
 // ---- What is tested, and when
-
-TEST(GaxpyChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(GaxpyChecks, RefuseASizeOfZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) {
-        literal::expectZeroSizeIsRefused(*function, example);
-        if (function->order != 0) continue;
-        SCOPED_TRACE(function->name + ", rows");
-        Call call(function->name, 3, 2);
-        fill(call);
-        call.pass("rows", 0);
-        literal::blankEntries(call);
-        if (function->array()) call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
-TEST(GaxpyChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(GaxpyChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (function->array()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(GaxpyChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-TEST(GaxpyChecks, TakeANullEntryForNullThoughItsShiftLeadsToMemory) {
-    for (const Function *function : all())
-        for (const catalogue::Operand &operand : function->operands) {
-            Call call(function->name, 4, 3);
-            fill(call);
-            for (std::size_t entry = 0; entry < call[operand.name].entries.size(); ++entry)
-                EXPECT_EQ(literal::runThroughNull(call, operand.name, entry), vonkErrNullPtr)
-                    << function->name << ", " << operand.name << "[" << entry << "]";
-        }
-}
 
 // The extents are those of the loops, which no null beyond them disturbs.
 TEST(GaxpyTables, AreScannedAsFarAsTheLoopsComeAheadOfTheCount) {

@@ -4,6 +4,7 @@
 // the fourth element behind rows of three in some sums of matrices, and the displaced triangle of
 // vonkQRBackSubst_mava_64f in `L`.
 #include "support/control.h"
+#include "support/exceptional.h"
 #include "support/families.h"
 #include "support/literal.h"
 #include "support/literal_checks.h"
@@ -723,19 +724,19 @@ TEST(Guards, FindNothingTouchedForNoObjects) {
 
 // Sizes of zero that leave nothing to do, and that of the columns of an identity, which leaves the ones.
 bool isEmptyAtZero(const Function &function) {
-    return literal::trustsPointers(function) || function.family->operation == "LoadIdentity" ||
-           (function.family->operation == "Copy" && function.group == "ma");
+    return literal::isException(function, "extract-unchecked") || function.family->operation == "LoadIdentity" ||
+           literal::isException(function, "copy-empty-matrix");
 }
 
 bool actsAtZero(const Function &function, const catalogue::Parameter &parameter) {
-    if (literal::isPointer(parameter.kind)) return literal::trustsPointers(function);
+    if (literal::isPointer(parameter.kind)) return literal::isException(function, "extract-unchecked");
     return function.family->operation == "LoadIdentity" && parameter.name == "cols";
 }
 
 // Products of an array of matrices and one matrix let the columns of that one be 0, and then look at their tables and
 // lists but at no element.
 bool passesAsZero(const Function &function, const catalogue::Parameter &parameter) {
-    return function.family->operation == "Mul" && function.group == "mam" && parameter.name == "src2Cols";
+    return literal::isException(function, "product-no-columns") && parameter.name == "src2Cols";
 }
 
 TEST(Guards, FindNothingTouchedWhereAPointerIsNullOrTheSizeIsZero) {

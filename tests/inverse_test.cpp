@@ -98,8 +98,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(Inverse, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 TEST(Inverse, IsWorkedOutInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, {2, 3, 4, 5, 6, 7});
 }
@@ -187,53 +185,6 @@ TEST(InverseOfRunTimeSize, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTh
 }
 
 // ---- Arguments
-
-// Lists are not looked at by the fast forms; those with doubles or strided elements look at all of them first.
-bool trustsLists(const Function &function) { return isFast(function) && function.layout == "L"; }
-bool testsListsUpFront(const Function &function) {
-    return function.order != 0 && catalogue::isList(function.operands.front().layout) && !trustsLists(function);
-}
-
-TEST(InverseArguments, AreTestedInTheUsualOrder) {
-    for (const Function *function : all()) {
-        literal::expectNullPointersAreCaught(*function, example);
-        literal::expectZeroSizeIsRefused(*function, example);
-        literal::expectCountZeroDoesNothing(*function, example);
-        const bool copies = function->order == 0 && function->layout == "P" && !function->array();
-        if (copies) literal::expectNullPositionsAreCaughtInTheCopy(*function, example);
-        else literal::expectNullPositionsAreCaughtUpFront(*function, example);
-        if (function->order == 0) literal::expectNullObjectsStopTheWalk(*function, example);
-    }
-}
-
-TEST(InverseArguments, InListsOfFixedSizeAreTestedAheadOfAllObjects) {
-    for (const Function *function : where(testsListsUpFront))
-        for (const char *operand : {"src", "dst"})
-            for (std::uint32_t entry = 0; entry < 3; ++entry) {
-                SCOPED_TRACE(function->name + ", " + operand + "[" + std::to_string(entry) + "] null");
-                Call call(function->name, 0, 3);
-                fill(call);
-                call.set("src", 0, Matrix(std::size_t{call.size()} * call.size(), 0)); // singular, which comes later
-                call[operand].entries[entry] = nullptr;
-                EXPECT_EQ(call.run(), vonkErrNullPtr);
-                EXPECT_TRUE(call.changedNothing());
-            }
-}
-
-// An object behind the one that ends the call is not looked at: its null entries do not matter.
-TEST(InverseArguments, InListsOfFloatsOfFixedSizeAreTrusted) {
-    const std::vector<const Function *> trusting = where(trustsLists);
-    EXPECT_EQ(trusting.size(), 4U);
-    for (const Function *function : trusting) {
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 0, 2);
-        fill(call);
-        call.set("src", 0, Matrix(std::size_t{call.size()} * call.size(), 0));
-        call["src"].entries[1] = call["dst"].entries[1] = nullptr;
-        EXPECT_EQ(call.run(), vonkErrSingular);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
 
 // ---- Singular matrices
 

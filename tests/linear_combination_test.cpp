@@ -38,8 +38,6 @@ const literal::ElementFamily family{[](Call &call) {
 
 // ---- Results
 
-TEST(LinearCombination, HasAHundredAndFiftyForms) { EXPECT_EQ(all().size(), 150U); }
-
 TEST(LinearCombination, ScalesAndAddsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, family.example(), lengths);
 }
@@ -161,16 +159,6 @@ TEST(LinearCombinationSingle, IsHeldByFloatsOfFixedSizeInTwoLayoutsAndReadAnewBy
             }
     }
     EXPECT_EQ(holding, 4U * 2U);
-}
-
-// ---- What is tested, and when
-
-TEST(LinearCombinationChecks, ComeInTheUsualOrder) {
-    for (const Function *function : all()) literal::expectUsualTests(*function, family.example());
-}
-
-TEST(LinearCombinationChecks, LookAtThePositionsOfOnePairJustBeforeEachElement) {
-    for (const Function *function : all()) literal::expectPositionsAreTestedAlongTheWay(*function, family);
 }
 
 } // namespace

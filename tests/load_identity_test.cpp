@@ -26,8 +26,6 @@ std::vector<double> identity(std::uint32_t order) {
     return elements;
 }
 
-TEST(LoadIdentity, HasSixForms) { EXPECT_EQ(all().size(), 6U); }
-
 TEST(LoadIdentity, LoadsOneIdentityInEveryFormAndGeometry) {
     for (const Function *function : all())
         for (const Geometry geometry : {literal::packed, literal::spread})
@@ -150,21 +148,6 @@ TEST(LoadIdentityStrides, StandIfNegative) {
 }
 
 // ---- Sizes
-
-TEST(LoadIdentity, CatchesANullPointerFirst) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(LoadIdentity, RefusesNoObjects) {
-    for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        literal::blankEntries(call);
-        call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
 
 TEST(LoadIdentity, LeavesObjectsWithoutRowsUntouched) {
     for (const Function *function : all())

@@ -112,8 +112,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(LuBackSubstitution, HasAHundredAndFiftyForms) { EXPECT_EQ(all().size(), 150U); }
-
 TEST(LuBackSubstitution, SolvesInEveryFormAndGeometryTakingRightHandSidesThroughThePivots) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
 }
@@ -537,28 +535,6 @@ TEST(LuBackSubstitutionInPlace, ReadsWhatItHasWrittenWhereRowsAreExchanged) {
             for (std::uint32_t n = 0; n < call.count(); ++n) EXPECT_EQ(call.get("dst", n), expected);
         }
     }
-}
-
-// ---- What is tested, and when
-
-TEST(LuBackSubstitutionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(LuBackSubstitutionChecks, RefuseOrderZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(LuBackSubstitutionChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(LuBackSubstitutionChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(LuBackSubstitutionChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
 }
 
 } // namespace

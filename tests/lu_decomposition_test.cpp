@@ -76,8 +76,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(LuDecomposition, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 // Objects have their pivots packed behind one another, whatever lies between their matrices.
 TEST(LuDecomposition, LeavesFactorsAndPivotsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders, geometries);
@@ -672,28 +670,6 @@ TEST(LuDecompositionArithmetic, UpdatesWithAQuotientBeyondTheRangeOfDoublesIn3To
             EXPECT_EQ(call.get("dst", 0, 2, order - 1), keepsQuotient(*function) ? -0x1p980 : -infinity);
         }
     }
-}
-
-// ---- What is tested, and when
-
-TEST(LuDecompositionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(LuDecompositionChecks, RefuseOrderZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(LuDecompositionChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(LuDecompositionChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(LuDecompositionChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
 }
 
 } // namespace

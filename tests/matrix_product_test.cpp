@@ -109,8 +109,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(MatrixProduct, HasEightHundredAndFortyForms) { EXPECT_EQ(all().size(), 840U); }
-
 TEST(MatrixProduct, MultipliesSquareMatricesInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
 }
@@ -327,21 +325,6 @@ TEST(MatrixProductShapes, AreAcceptedRefusedAndLoopedOverAsEachGroupWillHaveThem
     }
 }
 
-TEST(MatrixProductShapes, WithAnyZeroAreRefusedButForTheColumnsOfTheSharedSecondMatrix) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
-        for (const Word zero : {cols1, rows1, cols2, rows2}) {
-            SCOPED_TRACE(function->name + ", " + wordNames[zero] + " 0");
-            Call call(function->name, 3, 2);
-            fill(call);
-            call.pass(wordNames[zero], 0);
-            const bool passes = function->group == "mam" && zero == cols2;
-            EXPECT_EQ(call.run(), passes ? vonkOk : vonkErrSize);
-            EXPECT_TRUE(call.changedNothing());
-        }
-    }
-}
-
 // 1 2 3 / 4 5 6 and whatever follows them. As a product of 2 by 3 and 3 by 4 it is refused; rows of five terms out of
 // 2 by 3 run on into what lies behind the third column: 1 2 3 4 5 / 4 5 6 7 8 by 1 0 / 0 1 / 1 1 / 2 0 / 0 2.
 template <typename Real, typename Export> void expectTrueProductRefusedAndFiveTermsTaken(Export product) {
@@ -406,14 +389,6 @@ TEST(MatrixProductShapes, IgnoreTheColumnsOfTheFirstMatrixInTheGroupsThatDoNotCo
 
 // ---- What is tested, and when
 
-TEST(MatrixProductChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(MatrixProductChecks, RefuseASizeOfZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
 TEST(MatrixProductChecks, RefuseWordsThatDoNotFitAheadOfEntriesAndCount) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
@@ -426,44 +401,6 @@ TEST(MatrixProductChecks, RefuseWordsThatDoNotFitAheadOfEntriesAndCount) {
         EXPECT_EQ(call.run(), vonkErrSize);
         EXPECT_TRUE(call.changedNothing());
     }
-}
-
-TEST(MatrixProductChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(MatrixProductChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (function->array() && !trustsEntries(*function))
-            literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(MatrixProductChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all())
-        if (!trustsEntries(*function)) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-// An entry counts as it stands, without the shift.
-TEST(MatrixProductChecks, TakeANullEntryForNullThoughItsShiftLeadsToMemory) {
-    std::size_t trusting = 0;
-    for (const Function *function : all()) {
-        if (function->layout.empty() || function->layout == "S2") continue;
-        if (trustsEntries(*function)) ++trusting;
-        for (const catalogue::Operand &operand : function->operands) {
-            if (!isTabled(*function) && !operand.array) continue;
-            Call call(function->name, 3, 3);
-            for (std::size_t entry = 0; entry < call[operand.name].entries.size(); ++entry) {
-                SCOPED_TRACE(function->name + ", " + operand.name + "[" + std::to_string(entry) + "]");
-                fill(call);
-                const std::int32_t status = literal::runThroughNull(call, operand.name, entry);
-                EXPECT_EQ(status, trustsEntries(*function) ? vonkOk : vonkErrNullPtr);
-                if (status != vonkOk) continue;
-                for (std::uint32_t n = 0; n < call.count(); ++n) expectDone(call, n);
-                for (std::uint32_t n = 0; n < call.count(); ++n) call.set("dst", n, Square(9, 77));
-            }
-        }
-    }
-    EXPECT_EQ(trusting, 10U);
 }
 
 // ---- Tables of positions whose extents are not what the loops use

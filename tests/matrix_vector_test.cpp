@@ -84,8 +84,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(MatrixVector, HasFourHundredAndTwentyForms) { EXPECT_EQ(all().size(), 420U); }
-
 TEST(MatrixVector, MultipliesSquareMatricesInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
 }
@@ -207,14 +205,6 @@ TEST(MatrixVectorShapes, OfATransposedMatrixMakeAsManyResultsAsItHasRows) {
 
 // ---- What is tested, and when
 
-TEST(MatrixVectorChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(MatrixVectorChecks, RefuseASizeOfZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
 TEST(MatrixVectorChecks, RefuseALengthThatDoesNotFitAheadOfEntriesAndCount) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
@@ -229,41 +219,6 @@ TEST(MatrixVectorChecks, RefuseALengthThatDoesNotFitAheadOfEntriesAndCount) {
             EXPECT_TRUE(call.changedNothing());
         }
     }
-}
-
-TEST(MatrixVectorChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(MatrixVectorChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (function->array()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(MatrixVectorChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-// No other entry of any form is followed unseen.
-TEST(MatrixVectorChecks, TakeANullEntryForNullThoughItsShiftLeadsToMemoryButForTheNinthOfOrderFour) {
-    std::size_t unseen = 0;
-    for (const Function *function : all())
-        for (const catalogue::Operand &operand : function->operands)
-            for (const std::uint32_t order : literal::sizesOf(*function, {3, 4})) {
-                Call call(function->name, order, 3);
-                for (std::size_t entry = 0; entry < call[operand.name].entries.size(); ++entry) {
-                    SCOPED_TRACE(function->name + ", " + operand.name + "[" + std::to_string(entry) + "]");
-                    const bool isUnseen = function->group == "mTv" && function->layout == "P" && function->order == 4 &&
-                                          operand.name == "src1" && entry == 8;
-                    fill(call);
-                    const std::int32_t status = literal::runThroughNull(call, operand.name, entry);
-                    EXPECT_EQ(status, isUnseen ? vonkOk : vonkErrNullPtr);
-                    if (!isUnseen) continue;
-                    ++unseen;
-                    expectDone(call, 0);
-                }
-            }
-    EXPECT_EQ(unseen, 2U); // 32f and 64f
 }
 
 // ---- Tables of positions whose extents are not what the loops use

@@ -205,8 +205,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(QrBackSubstitution, HasAHundredAndFiftyForms) { EXPECT_EQ(all().size(), 150U); }
-
 TEST(QrBackSubstitution, SolvesInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
 }
@@ -568,33 +566,6 @@ TEST(QrBackSubstitutionDisplaced, FindsTheTriangleAheadOfTheMatrixWithAMatrixFor
 
 // ---- What is tested, and when
 
-TEST(QrBackSubstitutionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(QrBackSubstitutionChecks, RefuseZeroSizesAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-    for (const Function *function : allOfRunTimeSize())
-        for (const char *size : {"cols", "rows"}) {
-            SCOPED_TRACE(function->name + ", " + size);
-            Call call(function->name, 3, 2);
-            fill(call);
-            literal::blankEntries(call);
-            call.pass(size, 0);
-            if (function->array()) call.pass("count", 0);
-            EXPECT_EQ(call.run(), vonkErrSize);
-            EXPECT_TRUE(call.changedNothing());
-        }
-}
-
-TEST(QrBackSubstitutionChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(QrBackSubstitutionChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
 // Of the right-hand side as many as the solution has: those behind are used, and trusted.
 TEST(QrBackSubstitutionChecks, LookAtNoMorePositionsOfTheRightHandSideThanTheSolutionHas) {
     constexpr std::uint32_t rows = 5;
@@ -619,10 +590,6 @@ TEST(QrBackSubstitutionChecks, LookAtNoMorePositionsOfTheRightHandSideThanTheSol
             EXPECT_TRUE(call.changedNothing());
         }
     }
-}
-
-TEST(QrBackSubstitutionChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
 }
 
 } // namespace

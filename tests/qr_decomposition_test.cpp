@@ -137,8 +137,6 @@ void expectRecurrence(const Function &function, std::uint32_t rows, std::uint32_
     EXPECT_FALSE(call.strayWrites());
 }
 
-TEST(QrDecomposition, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 TEST(QrDecomposition, FollowsTheRecurrenceInEveryFormAndGeometry) {
     for (const Function *function : all())
         for (const Geometry geometry : {literal::packed, literal::spread, literal::backward})
@@ -568,33 +566,6 @@ TEST(QrDecompositionRounding, OfDoublesMeetsLengthAndBetaAndNotTheProjection) {
 
 // ---- What is tested, and when
 
-TEST(QrDecompositionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(QrDecompositionChecks, RefuseZeroSizesAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-    for (const Function *function : allOfRunTimeSize())
-        for (const char *size : {"cols", "rows"}) {
-            SCOPED_TRACE(function->name + ", " + size);
-            Call call(function->name, 3, 2);
-            example.fill(call);
-            literal::blankEntries(call);
-            call.pass(size, 0);
-            if (function->array()) call.pass("count", 0);
-            EXPECT_EQ(call.run(), vonkErrSize);
-            EXPECT_TRUE(call.changedNothing());
-        }
-}
-
-TEST(QrDecompositionChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(QrDecompositionChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
 TEST(QrDecompositionChecks, LookAtAllPositionsOfMatricesHigherThanWide) {
     for (const Function *function : allOfRunTimeSize()) {
         if (!catalogue::isTable(function->operands[0].layout)) continue;
@@ -608,10 +579,6 @@ TEST(QrDecompositionChecks, LookAtAllPositionsOfMatricesHigherThanWide) {
                 EXPECT_TRUE(call.changedNothing());
             }
     }
-}
-
-TEST(QrDecompositionChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
 }
 
 } // namespace

@@ -37,8 +37,6 @@ const literal::ElementFamily family{[](Call &call) {
 
 // ---- Results
 
-TEST(Saxpy, HasTwoHundredAndTenForms) { EXPECT_EQ(all().size(), 210U); }
-
 TEST(Saxpy, ScalesTheFirstVectorAndAddsTheSecondInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, family.example(), lengths);
 }
@@ -199,16 +197,6 @@ TEST(SaxpySingle, IsHeldByFoursAndSixesOfFloatsIfAllOfThemAreAligned) {
         }
     }
     EXPECT_EQ(forms, 2U);
-}
-
-// ---- What is tested, and when
-
-TEST(SaxpyChecks, ComeInTheUsualOrder) {
-    for (const Function *function : all()) literal::expectUsualTests(*function, family.example());
-}
-
-TEST(SaxpyChecks, LookAtThePositionsOfOnePairJustBeforeEachElement) {
-    for (const Function *function : all()) literal::expectPositionsAreTestedAlongTheWay(*function, family);
 }
 
 } // namespace

@@ -60,8 +60,6 @@ void expectDone(Call &call, std::uint32_t n) { EXPECT_EQ(resultOf(call, n), expe
 
 const literal::Example example{fill, expectDone};
 
-TEST(Trace, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 TEST(Trace, SumsTheDiagonalInEveryFormAndGeometry) {
     for (const Function *function : all())
         for (const literal::Geometry geometry : {literal::packed, literal::spread, literal::backward})
@@ -197,37 +195,6 @@ TEST(Trace, DestroysAnElementUnderItsResultExceptInLanes) {
 
 // ---- What is tested, and when
 
-TEST(TraceChecks, CatchEveryNullPointerAheadOfTheOrderAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(TraceChecks, RefuseOrderZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(TraceChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(TraceChecks, LookAtTheEntryOfAListWhenTheObjectsTurnComes) {
-    std::size_t listed = 0;
-    for (const Function *function : all()) {
-        if (!catalogue::isList(function->operands[0].layout)) continue;
-        ++listed;
-        for (std::uint32_t entry = 0; entry < 3; ++entry) {
-            SCOPED_TRACE(function->name + ", entry " + std::to_string(entry));
-            Call call(function->name, 4, 3);
-            fill(call);
-            const double untouched = resultOf(call, 0);
-            call["src"].entries[entry] = nullptr;
-            EXPECT_EQ(call.run(), vonkErrNullPtr);
-            for (std::uint32_t n = 0; n < 3; ++n)
-                EXPECT_EQ(resultOf(call, n), n < entry ? expected(call.size(), n) : untouched) << "object " << n;
-        }
-    }
-    EXPECT_EQ(listed, 2U * 5U * 2U);
-}
-
 // The sum so far stays in the result, which is 0 ahead of the first element; off the diagonal nothing is looked at.
 TEST(TraceChecks, LookAtTheDiagonalOfASingleTableAsTheSumReachesIt) {
     for (const Function *function : all()) {
@@ -244,29 +211,6 @@ TEST(TraceChecks, LookAtTheDiagonalOfASingleTableAsTheSumReachesIt) {
                                     "the sum");
             }
     }
-}
-
-// Of an array the first entries are looked at, as many as the diagonal has, and only the first of them lies on it.
-TEST(TraceChecks, LookAtTheStartOfTheTableOfAnArray) {
-    std::size_t tabled = 0;
-    for (const Function *function : all()) {
-        if (!function->array() || !literal::isTabled(*function)) continue;
-        ++tabled;
-        for (const std::uint32_t order : literal::sizesOf(*function, {2, 5}))
-            for (std::uint32_t entry = 0; entry < order * order; ++entry)
-                for (const std::uint32_t count : {2U, 0U}) {
-                    SCOPED_TRACE(function->name + ", entry " + std::to_string(entry));
-                    Call call(function->name, order, 2);
-                    fill(call);
-                    if (count == 0) call.pass("count", 0);
-                    const double untouched = resultOf(call, 0);
-                    const std::int32_t status = literal::runThroughNull(call, "src", entry);
-                    EXPECT_EQ(status, entry < order ? vonkErrNullPtr : vonkOk);
-                    for (std::uint32_t n = 0; n < 2; ++n)
-                        EXPECT_EQ(resultOf(call, n), entry < order || count == 0 ? untouched : expected(order, n));
-                }
-    }
-    EXPECT_EQ(tabled, 2U * 5U * 2U);
 }
 
 } // namespace

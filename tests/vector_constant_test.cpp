@@ -43,8 +43,6 @@ const literal::ElementFamily family{[](Call &call) {
 
 // ---- Results
 
-TEST(VectorConstant, HasThreeHundredAndSixtyForms) { EXPECT_EQ(all().size(), 360U); }
-
 TEST(VectorConstant, AddsSubtractsAndMultipliesInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, family.example(), lengths);
 }
@@ -191,16 +189,6 @@ TEST(VectorConstantLong, CountsUpWhereTheDestinationIsOneElementAhead) {
                   vonkOk);
         for (std::uint32_t k = 0; k <= length; ++k) EXPECT_EQ(numbers[k], 7 + static_cast<float>(k));
     }
-}
-
-// ---- What is tested, and when
-
-TEST(VectorConstantChecks, ComeInTheUsualOrder) {
-    for (const Function *function : all()) literal::expectUsualTests(*function, family.example());
-}
-
-TEST(VectorConstantChecks, LookAtThePositionsOfOneVectorJustBeforeEachElement) {
-    for (const Function *function : all()) literal::expectPositionsAreTestedAlongTheWay(*function, family);
 }
 
 } // namespace

@@ -54,8 +54,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(VectorVector, HasThreeHundredAndSixtyForms) { EXPECT_EQ(all().size(), 360U); }
-
 TEST(VectorVector, AddsAndSubtractsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, lengths);
 }
@@ -451,53 +449,6 @@ TEST(VectorVectorSingle, IsHeldByFloatsOfFixedSizeInTwoLayoutsAndReadAnewByAllOt
 }
 
 // ---- What is tested, and when
-
-TEST(VectorVectorChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(VectorVectorChecks, RefuseLengthZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(VectorVectorChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(VectorVectorChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (!isSingle(*function)) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(VectorVectorChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-TEST(VectorVectorChecks, LookAtThePositionsOfOnePairJustBeforeEachElement) {
-    for (const Function *function : all()) {
-        if (!isSingle(*function) || function->layout != "P") continue;
-        for (const char *operand : {"src1", "src2", "dst"})
-            for (const std::uint32_t size : literal::sizesOf(*function, {1, 5, 8}))
-                for (std::uint32_t entry = 0; entry < size; ++entry) {
-                    SCOPED_TRACE(function->name + ", " + operand + "[" + std::to_string(entry) + "] null");
-                    Call call(function->name, size);
-                    fill(call);
-                    std::byte *&slot = call[operand].entries[entry];
-                    std::byte *const kept = slot;
-                    slot = nullptr;
-                    const double untouched = call.getAt(call.spareCell(0));
-                    EXPECT_EQ(call.run(), vonkErrNullPtr);
-                    slot = kept;
-                    for (std::uint32_t j = 0; j < entry; ++j) {
-                        const double expected =
-                            isDifference(*function) ? left(0, j) - right(0, j) : left(0, j) + right(0, j);
-                        EXPECT_EQ(call.get("dst", 0, 0, j), expected) << "element " << j;
-                    }
-                    for (std::uint32_t j = entry; j < size; ++j)
-                        EXPECT_EQ(call.get("dst", 0, 0, j), untouched) << "element " << j;
-                }
-    }
-}
 
 TEST(VectorVectorChecks, LeaveThreeElementsWrittenWhereTheFourthHasNoPlace) {
     float numbers[5] = {1, 2, 3, 4, 5};

@@ -4,9 +4,7 @@
 #include "catalogue.h"
 #include "exceptions.h"
 
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace literal {
 
