@@ -180,7 +180,6 @@ TEST(ArgumentChecks, RefuseSizesOfZeroAheadOfEntriesAndCount) {
 TEST(ArgumentChecks, LeaveAllAloneForNoObjects) {
     for (const Function &function : allMembers()) {
         if (!function.array() && !literal::has(function, Kind::count)) continue;
-        SCOPED_TRACE(function.name);
         Call call(function.name, runTimeSize, 2);
         fill(call);
         call.pass("count", 0);

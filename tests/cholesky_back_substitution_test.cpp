@@ -138,7 +138,6 @@ TEST(CholeskyBackSubstitution, FollowsNoPointerAboveTheDiagonal) {
         if (!isInTable(*function)) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5}))
             for (const std::uintptr_t garbage : {std::uintptr_t{0}, ~std::uintptr_t{0}}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order, 2);
                 fill(call);
                 for (std::uint32_t i = 0; i < order; ++i)
@@ -155,7 +154,6 @@ TEST(CholeskyBackSubstitution, MakesZerosOfReciprocalsOfZeroAndNansOfNansWithout
     for (const Function *function : all())
         for (const double reciprocal : {0.0, nan, infinity})
             for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order, 2);
                 fill(call);
                 for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n)
@@ -247,7 +245,6 @@ TEST(CholeskyBackSubstitutionSums, OfDoublesAreRoundedWhenStoredOnly) {
                 for (const Precision precision : {Precision::bits53, Precision::bits64}) {
                     const auto terms = static_cast<std::uint32_t>(expectation.coefficients.size());
                     if (order <= terms) continue;
-                    SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                     Call call(function->name, order);
                     for (std::uint32_t i = 0; i < order; ++i)
                         for (std::uint32_t j = 0; j <= i; ++j) call.set("src1", 0, i, j, i == j ? 1 : 0);
@@ -303,7 +300,6 @@ TEST(CholeskyBackSubstitutionSums, OfFloatsAreRoundedAtEveryStep) {
     for (const Function *function : allOf(Type::real32))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 4, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 const SettingScope scope({precision, Rounding::nearest});
                 Call call(function->name, order);
                 for (std::uint32_t i = 0; i < order; ++i)
@@ -333,7 +329,6 @@ TEST(CholeskyBackSubstitution, MultipliesTheOnlyElementOfOrderOneTwice) {
         const double third = narrow ? static_cast<double>(1.0F / 3) : 1.0 / 3;
         int telling = 0;
         for (int side = 1; side <= 40; ++side) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 1);
             call.set("src1", 0, {third});
             call.set("src2", 0, {static_cast<double>(side)});

@@ -124,7 +124,6 @@ TEST(CholeskyDecomposition, FollowsNoPointerAboveTheDiagonal) {
         if (!isInTable(*function)) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7}))
             for (const std::uintptr_t garbage : {std::uintptr_t{0}, std::uintptr_t{64}, ~std::uintptr_t{0}}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order, 2);
                 fill(call);
                 std::vector<std::vector<std::byte *>> kept;
@@ -146,7 +145,6 @@ TEST(CholeskyDecomposition, FollowsNoPointerAboveTheDiagonal) {
 TEST(CholeskyDecomposition, FinishesEachObjectBeforeTheNext) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 3, 7})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             call["dst"].moveTo(call["src"].origin + call["src"].objectStride);
             for (std::uint32_t i = 0; i < order; ++i)
@@ -227,7 +225,6 @@ TEST(CholeskyDecompositionPivots, MayBeNoNumberAtFirstForDoublesOfOrderThreeAndF
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 4})) {
             if (!letsNanPass(*function, order, 0)) continue;
             ++passing;
-            SCOPED_TRACE(function->name + ", order " + std::to_string(order));
             Call call(function->name, order, 2);
             fill(call);
             call.set("src", 0, 0, 0, nan);
@@ -261,7 +258,6 @@ TEST(CholeskyDecompositionPivots, FailAtExactlyZeroWithTheRowLeftOfThemStored) {
 TEST(CholeskyDecompositionPivots, EndTheCallWithTheObjectsBeforeDoneAndThoseAfterUntouched) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5, 7})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 4, geometries[1]);
             fill(call);
             call.set("src", 2, 1, 1, -1);
@@ -282,7 +278,6 @@ TEST(CholeskyDecompositionRounding, OfAFloatReciprocalIsOneStepButInTablesTwo) {
     for (const Function *function : allOf(Type::real32))
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                 Call call(function->name, order);
                 for (std::uint32_t i = 0; i < order; ++i)
                     for (std::uint32_t j = 0; j <= i; ++j) call.set("src", 0, i, j, i == j ? 7 : 0);
@@ -374,7 +369,6 @@ TEST(CholeskyDecompositionRounding, OfDoublesBehindAPairShowsInTheRange) {
             for (const std::uint32_t order : literal::sizesOf(*function, {4, 5, 7}))
                 for (const std::uint32_t column : {1U, 2U}) {
                     if (order < 4) continue;
-                    SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                     Call call(function->name, order);
                     for (std::uint32_t i = 0; i < order; ++i)
                         for (std::uint32_t j = 0; j <= i; ++j) call.set("src", 0, i, j, i == j ? 1 : 0);
@@ -457,7 +451,6 @@ TEST(CholeskyDecompositionStrides, AreTakenInBytesInAllOthers) {
 TEST(CholeskyDecompositionChecks, TakeANegativeCountForNoneWithoutAWordButInTables) {
     for (const Function *function : allArrays())
         for (const std::uint32_t count : {0x80000000U, 0xffffffffU}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 2);
             fill(call);
             call.set("src", 1, 0, 0, -1); // object 1 fails, however many there are

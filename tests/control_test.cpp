@@ -232,7 +232,6 @@ TEST(Control, OfDenormalFloatsIsNothingToDoubles) {
         if (function->type != Type::real64) continue;
         const double sign = function->family->operation == "Sub" ? -1 : 1;
         for (const std::uint32_t size : literal::sizesOf(*function, {5})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, size);
             call.set("src1", 0, std::vector<double>(size, 0x1p-1030));
             call.set("src2", 0, std::vector<double>(size, sign * 0x1p-1040));

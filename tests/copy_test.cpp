@@ -89,7 +89,6 @@ TEST(CopyOfVectorsBetweenTables, ReadsThroughTheTableOfTheDestination) {
     for (const Function *function : all()) {
         if (!readsThroughDestination(*function)) continue;
         for (const bool nullEntries : {false, true}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 2, literal::spread);
             fill(call);
             literal::Place &destination = call["dst"];
@@ -121,7 +120,6 @@ TEST(Copy, MakesSignallingDoublesQuietAndLeavesFloatsAlone) {
     constexpr std::uint64_t quiet = 0xfff8000000012345;
     constexpr std::uint32_t signallingFloat = 0xff812345;
     for (const Function *function : usual()) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2, 2);
         fill(call);
         const bool wide = function->type == Type::real64;

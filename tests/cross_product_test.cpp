@@ -77,7 +77,6 @@ TEST(CrossProduct, TakesAnyNumberOfObjects) {
     for (const Function *function : all())
         for (std::uint32_t count = 1; function->array() && count <= 9; ++count)
             for (const literal::Geometry geometry : {literal::packed, literal::Geometry{1, 4, false}}) {
-                SCOPED_TRACE(function->name + ", count " + std::to_string(count));
                 Call call(function->name, 3, count, geometry);
                 fill(call);
                 ASSERT_EQ(call.run(), vonkOk);
@@ -142,10 +141,7 @@ TEST(CrossProductZeros, FollowTheRoundingWhereProductsAreEqual) {
         for (const Rounding rounding : {Rounding::nearest, Rounding::up, Rounding::down}) {
             Call call(function->name, 3, 5);
             setAll(call, {1, 2, 3}, {2, 4, 6});
-            {
-                const SettingScope scope({Precision::bits64, rounding});
-                ASSERT_EQ(call.run(), vonkOk);
-            }
+            ASSERT_EQ(call.run({Precision::bits64, rounding}), vonkOk);
             const double zero = rounding == Rounding::down ? -0.0 : 0.0;
             for (std::uint32_t n = 0; n < call.count(); ++n) expectVector(call, n, {zero, zero, zero});
         }
@@ -168,13 +164,9 @@ TEST(CrossProductRounding, OfDoublesIsToTheCallersPrecision) {
     for (const Function *function : all()) {
         if (function->type != Type::real64) continue;
         for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 5);
             setAll(call, {0, 1 + 0x1p-30, 1}, {0, 1 + 0x1p-29, 1 + 0x1p-30});
-            {
-                const SettingScope scope({precision, Rounding::nearest});
-                ASSERT_EQ(call.run(), vonkOk);
-            }
+            ASSERT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
             for (std::uint32_t n = 0; n < call.count(); ++n)
                 EXPECT_EQ(call.get("dst", n, 0, 0), precision == Precision::bits53 ? 0 : 0x1p-60);
         }
@@ -226,7 +218,6 @@ TEST(CrossProductOverlap, ShowsEachComponentToTheNextWhereTheSubtrahendIsNegated
         ++forms;
         const bool arrayFirst = function->group == "vav";
         for (const literal::Geometry geometry : {literal::packed, literal::spread, literal::backward}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 2, geometry);
             call.layOver(arrayFirst ? "src1" : "src2");
             setAll(call, {1, 2, 3}, {4, 5, 7});

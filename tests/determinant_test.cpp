@@ -132,7 +132,6 @@ TEST(Determinant, IsWorkedOutInEveryFormAndGeometry) {
 TEST(Determinant, MayBeWrittenIntoItsSource) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order);
             fill(call);
             std::byte *const cell = call["src"].address(0, 0, order - 1);
@@ -144,7 +143,6 @@ TEST(Determinant, MayBeWrittenIntoItsSource) {
 
 TEST(Determinant, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTheRestAlone) {
     for (const Function *function : ofOrder(0)) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 5, 3);
         fill(call);
         literal::Block &scratch = call.block("scratch");
@@ -207,7 +205,6 @@ TEST(DeterminantPivots, ThatFailLeaveZerosOfEitherSignOrNaNsInArrays) {
 TEST(DeterminantPivots, ThatFailLeaveTheOtherObjectsAlone) {
     for (const Function *function : ofOrder(0)) {
         if (!function->array()) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 4, 3);
         fill(call);
         call.set("src", 1, Matrix(16, 0));

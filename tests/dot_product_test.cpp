@@ -61,7 +61,6 @@ TEST(DotProduct, AddsTheProductsInEveryFormAndGeometry) {
 TEST(DotProduct, TakesAnyNumberOfObjects) {
     for (const Function *function : all())
         for (std::uint32_t count = 1; function->array() && count <= 9; ++count) {
-            SCOPED_TRACE(function->name + ", count " + std::to_string(count));
             Call call(function->name, 5, count);
             fill(call);
             ASSERT_EQ(call.run(), vonkOk);
@@ -93,7 +92,6 @@ TEST(DotProduct, LetsNansAndInfinitiesThrough) {
 TEST(DotProduct, StartsFromPlusZeroAtRunTimeSizeAndFromTheFirstProductAtFixedSize) {
     for (const Function *function : all())
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 2, 10, 11, 40})) {
-            SCOPED_TRACE(function->name + ", size " + std::to_string(size));
             Call call(function->name, size, 5);
             for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n)
                 call.set("src1", n, std::vector<double>(size, -0.0));
@@ -128,7 +126,6 @@ TEST(DotProductOrder, IsFromLeftToRightButForFoursOfFloatsBesideOneVector) {
             function->name == "vonkDotProduct_vav_32f_4x1" || function->name == "vonkDotProduct_vav_32f_4x1_L";
         inPairs += pairs;
         for (std::uint32_t count = 1; count <= 9; ++count) {
-            SCOPED_TRACE(function->name + ", count " + std::to_string(count));
             Call call(function->name, 0, count);
             std::vector<double> products(call.size(), 1);
             products[0] = big;
@@ -171,7 +168,6 @@ TEST(DotProductOrder, OfThreesOfFloatsIsFromLeftToRightEverywhereElse) {
     for (const Function *function : all()) {
         if (function->type != Type::real32 || function->order != 3) continue;
         if (function->name == "vonkDotProduct_vava_32f_3x1") continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 0, 9, {1, 4, false}); // 16 bytes from object to object where it is free
         setProducts(call, {big, 1, -big});
         ASSERT_EQ(call.run(), vonkOk);
@@ -281,17 +277,13 @@ TEST(DotProductOfDoubles, RoundsTheSumAheadOfAnOddTermInSomeFormsOfRunTimeSize) 
         passing += passesThroughDouble(*function);
         for (const std::uint32_t size : literal::sizesOf(*function, {3, 5, 4, 6}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name + ", size " + std::to_string(size));
                 Call call(function->name, size, 5);
                 std::vector<double> products(call.size(), 0);
                 products[0] = 1;
                 products[1] = 0x1p-54;
                 products.back() = -1; // the odd term, or the second of the last pair
                 setProducts(call, products);
-                {
-                    const SettingScope scope({precision, Rounding::nearest});
-                    ASSERT_EQ(call.run(), vonkOk);
-                }
+                ASSERT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
                 const bool isRounded =
                     precision == Precision::bits53 || (passesThroughDouble(*function) && size % 2 != 0);
                 for (std::uint32_t n = 0; n < call.count(); ++n)
@@ -307,7 +299,6 @@ TEST(DotProductOfDoubles, LeavesProductsAsWideAsTheCallersPrecision) {
         if (function->type != Type::real64) continue;
         for (const std::uint32_t size : literal::sizesOf(*function, {2, 4}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, size, 2);
                 std::vector<double> first(size, 0);
                 std::vector<double> second(size, 0);
@@ -316,10 +307,7 @@ TEST(DotProductOfDoubles, LeavesProductsAsWideAsTheCallersPrecision) {
                 second[1] = 1 + 0x1p-29;
                 for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n) call.set("src1", n, first);
                 for (std::uint32_t n = 0; n < call.objectsOf("src2"); ++n) call.set("src2", n, second);
-                {
-                    const SettingScope scope({precision, Rounding::nearest});
-                    ASSERT_EQ(call.run(), vonkOk);
-                }
+                ASSERT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
                 for (std::uint32_t n = 0; n < call.count(); ++n)
                     EXPECT_EQ(call.get("dst", n, 0, 0), precision == Precision::bits53 ? 0 : 0x1p-60);
             }
@@ -331,7 +319,6 @@ TEST(DotProductOfFloats, RoundsEveryProduct) {
     for (const Function *function : all()) {
         if (function->type != Type::real32) continue;
         for (const std::uint32_t size : literal::sizesOf(*function, {2, 10, 11, 24})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, size, 5);
             std::vector<double> first(size, 0);
             std::vector<double> second(size, 0);

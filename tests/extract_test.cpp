@@ -73,7 +73,6 @@ TEST(Extract, GathersEveryElementInEveryFormAndGeometry) {
         for (const Geometry geometry : {literal::packed, literal::spread, literal::backward})
             for (const std::uint32_t size : {1U, 2U, 3U, 9U})
                 for (const std::uint32_t count : {1U, 3U}) {
-                    SCOPED_TRACE(function->name + ", size " + std::to_string(size));
                     Call call(function->name, size, count, geometry);
                     fill(call);
                     EXPECT_EQ(call.run(), vonkOk);
@@ -91,7 +90,6 @@ std::vector<double> firstResults(Call &call, std::size_t count) {
 }
 
 void expectOblong(const Function &function, const std::vector<double> &expected) {
-    SCOPED_TRACE(function.name);
     Call call(function.name, 3);
     fill(call);
     call.pass("rows", 2);
@@ -158,7 +156,6 @@ TEST(ExtractInTheTrustingForms, HasNothingToDoForSizesOfZeroWhateverThePointersA
         if (!literal::isException(*function, "extract-unchecked")) continue;
         for (const Sizes &sizes : {Sizes{0, 5, false}, Sizes{5, 0, false}, Sizes{0x10000, 0x10000, true}}) {
             if (sizes.isProduct && function->group != "m") continue;
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3);
             call.pass("src", 0);
             call.pass("dst", 0);
@@ -178,7 +175,6 @@ TEST(Extract, MakesSignallingDoublesQuietAndLeavesFloatsAlone) {
     constexpr std::uint64_t quiet = 0x7ff8000000012345;
     constexpr std::uint32_t signallingFloat = 0x7f812345;
     for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
         const bool wide = function->type == Type::real64;
         Call call(function->name, 3);
         fill(call);

@@ -271,7 +271,6 @@ TEST(GaxpySums, FollowTheTreeOfTheKernelAndElseRunThroughTheTermsWithTheAddendLa
 TEST(GaxpySums, BeginAtPlusZeroInCellsAndAtTheFirstProductInLanes) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             setTerms(call, std::vector<double>(order + 1, -0.0));
             ASSERT_EQ(call.run(), vonkOk);
@@ -288,7 +287,6 @@ TEST(GaxpySums, OfDoublesAreRoundedWithTheAddendOrBeforeItByLayout) {
         if (function->type != Type::real64) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 const SettingScope scope({precision, Rounding::nearest});
                 Call call(function->name, order, 2);
                 std::vector<double> terms(order + 1);

@@ -108,7 +108,6 @@ TEST(Inverse, IsTheTransposedAdjugate) {
     const Matrix inverse{-24, 18, 5, 20, -15, -4, -5, 4, 1};
     for (const Function *function : all()) {
         if (orderOf(*function, 3) != 3) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         call.set("src", 0, matrix);
         EXPECT_EQ(call.run(), vonkOk);
@@ -121,7 +120,6 @@ TEST(Inverse, TimesItsMatrixIsTheIdentity) {
     for (const Function *function : all()) {
         const std::uint32_t order = orderOf(*function, 5);
         const Matrix matrix = literal::wellConditioned(order, 3);
-        SCOPED_TRACE(function->name);
         Call call(function->name, order);
         call.set("src", 0, matrix);
         ASSERT_EQ(call.run(), vonkOk);
@@ -138,7 +136,6 @@ TEST(Inverse, TimesItsMatrixIsTheIdentity) {
 // 4 7 / 2 6 has the determinant 10; a tenth is rounded to the element type before it is used.
 TEST(InverseOfRunTimeSize, ScalesMinorsWithARoundedReciprocal) {
     for (const Function *function : where(isRunTime)) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2);
         call.set("src", 0, {4, 7, 2, 6});
         EXPECT_EQ(call.run(), vonkOk);
@@ -153,7 +150,6 @@ TEST(InverseOfRunTimeSize, ScalesMinorsWithARoundedReciprocal) {
 // A minor that is singular counts as 0, and an odd place changes its sign.
 TEST(InverseOfRunTimeSize, HasNegativeZerosInOddPlaces) {
     for (const Function *function : where(isRunTime)) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         call.set("src", 0, diagonal({1, 1, 1}));
         EXPECT_EQ(call.run(), vonkOk);
@@ -165,7 +161,6 @@ TEST(InverseOfRunTimeSize, HasNegativeZerosInOddPlaces) {
 TEST(InverseOfRunTimeSize, TakesMinorsAtTheToleranceForZero) {
     for (const Function *function : where(isRunTime)) {
         const double limit = isNarrow(*function) ? 0x1p-23 : 0x1p-52;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2);
         call.set("src", 0, {limit, 1, 1, 0}); // exchanged; the determinant is -1
         EXPECT_EQ(call.run(), vonkOk);
@@ -175,7 +170,6 @@ TEST(InverseOfRunTimeSize, TakesMinorsAtTheToleranceForZero) {
 
 TEST(InverseOfRunTimeSize, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTheRestAlone) {
     for (const Function *function : where(isRunTime)) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 5, 3);
         fill(call);
         call.block("scratch").address += isNarrow(*function) ? 4 : 8;
@@ -255,7 +249,6 @@ TEST(InverseSingularity, OfTheFastFormOfFourStandsOnTheCofactorsOfRowZero) {
 // A determinant of 1e-30: the elements are 1e-20 times 1e30.
 TEST(InverseSingularity, LeavesTheFastFormOfThreeItsHugeResults) {
     for (const Function *function : where([](const Function &found) { return found.order == 3; })) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 0);
         call.set("src", 0, diagonal({1e-10, 1e-10, 1e-10}));
         EXPECT_EQ(call.run(), isFast(*function) ? vonkOk : vonkErrSingular);
@@ -267,7 +260,6 @@ TEST(InverseSingularity, LeavesTheFastFormOfThreeItsHugeResults) {
 // The step of the fast form of 4 squares the estimate, 2^80 here, which no float holds.
 TEST(InverseSingularity, LeavesTheFastFormOfFourNoResultsWhereTheSquareOverflows) {
     for (const Function *function : where([](const Function &found) { return isFast(found) && found.order == 4; })) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 0);
         call.set("src", 0, diagonal({0x1p-20, 0x1p-20, 0x1p-20, 0x1p-20}));
         EXPECT_EQ(call.run(), vonkOk);
@@ -295,7 +287,6 @@ TEST(InverseSingularity, OfBlocksIsThatOfTheLeadingOneOrOfTheRest) {
 
 TEST(InverseSingularity, IsNoNaN) {
     for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         const std::uint32_t order = call.size();
         const bool choosesFreely = isFast(*function) && order == 6; // and may leave out a single one
@@ -308,7 +299,6 @@ TEST(InverseSingularity, IsNoNaN) {
 
 TEST(InverseSingularity, EndsTheCallWithTheObjectsBeforeDoneAndTheOthersUntouched) {
     for (const Function *function : where([](const Function &found) { return found.array(); })) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 4, 3);
         fill(call);
         call.set("src", 1, Matrix(std::size_t{call.size()} * call.size(), 0));
@@ -324,7 +314,6 @@ TEST(InverseSingularity, EndsTheCallWithTheObjectsBeforeDoneAndTheOthersUntouche
 // untouched.
 TEST(InverseSingularity, OfTheSecondBlockMayFindFastFormsInTheirObject) {
     for (const Function *function : where([](const Function &found) { return found.order > 4; })) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 0, 2);
         const std::size_t order = call.size();
         for (std::uint32_t n = 0; n < call.count(); ++n) {
@@ -346,7 +335,6 @@ TEST(InverseOfSix, LooksAtFiveColumnsButInTheFastForms) {
     Matrix exchange(36);
     for (std::size_t i = 0; i < 6; ++i) exchange[i * 6 + 5 - i] = 1;
     for (const Function *function : where([](const Function &found) { return found.order == 6; })) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 0);
         call.set("src", 0, exchange);
         EXPECT_EQ(call.run(), isFast(*function) ? vonkOk : vonkErrSingular);
@@ -366,7 +354,6 @@ TEST(InverseOfBlocks, PutsRegularColumnsInFront) {
             const std::uint32_t j = i < 5 ? 4 - i : i;
             matrix[i * order + j] = inverse[j * order + i] = 1;
         }
-        SCOPED_TRACE(function->name);
         Call call(function->name, 0);
         call.set("src", 0, matrix);
         EXPECT_EQ(call.run(), vonkOk);
@@ -397,7 +384,6 @@ TEST(InverseRounding, IsTheCallers) {
 // the results are numbers all the same.
 TEST(InverseOfDoubles, HasTheExtendedRange) {
     for (const Function *function : where([](const Function &found) { return !isNarrow(found) && found.order != 0; })) {
-        SCOPED_TRACE(function->name);
         const std::uint32_t order = orderOf(*function, 0);
         Call call(function->name, 0);
         call.set("src", 0, diagonal(std::vector<double>(order, 0x1p400)));

@@ -143,7 +143,6 @@ TEST(LinearCombinationSingle, IsHeldByFloatsOfFixedSizeInTwoLayoutsAndReadAnewBy
         holding += holds;
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 4, 13}))
             for (const literal::Geometry geometry : {literal::packed, literal::spread, literal::backward}) {
-                SCOPED_TRACE(function->name + ", size " + std::to_string(size));
                 Call call(function->name, size, 3, geometry);
                 call.layOver("src2");
                 call.setConstant("val1", 3);

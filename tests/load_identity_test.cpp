@@ -30,7 +30,6 @@ TEST(LoadIdentity, LoadsOneIdentityInEveryFormAndGeometry) {
     for (const Function *function : all())
         for (const Geometry geometry : {literal::packed, literal::spread})
             for (const std::uint32_t order : {1U, 2U, 3U, 7U}) {
-                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                 Call call(function->name, order, 1, geometry);
                 EXPECT_EQ(call.run(), vonkOk);
                 EXPECT_EQ(call.get("dst", 0), identity(order));
@@ -44,7 +43,6 @@ TEST(LoadIdentity, LoadsOneIdentityInEveryFormAndGeometry) {
 TEST(LoadIdentityOfTwo, PutsTheOnesOfTheSecondBehindItsSquare) {
     for (const Function *function : all()) {
         if (function->layout == "P") continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 2, literal::roomy);
         EXPECT_EQ(call.run(), vonkOk);
         EXPECT_EQ(call.get("dst", 0), identity(3));
@@ -139,7 +137,6 @@ TEST(LoadIdentityStrides, OfDoublesInListsMayBeFour) {
 // Compared as unsigned numbers, negative strides are large ones.
 TEST(LoadIdentityStrides, StandIfNegative) {
     for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 1, literal::backward);
         EXPECT_EQ(call.run(), vonkOk);
         EXPECT_EQ(call.get("dst", 0), identity(3));
@@ -152,7 +149,6 @@ TEST(LoadIdentityStrides, StandIfNegative) {
 TEST(LoadIdentity, LeavesObjectsWithoutRowsUntouched) {
     for (const Function *function : all())
         for (const std::uint32_t rows : {0U, 0xffffffffU, 0x80000000U}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 2);
             literal::blankEntries(call);
             call.pass("rows", rows);
@@ -165,7 +161,6 @@ TEST(LoadIdentity, LeavesObjectsWithoutRowsUntouched) {
 TEST(LoadIdentity, WritesTheOnesWithoutColumns) {
     for (const Function *function : all()) {
         if (function->layout == "P") continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 1, literal::spread);
         const std::vector<double> before = call.get("dst", 0);
         call.pass("cols", 0);

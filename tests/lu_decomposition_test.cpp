@@ -124,7 +124,6 @@ TEST(LuDecomposition, KeepsTheFirstOfEqualMagnitudes) {
     for (const Function *function : all())
         for (const Case &expectation : cases)
             for (const std::uint32_t order : literal::sizesOf(*function, {3, 4, 7})) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order);
                 call.set("src", 0, diagonal(order, 1));
                 for (std::uint32_t i = 0; i < 3; ++i) call.set("src", 0, i, 0, expectation.column[i]);
@@ -151,7 +150,6 @@ TEST(LuDecomposition, CopiesTheOnlyElementOfOrderOne) {
 TEST(LuDecomposition, FinishesEachObjectBeforeItCopiesTheNext) {
     for (const Function *function : allArrays()) {
         if (function->order != 0 && function->order != 3) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 2);
         call["dst"].moveTo(call["src"].origin + call["src"].objectStride);
         call.set("src", 1, diagonal(3, 7));
@@ -167,7 +165,6 @@ TEST(LuDecomposition, FinishesEachObjectBeforeItCopiesTheNext) {
 TEST(LuDecomposition, CopiesForwardWhereTheMatricesOverlap) {
     for (const Function *function : all()) {
         if (function->order > 3 || !function->layout.empty()) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         call.set("src", 0, {3, 1, 4, 1, 5, 9, 2, 6, 5});
         call["dst"].moveTo(call["src"].origin + call["src"].elementSize);
@@ -181,7 +178,6 @@ TEST(LuDecomposition, CopiesForwardWhereTheMatricesOverlap) {
 TEST(LuDecomposition, StoresEveryStepWhereElementsOfTheResultOverlap) {
     for (const Function *function : all()) {
         if (function->order != 0 && function->order != 3) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         literal::Place &dst = call["dst"];
         dst.rowStride = dst.elementStride != 0 ? dst.elementStride : dst.elementSize;
@@ -268,7 +264,6 @@ TEST(LuDecompositionFailure, LeavesTheObjectAsFarAsItGot) {
 TEST(LuDecompositionFailure, EndsTheCallWithTheObjectsBeforeDoneAndThoseAfterUntouched) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 4);
             fill(call);
             call.set("src", 2, diagonal(order, 0));
@@ -347,7 +342,6 @@ TEST(LuDecompositionLastPivot, IsLookedForPastItsRowInEveryArrayForm) {
 TEST(LuDecompositionLastPivot, OfTheFirstObjectIsLookedForInItsPlace) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2, literal::roomy);
             Factors factors(order, 0);
             factors.lastPivot = 0;
@@ -367,7 +361,6 @@ TEST(LuDecompositionLastPivot, IsLookedForOneRowDownInPackedObjects) {
     for (const Function *function : allArrays()) {
         if (function->order != 0 && function->order != 3) continue;
         for (const bool passes : {true, false}) {
-            SCOPED_TRACE(function->name);
             const std::vector<double> &matrix = passes ? singular : innocent;
             Call call(function->name, 3, 3);
             call.set("src", 0, diagonal(3, 1));
@@ -398,7 +391,6 @@ TEST(LuDecompositionLastPivot, OfOrderOneIsTheElementAsFarBehind) {
 TEST(LuDecompositionLastPivot, MayBeNanAfterTheFirstObject) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2, literal::roomy);
             for (std::uint32_t n = 0; n < 2; ++n) call.set("src", n, diagonal(order, 1));
             call.set("src", 1, 0, order - 1, nan);
@@ -525,10 +517,7 @@ TEST(LuDecompositionArithmetic, NegatesAZeroMultiplierToPlusZeroInFloatsAndToMin
                 call.set("src", 0, 0, order - 1, zero.multiplied);
                 call.set("src", 0, 1, 0, zero.multiplier);
                 call.set("src", 0, 1, order - 1, -0.0);
-                {
-                    const SettingScope scope(setting);
-                    EXPECT_EQ(call.run(), vonkOk);
-                }
+                EXPECT_EQ(call.run(setting), vonkOk);
                 literal::expectSame(zero.multiplier, call.get("dst", 0, 1, 0), "the multiplier");
                 literal::expectSame(function->type == Type::real32 ? zero.narrow : zero.wide,
                                     call.get("dst", 0, 1, order - 1), "the updated zero");
@@ -542,17 +531,13 @@ TEST(LuDecompositionArithmetic, RoundsEveryOperationOnFloats) {
         if (function->type != Type::real32) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order);
                 call.set("src", 0, diagonal(order, 8));
                 call.set("src", 0, 0, 0, 3);
                 call.set("src", 0, 0, order - 1, 3);
                 call.set("src", 0, 1, 0, 1);
                 call.set("src", 0, 1, order - 1, 1);
-                {
-                    const SettingScope scope({precision, Rounding::nearest});
-                    EXPECT_EQ(call.run(), vonkOk);
-                }
+                EXPECT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
                 EXPECT_EQ(call.get("dst", 0, 1, 0), 0x1.555556p-2);
                 literal::expectSame(0.0, call.get("dst", 0, 1, order - 1), "the updated element");
             }
@@ -564,15 +549,11 @@ TEST(LuDecompositionArithmetic, RoundsEveryOperationOnFloats) {
 TEST(LuDecompositionArithmetic, DividesTruly) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order);
             call.set("src", 0, diagonal(order, 8));
             call.set("src", 0, 0, 0, 6);
             call.set("src", 0, 1, 0, 5);
-            {
-                const SettingScope scope({Precision::bits53, Rounding::nearest});
-                EXPECT_EQ(call.run(), vonkOk);
-            }
+            EXPECT_EQ(call.run({Precision::bits53, Rounding::nearest}), vonkOk);
             EXPECT_EQ(call.get("dst", 0, 1, 0),
                       function->type == Type::real32 ? 13981013 * 0x1p-24 : 7505999378950827 * 0x1p-53);
         }
@@ -590,10 +571,7 @@ double updated(const Function &function, std::uint32_t order, Precision precisio
     call.set("src", 0, 0, order - 1, above);
     call.set("src", 0, 1, 0, below);
     call.set("src", 0, 1, order - 1, element);
-    {
-        const SettingScope scope({precision, Rounding::nearest});
-        EXPECT_EQ(call.run(), vonkOk);
-    }
+    EXPECT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
     return call.get("dst", 0, 1, order - 1);
 }
 
@@ -653,7 +631,6 @@ TEST(LuDecompositionArithmetic, UpdatesWithAQuotientBeyondTheRangeOfDoublesIn3To
     for (const Function *function : all()) {
         if (function->type != Type::real64) continue;
         for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-            SCOPED_TRACE(function->name);
             const Misled search = misled(*function);
             const auto order = static_cast<std::uint32_t>(search.column.size());
             Call call(function->name, order);

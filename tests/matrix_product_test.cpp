@@ -119,7 +119,6 @@ TEST(MatrixProduct, ReadsEitherOperandTransposed) {
         {"mm", {19, 22, 43, 50}}, {"mmT", {17, 23, 39, 53}}, {"mTm", {26, 30, 38, 44}}, {"mTmT", {23, 31, 34, 46}}};
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2, 2);
         for (std::uint32_t n = 0; n < 2; ++n) {
             if (n < call.objectsOf("src1")) call.set("src1", n, {1, 2, 3, 4});
@@ -158,7 +157,6 @@ TEST(MatrixProduct, TakesItsWordsInTheOrderOfTheHeader) {
 TEST(MatrixProduct, OfOrderOneIsZeroPlusTheProduct) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 1);
         for (const auto &[a, b, expected] : {std::array{3.0, -5.0, -15.0}, std::array{-0.0, 4.0, 0.0}}) {
             call.set("src1", 0, {a});
@@ -173,7 +171,6 @@ TEST(MatrixProduct, OfOrderOneIsZeroPlusTheProduct) {
 TEST(MatrixProduct, LeavesTheLastObjectWhereAllFallOnOneAnother) {
     for (const Function *function : all()) {
         if (!literal::has(*function, catalogue::Kind::objectStride)) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 4, 3);
         fill(call);
         call.pass("dstObjStride", 0);
@@ -392,7 +389,6 @@ TEST(MatrixProductShapes, IgnoreTheColumnsOfTheFirstMatrixInTheGroupsThatDoNotCo
 TEST(MatrixProductChecks, RefuseWordsThatDoNotFitAheadOfEntriesAndCount) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 2);
         fill(call);
         call.pass(wordNames[ruleOf(*function).equal[1]], 2);
@@ -550,7 +546,6 @@ TEST(MatrixProductOfSingleTables, StopsAheadOfACellThatIsMissing) {
 // first cell its zero is.
 TEST(MatrixProductOfSingleTables, LooksAtTheCellAheadOfItsTerms) {
     for (const Function *function : interleaved()) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         fill(call);
         literal::blankEntries(call);
@@ -601,7 +596,6 @@ TEST(MatrixProductSums, RoundEveryFloatAddition) {
     for (const Function *function : all()) {
         if (function->type != Type::real32) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             std::vector<double> terms(order);
             terms[0] = 1;
@@ -619,7 +613,6 @@ TEST(MatrixProductSums, RoundEveryFloatProduct) {
     for (const Function *function : all()) {
         if (function->type != Type::real32) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {2})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             for (std::uint32_t n = 0; n < call.count(); ++n)
                 for (const char *source : {"src1", "src2"})
@@ -646,7 +639,6 @@ TEST(MatrixProductSums, RoundEveryFloatProduct) {
 TEST(MatrixProductSums, BeginAtPlusZeroInCellsAndAtTheFirstProductInLanes) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             setTerms(call, std::vector<double>(order, -0.0));
             ASSERT_EQ(call.run(), vonkOk);
@@ -663,7 +655,6 @@ TEST(MatrixProductSums, OfDoublesAreRoundedOnceOrAtEveryStepByLayout) {
         if (function->type != Type::real64) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 const SettingScope scope({precision, Rounding::nearest});
                 Call call(function->name, order, 2);
                 std::vector<double> terms(order);

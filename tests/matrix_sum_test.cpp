@@ -122,7 +122,6 @@ TEST(MatrixSum, GoesWrongInPlaceOverATransposedSource) {
     std::size_t wrong = 0;
     for (const Function *function : all()) {
         if (function->order != 0 || function->group != "mTm") continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2);
         call.layOver("src1");
         call.set("src1", 0, {1, 2, 3, 4});
@@ -170,10 +169,7 @@ double resultOf(const Function &function, double a, double b, support::Setting s
     Call call(function.name, 3, 2);
     literal::setAll(call, "src1", a);
     literal::setAll(call, "src2", b);
-    {
-        const SettingScope scope(setting);
-        EXPECT_EQ(call.run(), vonkOk);
-    }
+    EXPECT_EQ(call.run(setting), vonkOk);
     for (std::uint32_t n = 0; n < call.count(); ++n)
         literal::expectSame(std::vector<double>(call.get("dst", n).size(), call.get("dst", 0, 0, 0)),
                             call.get("dst", n), "dst");
@@ -312,7 +308,6 @@ TEST(MatrixSumStrides, OfAnArrayServeTheTransposedSingleMatrixOfThreeInLanes) {
     for (const Function *function : all()) {
         if (literal::isTabled(*function) || function->group != "mamT") continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 3, literal::spread);
             call["src2"].rowStride += 16;
             fill(call);
@@ -339,7 +334,6 @@ TEST(MatrixSumStrides, OfAnArrayServeTheTransposedSingleMatrixOfThreeInLanes) {
 TEST(MatrixSumStrides, OfTheTransposedSingleMatrixOfThreeInLanesMayBeAnything) {
     for (const Function *function : all()) {
         if (!runsAhead(*function) || function->group != "mamT") continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 3);
         fill(call);
         call.pass("src2RowStride", 0x7ffffff0);
@@ -361,7 +355,6 @@ TEST(MatrixSumSingle, IsHeldByFloatsOfThreeAndFourInLanesAndReadAnewByAllOthers)
         const bool holds = hasLanes(*function) && function->order <= 4;
         if (single.transposed && !holds) continue; // element for element it is not the destination
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name + ", order " + std::to_string(order));
             Call call(function->name, order, 3);
             call.layOver(single.name);
             literal::setAll(call, single.name, 100);
@@ -392,7 +385,6 @@ TEST(MatrixSumAhead, LoadsTheNextObjectBeforeThisOneIsStored) {
     for (const Function *function : all()) {
         if (function->group != "mam" && function->group != "mamT") continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 3})) {
-            SCOPED_TRACE(function->name + ", order " + std::to_string(order));
             Call call(function->name, order, 4);
             const literal::Place &array = call["src1"];
             call["dst"].moveTo(array.origin + array.objectStride);

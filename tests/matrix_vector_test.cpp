@@ -92,7 +92,6 @@ TEST(MatrixVector, MultipliesSquareMatricesInEveryFormAndGeometry) {
 TEST(MatrixVector, ReadsTheMatrixTransposed) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2, 2);
         for (std::uint32_t n = 0; n < 2; ++n) {
             if (n < call.objectsOf("src1")) call.set("src1", n, {1, 2, 3, 4});
@@ -118,7 +117,6 @@ TEST(MatrixVector, TakesItsWordsInTheOrderOfTheHeader) {
 TEST(MatrixVector, OfLengthOneIsZeroPlusTheProduct) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 1);
         for (const auto &[a, v, expected] : {std::array{3.0, -5.0, -15.0}, std::array{-0.0, 4.0, 0.0}}) {
             call.set("src1", 0, {a});
@@ -356,7 +354,6 @@ TEST(MatrixVectorOfSingleTables, StopsAheadOfAnElementThatIsMissing) {
 TEST(MatrixVectorOfSingleTables, OfTransposedMatricesAreIndexedByTheRows) {
     for (const Function *function : interleaved()) {
         if (function->order != 0 || !isTransposed(*function)) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         tell(call, {3, 2, 2});
         for (std::uint32_t entry = 0; entry < 6; ++entry) call.set("src1", 0, entry / 2, entry % 2, entry + 1);
@@ -416,7 +413,6 @@ TEST(MatrixVectorSums, FollowTheTreeOfTheKernelAndElseRunThroughTheTerms) {
 TEST(MatrixVectorSums, OfTheLastOfFiveElementsAreRoundedInAnotherWay) {
     for (const Function *function : all()) {
         if (!worksInLanes(*function) || function->order != 5) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 5, 2);
         setTerms(call, {0x1p24, 1, 0, 1, 0});
         ASSERT_EQ(call.run(), vonkOk);
@@ -429,7 +425,6 @@ TEST(MatrixVectorSums, OfTheLastOfFiveElementsAreRoundedInAnotherWay) {
 TEST(MatrixVectorSums, BeginAtPlusZeroInCellsAndAtTheFirstProductInLanes) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             setTerms(call, std::vector<double>(order, -0.0));
             ASSERT_EQ(call.run(), vonkOk);
@@ -466,7 +461,6 @@ TEST(MatrixVectorSums, OfDoublesAreRoundedOnceOrAtEveryStepByLayout) {
         if (function->type != Type::real64) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 const SettingScope scope({precision, Rounding::nearest});
                 Call call(function->name, order, 2);
                 std::vector<double> terms(order);

@@ -66,7 +66,6 @@ TEST(Norm, TakesAnyNumberOfObjects) {
     for (const Function *function : all())
         for (std::uint32_t count = 1; function->array() && count <= 9; ++count)
             for (const literal::Geometry geometry : {literal::packed, literal::spread, literal::backward}) {
-                SCOPED_TRACE(function->name + ", count " + std::to_string(count));
                 Call call(function->name, 5, count, geometry);
                 fill(call);
                 ASSERT_EQ(call.run(), vonkOk);
@@ -77,7 +76,6 @@ TEST(Norm, TakesAnyNumberOfObjects) {
 TEST(Norm, OfThreeAndFourIsFive) {
     for (const Function *function : all())
         for (const std::uint32_t size : literal::sizesOf(*function, {2, 11, 20})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, size, 5);
             std::vector<double> vector(call.size(), 0);
             vector[0] = 3;
@@ -184,7 +182,6 @@ TEST(NormByEstimate, TakesItsStepsAndItsTreeInEveryObject) {
         for (std::uint32_t count = 1; count <= 9; ++count)
             for (const literal::Geometry geometry :
                  {literal::packed, literal::spread, literal::Geometry{1, 4, false}}) {
-                SCOPED_TRACE(function->name + ", count " + std::to_string(count));
                 Call call(function->name, 0, count, geometry);
                 std::vector<std::vector<float>> squares(call.count());
                 for (std::uint32_t n = 0; n < call.count(); ++n)
@@ -210,7 +207,6 @@ TEST(NormByRoot, AddsFromLeftToRightUpToTenElements) {
     for (const Function *function : all()) {
         if (function->type != Type::real32 || isEstimated(*function)) continue;
         for (const std::uint32_t size : literal::sizesOf(*function, {3, 4, 6, 10})) {
-            SCOPED_TRACE(function->name + ", size " + std::to_string(size));
             Call call(function->name, size, 6);
             for (std::uint32_t n = 0; n < call.count(); ++n) {
                 std::vector<float> squares;
@@ -318,7 +314,6 @@ TEST(NormOfDoubles, RoundsTheRootToTheCallersPrecisionAndThenToTheStore) {
 TEST(NormOverlap, DoesNoHarmInTheFirstElementOfTheOnlyObject) {
     for (const Function *function : all())
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 10, 20})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, size, 1);
             fill(call);
             call["dst"].moveTo(call["src"].address(0, 0, 0));

@@ -238,7 +238,6 @@ TEST(QrBackSubstitution, SolvesInPlaceOfTheRightHandSide) {
     for (const Function *function : allRegular()) literal::expectInPlaceResults(*function, example, "src2", orders);
     for (const Function *function : allOfRunTimeSize()) {
         if (function->array()) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2, 1, literal::packed, 5);
         call.layOver("src2");
         fill(call);
@@ -309,7 +308,6 @@ TEST(QrBackSubstitution, DividesByTheOnlyElementOfOneRowWithoutAReflection) {
     for (const Function *function : allOfRunTimeSize()) {
         if (isDisplaced(*function) && !isShared(*function)) continue; // looks for its element elsewhere
         const bool narrow = function->type == Type::real32;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 1, 2);
         for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n) call.set("src1", n, {3});
         for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src2", n, {5});
@@ -325,7 +323,6 @@ TEST(QrBackSubstitution, DividesByZeroWithoutAWord) {
     for (const Function *function : allRegular())
         for (const auto &[side, expected] : {std::pair{5.0, infinity}, {-5.0, -infinity}, {0.0, nan}})
             for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 5})) {
-                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                 Call call(function->name, order, 2);
                 std::vector<double> matrix(std::size_t{order} * order);
                 for (std::uint32_t i = 1; i < order; ++i) matrix[i * order + i] = 1;
@@ -360,7 +357,6 @@ TEST(QrBackSubstitutionRounding, FollowsTheRecurrenceAtBothPrecisions) {
     for (const Function *function : all())
         for (const Precision precision : {Precision::bits53, Precision::bits64})
             for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 4, 5, 6, 7})) {
-                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                 Call call(function->name, order, 3, literal::spread);
                 isDisplaced(*function) ? fill(call) : fillWithNumbers(call, order);
                 const SettingScope scope({precision, Rounding::nearest});
@@ -411,7 +407,6 @@ TEST(QrBackSubstitutionRounding, OfDoublesMeetsNothingButWhatIsStored) {
 TEST(QrBackSubstitutionRounding, StartsASumFromZero) {
     for (const Function *function : allRegular())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order);
             std::vector<double> matrix(std::size_t{order} * order);
             for (std::uint32_t i = 0; i < order; ++i) matrix[i * order + i] = 1;
@@ -512,7 +507,6 @@ TEST(QrBackSubstitutionDisplaced, LooksElsewhereInListsOfDoublesAndNowhereElse) 
         if (!isDisplaced(*function)) continue;
         ++displaced;
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2, literal::spread);
             fill(call);
             ASSERT_EQ(call.run(), vonkOk);

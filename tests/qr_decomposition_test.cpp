@@ -222,7 +222,6 @@ TEST(QrDecomposition, TakesItsWordsInTheOrderOfTheHeader) {
 TEST(QrDecomposition, LeavesTheNormOfASingleColumnWithTheOtherSign) {
     for (const Function *function : allOfRunTimeSize())
         for (const double sign : {1.0, -1.0}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 1, 2, literal::spread, 2);
             for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, {3 * sign, 4});
             ASSERT_EQ(call.run(), vonkOk);
@@ -237,7 +236,6 @@ TEST(QrDecomposition, LeavesTheNormOfASingleColumnWithTheOtherSign) {
 TEST(QrDecomposition, CopiesTheOnlyElementOfOneRowAndLeavesTheWorkAlone) {
     for (const Function *function : allOfRunTimeSize())
         for (const double element : {5.0, 0x1p-30, 0.0, -0.0, infinity, nan}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 1, 2);
             for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, {element});
             EXPECT_EQ(call.run(), vonkOk);
@@ -251,7 +249,6 @@ TEST(QrDecomposition, CopiesTheOnlyElementOfOneRowAndLeavesTheWorkAlone) {
 TEST(QrDecomposition, KeepsInTheWorkTheReflectorAndAboveItWhatEarlierOnesLeft) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             std::vector<double> matrix(std::size_t{order} * order);
             for (std::uint32_t i = 0; i < order; ++i) matrix[i * order + i] = 2;
@@ -268,7 +265,6 @@ TEST(QrDecomposition, KeepsInTheWorkTheReflectorAndAboveItWhatEarlierOnesLeft) {
 TEST(QrDecomposition, FinishesEachObjectBeforeItCopiesTheNext) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             call["dst"].moveTo(call["src"].origin + call["src"].objectStride);
             std::vector<double> matrix(std::size_t{order} * order);
@@ -344,7 +340,6 @@ TEST(QrDecompositionTolerance, SparesTheLastColumnOfASquare) {
     for (const Function *function : all())
         for (const double last : {0.0, 0x1p-60, nan})
             for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7})) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order, 2);
                 std::vector<double> matrix(std::size_t{order} * order);
                 for (std::uint32_t i = 0; i < order; ++i) matrix[i * order + i] = i + 1 == order ? last : 1;
@@ -358,7 +353,6 @@ TEST(QrDecompositionTolerance, SparesTheLastColumnOfASquare) {
 TEST(QrDecompositionTolerance, MeetsTheLastColumnOfAHigherMatrix) {
     for (const Function *function : allOfRunTimeSize())
         for (const double last : {0x1p-12, 1.0}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 2, 2, literal::packed, 3);
             for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, {1, 0, 0, 0, 0, last});
             EXPECT_EQ(call.run(), last == 1 ? vonkOk : vonkErrSingular);
@@ -371,7 +365,6 @@ TEST(QrDecompositionTolerance, LetsInfinityPass) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7}))
             for (const bool onDiagonal : {true, false}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order);
                 std::vector<double> matrix(std::size_t{order} * order);
                 for (std::uint32_t i = 0; i < order; ++i) matrix[i * order + i] = 1;
@@ -411,7 +404,6 @@ TEST(QrDecompositionTolerance, RefusesEveryMatrixWiderThanHighAfterAsManyReflect
 TEST(QrDecompositionTolerance, EndsTheCallWithTheObjectsBeforeDoneAndThoseAfterUntouched) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 4, literal::spread);
             example.fill(call);
             const std::vector<double> zeros(std::size_t{order} * order, 0.0);
@@ -433,7 +425,6 @@ TEST(QrDecompositionRounding, OfFloatsIsDoneAtEveryStepAtEveryPrecision) {
         for (const Precision precision : {Precision::bits53, Precision::bits64})
             for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 5, 7}))
                 for (std::uint32_t variant = 0; variant < 5; ++variant) {
-                    SCOPED_TRACE(function->name);
                     Call call(function->name, order);
                     call.set("src", 0, matrixOf(order, order, variant));
                     const Left left = recur(*function, order, order, matrixOf(order, order, variant));

@@ -63,7 +63,6 @@ TEST(TransposeTables, HaveTheirRowLengthsExchanged) {
     std::size_t called = 0;
     for (const Function *function : all()) {
         if (function->order != 0 || !literal::isTabled(*function)) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 2);
         call.pass("cols", 2);
         call.pass("rows", 3);
@@ -134,7 +133,6 @@ TEST(TransposeTables, OfAnArrayAreLookedAtAsFarAsTheSizesCount) {
 // ---- Bits
 
 template <class Bits> void expectBitsMoved(const Function &function, const std::vector<Bits> &patterns) {
-    SCOPED_TRACE(function.name);
     Call call(function.name, 3);
     const std::uint32_t order = call.size();
     const auto patternOf = [&](std::uint32_t i, std::uint32_t j) {
@@ -174,7 +172,6 @@ TEST(TransposeInPlace, GoesElementByElement) {
     std::size_t called = 0;
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2);
         call.layOver("src");
         call.set("src", 0, {1, 2, 3, 4});

@@ -145,7 +145,6 @@ TEST(VectorVector, FollowsTheArithmeticOfInfinitiesNansAndSignedZeros) {
 
 TEST(VectorVector, OverflowsToInfinityAndUnderflowsGradually) {
     for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
         const bool narrow = function->type == Type::real32;
         const double largest = narrow ? std::numeric_limits<float>::max() : std::numeric_limits<double>::max();
         const double smallest = narrow ? 0x1p-149 : 0x1p-1074;
@@ -194,10 +193,7 @@ TEST(VectorVector, RoundsDoublesToTheCallersPrecisionAndThenToTheStore) {
                     if (n < call.objectsOf("src2"))
                         call.set("src2", n, std::vector<double>(size, isDifference(*function) ? -small : small));
                 }
-                {
-                    const SettingScope scope(expectation.setting);
-                    ASSERT_EQ(call.run(), vonkOk);
-                }
+                ASSERT_EQ(call.run(expectation.setting), vonkOk);
                 for (std::uint32_t n = 0; n < call.count(); ++n)
                     literal::expectSame(std::vector<double>(size, expectation.expected), call.get("dst", n), "dst");
             }
@@ -229,10 +225,7 @@ TEST(VectorVector, RoundsFloatsInTheCallersDirection) {
                     call.set("src1", 0, std::vector<double>(size, sign));
                     const double small = sign * 0x1p-24;
                     call.set("src2", 0, std::vector<double>(size, isDifference(*function) ? -small : small));
-                    {
-                        const SettingScope scope(setting);
-                        ASSERT_EQ(call.run(), vonkOk);
-                    }
+                    ASSERT_EQ(call.run(setting), vonkOk);
                     const double expected = sign > 0 ? expectation.positive : expectation.negative;
                     literal::expectSame(std::vector<double>(size, expected), call.get("dst", 0), "dst");
                 }
@@ -394,7 +387,6 @@ TEST(VectorVectorRunTime, SumsUpWhereTheDestinationIsOneElementAhead) {
 TEST(VectorVectorRunTime, SumsUpInEveryLayout) {
     for (const Function *function : all()) {
         if (function->order != 0 || isDifference(*function)) continue;
-        SCOPED_TRACE(function->name);
         constexpr std::uint32_t length = 9;
         Call call(function->name, length);
         fill(call);
@@ -422,7 +414,6 @@ TEST(VectorVectorSingle, IsHeldByFloatsOfFixedSizeInTwoLayoutsAndReadAnewByAllOt
         if (!mixesArrayAndSingle(*function)) continue;
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 4, 13}))
             for (const literal::Geometry geometry : {literal::packed, literal::spread, literal::backward}) {
-                SCOPED_TRACE(function->name + ", size " + std::to_string(size));
                 const bool arrayFirst = function->group == "vav";
                 const char *array = arrayFirst ? "src1" : "src2";
                 const char *single = arrayFirst ? "src2" : "src1";

@@ -52,10 +52,7 @@ inline void expectUniform(const catalogue::Function &function, std::uint32_t siz
         else
             for (std::uint32_t n = 0; n < call.objectsOf(name); ++n)
                 call.set(name, n, std::vector<double>(call.size(), value));
-    {
-        const support::SettingScope scope(setting);
-        ASSERT_EQ(call.run(), vonkOk);
-    }
+    ASSERT_EQ(call.run(setting), vonkOk);
     for (std::uint32_t n = 0; n < call.count(); ++n)
         expectSame(std::vector<double>(call.size(), expected), call.get("dst", n), "object " + std::to_string(n));
 }
