@@ -1,29 +1,12 @@
 // Which arguments are checked, in which order, and what a refused call leaves behind: of every export, by the rule of
 // its section. Who deviates is taken from the table of exceptions. Null pointers come first, then sizes, then entries
 // of tables, then `count`; entries of lists are checked when the object's turn comes.
-#include "support/exceptional.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <map>
-#include <optional>
-#include <string>
-#include <vector>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Kind;
-using catalogue::Operand;
+using namespace literal::names;
 using literal::allMembers;
-using literal::Call;
-using literal::isException;
 
 // ---- The rules of the sections
 

@@ -1,28 +1,11 @@
 // Cholesky back substitution: solutions by hand in every form, the order in which products are taken away, where sums
 // are rounded, and what goes its own way: objects that lead to null are passed over, a count of zero is refused, and
 // sizes may be negative.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <limits>
-#include <utility>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();

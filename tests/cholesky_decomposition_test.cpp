@@ -1,28 +1,11 @@
 // Cholesky decomposition: factors by hand in every form, the test of the pivots and what a failure leaves, where the
 // wide arithmetic is rounded, and the members that go their own way: the first pivot that may be a NaN, strides of
 // whole elements, the count that is a dimension and may be negative.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <limits>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();

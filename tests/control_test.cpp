@@ -1,30 +1,13 @@
 // The floating-point control state is the caller's: every call works under the setting that it finds and leaves both
 // units as they were, whether it succeeds, fails or meets numbers that raise exceptions.
-#include "support/control.h"
-#include "support/exceptional.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <functional>
 #include <immintrin.h>
-#include <limits>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Factors;
+using namespace literal::names;
 using support::MachineState;
-using support::Precision;
-using support::Rounding;
-using support::Setting;
-using support::SettingScope;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();

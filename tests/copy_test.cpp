@@ -1,19 +1,10 @@
 // Copy: every pair of layouts, the sizes that it does not test, the form that reads through the other table, and what
 // becomes of a signalling NaN on the way.
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <cstring>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
+using namespace literal::names;
 
 const std::vector<std::uint32_t> sizes{1, 2, 3, 8, 13};
 

@@ -1,24 +1,10 @@
 // Cross products: numbers by hand in every form, the sign of a zero in the three ways of writing a component, what a
 // destination over a source sees, and what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <limits>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("cross-product"); }
 

@@ -1,32 +1,15 @@
 // Determinants: values by hand in every form, pivots about the tolerance, what a failed pivot leaves, a search in
 // single precision, the associations of order 3, and the accuracy of the orders above.
 #include "support/accuracy.h"
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <cstring>
 #include <initializer_list>
 #include <iostream>
-#include <limits>
-#include <vector>
 #include <xmmintrin.h>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Factors;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();

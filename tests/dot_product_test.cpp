@@ -1,29 +1,12 @@
 // Dot products: numbers by hand in every form, the order of the sum wherever it can be told, where a sum of doubles is
 // rounded on its way, results that lie over their sources, and what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <cstring>
-#include <limits>
 #include <sys/mman.h>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::callWith;
-using literal::wordOf;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("dot-product"); }
 

@@ -1,23 +1,10 @@
 // Extract: dense blocks out of every layout, the ways in which its forms transpose or do not, and the five forms that
 // take their arguments as they are.
-#include "support/exceptional.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <set>
-#include <string>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("extract"); }
 

@@ -1,33 +1,15 @@
 // Frobenius norms: the order in which every form adds its squares, told from all threesomes of elements; its way to the
 // root; matrices of zeros; how far sums reach; and which entries of tables and lists are looked at.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 #include "support/matrix_checks.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <functional>
-#include <limits>
 #include <stdexcept>
-#include <string>
-#include <string_view>
-#include <vector>
 #include <xmmintrin.h>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Layout;
-using catalogue::Type;
-using literal::Call;
+using namespace literal::names;
 using literal::hasLanes;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
 
 std::vector<const Function *> all() { return literal::members("frobenius-norm"); }
 

@@ -1,26 +1,10 @@
 // A matrix times a vector plus a vector: numbers by hand in every form, shapes that need not fit, which entries are
 // looked at and when, the tree in which each kernel adds before the addend joins, and destinations over the addend.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <string>
-#include <vector>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("gaxpy"); }
 

@@ -3,24 +3,11 @@
 // callers have to allow for get their pages for reading only: the displaced look at the last pivot of LU decomposition,
 // the fourth element behind rows of three in some sums of matrices, and the displaced triangle of
 // vonkQRBackSubst_mava_64f in `L`.
-#include "support/control.h"
-#include "support/exceptional.h"
 #include "support/families.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <csetjmp>
 #include <csignal>
-#include <cstring>
-#include <functional>
-#include <map>
-#include <optional>
-#include <set>
 #include <sstream>
 #include <stdexcept>
 #include <sys/mman.h>
@@ -28,11 +15,7 @@
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Kind;
-using catalogue::Layout;
-using literal::Call;
-using literal::Factors;
+using namespace literal::names;
 using literal::Place;
 
 // ---- Memory with guards

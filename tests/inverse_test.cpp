@@ -1,27 +1,13 @@
 // Inverses: values by hand in every form, what each form takes for singular and what it has written by then, the
 // columns that it looks at, entries that it tests or trusts, and how far its results lie from the truth.
 #include "support/accuracy.h"
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
 #include <iostream>
-#include <limits>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 

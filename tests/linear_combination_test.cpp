@@ -1,18 +1,11 @@
 // Linear combinations: numbers by hand in every form, three roundings of their own, the long form at every alignment
 // and overlap, which forms hold the single vector, and what is tested in which order.
+#include "support/family_test.h"
 #include "support/vector_checks.h"
-
-#include <limits>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::callWith;
-using literal::wordOf;
-using support::Precision;
-using support::Rounding;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("linear-combination"); }
 

@@ -1,20 +1,10 @@
 // LoadIdentity: true identities for one object, the ones that run on over all objects, strides that are replaced, and
 // signed sizes.
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <cstring>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("identity"); }
 

@@ -1,34 +1,12 @@
 // LU back substitution: solutions by hand in every form, where sums are rounded and where they are not, what the sweeps
 // read when `dst` lies over the right-hand side, and the members that go their own way: the ignored word of `mva` and
 // the columns 4 bytes apart.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <bit>
-#include <cmath>
-#include <cstring>
-#include <limits>
-#include <numeric>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Kind;
-using catalogue::Type;
-using literal::Call;
-using literal::Factors;
-using literal::Geometry;
+using namespace literal::names;
 using literal::hasColumnsFourBytesApart;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 

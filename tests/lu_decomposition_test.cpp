@@ -1,29 +1,11 @@
 // LU decomposition: factors and pivots by hand in every form, the tolerance, the states that failures leave, and the
 // members that go their own way: the displaced look at the last pivot, the search over NaNs, the width of the
 // multiplier.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <limits>
-#include <numeric>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Factors;
-using literal::Geometry;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();

@@ -1,27 +1,11 @@
 // Matrices times a constant: numbers by hand in every form, shapes, the roads for aligned and unaligned operands, and
 // what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 #include "support/matrix_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <string>
-#include <vector>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Operand;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("matrix-constant"); }
 

@@ -1,32 +1,11 @@
 // Products of matrices: numbers by hand in every form, the shapes that each group accepts and what it makes of them,
 // which entries are looked at and when, in which order terms are added and rounded, and what a destination over a
 // source comes to.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <map>
-#include <set>
-#include <string>
-#include <vector>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Layout;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("matrix-product"); }
 

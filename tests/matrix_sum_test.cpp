@@ -1,31 +1,13 @@
 // Sums and differences of matrices: numbers by hand in every form, the three differences that make elements of the
 // wrong ones, the forms that run one object ahead and what they do for no objects, the stride that is taken from the
 // other operand, what is held, and what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 #include "support/matrix_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <limits>
-#include <string>
-#include <vector>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Operand;
-using catalogue::Type;
-using literal::Call;
+using namespace literal::names;
 using literal::hasLanes;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
 
 std::vector<const Function *> all() { return literal::members("matrix-matrix"); }
 

@@ -1,29 +1,11 @@
 // Products of matrices and vectors: numbers by hand in every form, the shapes that plain and transposed forms accept,
 // which entries are looked at and when, the tree in which each kernel adds, and destinations over the vector and over
 // operands that serve all objects.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <map>
-#include <string>
-#include <vector>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("matrix-vector"); }
 

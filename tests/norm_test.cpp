@@ -1,30 +1,13 @@
 // Euclidean norms: numbers by hand in every form, the exact root and the root by estimate with what the latter makes of
 // zeros and infinities, the order of the sums, results that lie over their sources, and what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <cstring>
-#include <limits>
 #include <sys/mman.h>
 #include <xmmintrin.h>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::callWith;
-using literal::wordOf;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();

@@ -1,32 +1,11 @@
 // QR back substitution: solutions by hand and by the plain recurrence in every form, least squares with what is left
 // over in the work block, where doubles are rounded, the block copy of vonkQRBackSubst_mv_32f, and the members that go
 // their own way: the word that nobody reads, and the lists of doubles that look for their matrix elsewhere.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstring>
-#include <functional>
-#include <limits>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Kind;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();

@@ -1,18 +1,11 @@
 // Saxpy: numbers by hand in every form, a product that is rounded before the sum, the long form at every alignment and
 // overlap, the few forms that hold the single vector where all is aligned, and what is tested in which order.
+#include "support/family_test.h"
 #include "support/vector_checks.h"
-
-#include <limits>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::callWith;
-using literal::wordOf;
-using support::Precision;
-using support::Rounding;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("saxpy"); }
 

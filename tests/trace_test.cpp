@@ -1,27 +1,12 @@
 // Traces: numbers by hand in every form, which forms begin with a zero and which round on the way, the partial sums
 // that stand in the result, and which entries of a table are looked at.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 #include "support/matrix_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <string>
-#include <vector>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
+using namespace literal::names;
 using literal::hasLanes;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
 
 std::vector<const Function *> all() { return literal::members("trace"); }
 

@@ -1,23 +1,11 @@
 // Transposes: numbers by hand in every form, the tables whose row lengths stand exchanged, bits that no arithmetic may
 // touch, calls in place, and what is tested in which order.
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 #include "support/matrix_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <string>
-#include <vector>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Operand;
-using catalogue::Type;
-using literal::Call;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("transpose"); }
 

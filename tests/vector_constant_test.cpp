@@ -1,18 +1,11 @@
 // Vectors and a constant: numbers by hand in every form, which side of a difference the constant stands on, the long
 // forms at every alignment and overlap, roundings, and what is tested in which order.
+#include "support/family_test.h"
 #include "support/vector_checks.h"
-
-#include <limits>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::callWith;
-using literal::wordOf;
-using support::Precision;
-using support::Rounding;
+using namespace literal::names;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
