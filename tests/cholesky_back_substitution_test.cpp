@@ -1,39 +1,16 @@
 // Cholesky back substitution: solutions by hand in every form, the order in which products are taken away, where sums
 // are rounded, and what goes its own way: objects that lead to null are passed over, a count of zero is refused, and
 // sizes may be negative.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <limits>
-#include <utility>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
 std::vector<const Function *> all() { return literal::members("cholesky-back-substitution"); }
-
-std::vector<const Function *> allArrays() {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [](const Function *function) { return !function->array(); });
-    return found;
-}
 
 std::vector<const Function *> allOf(Type type) {
     std::vector<const Function *> found = all();
@@ -42,7 +19,6 @@ std::vector<const Function *> allOf(Type type) {
 }
 
 bool isInTable(const Function &function) { return catalogue::isTable(function.operands[0].layout); }
-bool isInList(const Function &function) { return catalogue::isList(function.operands[0].layout); }
 bool isShared(const Function &function) { return function.group == "mva"; } // one matrix for all right-hand sides
 
 const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
@@ -85,8 +61,6 @@ void expectDone(Call &call, std::uint32_t n) {
 }
 
 const literal::Example example{fill, expectDone};
-
-TEST(CholeskyBackSubstitution, HasAHundredAndFiftyForms) { EXPECT_EQ(all().size(), 150U); }
 
 TEST(CholeskyBackSubstitution, SolvesInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
@@ -147,7 +121,6 @@ TEST(CholeskyBackSubstitution, FollowsNoPointerAboveTheDiagonal) {
         if (!isInTable(*function)) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5}))
             for (const std::uintptr_t garbage : {std::uintptr_t{0}, ~std::uintptr_t{0}}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order, 2);
                 fill(call);
                 for (std::uint32_t i = 0; i < order; ++i)
@@ -164,7 +137,6 @@ TEST(CholeskyBackSubstitution, MakesZerosOfReciprocalsOfZeroAndNansOfNansWithout
     for (const Function *function : all())
         for (const double reciprocal : {0.0, nan, infinity})
             for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order, 2);
                 fill(call);
                 for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n)
@@ -256,7 +228,6 @@ TEST(CholeskyBackSubstitutionSums, OfDoublesAreRoundedWhenStoredOnly) {
                 for (const Precision precision : {Precision::bits53, Precision::bits64}) {
                     const auto terms = static_cast<std::uint32_t>(expectation.coefficients.size());
                     if (order <= terms) continue;
-                    SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                     Call call(function->name, order);
                     for (std::uint32_t i = 0; i < order; ++i)
                         for (std::uint32_t j = 0; j <= i; ++j) call.set("src1", 0, i, j, i == j ? 1 : 0);
@@ -312,7 +283,6 @@ TEST(CholeskyBackSubstitutionSums, OfFloatsAreRoundedAtEveryStep) {
     for (const Function *function : allOf(Type::real32))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 4, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 const SettingScope scope({precision, Rounding::nearest});
                 Call call(function->name, order);
                 for (std::uint32_t i = 0; i < order; ++i)
@@ -342,7 +312,6 @@ TEST(CholeskyBackSubstitution, MultipliesTheOnlyElementOfOrderOneTwice) {
         const double third = narrow ? static_cast<double>(1.0F / 3) : 1.0 / 3;
         int telling = 0;
         for (int side = 1; side <= 40; ++side) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 1);
             call.set("src1", 0, {third});
             call.set("src2", 0, {static_cast<double>(side)});
@@ -366,82 +335,6 @@ TEST(CholeskyBackSubstitution, MultipliesTheOnlyElementOfOrderOneTwice) {
 
 // ---- What is tested, and when
 
-TEST(CholeskyBackSubstitutionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(CholeskyBackSubstitutionChecks, RefuseOrderZero) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(CholeskyBackSubstitutionChecks, RefuseNoObjects) {
-    for (const Function *function : allArrays()) {
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        fill(call);
-        literal::blankEntries(call);
-        call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
-TEST(CholeskyBackSubstitutionChecks, TakeANegativeCountForNoneWithoutAWord) {
-    for (const Function *function : allArrays())
-        for (const std::uint32_t count : {0x80000000U, 0xffffffffU}) {
-            SCOPED_TRACE(function->name);
-            Call call(function->name, 3, 2);
-            fill(call);
-            call.pass("count", count);
-            EXPECT_EQ(call.run(), vonkOk);
-            EXPECT_TRUE(call.changedNothing());
-        }
-}
-
-// With strides between elements.
-TEST(CholeskyBackSubstitutionChecks, TakeANegativeOrderForNoneWithoutAWordInStridedForms) {
-    std::size_t strided = 0;
-    for (const Function *function : all()) {
-        if ((function->layout != "S2" && function->layout != "LS2") || function->order != 0) continue;
-        for (const std::uint32_t order : {0x80000000U, 0xffffffffU}) {
-            SCOPED_TRACE(function->name);
-            ++strided;
-            Call call(function->name, 3, 2);
-            fill(call);
-            call.pass("order", order);
-            EXPECT_EQ(call.run(), vonkOk);
-            EXPECT_TRUE(call.changedNothing());
-            if (!function->array()) continue;
-            call.pass("count", 0);
-            EXPECT_EQ(call.run(), vonkErrSize);
-        }
-    }
-    EXPECT_EQ(strided, 2U * 2U * 5U); // orders, types; one S2 without arrays, two of each layout with
-}
-
-// What is compared with null is the sum of entry and shift; the other objects are solved, and the status is none the
-// worse.
-TEST(CholeskyBackSubstitutionChecks, PassOverAnObjectThatLeadsToNull) {
-    for (const Function *function : allArrays()) {
-        if (!isInList(*function)) continue;
-        for (const catalogue::Operand &operand : function->operands)
-            for (std::uint32_t null = 0; operand.array && null < 3; ++null)
-                for (const std::uint32_t order : literal::sizesOf(*function, {1, 3})) {
-                    SCOPED_TRACE(function->name + ", " + operand.name);
-                    Call call(function->name, order, 3);
-                    fill(call);
-                    literal::Place &place = call[operand.name];
-                    std::byte *const kept = place.entries[null];
-                    place.entries[null] = reinterpret_cast<std::byte *>(-std::intptr_t{place.shift});
-                    EXPECT_EQ(call.run(), vonkOk);
-                    place.entries[null] = kept;
-                    for (std::uint32_t n = 0; n < 3; ++n)
-                        if (n == null) EXPECT_FALSE(call.changedObject(n));
-                        else expectDone(call, n);
-                }
-    }
-}
-
 // The object that an array has at address 0, here the last.
 TEST(CholeskyBackSubstitutionChecks, PassOverTheObjectAtAddressZero) {
     constexpr std::int32_t apart = 1 << 24;
@@ -456,20 +349,6 @@ TEST(CholeskyBackSubstitutionChecks, PassOverTheObjectAtAddressZero) {
                   vonkOk);
         for (std::size_t n = 0; n < count; ++n)
             for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(solutions[3 * n + i], n + 1 < count ? sides[n][i] : -1);
-    }
-}
-
-TEST(CholeskyBackSubstitutionChecks, FollowANullEntryThatTheShiftLeadsSomewhere) {
-    for (const Function *function : allArrays()) {
-        if (!isInTable(*function) && !isInList(*function)) continue;
-        for (const catalogue::Operand &operand : function->operands) {
-            if (isInList(*function) && !operand.array) continue;
-            SCOPED_TRACE(function->name + ", " + operand.name);
-            Call call(function->name, 3, 2);
-            fill(call);
-            EXPECT_EQ(literal::runThroughNull(call, operand.name, 0), vonkOk);
-            for (std::uint32_t n = 0; n < 2; ++n) expectDone(call, n);
-        }
     }
 }
 

@@ -1,28 +1,11 @@
 // Cholesky decomposition: factors by hand in every form, the test of the pivots and what a failure leaves, where the
 // wide arithmetic is rounded, and the members that go their own way: the first pivot that may be a NaN, strides of
 // whole elements, the count that is a dimension and may be negative.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <limits>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -43,7 +26,6 @@ std::vector<const Function *> allOf(Type type) {
 }
 
 bool isInTable(const Function &function) { return catalogue::isTable(function.operands[0].layout); }
-bool isInList(const Function &function) { return catalogue::isList(function.operands[0].layout); }
 
 bool hasElementStrides(const Function &function) { return function.layout == "S2" || function.layout == "LS2"; }
 
@@ -100,8 +82,6 @@ void expectDone(Call &call, std::uint32_t n) { expectFactor(call, n, n, call.siz
 
 const literal::Example example{fill, expectDone};
 
-TEST(CholeskyDecomposition, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 TEST(CholeskyDecomposition, LeavesTheLowerFactorWithReciprocalsOnItsDiagonalInEveryForm) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders, geometries);
 }
@@ -127,7 +107,6 @@ TEST(CholeskyDecomposition, FollowsNoPointerAboveTheDiagonal) {
         if (!isInTable(*function)) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7}))
             for (const std::uintptr_t garbage : {std::uintptr_t{0}, std::uintptr_t{64}, ~std::uintptr_t{0}}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order, 2);
                 fill(call);
                 std::vector<std::vector<std::byte *>> kept;
@@ -149,7 +128,6 @@ TEST(CholeskyDecomposition, FollowsNoPointerAboveTheDiagonal) {
 TEST(CholeskyDecomposition, FinishesEachObjectBeforeTheNext) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 3, 7})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             call["dst"].moveTo(call["src"].origin + call["src"].objectStride);
             for (std::uint32_t i = 0; i < order; ++i)
@@ -230,7 +208,6 @@ TEST(CholeskyDecompositionPivots, MayBeNoNumberAtFirstForDoublesOfOrderThreeAndF
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 4})) {
             if (!letsNanPass(*function, order, 0)) continue;
             ++passing;
-            SCOPED_TRACE(function->name + ", order " + std::to_string(order));
             Call call(function->name, order, 2);
             fill(call);
             call.set("src", 0, 0, 0, nan);
@@ -264,7 +241,6 @@ TEST(CholeskyDecompositionPivots, FailAtExactlyZeroWithTheRowLeftOfThemStored) {
 TEST(CholeskyDecompositionPivots, EndTheCallWithTheObjectsBeforeDoneAndThoseAfterUntouched) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5, 7})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 4, geometries[1]);
             fill(call);
             call.set("src", 2, 1, 1, -1);
@@ -285,7 +261,6 @@ TEST(CholeskyDecompositionRounding, OfAFloatReciprocalIsOneStepButInTablesTwo) {
     for (const Function *function : allOf(Type::real32))
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                 Call call(function->name, order);
                 for (std::uint32_t i = 0; i < order; ++i)
                     for (std::uint32_t j = 0; j <= i; ++j) call.set("src", 0, i, j, i == j ? 7 : 0);
@@ -377,7 +352,6 @@ TEST(CholeskyDecompositionRounding, OfDoublesBehindAPairShowsInTheRange) {
             for (const std::uint32_t order : literal::sizesOf(*function, {4, 5, 7}))
                 for (const std::uint32_t column : {1U, 2U}) {
                     if (order < 4) continue;
-                    SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                     Call call(function->name, order);
                     for (std::uint32_t i = 0; i < order; ++i)
                         for (std::uint32_t j = 0; j <= i; ++j) call.set("src", 0, i, j, i == j ? 1 : 0);
@@ -457,30 +431,9 @@ TEST(CholeskyDecompositionStrides, AreTakenInBytesInAllOthers) {
 
 // ---- What is tested, and when
 
-TEST(CholeskyDecompositionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(CholeskyDecompositionChecks, RefuseOrderZero) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(CholeskyDecompositionChecks, RefuseNoObjects) {
-    for (const Function *function : allArrays()) {
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        fill(call);
-        literal::blankEntries(call);
-        call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
 TEST(CholeskyDecompositionChecks, TakeANegativeCountForNoneWithoutAWordButInTables) {
     for (const Function *function : allArrays())
         for (const std::uint32_t count : {0x80000000U, 0xffffffffU}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 2);
             fill(call);
             call.set("src", 1, 0, 0, -1); // object 1 fails, however many there are
@@ -489,27 +442,6 @@ TEST(CholeskyDecompositionChecks, TakeANegativeCountForNoneWithoutAWordButInTabl
             if (isInTable(*function)) expectDone(call, 0);
             else EXPECT_TRUE(call.changedNothing());
         }
-}
-
-// What is compared with null is the sum of entry and shift, when the object's turn comes.
-TEST(CholeskyDecompositionChecks, StopAtAnObjectThatLeadsToNull) {
-    for (const Function *function : allArrays()) {
-        if (!isInList(*function)) continue;
-        for (const char *operand : {"src", "dst"})
-            for (std::uint32_t null = 0; null < 3; ++null)
-                for (const std::uint32_t order : literal::sizesOf(*function, {2, 3})) {
-                    SCOPED_TRACE(function->name + ", " + operand);
-                    Call call(function->name, order, 3);
-                    fill(call);
-                    literal::Place &place = call[operand];
-                    std::byte *const kept = place.entries[null];
-                    place.entries[null] = reinterpret_cast<std::byte *>(-std::intptr_t{place.shift});
-                    EXPECT_EQ(call.run(), vonkErrNullPtr);
-                    place.entries[null] = kept;
-                    for (std::uint32_t n = 0; n < null; ++n) expectDone(call, n);
-                    for (std::uint32_t n = null; n < 3; ++n) EXPECT_FALSE(call.changedObject(n));
-                }
-    }
 }
 
 // The object that an array has at address 0, here the last.
@@ -525,21 +457,6 @@ TEST(CholeskyDecompositionChecks, StopAtTheObjectAtAddressZero) {
                   vonkErrNullPtr);
         for (std::size_t n = 0; n < count; ++n)
             for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(factors[9 * n + 4 * i], n + 1 < count ? 0.5F : -1);
-    }
-}
-
-TEST(CholeskyDecompositionChecks, FollowANullEntryThatTheShiftLeadsSomewhere) {
-    for (const Function *function : allArrays()) {
-        for (const char *operand : {"src", "dst"})
-            for (const std::size_t entry : {0, 1}) {
-                if (isInTable(*function) && entry == 1) continue; // lies above the diagonal
-                if (!isInTable(*function) && !isInList(*function)) continue;
-                SCOPED_TRACE(function->name + ", " + operand);
-                Call call(function->name, 3, 2);
-                fill(call);
-                EXPECT_EQ(literal::runThroughNull(call, operand, entry), vonkOk);
-                for (std::uint32_t n = 0; n < 2; ++n) expectDone(call, n);
-            }
     }
 }
 

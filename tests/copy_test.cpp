@@ -1,19 +1,10 @@
 // Copy: every pair of layouts, the sizes that it does not test, the form that reads through the other table, and what
 // becomes of a signalling NaN on the way.
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <cstring>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
+using namespace literal::names;
 
 const std::vector<std::uint32_t> sizes{1, 2, 3, 8, 13};
 
@@ -47,8 +38,6 @@ void fill(Call &call) {
 void expectDone(Call &call, std::uint32_t n) { EXPECT_EQ(call.get("dst", n), numbers(call, n)); }
 
 const literal::Example example{fill, expectDone};
-
-TEST(Copy, HasThirtySixForms) { EXPECT_EQ(all().size(), 36U); }
 
 TEST(Copy, MovesEveryElementInEveryFormAndGeometry) {
     for (const Function *function : usual()) literal::expectResults(*function, example, sizes);
@@ -85,50 +74,12 @@ TEST(Copy, CountsPositionsByTheColumnsOfTheCall) {
     }
 }
 
-// ---- Arguments
-
-TEST(Copy, CatchesNullPointersFirst) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(Copy, RefusesVectorsWithoutElementsAndIgnoresMatricesWithoutThem) {
-    for (const Function *function : all()) {
-        if (function->group == "va") {
-            literal::expectZeroSizeIsRefused(*function, example);
-            continue;
-        }
-        for (const char *size : {"cols", "rows"}) {
-            SCOPED_TRACE(function->name + ", no " + size);
-            Call call(function->name, 3, 2);
-            fill(call);
-            literal::blankEntries(call);
-            call.pass(size, 0);
-            EXPECT_EQ(call.run(), vonkOk);
-            EXPECT_TRUE(call.changedNothing());
-        }
-    }
-}
-
-// Nor does it look at the entries of a table ahead of the work.
-TEST(Copy, DoesNothingForNoObjectsWhateverTheEntriesAre) {
-    for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        fill(call);
-        literal::blankEntries(call);
-        call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkOk);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
 // ---- The form that reads through the wrong table
 
 TEST(CopyOfVectorsBetweenTables, ReadsThroughTheTableOfTheDestination) {
     for (const Function *function : all()) {
         if (!readsThroughDestination(*function)) continue;
         for (const bool nullEntries : {false, true}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 2, literal::spread);
             fill(call);
             literal::Place &destination = call["dst"];
@@ -146,14 +97,6 @@ TEST(CopyOfVectorsBetweenTables, ReadsThroughTheTableOfTheDestination) {
     }
 }
 
-TEST(CopyOfVectorsBetweenTables, AsksForTheTableThatItDoesNotRead) {
-    for (const char *name : {"vonkCopy_va_32f_PP", "vonkCopy_va_64f_PP"}) {
-        Call call(name, 3);
-        call.pass("src", 0);
-        EXPECT_EQ(call.run(), vonkErrNullPtr);
-    }
-}
-
 TEST(CopyOfMatricesBetweenTables, ReadsThroughItsOwnTable) {
     for (const char *name : {"vonkCopy_ma_32f_PP", "vonkCopy_ma_64f_PP"})
         literal::expectResults(literal::function(name), example, {2, 3});
@@ -168,7 +111,6 @@ TEST(Copy, MakesSignallingDoublesQuietAndLeavesFloatsAlone) {
     constexpr std::uint64_t quiet = 0xfff8000000012345;
     constexpr std::uint32_t signallingFloat = 0xff812345;
     for (const Function *function : usual()) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2, 2);
         fill(call);
         const bool wide = function->type == Type::real64;

@@ -1,24 +1,10 @@
 // Cross products: numbers by hand in every form, the sign of a zero in the three ways of writing a component, what a
 // destination over a source sees, and what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <limits>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("cross-product"); }
 
@@ -69,8 +55,6 @@ const literal::Example example{fill, expectDone};
 
 // ---- Results
 
-TEST(CrossProduct, HasFortyTwoForms) { EXPECT_EQ(all().size(), 42U); }
-
 TEST(CrossProduct, IsRightInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, {3});
 }
@@ -79,7 +63,6 @@ TEST(CrossProduct, TakesAnyNumberOfObjects) {
     for (const Function *function : all())
         for (std::uint32_t count = 1; function->array() && count <= 9; ++count)
             for (const literal::Geometry geometry : {literal::packed, literal::Geometry{1, 4, false}}) {
-                SCOPED_TRACE(function->name + ", count " + std::to_string(count));
                 Call call(function->name, 3, count, geometry);
                 fill(call);
                 ASSERT_EQ(call.run(), vonkOk);
@@ -144,10 +127,7 @@ TEST(CrossProductZeros, FollowTheRoundingWhereProductsAreEqual) {
         for (const Rounding rounding : {Rounding::nearest, Rounding::up, Rounding::down}) {
             Call call(function->name, 3, 5);
             setAll(call, {1, 2, 3}, {2, 4, 6});
-            {
-                const SettingScope scope({Precision::bits64, rounding});
-                ASSERT_EQ(call.run(), vonkOk);
-            }
+            ASSERT_EQ(call.run({Precision::bits64, rounding}), vonkOk);
             const double zero = rounding == Rounding::down ? -0.0 : 0.0;
             for (std::uint32_t n = 0; n < call.count(); ++n) expectVector(call, n, {zero, zero, zero});
         }
@@ -170,13 +150,9 @@ TEST(CrossProductRounding, OfDoublesIsToTheCallersPrecision) {
     for (const Function *function : all()) {
         if (function->type != Type::real64) continue;
         for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 5);
             setAll(call, {0, 1 + 0x1p-30, 1}, {0, 1 + 0x1p-29, 1 + 0x1p-30});
-            {
-                const SettingScope scope({precision, Rounding::nearest});
-                ASSERT_EQ(call.run(), vonkOk);
-            }
+            ASSERT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
             for (std::uint32_t n = 0; n < call.count(); ++n)
                 EXPECT_EQ(call.get("dst", n, 0, 0), precision == Precision::bits53 ? 0 : 0x1p-60);
         }
@@ -228,7 +204,6 @@ TEST(CrossProductOverlap, ShowsEachComponentToTheNextWhereTheSubtrahendIsNegated
         ++forms;
         const bool arrayFirst = function->group == "vav";
         for (const literal::Geometry geometry : {literal::packed, literal::spread, literal::backward}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 2, geometry);
             call.layOver(arrayFirst ? "src1" : "src2");
             setAll(call, {1, 2, 3}, {4, 5, 7});
@@ -240,24 +215,6 @@ TEST(CrossProductOverlap, ShowsEachComponentToTheNextWhereTheSubtrahendIsNegated
         }
     }
     EXPECT_EQ(forms, 2U * 4U + 2U * 6U);
-}
-
-// ---- What is tested, and when
-
-TEST(CrossProductChecks, CatchEveryNullPointerAheadOfTheCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(CrossProductChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(CrossProductChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(CrossProductChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
 }
 
 } // namespace

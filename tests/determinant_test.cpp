@@ -1,32 +1,15 @@
 // Determinants: values by hand in every form, pivots about the tolerance, what a failed pivot leaves, a search in
 // single precision, the associations of order 3, and the accuracy of the orders above.
 #include "support/accuracy.h"
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <cstring>
 #include <initializer_list>
 #include <iostream>
-#include <limits>
-#include <vector>
 #include <xmmintrin.h>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Factors;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -124,29 +107,14 @@ void expectDone(Call &call, std::uint32_t n) {
 const literal::Example example{fill, expectDone};
 const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
 
-TEST(Determinant, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 TEST(Determinant, IsWorkedOutInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
-}
-
-TEST(Determinant, TestsPointersSizesEntriesAndCountInThisOrder) {
-    for (const Function *function : all()) {
-        literal::expectNullPointersAreCaught(*function, example);
-        literal::expectZeroSizeIsRefused(*function, example);
-        literal::expectCountZeroDoesNothing(*function, example);
-        const bool copies = function->order == 0 && function->layout == "P" && !function->array();
-        if (copies) literal::expectNullPositionsAreCaughtInTheCopy(*function, example);
-        else literal::expectNullPositionsAreCaughtUpFront(*function, example);
-        literal::expectNullObjectsStopTheWalk(*function, example);
-    }
 }
 
 // Its results are packed, and may lie in the source: that is read before an object's cell is written.
 TEST(Determinant, MayBeWrittenIntoItsSource) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order);
             fill(call);
             std::byte *const cell = call["src"].address(0, 0, order - 1);
@@ -158,7 +126,6 @@ TEST(Determinant, MayBeWrittenIntoItsSource) {
 
 TEST(Determinant, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTheRestAlone) {
     for (const Function *function : ofOrder(0)) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 5, 3);
         fill(call);
         literal::Block &scratch = call.block("scratch");
@@ -221,7 +188,6 @@ TEST(DeterminantPivots, ThatFailLeaveZerosOfEitherSignOrNaNsInArrays) {
 TEST(DeterminantPivots, ThatFailLeaveTheOtherObjectsAlone) {
     for (const Function *function : ofOrder(0)) {
         if (!function->array()) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 4, 3);
         fill(call);
         call.set("src", 1, Matrix(16, 0));

@@ -1,29 +1,12 @@
 // Dot products: numbers by hand in every form, the order of the sum wherever it can be told, where a sum of doubles is
 // rounded on its way, results that lie over their sources, and what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <cstring>
-#include <limits>
 #include <sys/mman.h>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::callWith;
-using literal::wordOf;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("dot-product"); }
 
@@ -53,8 +36,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(DotProduct, HasAHundredAndFiftyForms) { EXPECT_EQ(all().size(), 150U); }
-
 TEST(DotProduct, AddsTheProductsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, lengths);
 }
@@ -63,7 +44,6 @@ TEST(DotProduct, AddsTheProductsInEveryFormAndGeometry) {
 TEST(DotProduct, TakesAnyNumberOfObjects) {
     for (const Function *function : all())
         for (std::uint32_t count = 1; function->array() && count <= 9; ++count) {
-            SCOPED_TRACE(function->name + ", count " + std::to_string(count));
             Call call(function->name, 5, count);
             fill(call);
             ASSERT_EQ(call.run(), vonkOk);
@@ -95,7 +75,6 @@ TEST(DotProduct, LetsNansAndInfinitiesThrough) {
 TEST(DotProduct, StartsFromPlusZeroAtRunTimeSizeAndFromTheFirstProductAtFixedSize) {
     for (const Function *function : all())
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 2, 10, 11, 40})) {
-            SCOPED_TRACE(function->name + ", size " + std::to_string(size));
             Call call(function->name, size, 5);
             for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n)
                 call.set("src1", n, std::vector<double>(size, -0.0));
@@ -130,7 +109,6 @@ TEST(DotProductOrder, IsFromLeftToRightButForFoursOfFloatsBesideOneVector) {
             function->name == "vonkDotProduct_vav_32f_4x1" || function->name == "vonkDotProduct_vav_32f_4x1_L";
         inPairs += pairs;
         for (std::uint32_t count = 1; count <= 9; ++count) {
-            SCOPED_TRACE(function->name + ", count " + std::to_string(count));
             Call call(function->name, 0, count);
             std::vector<double> products(call.size(), 1);
             products[0] = big;
@@ -173,7 +151,6 @@ TEST(DotProductOrder, OfThreesOfFloatsIsFromLeftToRightEverywhereElse) {
     for (const Function *function : all()) {
         if (function->type != Type::real32 || function->order != 3) continue;
         if (function->name == "vonkDotProduct_vava_32f_3x1") continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 0, 9, {1, 4, false}); // 16 bytes from object to object where it is free
         setProducts(call, {big, 1, -big});
         ASSERT_EQ(call.run(), vonkOk);
@@ -283,17 +260,13 @@ TEST(DotProductOfDoubles, RoundsTheSumAheadOfAnOddTermInSomeFormsOfRunTimeSize) 
         passing += passesThroughDouble(*function);
         for (const std::uint32_t size : literal::sizesOf(*function, {3, 5, 4, 6}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name + ", size " + std::to_string(size));
                 Call call(function->name, size, 5);
                 std::vector<double> products(call.size(), 0);
                 products[0] = 1;
                 products[1] = 0x1p-54;
                 products.back() = -1; // the odd term, or the second of the last pair
                 setProducts(call, products);
-                {
-                    const SettingScope scope({precision, Rounding::nearest});
-                    ASSERT_EQ(call.run(), vonkOk);
-                }
+                ASSERT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
                 const bool isRounded =
                     precision == Precision::bits53 || (passesThroughDouble(*function) && size % 2 != 0);
                 for (std::uint32_t n = 0; n < call.count(); ++n)
@@ -309,7 +282,6 @@ TEST(DotProductOfDoubles, LeavesProductsAsWideAsTheCallersPrecision) {
         if (function->type != Type::real64) continue;
         for (const std::uint32_t size : literal::sizesOf(*function, {2, 4}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, size, 2);
                 std::vector<double> first(size, 0);
                 std::vector<double> second(size, 0);
@@ -318,10 +290,7 @@ TEST(DotProductOfDoubles, LeavesProductsAsWideAsTheCallersPrecision) {
                 second[1] = 1 + 0x1p-29;
                 for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n) call.set("src1", n, first);
                 for (std::uint32_t n = 0; n < call.objectsOf("src2"); ++n) call.set("src2", n, second);
-                {
-                    const SettingScope scope({precision, Rounding::nearest});
-                    ASSERT_EQ(call.run(), vonkOk);
-                }
+                ASSERT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
                 for (std::uint32_t n = 0; n < call.count(); ++n)
                     EXPECT_EQ(call.get("dst", n, 0, 0), precision == Precision::bits53 ? 0 : 0x1p-60);
             }
@@ -333,7 +302,6 @@ TEST(DotProductOfFloats, RoundsEveryProduct) {
     for (const Function *function : all()) {
         if (function->type != Type::real32) continue;
         for (const std::uint32_t size : literal::sizesOf(*function, {2, 10, 11, 24})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, size, 5);
             std::vector<double> first(size, 0);
             std::vector<double> second(size, 0);
@@ -369,59 +337,5 @@ TEST(DotProductOverlap, DoesNoHarmInTheFirstElementOfTheOnlyObject) {
 }
 
 // ---- What is tested, and when
-
-TEST(DotProductChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(DotProductChecks, RefuseLengthZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(DotProductChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(DotProductChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-bool trustsEntries(const Function &function) {
-    return function.name == "vonkDotProduct_vav_32f_3x1_L" || function.name == "vonkDotProduct_vav_32f_4x1_L";
-}
-
-TEST(DotProductChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all())
-        if (!trustsEntries(*function)) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-// A null entry plus its shift is an address like any other: here one that was mapped low enough for a shift to reach.
-TEST(DotProductChecks, FollowNullEntriesInTwoListsOfFloats) {
-    void *const page =
-        mmap(nullptr, 4096, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_32BIT, -1, 0); // below 2^31
-    ASSERT_NE(page, MAP_FAILED);
-    std::size_t forms = 0;
-    for (const Function *function : all()) {
-        if (!trustsEntries(*function)) continue;
-        ++forms;
-        for (std::uint32_t count = 1; count <= 5; ++count)
-            for (std::uint32_t entry = 0; entry < count; ++entry) {
-                SCOPED_TRACE(function->name + ", entry " + std::to_string(entry) + " of " + std::to_string(count));
-                Call call(function->name, 0, count);
-                literal::Place &place = call["src1"];
-                const auto shift = static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(page));
-                for (std::byte *&address : place.entries) address += place.shift - std::ptrdiff_t{shift};
-                place.shift = shift;
-                fill(call);
-                place.entries[entry] = nullptr;
-                for (std::uint32_t j = 0; j < call.size(); ++j)
-                    call.setAt(static_cast<std::byte *>(page) + std::size_t{4} * j, left(entry, j));
-                ASSERT_EQ(call.run(), vonkOk);
-                literal::expectAllDone(call, example);
-            }
-    }
-    EXPECT_EQ(forms, 2U);
-    munmap(page, 4096);
-}
 
 } // namespace

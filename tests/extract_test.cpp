@@ -1,22 +1,10 @@
 // Extract: dense blocks out of every layout, the ways in which its forms transpose or do not, and the five forms that
 // take their arguments as they are.
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <set>
-#include <string>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("extract"); }
 
@@ -72,7 +60,6 @@ TEST(Extract, GathersEveryElementInEveryFormAndGeometry) {
         for (const Geometry geometry : {literal::packed, literal::spread, literal::backward})
             for (const std::uint32_t size : {1U, 2U, 3U, 9U})
                 for (const std::uint32_t count : {1U, 3U}) {
-                    SCOPED_TRACE(function->name + ", size " + std::to_string(size));
                     Call call(function->name, size, count, geometry);
                     fill(call);
                     EXPECT_EQ(call.run(), vonkOk);
@@ -90,7 +77,6 @@ std::vector<double> firstResults(Call &call, std::size_t count) {
 }
 
 void expectOblong(const Function &function, const std::vector<double> &expected) {
-    SCOPED_TRACE(function.name);
     Call call(function.name, 3);
     fill(call);
     call.pass("rows", 2);
@@ -147,29 +133,6 @@ TEST(ExtractOfVectors, ReadsAnArrayAsTheRowsOfAMatrix) {
 
 // ---- Arguments
 
-TEST(Extract, CatchesNullPointersFirstButForFiveForms) {
-    std::size_t trusting = 0;
-    for (const Function *function : all()) {
-        if (literal::trustsPointers(*function)) ++trusting;
-        else literal::expectNullPointersAreCaught(*function, example);
-    }
-    EXPECT_EQ(trusting, 5U);
-}
-
-TEST(Extract, RefusesSizesOfZeroButForFiveForms) {
-    for (const Function *function : all())
-        for (const catalogue::Parameter &parameter : function->parameters) {
-            if (parameter.kind != catalogue::Kind::size && parameter.kind != catalogue::Kind::count) continue;
-            SCOPED_TRACE(function->name + ", no " + parameter.name);
-            Call call(function->name, 3, 2);
-            fill(call);
-            literal::blankEntries(call);
-            call.pass(parameter.name, 0);
-            EXPECT_EQ(call.run(), literal::trustsPointers(*function) ? vonkOk : vonkErrSize);
-            EXPECT_TRUE(call.changedNothing());
-        }
-}
-
 // Without elements they look at no pointer. Matrices in a table multiply their sizes, in 32 bits.
 TEST(ExtractInTheTrustingForms, HasNothingToDoForSizesOfZeroWhateverThePointersAre) {
     struct Sizes {
@@ -177,10 +140,9 @@ TEST(ExtractInTheTrustingForms, HasNothingToDoForSizesOfZeroWhateverThePointersA
         bool isProduct;
     };
     for (const Function *function : all()) {
-        if (!literal::trustsPointers(*function)) continue;
+        if (!literal::isException(*function, "extract-unchecked")) continue;
         for (const Sizes &sizes : {Sizes{0, 5, false}, Sizes{5, 0, false}, Sizes{0x10000, 0x10000, true}}) {
             if (sizes.isProduct && function->group != "m") continue;
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3);
             call.pass("src", 0);
             call.pass("dst", 0);
@@ -200,7 +162,6 @@ TEST(Extract, MakesSignallingDoublesQuietAndLeavesFloatsAlone) {
     constexpr std::uint64_t quiet = 0x7ff8000000012345;
     constexpr std::uint32_t signallingFloat = 0x7f812345;
     for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
         const bool wide = function->type == Type::real64;
         Call call(function->name, 3);
         fill(call);

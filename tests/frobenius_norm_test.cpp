@@ -1,33 +1,15 @@
 // Frobenius norms: the order in which every form adds its squares, told from all threesomes of elements; its way to the
 // root; matrices of zeros; how far sums reach; and which entries of tables and lists are looked at.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 #include "support/matrix_checks.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <functional>
-#include <limits>
 #include <stdexcept>
-#include <string>
-#include <string_view>
-#include <vector>
 #include <xmmintrin.h>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Layout;
-using catalogue::Type;
-using literal::Call;
+using namespace literal::names;
 using literal::hasLanes;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
 
 std::vector<const Function *> all() { return literal::members("frobenius-norm"); }
 
@@ -80,8 +62,6 @@ void expectDone(Call &call, std::uint32_t n) {
     EXPECT_EQ(resultOf(call, n), rootOf(call.function(), sum)) << "object " << n;
 }
 
-TEST(FrobeniusNorm, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 // Whole numbers, so that no sum rounds.
 TEST(FrobeniusNorm, TakesTheRootOfTheSumOfSquaresInEveryFormAndGeometry) {
     for (const Function *function : all())
@@ -118,7 +98,6 @@ TEST(FrobeniusNorm, MeasuresRowsAndColumns) {
 TEST(FrobeniusNorm, FindsThreeAndFourToBeFive) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {2})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 5);
             literal::setAll(call, "src", 0);
             placeResults(call);
@@ -138,7 +117,6 @@ TEST(FrobeniusNorm, FindsThreeAndFourToBeFive) {
 TEST(FrobeniusNorm, OfZerosIsANanInLanesAndZeroOtherwise) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 6);
             literal::setAll(call, "src", -0.0);
             if (call.count() > 1) call.set("src", 1, 0, 0, 2);
@@ -156,7 +134,6 @@ TEST(FrobeniusNorm, OfZerosIsANanInLanesAndZeroOtherwise) {
 TEST(FrobeniusNorm, OfInfinitiesIsANanInLanesAndInfiniteOtherwise) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 2);
         fill(call);
         call.set("src", 0, 1, 1, -infinity);
@@ -332,10 +309,7 @@ TEST(FrobeniusNormOrder, DependsOnWhetherAnObjectFallsInABlock) {
                 call.set("src", n, 0, 2, tiny);
                 call.set("src", n, function->order == 3 ? 1 : 0, function->order == 3 ? 0 : 3, tiny);
             }
-            {
-                const SettingScope scope(upwards);
-                ASSERT_EQ(call.run(), vonkOk);
-            }
+            ASSERT_EQ(call.run(upwards), vonkOk);
             first.push_back(resultOf(call, 0));
             if (count == 5) {
                 EXPECT_EQ(resultOf(call, 4), first[0]);
@@ -351,7 +325,6 @@ TEST(FrobeniusNormOrder, DependsOnWhetherAnObjectFallsInABlock) {
 TEST(FrobeniusNorm, KeepsObjectsApartInBlocks) {
     for (const Function *function : all()) {
         if (!takesBlocks(*function)) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 0, 9);
         literal::setElements(call, "src", call.size(), call.size(),
                              [](std::uint32_t n, auto, auto) { return n + 1.0; });
@@ -408,76 +381,5 @@ TEST(FrobeniusNormAlignment, ChangesNoResult) {
 // ---- What is tested, and when
 
 const literal::Example example{fill, expectDone};
-
-TEST(FrobeniusNormChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(FrobeniusNormChecks, RefuseNoColumnsAndNoRowsAheadOfEntriesAndCount) {
-    for (const Function *function : all()) {
-        literal::expectZeroSizeIsRefused(*function, example);
-        if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        fill(call);
-        literal::blankEntries(call);
-        call.pass("rows", 0);
-        if (function->array()) call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
-TEST(FrobeniusNormChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(FrobeniusNormChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-void expectDoneBefore(Call &call, std::uint32_t stop, double untouched) {
-    for (std::uint32_t n = 0; n < call.count(); ++n) {
-        if (n < stop) expectDone(call, n);
-        else EXPECT_EQ(resultOf(call, n), untouched) << "object " << n;
-    }
-}
-
-TEST(FrobeniusNormChecks, LookAtTheEntryOfAListWhenTheObjectsTurnComes) {
-    std::size_t listed = 0;
-    for (const Function *function : all()) {
-        if (!catalogue::isList(function->operands[0].layout) || takesBlocks(*function)) continue;
-        ++listed;
-        for (std::uint32_t entry = 0; entry < 5; ++entry) {
-            SCOPED_TRACE(function->name + ", entry " + std::to_string(entry));
-            Call call(function->name, 4, 5);
-            fill(call);
-            const double untouched = resultOf(call, 0);
-            std::byte *&slot = call["src"].entries[entry];
-            std::byte *const kept = slot;
-            slot = nullptr;
-            EXPECT_EQ(call.run(), vonkErrNullPtr);
-            slot = kept;
-            expectDoneBefore(call, entry, untouched);
-        }
-    }
-    EXPECT_EQ(listed, 2U * 5U * 2U - 2U);
-}
-
-// A block's four are looked at before any of it is stored, the objects that are left over not at all.
-TEST(FrobeniusNormChecks, LookAtTheEntriesOfABlockTogetherAndAtNoOthers) {
-    for (const char *name : {"vonkFrobNorm_ma_32f_3x3_L", "vonkFrobNorm_ma_32f_4x4_L"})
-        for (const std::uint32_t count : {1U, 3U, 4U, 6U, 8U, 11U})
-            for (std::uint32_t entry = 0; entry < count; ++entry) {
-                SCOPED_TRACE(std::string(name) + ", count " + std::to_string(count) + ", entry " +
-                             std::to_string(entry));
-                Call call(name, 0, count);
-                fill(call);
-                const double untouched = resultOf(call, 0);
-                const bool inBlock = entry < count / 4 * 4;
-                EXPECT_EQ(literal::runThroughNull(call, "src", entry), inBlock ? vonkErrNullPtr : vonkOk);
-                expectDoneBefore(call, inBlock ? entry / 4 * 4 : count, untouched);
-            }
-}
 
 } // namespace

@@ -1,26 +1,10 @@
 // A matrix times a vector plus a vector: numbers by hand in every form, shapes that need not fit, which entries are
 // looked at and when, the tree in which each kernel adds before the addend joins, and destinations over the addend.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <string>
-#include <vector>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("gaxpy"); }
 
@@ -67,8 +51,6 @@ std::vector<double> resultOf(std::uint32_t order, std::uint32_t n) {
 void expectDone(Call &call, std::uint32_t n) { EXPECT_EQ(call.get("dst", n), resultOf(call.size(), n)); }
 
 const literal::Example example{fill, expectDone};
-
-TEST(Gaxpy, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
 
 TEST(Gaxpy, MultipliesAndAddsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
@@ -140,49 +122,6 @@ TEST(GaxpyShapes, MakeAsManyResultsAsRowsOfAsManyTermsAsColumns) {
 }
 
 // ---- What is tested, and when
-
-TEST(GaxpyChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(GaxpyChecks, RefuseASizeOfZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) {
-        literal::expectZeroSizeIsRefused(*function, example);
-        if (function->order != 0) continue;
-        SCOPED_TRACE(function->name + ", rows");
-        Call call(function->name, 3, 2);
-        fill(call);
-        call.pass("rows", 0);
-        literal::blankEntries(call);
-        if (function->array()) call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
-TEST(GaxpyChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(GaxpyChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (function->array()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(GaxpyChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-TEST(GaxpyChecks, TakeANullEntryForNullThoughItsShiftLeadsToMemory) {
-    for (const Function *function : all())
-        for (const catalogue::Operand &operand : function->operands) {
-            Call call(function->name, 4, 3);
-            fill(call);
-            for (std::size_t entry = 0; entry < call[operand.name].entries.size(); ++entry)
-                EXPECT_EQ(literal::runThroughNull(call, operand.name, entry), vonkErrNullPtr)
-                    << function->name << ", " << operand.name << "[" << entry << "]";
-        }
-}
 
 // The extents are those of the loops, which no null beyond them disturbs.
 TEST(GaxpyTables, AreScannedAsFarAsTheLoopsComeAheadOfTheCount) {
@@ -316,7 +255,6 @@ TEST(GaxpySums, FollowTheTreeOfTheKernelAndElseRunThroughTheTermsWithTheAddendLa
 TEST(GaxpySums, BeginAtPlusZeroInCellsAndAtTheFirstProductInLanes) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             setTerms(call, std::vector<double>(order + 1, -0.0));
             ASSERT_EQ(call.run(), vonkOk);
@@ -333,7 +271,6 @@ TEST(GaxpySums, OfDoublesAreRoundedWithTheAddendOrBeforeItByLayout) {
         if (function->type != Type::real64) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 const SettingScope scope({precision, Rounding::nearest});
                 Call call(function->name, order, 2);
                 std::vector<double> terms(order + 1);

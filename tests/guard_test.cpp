@@ -3,23 +3,11 @@
 // callers have to allow for get their pages for reading only: the displaced look at the last pivot of LU decomposition,
 // the fourth element behind rows of three in some sums of matrices, and the displaced triangle of
 // vonkQRBackSubst_mava_64f in `L`.
-#include "support/control.h"
 #include "support/families.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <csetjmp>
 #include <csignal>
-#include <cstring>
-#include <functional>
-#include <map>
-#include <optional>
-#include <set>
 #include <sstream>
 #include <stdexcept>
 #include <sys/mman.h>
@@ -27,11 +15,7 @@
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Kind;
-using catalogue::Layout;
-using literal::Call;
-using literal::Factors;
+using namespace literal::names;
 using literal::Place;
 
 // ---- Memory with guards
@@ -723,19 +707,19 @@ TEST(Guards, FindNothingTouchedForNoObjects) {
 
 // Sizes of zero that leave nothing to do, and that of the columns of an identity, which leaves the ones.
 bool isEmptyAtZero(const Function &function) {
-    return literal::trustsPointers(function) || function.family->operation == "LoadIdentity" ||
-           (function.family->operation == "Copy" && function.group == "ma");
+    return literal::isException(function, "extract-unchecked") || function.family->operation == "LoadIdentity" ||
+           literal::isException(function, "copy-empty-matrix");
 }
 
 bool actsAtZero(const Function &function, const catalogue::Parameter &parameter) {
-    if (literal::isPointer(parameter.kind)) return literal::trustsPointers(function);
+    if (literal::isPointer(parameter.kind)) return literal::isException(function, "extract-unchecked");
     return function.family->operation == "LoadIdentity" && parameter.name == "cols";
 }
 
 // Products of an array of matrices and one matrix let the columns of that one be 0, and then look at their tables and
 // lists but at no element.
 bool passesAsZero(const Function &function, const catalogue::Parameter &parameter) {
-    return function.family->operation == "Mul" && function.group == "mam" && parameter.name == "src2Cols";
+    return literal::isException(function, "product-no-columns") && parameter.name == "src2Cols";
 }
 
 TEST(Guards, FindNothingTouchedWhereAPointerIsNullOrTheSizeIsZero) {

@@ -1,18 +1,11 @@
 // Linear combinations: numbers by hand in every form, three roundings of their own, the long form at every alignment
 // and overlap, which forms hold the single vector, and what is tested in which order.
+#include "support/family_test.h"
 #include "support/vector_checks.h"
-
-#include <limits>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::callWith;
-using literal::wordOf;
-using support::Precision;
-using support::Rounding;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("linear-combination"); }
 
@@ -37,8 +30,6 @@ const literal::ElementFamily family{[](Call &call) {
                                     }};
 
 // ---- Results
-
-TEST(LinearCombination, HasAHundredAndFiftyForms) { EXPECT_EQ(all().size(), 150U); }
 
 TEST(LinearCombination, ScalesAndAddsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, family.example(), lengths);
@@ -145,7 +136,6 @@ TEST(LinearCombinationSingle, IsHeldByFloatsOfFixedSizeInTwoLayoutsAndReadAnewBy
         holding += holds;
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 4, 13}))
             for (const literal::Geometry geometry : {literal::packed, literal::spread, literal::backward}) {
-                SCOPED_TRACE(function->name + ", size " + std::to_string(size));
                 Call call(function->name, size, 3, geometry);
                 call.layOver("src2");
                 call.setConstant("val1", 3);
@@ -161,16 +151,6 @@ TEST(LinearCombinationSingle, IsHeldByFloatsOfFixedSizeInTwoLayoutsAndReadAnewBy
             }
     }
     EXPECT_EQ(holding, 4U * 2U);
-}
-
-// ---- What is tested, and when
-
-TEST(LinearCombinationChecks, ComeInTheUsualOrder) {
-    for (const Function *function : all()) literal::expectUsualTests(*function, family.example());
-}
-
-TEST(LinearCombinationChecks, LookAtThePositionsOfOnePairJustBeforeEachElement) {
-    for (const Function *function : all()) literal::expectPositionsAreTestedAlongTheWay(*function, family);
 }
 
 } // namespace

@@ -1,20 +1,10 @@
 // LoadIdentity: true identities for one object, the ones that run on over all objects, strides that are replaced, and
 // signed sizes.
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <cstring>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("identity"); }
 
@@ -26,13 +16,10 @@ std::vector<double> identity(std::uint32_t order) {
     return elements;
 }
 
-TEST(LoadIdentity, HasSixForms) { EXPECT_EQ(all().size(), 6U); }
-
 TEST(LoadIdentity, LoadsOneIdentityInEveryFormAndGeometry) {
     for (const Function *function : all())
         for (const Geometry geometry : {literal::packed, literal::spread})
             for (const std::uint32_t order : {1U, 2U, 3U, 7U}) {
-                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                 Call call(function->name, order, 1, geometry);
                 EXPECT_EQ(call.run(), vonkOk);
                 EXPECT_EQ(call.get("dst", 0), identity(order));
@@ -46,7 +33,6 @@ TEST(LoadIdentity, LoadsOneIdentityInEveryFormAndGeometry) {
 TEST(LoadIdentityOfTwo, PutsTheOnesOfTheSecondBehindItsSquare) {
     for (const Function *function : all()) {
         if (function->layout == "P") continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 2, literal::roomy);
         EXPECT_EQ(call.run(), vonkOk);
         EXPECT_EQ(call.get("dst", 0), identity(3));
@@ -141,7 +127,6 @@ TEST(LoadIdentityStrides, OfDoublesInListsMayBeFour) {
 // Compared as unsigned numbers, negative strides are large ones.
 TEST(LoadIdentityStrides, StandIfNegative) {
     for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 1, literal::backward);
         EXPECT_EQ(call.run(), vonkOk);
         EXPECT_EQ(call.get("dst", 0), identity(3));
@@ -151,25 +136,9 @@ TEST(LoadIdentityStrides, StandIfNegative) {
 
 // ---- Sizes
 
-TEST(LoadIdentity, CatchesANullPointerFirst) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(LoadIdentity, RefusesNoObjects) {
-    for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        literal::blankEntries(call);
-        call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
 TEST(LoadIdentity, LeavesObjectsWithoutRowsUntouched) {
     for (const Function *function : all())
         for (const std::uint32_t rows : {0U, 0xffffffffU, 0x80000000U}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 2);
             literal::blankEntries(call);
             call.pass("rows", rows);
@@ -182,7 +151,6 @@ TEST(LoadIdentity, LeavesObjectsWithoutRowsUntouched) {
 TEST(LoadIdentity, WritesTheOnesWithoutColumns) {
     for (const Function *function : all()) {
         if (function->layout == "P") continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 1, literal::spread);
         const std::vector<double> before = call.get("dst", 0);
         call.pass("cols", 0);

@@ -1,34 +1,12 @@
 // LU back substitution: solutions by hand in every form, where sums are rounded and where they are not, what the sweeps
 // read when `dst` lies over the right-hand side, and the members that go their own way: the ignored word of `mva` and
 // the columns 4 bytes apart.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <bit>
-#include <cmath>
-#include <cstring>
-#include <limits>
-#include <numeric>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Kind;
-using catalogue::Type;
-using literal::Call;
-using literal::Factors;
-using literal::Geometry;
+using namespace literal::names;
 using literal::hasColumnsFourBytesApart;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
@@ -111,8 +89,6 @@ void expectDone(Call &call, std::uint32_t n) {
 }
 
 const literal::Example example{fill, expectDone};
-
-TEST(LuBackSubstitution, HasAHundredAndFiftyForms) { EXPECT_EQ(all().size(), 150U); }
 
 TEST(LuBackSubstitution, SolvesInEveryFormAndGeometryTakingRightHandSidesThroughThePivots) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
@@ -223,7 +199,6 @@ TEST(LuBackSubstitutionShared, TakesColumnsFourBytesApartInListsOfDoublesAndNowh
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 3, 6}))
             for (const std::int32_t columnStride : {4, 8}) {
                 if (function->layout == "L" && columnStride == 8) continue; // has no word for it
-                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                 Call call(function->name, order, 2);
                 std::vector<double> elements;
                 std::vector<std::uint32_t> halves(std::size_t{2} * order);
@@ -284,10 +259,7 @@ double differenceOf(const Function &function, std::uint32_t order, Sweep sweep, 
     call.set("src1", 0, matrix);
     call.setPivots(0, identity(order));
     call.set("src2", 0, side);
-    {
-        const SettingScope scope({precision, Rounding::nearest});
-        EXPECT_EQ(call.run(), vonkOk);
-    }
+    EXPECT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
     return call.get("dst", 0, 0, row);
 }
 
@@ -385,7 +357,6 @@ TEST(LuBackSubstitutionSums, AreMadeOfWhatWasStored) {
     for (const Function *function : allOfDoublesWithFreeMatrices())
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 5}))
             for (const Sweep sweep : {Sweep::forward, Sweep::backward}) {
-                SCOPED_TRACE(function->name);
                 const bool forward = sweep == Sweep::forward;
                 const std::uint32_t first = forward ? 0 : order - 1;
                 const std::uint32_t second = forward ? 1 : order - 2;
@@ -451,7 +422,6 @@ TEST(LuBackSubstitutionSums, StartFromZero) {
 TEST(LuBackSubstitution, DividesTruly) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order);
             System system = systemOf(*function, order, 0);
             for (std::uint32_t i = 0; i < order; ++i)
@@ -472,7 +442,6 @@ TEST(LuBackSubstitution, DividesByZeroPivotsWithoutAWord) {
     for (const Function *function : all())
         for (const auto &[side, expected] : cases)
             for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 5})) {
-                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                 Call call(function->name, order, 2);
                 fill(call);
                 for (std::uint32_t n = 0; n < call.count(); ++n) {
@@ -494,7 +463,6 @@ TEST(LuBackSubstitutionInPlace, SolvesWhereTheRowsAreInTheirPlaces) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 5, 6}))
             for (const Geometry geometry : {literal::packed, literal::spread, literal::backward}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order, 3, geometry);
                 call.layOver("src2");
                 for (std::uint32_t n = 0; n < call.count(); ++n) {
@@ -520,7 +488,6 @@ TEST(LuBackSubstitutionInPlace, ReadsWhatItHasWrittenWhereRowsAreExchanged) {
     for (const Function *function : all()) {
         if (function->order != 0 && function->order != 3) continue;
         for (const bool inPlace : {false, true}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 3, 2);
             if (inPlace) call.layOver("src2");
             const System system{{1, 0, 2}, {2, 0, 0, 0, 4, 0, 0.5, 0, 1}, {}, {}};
@@ -537,28 +504,6 @@ TEST(LuBackSubstitutionInPlace, ReadsWhatItHasWrittenWhereRowsAreExchanged) {
             for (std::uint32_t n = 0; n < call.count(); ++n) EXPECT_EQ(call.get("dst", n), expected);
         }
     }
-}
-
-// ---- What is tested, and when
-
-TEST(LuBackSubstitutionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(LuBackSubstitutionChecks, RefuseOrderZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(LuBackSubstitutionChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(LuBackSubstitutionChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(LuBackSubstitutionChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
 }
 
 } // namespace

@@ -1,29 +1,11 @@
 // LU decomposition: factors and pivots by hand in every form, the tolerance, the states that failures leave, and the
 // members that go their own way: the displaced look at the last pivot, the search over NaNs, the width of the
 // multiplier.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <limits>
-#include <numeric>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Factors;
-using literal::Geometry;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -76,8 +58,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(LuDecomposition, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 // Objects have their pivots packed behind one another, whatever lies between their matrices.
 TEST(LuDecomposition, LeavesFactorsAndPivotsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders, geometries);
@@ -126,7 +106,6 @@ TEST(LuDecomposition, KeepsTheFirstOfEqualMagnitudes) {
     for (const Function *function : all())
         for (const Case &expectation : cases)
             for (const std::uint32_t order : literal::sizesOf(*function, {3, 4, 7})) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order);
                 call.set("src", 0, diagonal(order, 1));
                 for (std::uint32_t i = 0; i < 3; ++i) call.set("src", 0, i, 0, expectation.column[i]);
@@ -153,7 +132,6 @@ TEST(LuDecomposition, CopiesTheOnlyElementOfOrderOne) {
 TEST(LuDecomposition, FinishesEachObjectBeforeItCopiesTheNext) {
     for (const Function *function : allArrays()) {
         if (function->order != 0 && function->order != 3) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 2);
         call["dst"].moveTo(call["src"].origin + call["src"].objectStride);
         call.set("src", 1, diagonal(3, 7));
@@ -169,7 +147,6 @@ TEST(LuDecomposition, FinishesEachObjectBeforeItCopiesTheNext) {
 TEST(LuDecomposition, CopiesForwardWhereTheMatricesOverlap) {
     for (const Function *function : all()) {
         if (function->order > 3 || !function->layout.empty()) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         call.set("src", 0, {3, 1, 4, 1, 5, 9, 2, 6, 5});
         call["dst"].moveTo(call["src"].origin + call["src"].elementSize);
@@ -183,7 +160,6 @@ TEST(LuDecomposition, CopiesForwardWhereTheMatricesOverlap) {
 TEST(LuDecomposition, StoresEveryStepWhereElementsOfTheResultOverlap) {
     for (const Function *function : all()) {
         if (function->order != 0 && function->order != 3) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         literal::Place &dst = call["dst"];
         dst.rowStride = dst.elementStride != 0 ? dst.elementStride : dst.elementSize;
@@ -270,7 +246,6 @@ TEST(LuDecompositionFailure, LeavesTheObjectAsFarAsItGot) {
 TEST(LuDecompositionFailure, EndsTheCallWithTheObjectsBeforeDoneAndThoseAfterUntouched) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 4);
             fill(call);
             call.set("src", 2, diagonal(order, 0));
@@ -349,7 +324,6 @@ TEST(LuDecompositionLastPivot, IsLookedForPastItsRowInEveryArrayForm) {
 TEST(LuDecompositionLastPivot, OfTheFirstObjectIsLookedForInItsPlace) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2, literal::roomy);
             Factors factors(order, 0);
             factors.lastPivot = 0;
@@ -369,7 +343,6 @@ TEST(LuDecompositionLastPivot, IsLookedForOneRowDownInPackedObjects) {
     for (const Function *function : allArrays()) {
         if (function->order != 0 && function->order != 3) continue;
         for (const bool passes : {true, false}) {
-            SCOPED_TRACE(function->name);
             const std::vector<double> &matrix = passes ? singular : innocent;
             Call call(function->name, 3, 3);
             call.set("src", 0, diagonal(3, 1));
@@ -400,7 +373,6 @@ TEST(LuDecompositionLastPivot, OfOrderOneIsTheElementAsFarBehind) {
 TEST(LuDecompositionLastPivot, MayBeNanAfterTheFirstObject) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2, literal::roomy);
             for (std::uint32_t n = 0; n < 2; ++n) call.set("src", n, diagonal(order, 1));
             call.set("src", 1, 0, order - 1, nan);
@@ -527,10 +499,7 @@ TEST(LuDecompositionArithmetic, NegatesAZeroMultiplierToPlusZeroInFloatsAndToMin
                 call.set("src", 0, 0, order - 1, zero.multiplied);
                 call.set("src", 0, 1, 0, zero.multiplier);
                 call.set("src", 0, 1, order - 1, -0.0);
-                {
-                    const SettingScope scope(setting);
-                    EXPECT_EQ(call.run(), vonkOk);
-                }
+                EXPECT_EQ(call.run(setting), vonkOk);
                 literal::expectSame(zero.multiplier, call.get("dst", 0, 1, 0), "the multiplier");
                 literal::expectSame(function->type == Type::real32 ? zero.narrow : zero.wide,
                                     call.get("dst", 0, 1, order - 1), "the updated zero");
@@ -544,17 +513,13 @@ TEST(LuDecompositionArithmetic, RoundsEveryOperationOnFloats) {
         if (function->type != Type::real32) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order);
                 call.set("src", 0, diagonal(order, 8));
                 call.set("src", 0, 0, 0, 3);
                 call.set("src", 0, 0, order - 1, 3);
                 call.set("src", 0, 1, 0, 1);
                 call.set("src", 0, 1, order - 1, 1);
-                {
-                    const SettingScope scope({precision, Rounding::nearest});
-                    EXPECT_EQ(call.run(), vonkOk);
-                }
+                EXPECT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
                 EXPECT_EQ(call.get("dst", 0, 1, 0), 0x1.555556p-2);
                 literal::expectSame(0.0, call.get("dst", 0, 1, order - 1), "the updated element");
             }
@@ -566,15 +531,11 @@ TEST(LuDecompositionArithmetic, RoundsEveryOperationOnFloats) {
 TEST(LuDecompositionArithmetic, DividesTruly) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order);
             call.set("src", 0, diagonal(order, 8));
             call.set("src", 0, 0, 0, 6);
             call.set("src", 0, 1, 0, 5);
-            {
-                const SettingScope scope({Precision::bits53, Rounding::nearest});
-                EXPECT_EQ(call.run(), vonkOk);
-            }
+            EXPECT_EQ(call.run({Precision::bits53, Rounding::nearest}), vonkOk);
             EXPECT_EQ(call.get("dst", 0, 1, 0),
                       function->type == Type::real32 ? 13981013 * 0x1p-24 : 7505999378950827 * 0x1p-53);
         }
@@ -592,10 +553,7 @@ double updated(const Function &function, std::uint32_t order, Precision precisio
     call.set("src", 0, 0, order - 1, above);
     call.set("src", 0, 1, 0, below);
     call.set("src", 0, 1, order - 1, element);
-    {
-        const SettingScope scope({precision, Rounding::nearest});
-        EXPECT_EQ(call.run(), vonkOk);
-    }
+    EXPECT_EQ(call.run({precision, Rounding::nearest}), vonkOk);
     return call.get("dst", 0, 1, order - 1);
 }
 
@@ -655,7 +613,6 @@ TEST(LuDecompositionArithmetic, UpdatesWithAQuotientBeyondTheRangeOfDoublesIn3To
     for (const Function *function : all()) {
         if (function->type != Type::real64) continue;
         for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-            SCOPED_TRACE(function->name);
             const Misled search = misled(*function);
             const auto order = static_cast<std::uint32_t>(search.column.size());
             Call call(function->name, order);
@@ -672,28 +629,6 @@ TEST(LuDecompositionArithmetic, UpdatesWithAQuotientBeyondTheRangeOfDoublesIn3To
             EXPECT_EQ(call.get("dst", 0, 2, order - 1), keepsQuotient(*function) ? -0x1p980 : -infinity);
         }
     }
-}
-
-// ---- What is tested, and when
-
-TEST(LuDecompositionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(LuDecompositionChecks, RefuseOrderZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(LuDecompositionChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(LuDecompositionChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(LuDecompositionChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
 }
 
 } // namespace

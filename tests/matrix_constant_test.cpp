@@ -1,27 +1,11 @@
 // Matrices times a constant: numbers by hand in every form, shapes, the roads for aligned and unaligned operands, and
 // what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 #include "support/matrix_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <string>
-#include <vector>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Operand;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("matrix-constant"); }
 
@@ -44,16 +28,7 @@ void expectDone(Call &call, std::uint32_t n) {
             EXPECT_EQ(call.get("dst", n, i, j), value * element(n, i, j)) << "element " << i << ", " << j;
 }
 
-std::vector<double> results(Call &call) {
-    std::vector<double> list;
-    for (std::uint32_t i = 0; i < call["dst"].rows; ++i)
-        for (std::uint32_t j = 0; j < call["dst"].cols; ++j) list.push_back(value * element(0, i, j));
-    return list;
-}
-
 const literal::Example example{fill, expectDone};
-
-TEST(MatrixConstant, HasOneHundredAndEightyForms) { EXPECT_EQ(all().size(), 180U); }
 
 TEST(MatrixConstant, MultipliesInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
@@ -69,7 +44,6 @@ TEST(MatrixConstant, GoesWrongInPlaceOverATransposedSource) {
     std::size_t wrong = 0;
     for (const Function *function : all()) {
         if (function->order != 0 || !function->operands[0].transposed) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2);
         call.layOver("src");
         call.set("src", 0, {1, 2, 3, 4});
@@ -122,10 +96,7 @@ double product(const Function &function, double a, double constant, support::Set
     Call call(function.name, 3, 2);
     literal::setAll(call, "src", a);
     call.setConstant("val", constant);
-    {
-        const SettingScope scope(setting);
-        EXPECT_EQ(call.run(), vonkOk);
-    }
+    EXPECT_EQ(call.run(setting), vonkOk);
     for (std::uint32_t n = 0; n < call.count(); ++n)
         literal::expectSame(std::vector<double>(call.get("dst", n).size(), call.get("dst", 0, 0, 0)),
                             call.get("dst", n), "dst");
@@ -172,63 +143,6 @@ TEST(MatrixConstant, RoundsFloatsInTheCallersDirection) {
         EXPECT_EQ(at(Rounding::up), 1 + 0x1p-11 + 0x1p-23) << function->name;
         EXPECT_EQ(at(Rounding::down), 1 + 0x1p-11) << function->name;
     }
-}
-
-// ---- What is tested, and when
-
-TEST(MatrixConstantChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(MatrixConstantChecks, RefuseNoColumnsAndNoRowsAheadOfEntriesAndCount) {
-    for (const Function *function : all()) {
-        literal::expectZeroSizeIsRefused(*function, example);
-        if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        fill(call);
-        literal::blankEntries(call);
-        call.pass("rows", 0);
-        if (function->array()) call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
-TEST(MatrixConstantChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(MatrixConstantChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (function->array()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(MatrixConstantChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-TEST(MatrixConstantChecks, LookAtThePositionsOfASingleMatrixJustBeforeEachElementButForOne) {
-    std::size_t passed = 0;
-    for (const Function *function : all()) {
-        if (function->array() || function->layout != "P") continue;
-        for (const Operand &operand : function->operands)
-            for (const std::uint32_t order : literal::sizesOf(*function, {3}))
-                for (std::uint32_t entry = 0; entry < order * order; ++entry) {
-                    SCOPED_TRACE(function->name + ", " + operand.name + "[" + std::to_string(entry) + "]");
-                    const std::uint32_t stop = operand.transposed ? entry % order * order + entry / order : entry;
-                    Call call(function->name, order);
-                    fill(call);
-                    if (function->order == 4 && operand.transposed && entry == 8) {
-                        EXPECT_EQ(literal::runThroughNull(call, operand.name, entry), vonkOk);
-                        expectDone(call, 0);
-                        ++passed;
-                    } else {
-                        literal::expectNullEntryStops(call, operand.name, entry, stop, results(call));
-                    }
-                }
-    }
-    EXPECT_EQ(passed, 2U); // vonkMul_mTc_32f_4x4_P and its double twin
 }
 
 } // namespace

@@ -1,32 +1,11 @@
 // Products of matrices: numbers by hand in every form, the shapes that each group accepts and what it makes of them,
 // which entries are looked at and when, in which order terms are added and rounded, and what a destination over a
 // source comes to.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <map>
-#include <set>
-#include <string>
-#include <vector>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Layout;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("matrix-product"); }
 
@@ -109,8 +88,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(MatrixProduct, HasEightHundredAndFortyForms) { EXPECT_EQ(all().size(), 840U); }
-
 TEST(MatrixProduct, MultipliesSquareMatricesInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
 }
@@ -121,7 +98,6 @@ TEST(MatrixProduct, ReadsEitherOperandTransposed) {
         {"mm", {19, 22, 43, 50}}, {"mmT", {17, 23, 39, 53}}, {"mTm", {26, 30, 38, 44}}, {"mTmT", {23, 31, 34, 46}}};
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2, 2);
         for (std::uint32_t n = 0; n < 2; ++n) {
             if (n < call.objectsOf("src1")) call.set("src1", n, {1, 2, 3, 4});
@@ -160,7 +136,6 @@ TEST(MatrixProduct, TakesItsWordsInTheOrderOfTheHeader) {
 TEST(MatrixProduct, OfOrderOneIsZeroPlusTheProduct) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 1);
         for (const auto &[a, b, expected] : {std::array{3.0, -5.0, -15.0}, std::array{-0.0, 4.0, 0.0}}) {
             call.set("src1", 0, {a});
@@ -175,7 +150,6 @@ TEST(MatrixProduct, OfOrderOneIsZeroPlusTheProduct) {
 TEST(MatrixProduct, LeavesTheLastObjectWhereAllFallOnOneAnother) {
     for (const Function *function : all()) {
         if (!literal::has(*function, catalogue::Kind::objectStride)) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 4, 3);
         fill(call);
         call.pass("dstObjStride", 0);
@@ -327,21 +301,6 @@ TEST(MatrixProductShapes, AreAcceptedRefusedAndLoopedOverAsEachGroupWillHaveThem
     }
 }
 
-TEST(MatrixProductShapes, WithAnyZeroAreRefusedButForTheColumnsOfTheSharedSecondMatrix) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
-        for (const Word zero : {cols1, rows1, cols2, rows2}) {
-            SCOPED_TRACE(function->name + ", " + wordNames[zero] + " 0");
-            Call call(function->name, 3, 2);
-            fill(call);
-            call.pass(wordNames[zero], 0);
-            const bool passes = function->group == "mam" && zero == cols2;
-            EXPECT_EQ(call.run(), passes ? vonkOk : vonkErrSize);
-            EXPECT_TRUE(call.changedNothing());
-        }
-    }
-}
-
 // 1 2 3 / 4 5 6 and whatever follows them. As a product of 2 by 3 and 3 by 4 it is refused; rows of five terms out of
 // 2 by 3 run on into what lies behind the third column: 1 2 3 4 5 / 4 5 6 7 8 by 1 0 / 0 1 / 1 1 / 2 0 / 0 2.
 template <typename Real, typename Export> void expectTrueProductRefusedAndFiveTermsTaken(Export product) {
@@ -406,18 +365,9 @@ TEST(MatrixProductShapes, IgnoreTheColumnsOfTheFirstMatrixInTheGroupsThatDoNotCo
 
 // ---- What is tested, and when
 
-TEST(MatrixProductChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(MatrixProductChecks, RefuseASizeOfZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
 TEST(MatrixProductChecks, RefuseWordsThatDoNotFitAheadOfEntriesAndCount) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 2);
         fill(call);
         call.pass(wordNames[ruleOf(*function).equal[1]], 2);
@@ -426,44 +376,6 @@ TEST(MatrixProductChecks, RefuseWordsThatDoNotFitAheadOfEntriesAndCount) {
         EXPECT_EQ(call.run(), vonkErrSize);
         EXPECT_TRUE(call.changedNothing());
     }
-}
-
-TEST(MatrixProductChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(MatrixProductChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (function->array() && !trustsEntries(*function))
-            literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(MatrixProductChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all())
-        if (!trustsEntries(*function)) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-// An entry counts as it stands, without the shift.
-TEST(MatrixProductChecks, TakeANullEntryForNullThoughItsShiftLeadsToMemory) {
-    std::size_t trusting = 0;
-    for (const Function *function : all()) {
-        if (function->layout.empty() || function->layout == "S2") continue;
-        if (trustsEntries(*function)) ++trusting;
-        for (const catalogue::Operand &operand : function->operands) {
-            if (!isTabled(*function) && !operand.array) continue;
-            Call call(function->name, 3, 3);
-            for (std::size_t entry = 0; entry < call[operand.name].entries.size(); ++entry) {
-                SCOPED_TRACE(function->name + ", " + operand.name + "[" + std::to_string(entry) + "]");
-                fill(call);
-                const std::int32_t status = literal::runThroughNull(call, operand.name, entry);
-                EXPECT_EQ(status, trustsEntries(*function) ? vonkOk : vonkErrNullPtr);
-                if (status != vonkOk) continue;
-                for (std::uint32_t n = 0; n < call.count(); ++n) expectDone(call, n);
-                for (std::uint32_t n = 0; n < call.count(); ++n) call.set("dst", n, Square(9, 77));
-            }
-        }
-    }
-    EXPECT_EQ(trusting, 10U);
 }
 
 // ---- Tables of positions whose extents are not what the loops use
@@ -613,7 +525,6 @@ TEST(MatrixProductOfSingleTables, StopsAheadOfACellThatIsMissing) {
 // first cell its zero is.
 TEST(MatrixProductOfSingleTables, LooksAtTheCellAheadOfItsTerms) {
     for (const Function *function : interleaved()) {
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         fill(call);
         literal::blankEntries(call);
@@ -664,7 +575,6 @@ TEST(MatrixProductSums, RoundEveryFloatAddition) {
     for (const Function *function : all()) {
         if (function->type != Type::real32) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             std::vector<double> terms(order);
             terms[0] = 1;
@@ -682,7 +592,6 @@ TEST(MatrixProductSums, RoundEveryFloatProduct) {
     for (const Function *function : all()) {
         if (function->type != Type::real32) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {2})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             for (std::uint32_t n = 0; n < call.count(); ++n)
                 for (const char *source : {"src1", "src2"})
@@ -709,7 +618,6 @@ TEST(MatrixProductSums, RoundEveryFloatProduct) {
 TEST(MatrixProductSums, BeginAtPlusZeroInCellsAndAtTheFirstProductInLanes) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             setTerms(call, std::vector<double>(order, -0.0));
             ASSERT_EQ(call.run(), vonkOk);
@@ -726,7 +634,6 @@ TEST(MatrixProductSums, OfDoublesAreRoundedOnceOrAtEveryStepByLayout) {
         if (function->type != Type::real64) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 const SettingScope scope({precision, Rounding::nearest});
                 Call call(function->name, order, 2);
                 std::vector<double> terms(order);

@@ -1,31 +1,13 @@
 // Sums and differences of matrices: numbers by hand in every form, the three differences that make elements of the
 // wrong ones, the forms that run one object ahead and what they do for no objects, the stride that is taken from the
 // other operand, what is held, and what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 #include "support/matrix_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <limits>
-#include <string>
-#include <vector>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Operand;
-using catalogue::Type;
-using literal::Call;
+using namespace literal::names;
 using literal::hasLanes;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
 
 std::vector<const Function *> all() { return literal::members("matrix-matrix"); }
 
@@ -122,7 +104,6 @@ TEST(MatrixSum, GoesWrongInPlaceOverATransposedSource) {
     std::size_t wrong = 0;
     for (const Function *function : all()) {
         if (function->order != 0 || function->group != "mTm") continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2);
         call.layOver("src1");
         call.set("src1", 0, {1, 2, 3, 4});
@@ -170,10 +151,7 @@ double resultOf(const Function &function, double a, double b, support::Setting s
     Call call(function.name, 3, 2);
     literal::setAll(call, "src1", a);
     literal::setAll(call, "src2", b);
-    {
-        const SettingScope scope(setting);
-        EXPECT_EQ(call.run(), vonkOk);
-    }
+    EXPECT_EQ(call.run(setting), vonkOk);
     for (std::uint32_t n = 0; n < call.count(); ++n)
         literal::expectSame(std::vector<double>(call.get("dst", n).size(), call.get("dst", 0, 0, 0)),
                             call.get("dst", n), "dst");
@@ -312,7 +290,6 @@ TEST(MatrixSumStrides, OfAnArrayServeTheTransposedSingleMatrixOfThreeInLanes) {
     for (const Function *function : all()) {
         if (literal::isTabled(*function) || function->group != "mamT") continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 3, literal::spread);
             call["src2"].rowStride += 16;
             fill(call);
@@ -339,7 +316,6 @@ TEST(MatrixSumStrides, OfAnArrayServeTheTransposedSingleMatrixOfThreeInLanes) {
 TEST(MatrixSumStrides, OfTheTransposedSingleMatrixOfThreeInLanesMayBeAnything) {
     for (const Function *function : all()) {
         if (!runsAhead(*function) || function->group != "mamT") continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 3);
         fill(call);
         call.pass("src2RowStride", 0x7ffffff0);
@@ -361,7 +337,6 @@ TEST(MatrixSumSingle, IsHeldByFloatsOfThreeAndFourInLanesAndReadAnewByAllOthers)
         const bool holds = hasLanes(*function) && function->order <= 4;
         if (single.transposed && !holds) continue; // element for element it is not the destination
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name + ", order " + std::to_string(order));
             Call call(function->name, order, 3);
             call.layOver(single.name);
             literal::setAll(call, single.name, 100);
@@ -392,7 +367,6 @@ TEST(MatrixSumAhead, LoadsTheNextObjectBeforeThisOneIsStored) {
     for (const Function *function : all()) {
         if (function->group != "mam" && function->group != "mamT") continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 3})) {
-            SCOPED_TRACE(function->name + ", order " + std::to_string(order));
             Call call(function->name, order, 4);
             const literal::Place &array = call["src1"];
             call["dst"].moveTo(array.origin + array.objectStride);
@@ -410,20 +384,6 @@ TEST(MatrixSumAhead, LoadsTheNextObjectBeforeThisOneIsStored) {
         ahead += runsAhead(*function) ? 1 : 0;
     }
     EXPECT_EQ(ahead, 8U);
-}
-
-TEST(MatrixSumAhead, DoesOneObjectWhereThereAreNone) {
-    for (const char *name :
-         {"vonkAdd_mam_32f_3x3", "vonkAdd_mamT_32f_3x3", "vonkSub_mam_32f_3x3", "vonkSub_mamT_32f_3x3"}) {
-        SCOPED_TRACE(name);
-        Call call(name, 3, 2, literal::spread);
-        fill(call);
-        call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkOk);
-        expectDone(call, 0);
-        EXPECT_FALSE(call.changedObject(1));
-        if (const literal::Stray stray = call.strayWrites()) ADD_FAILURE() << stray.what;
-    }
 }
 
 const std::array listsAhead{"vonkAdd_mam_32f_3x3_L", "vonkAdd_mamT_32f_3x3_L", "vonkSub_mam_32f_3x3_L",
@@ -459,118 +419,7 @@ TEST(MatrixSumAhead, CatchesANullInFrontOfTheListOrAtTheHeadOfTheArray) {
         }
 }
 
-// A null that is met with object k leaves object k - 1 in hand and unstored.
-TEST(MatrixSumAhead, LosesTheObjectInHandToANullEntry) {
-    constexpr std::uint32_t count = 4;
-    for (const char *name : listsAhead)
-        for (const char *operand : {"src1", "dst"})
-            for (std::uint32_t entry = 0; entry < count; ++entry) {
-                const bool written = operand[0] == 'd';
-                if (written && entry == 0) continue; // is not looked at
-                SCOPED_TRACE(std::string(name) + ", " + operand + "[" + std::to_string(entry) + "] null");
-                Call call(name, 3, count);
-                fill(call);
-                std::byte *&slot = call[operand].entries[entry];
-                std::byte *const kept = slot;
-                slot = nullptr;
-                EXPECT_EQ(call.run(), vonkErrNullPtr);
-                slot = kept;
-                const std::uint32_t done = entry == 0 || (written && entry == count - 1) ? 0 : entry - 1;
-                for (std::uint32_t n = 0; n < done; ++n) expectDone(call, n);
-                for (std::uint32_t n = done; n < count; ++n) EXPECT_FALSE(call.changedObject(n)) << "object " << n;
-            }
-}
-
-TEST(MatrixSumAhead, DoesNotLookAtTheFirstEntryOfTheDestination) {
-    for (const char *name : listsAhead) {
-        SCOPED_TRACE(name);
-        Call call(name, 3, 3);
-        fill(call);
-        EXPECT_EQ(literal::runThroughNull(call, "dst", 0), vonkOk);
-        for (std::uint32_t n = 0; n < 3; ++n) expectDone(call, n);
-
-        Call single(name, 3, 1); // where it is the last one too
-        fill(single);
-        EXPECT_EQ(literal::runThroughNull(single, "dst", 0), vonkErrNullPtr);
-    }
-}
-
 // ---- What is tested, and when
-
-TEST(MatrixSumChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(MatrixSumChecks, RefuseNoColumnsAndNoRowsAheadOfEntriesAndCount) {
-    for (const Function *function : all()) {
-        literal::expectZeroSizeIsRefused(*function, example);
-        if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        fill(call);
-        literal::blankEntries(call);
-        call.pass("rows", 0);
-        if (function->array()) call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
-TEST(MatrixSumChecks, LeaveAllAloneForNoObjects) {
-    std::size_t exempt = 0;
-    for (const Function *function : all())
-        if (runsAhead(*function)) ++exempt;
-        else literal::expectCountZeroDoesNothing(*function, example);
-    EXPECT_EQ(exempt, 8U);
-}
-
-TEST(MatrixSumChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (function->array()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(MatrixSumChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all())
-        if (!runsAhead(*function)) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-bool isPassedOver(const Function &function, const Operand &operand, std::uint32_t entry) {
-    return function.order == 4 && operand.transposed && entry == 8;
-}
-
-TEST(MatrixSumChecks, LookAtThePositionsOfASinglePairJustBeforeEachElement) {
-    for (const Function *function : all()) {
-        if (function->array() || function->layout != "P") continue;
-        for (const Operand &operand : function->operands)
-            for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
-                for (std::uint32_t entry = 0; entry < order * order; ++entry) {
-                    if (isPassedOver(*function, operand, entry)) continue;
-                    const std::uint32_t stop =
-                        operand.transposed ? entry % order * order + entry / order : entry; // as the result counts
-                    Call call(function->name, order);
-                    fill(call);
-                    literal::expectNullEntryStops(call, operand.name, entry, stop, results(call));
-                }
-            }
-    }
-}
-
-TEST(MatrixSumChecks, PassOverOnePositionOfATransposedTableOfFour) {
-    std::size_t passed = 0;
-    for (const Function *function : all()) {
-        if (function->array() || function->layout != "P" || function->order != 4) continue;
-        for (const Operand &operand : function->operands) {
-            if (!operand.transposed) continue;
-            SCOPED_TRACE(function->name + ", " + operand.name);
-            Call call(function->name, 4);
-            fill(call);
-            EXPECT_EQ(literal::runThroughNull(call, operand.name, 8), vonkOk);
-            expectDone(call, 0);
-            ++passed;
-        }
-    }
-    EXPECT_EQ(passed, 2U * 2U * 4U); // two operations, two types, mTm, mmT and mTmT twice
-}
 
 TEST(MatrixSumChecks, CountTheEntriesOfATransposedTableByItsOwnRows) {
     for (const char *name : {"vonkAdd_mTm_32f_P", "vonkSub_mTm_64f_P"}) {

@@ -1,29 +1,11 @@
 // Products of matrices and vectors: numbers by hand in every form, the shapes that plain and transposed forms accept,
 // which entries are looked at and when, the tree in which each kernel adds, and destinations over the vector and over
 // operands that serve all objects.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <map>
-#include <string>
-#include <vector>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("matrix-vector"); }
 
@@ -84,8 +66,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(MatrixVector, HasFourHundredAndTwentyForms) { EXPECT_EQ(all().size(), 420U); }
-
 TEST(MatrixVector, MultipliesSquareMatricesInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
 }
@@ -94,7 +74,6 @@ TEST(MatrixVector, MultipliesSquareMatricesInEveryFormAndGeometry) {
 TEST(MatrixVector, ReadsTheMatrixTransposed) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2, 2);
         for (std::uint32_t n = 0; n < 2; ++n) {
             if (n < call.objectsOf("src1")) call.set("src1", n, {1, 2, 3, 4});
@@ -120,7 +99,6 @@ TEST(MatrixVector, TakesItsWordsInTheOrderOfTheHeader) {
 TEST(MatrixVector, OfLengthOneIsZeroPlusTheProduct) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 1);
         for (const auto &[a, v, expected] : {std::array{3.0, -5.0, -15.0}, std::array{-0.0, 4.0, 0.0}}) {
             call.set("src1", 0, {a});
@@ -207,14 +185,6 @@ TEST(MatrixVectorShapes, OfATransposedMatrixMakeAsManyResultsAsItHasRows) {
 
 // ---- What is tested, and when
 
-TEST(MatrixVectorChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(MatrixVectorChecks, RefuseASizeOfZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
 TEST(MatrixVectorChecks, RefuseALengthThatDoesNotFitAheadOfEntriesAndCount) {
     for (const Function *function : all()) {
         if (function->order != 0) continue;
@@ -229,41 +199,6 @@ TEST(MatrixVectorChecks, RefuseALengthThatDoesNotFitAheadOfEntriesAndCount) {
             EXPECT_TRUE(call.changedNothing());
         }
     }
-}
-
-TEST(MatrixVectorChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(MatrixVectorChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (function->array()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(MatrixVectorChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-// No other entry of any form is followed unseen.
-TEST(MatrixVectorChecks, TakeANullEntryForNullThoughItsShiftLeadsToMemoryButForTheNinthOfOrderFour) {
-    std::size_t unseen = 0;
-    for (const Function *function : all())
-        for (const catalogue::Operand &operand : function->operands)
-            for (const std::uint32_t order : literal::sizesOf(*function, {3, 4})) {
-                Call call(function->name, order, 3);
-                for (std::size_t entry = 0; entry < call[operand.name].entries.size(); ++entry) {
-                    SCOPED_TRACE(function->name + ", " + operand.name + "[" + std::to_string(entry) + "]");
-                    const bool isUnseen = function->group == "mTv" && function->layout == "P" && function->order == 4 &&
-                                          operand.name == "src1" && entry == 8;
-                    fill(call);
-                    const std::int32_t status = literal::runThroughNull(call, operand.name, entry);
-                    EXPECT_EQ(status, isUnseen ? vonkOk : vonkErrNullPtr);
-                    if (!isUnseen) continue;
-                    ++unseen;
-                    expectDone(call, 0);
-                }
-            }
-    EXPECT_EQ(unseen, 2U); // 32f and 64f
 }
 
 // ---- Tables of positions whose extents are not what the loops use
@@ -401,7 +336,6 @@ TEST(MatrixVectorOfSingleTables, StopsAheadOfAnElementThatIsMissing) {
 TEST(MatrixVectorOfSingleTables, OfTransposedMatricesAreIndexedByTheRows) {
     for (const Function *function : interleaved()) {
         if (function->order != 0 || !isTransposed(*function)) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3);
         tell(call, {3, 2, 2});
         for (std::uint32_t entry = 0; entry < 6; ++entry) call.set("src1", 0, entry / 2, entry % 2, entry + 1);
@@ -461,7 +395,6 @@ TEST(MatrixVectorSums, FollowTheTreeOfTheKernelAndElseRunThroughTheTerms) {
 TEST(MatrixVectorSums, OfTheLastOfFiveElementsAreRoundedInAnotherWay) {
     for (const Function *function : all()) {
         if (!worksInLanes(*function) || function->order != 5) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 5, 2);
         setTerms(call, {0x1p24, 1, 0, 1, 0});
         ASSERT_EQ(call.run(), vonkOk);
@@ -474,7 +407,6 @@ TEST(MatrixVectorSums, OfTheLastOfFiveElementsAreRoundedInAnotherWay) {
 TEST(MatrixVectorSums, BeginAtPlusZeroInCellsAndAtTheFirstProductInLanes) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             setTerms(call, std::vector<double>(order, -0.0));
             ASSERT_EQ(call.run(), vonkOk);
@@ -511,7 +443,6 @@ TEST(MatrixVectorSums, OfDoublesAreRoundedOnceOrAtEveryStepByLayout) {
         if (function->type != Type::real64) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
-                SCOPED_TRACE(function->name);
                 const SettingScope scope({precision, Rounding::nearest});
                 Call call(function->name, order, 2);
                 std::vector<double> terms(order);

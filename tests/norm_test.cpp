@@ -1,30 +1,13 @@
 // Euclidean norms: numbers by hand in every form, the exact root and the root by estimate with what the latter makes of
 // zeros and infinities, the order of the sums, results that lie over their sources, and what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <cstring>
-#include <limits>
 #include <sys/mman.h>
 #include <xmmintrin.h>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::callWith;
-using literal::wordOf;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
@@ -57,8 +40,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(Norm, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 TEST(Norm, IsRightInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, lengths);
 }
@@ -68,7 +49,6 @@ TEST(Norm, TakesAnyNumberOfObjects) {
     for (const Function *function : all())
         for (std::uint32_t count = 1; function->array() && count <= 9; ++count)
             for (const literal::Geometry geometry : {literal::packed, literal::spread, literal::backward}) {
-                SCOPED_TRACE(function->name + ", count " + std::to_string(count));
                 Call call(function->name, 5, count, geometry);
                 fill(call);
                 ASSERT_EQ(call.run(), vonkOk);
@@ -79,7 +59,6 @@ TEST(Norm, TakesAnyNumberOfObjects) {
 TEST(Norm, OfThreeAndFourIsFive) {
     for (const Function *function : all())
         for (const std::uint32_t size : literal::sizesOf(*function, {2, 11, 20})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, size, 5);
             std::vector<double> vector(call.size(), 0);
             vector[0] = 3;
@@ -186,7 +165,6 @@ TEST(NormByEstimate, TakesItsStepsAndItsTreeInEveryObject) {
         for (std::uint32_t count = 1; count <= 9; ++count)
             for (const literal::Geometry geometry :
                  {literal::packed, literal::spread, literal::Geometry{1, 4, false}}) {
-                SCOPED_TRACE(function->name + ", count " + std::to_string(count));
                 Call call(function->name, 0, count, geometry);
                 std::vector<std::vector<float>> squares(call.count());
                 for (std::uint32_t n = 0; n < call.count(); ++n)
@@ -212,7 +190,6 @@ TEST(NormByRoot, AddsFromLeftToRightUpToTenElements) {
     for (const Function *function : all()) {
         if (function->type != Type::real32 || isEstimated(*function)) continue;
         for (const std::uint32_t size : literal::sizesOf(*function, {3, 4, 6, 10})) {
-            SCOPED_TRACE(function->name + ", size " + std::to_string(size));
             Call call(function->name, size, 6);
             for (std::uint32_t n = 0; n < call.count(); ++n) {
                 std::vector<float> squares;
@@ -320,7 +297,6 @@ TEST(NormOfDoubles, RoundsTheRootToTheCallersPrecisionAndThenToTheStore) {
 TEST(NormOverlap, DoesNoHarmInTheFirstElementOfTheOnlyObject) {
     for (const Function *function : all())
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 10, 20})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, size, 1);
             fill(call);
             call["dst"].moveTo(call["src"].address(0, 0, 0));
@@ -331,66 +307,6 @@ TEST(NormOverlap, DoesNoHarmInTheFirstElementOfTheOnlyObject) {
 
 // ---- What is tested, and when
 
-TEST(NormChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(NormChecks, RefuseLengthZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(NormChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(NormChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
 constexpr const char *trusting = "vonkL2Norm_va_32f_4x1_L";
-
-TEST(NormChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all())
-        if (function->name != trusting) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-// Inside a block of four the objects ahead of a null entry are done all the same.
-TEST(NormChecks, CompleteTheObjectsAheadOfANullEntryInABlock) {
-    for (const Function *function : all()) {
-        if (function->layout != "L" || function->name == trusting) continue;
-        for (std::uint32_t entry = 0; entry < 9; ++entry) {
-            SCOPED_TRACE(function->name + ", entry " + std::to_string(entry));
-            Call call(function->name, 4, 9);
-            fill(call);
-            call["src"].entries[entry] = nullptr;
-            EXPECT_EQ(call.run(), vonkErrNullPtr);
-            for (std::uint32_t n = 0; n < entry; ++n) expectDone(call, n);
-            for (std::uint32_t n = entry; n < 9; ++n) EXPECT_FALSE(call.changedObject(n)) << "object " << n;
-        }
-    }
-}
-
-// A null entry plus its shift is an address like any other: here one that was mapped low enough for a shift to reach.
-TEST(NormChecks, FollowNullEntriesInTheListOfFoursOfFloats) {
-    void *const page =
-        mmap(nullptr, 4096, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_32BIT, -1, 0); // below 2^31
-    ASSERT_NE(page, MAP_FAILED);
-    for (std::uint32_t count = 1; count <= 9; ++count)
-        for (std::uint32_t entry = 0; entry < count; ++entry) {
-            SCOPED_TRACE("entry " + std::to_string(entry) + " of " + std::to_string(count));
-            Call call(trusting, 0, count);
-            literal::Place &place = call["src"];
-            const auto shift = static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(page));
-            for (std::byte *&address : place.entries) address += place.shift - std::ptrdiff_t{shift};
-            place.shift = shift;
-            fill(call);
-            place.entries[entry] = nullptr;
-            for (std::uint32_t j = 0; j < 4; ++j)
-                call.setAt(static_cast<std::byte *>(page) + std::size_t{4} * j, element(entry, j, 4));
-            ASSERT_EQ(call.run(), vonkOk);
-            literal::expectAllDone(call, example);
-        }
-    munmap(page, 4096);
-}
 
 } // namespace

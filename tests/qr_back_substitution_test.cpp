@@ -1,32 +1,11 @@
 // QR back substitution: solutions by hand and by the plain recurrence in every form, least squares with what is left
 // over in the work block, where doubles are rounded, the block copy of vonkQRBackSubst_mv_32f, and the members that go
 // their own way: the word that nobody reads, and the lists of doubles that look for their matrix elsewhere.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-#include "support/product_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstring>
-#include <functional>
-#include <limits>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Kind;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -205,8 +184,6 @@ void expectDone(Call &call, std::uint32_t n) {
 
 const literal::Example example{fill, expectDone};
 
-TEST(QrBackSubstitution, HasAHundredAndFiftyForms) { EXPECT_EQ(all().size(), 150U); }
-
 TEST(QrBackSubstitution, SolvesInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
 }
@@ -240,7 +217,6 @@ TEST(QrBackSubstitution, SolvesInPlaceOfTheRightHandSide) {
     for (const Function *function : allRegular()) literal::expectInPlaceResults(*function, example, "src2", orders);
     for (const Function *function : allOfRunTimeSize()) {
         if (function->array()) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2, 1, literal::packed, 5);
         call.layOver("src2");
         fill(call);
@@ -311,7 +287,6 @@ TEST(QrBackSubstitution, DividesByTheOnlyElementOfOneRowWithoutAReflection) {
     for (const Function *function : allOfRunTimeSize()) {
         if (isDisplaced(*function) && !isShared(*function)) continue; // looks for its element elsewhere
         const bool narrow = function->type == Type::real32;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 1, 2);
         for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n) call.set("src1", n, {3});
         for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src2", n, {5});
@@ -327,7 +302,6 @@ TEST(QrBackSubstitution, DividesByZeroWithoutAWord) {
     for (const Function *function : allRegular())
         for (const auto &[side, expected] : {std::pair{5.0, infinity}, {-5.0, -infinity}, {0.0, nan}})
             for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 5})) {
-                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                 Call call(function->name, order, 2);
                 std::vector<double> matrix(std::size_t{order} * order);
                 for (std::uint32_t i = 1; i < order; ++i) matrix[i * order + i] = 1;
@@ -362,7 +336,6 @@ TEST(QrBackSubstitutionRounding, FollowsTheRecurrenceAtBothPrecisions) {
     for (const Function *function : all())
         for (const Precision precision : {Precision::bits53, Precision::bits64})
             for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 4, 5, 6, 7})) {
-                SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                 Call call(function->name, order, 3, literal::spread);
                 isDisplaced(*function) ? fill(call) : fillWithNumbers(call, order);
                 const SettingScope scope({precision, Rounding::nearest});
@@ -413,7 +386,6 @@ TEST(QrBackSubstitutionRounding, OfDoublesMeetsNothingButWhatIsStored) {
 TEST(QrBackSubstitutionRounding, StartsASumFromZero) {
     for (const Function *function : allRegular())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order);
             std::vector<double> matrix(std::size_t{order} * order);
             for (std::uint32_t i = 0; i < order; ++i) matrix[i * order + i] = 1;
@@ -514,7 +486,6 @@ TEST(QrBackSubstitutionDisplaced, LooksElsewhereInListsOfDoublesAndNowhereElse) 
         if (!isDisplaced(*function)) continue;
         ++displaced;
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2, literal::spread);
             fill(call);
             ASSERT_EQ(call.run(), vonkOk);
@@ -568,33 +539,6 @@ TEST(QrBackSubstitutionDisplaced, FindsTheTriangleAheadOfTheMatrixWithAMatrixFor
 
 // ---- What is tested, and when
 
-TEST(QrBackSubstitutionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(QrBackSubstitutionChecks, RefuseZeroSizesAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-    for (const Function *function : allOfRunTimeSize())
-        for (const char *size : {"cols", "rows"}) {
-            SCOPED_TRACE(function->name + ", " + size);
-            Call call(function->name, 3, 2);
-            fill(call);
-            literal::blankEntries(call);
-            call.pass(size, 0);
-            if (function->array()) call.pass("count", 0);
-            EXPECT_EQ(call.run(), vonkErrSize);
-            EXPECT_TRUE(call.changedNothing());
-        }
-}
-
-TEST(QrBackSubstitutionChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(QrBackSubstitutionChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
 // Of the right-hand side as many as the solution has: those behind are used, and trusted.
 TEST(QrBackSubstitutionChecks, LookAtNoMorePositionsOfTheRightHandSideThanTheSolutionHas) {
     constexpr std::uint32_t rows = 5;
@@ -619,10 +563,6 @@ TEST(QrBackSubstitutionChecks, LookAtNoMorePositionsOfTheRightHandSideThanTheSol
             EXPECT_TRUE(call.changedNothing());
         }
     }
-}
-
-TEST(QrBackSubstitutionChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
 }
 
 } // namespace

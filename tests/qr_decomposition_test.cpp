@@ -1,27 +1,11 @@
 // QR decomposition: factors by hand and by the plain recurrence in every form, the tolerance on the squared norm of a
 // column, shapes other than squares, what a failure leaves in `dst` and in the work block, and where wide arithmetic is
 // rounded.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <limits>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::Geometry;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -137,8 +121,6 @@ void expectRecurrence(const Function &function, std::uint32_t rows, std::uint32_
     EXPECT_FALSE(call.strayWrites());
 }
 
-TEST(QrDecomposition, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 TEST(QrDecomposition, FollowsTheRecurrenceInEveryFormAndGeometry) {
     for (const Function *function : all())
         for (const Geometry geometry : {literal::packed, literal::spread, literal::backward})
@@ -224,7 +206,6 @@ TEST(QrDecomposition, TakesItsWordsInTheOrderOfTheHeader) {
 TEST(QrDecomposition, LeavesTheNormOfASingleColumnWithTheOtherSign) {
     for (const Function *function : allOfRunTimeSize())
         for (const double sign : {1.0, -1.0}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 1, 2, literal::spread, 2);
             for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, {3 * sign, 4});
             ASSERT_EQ(call.run(), vonkOk);
@@ -239,7 +220,6 @@ TEST(QrDecomposition, LeavesTheNormOfASingleColumnWithTheOtherSign) {
 TEST(QrDecomposition, CopiesTheOnlyElementOfOneRowAndLeavesTheWorkAlone) {
     for (const Function *function : allOfRunTimeSize())
         for (const double element : {5.0, 0x1p-30, 0.0, -0.0, infinity, nan}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 1, 2);
             for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, {element});
             EXPECT_EQ(call.run(), vonkOk);
@@ -253,7 +233,6 @@ TEST(QrDecomposition, CopiesTheOnlyElementOfOneRowAndLeavesTheWorkAlone) {
 TEST(QrDecomposition, KeepsInTheWorkTheReflectorAndAboveItWhatEarlierOnesLeft) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             std::vector<double> matrix(std::size_t{order} * order);
             for (std::uint32_t i = 0; i < order; ++i) matrix[i * order + i] = 2;
@@ -270,7 +249,6 @@ TEST(QrDecomposition, KeepsInTheWorkTheReflectorAndAboveItWhatEarlierOnesLeft) {
 TEST(QrDecomposition, FinishesEachObjectBeforeItCopiesTheNext) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             call["dst"].moveTo(call["src"].origin + call["src"].objectStride);
             std::vector<double> matrix(std::size_t{order} * order);
@@ -346,7 +324,6 @@ TEST(QrDecompositionTolerance, SparesTheLastColumnOfASquare) {
     for (const Function *function : all())
         for (const double last : {0.0, 0x1p-60, nan})
             for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7})) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order, 2);
                 std::vector<double> matrix(std::size_t{order} * order);
                 for (std::uint32_t i = 0; i < order; ++i) matrix[i * order + i] = i + 1 == order ? last : 1;
@@ -360,7 +337,6 @@ TEST(QrDecompositionTolerance, SparesTheLastColumnOfASquare) {
 TEST(QrDecompositionTolerance, MeetsTheLastColumnOfAHigherMatrix) {
     for (const Function *function : allOfRunTimeSize())
         for (const double last : {0x1p-12, 1.0}) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, 2, 2, literal::packed, 3);
             for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, {1, 0, 0, 0, 0, last});
             EXPECT_EQ(call.run(), last == 1 ? vonkOk : vonkErrSingular);
@@ -373,7 +349,6 @@ TEST(QrDecompositionTolerance, LetsInfinityPass) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7}))
             for (const bool onDiagonal : {true, false}) {
-                SCOPED_TRACE(function->name);
                 Call call(function->name, order);
                 std::vector<double> matrix(std::size_t{order} * order);
                 for (std::uint32_t i = 0; i < order; ++i) matrix[i * order + i] = 1;
@@ -413,7 +388,6 @@ TEST(QrDecompositionTolerance, RefusesEveryMatrixWiderThanHighAfterAsManyReflect
 TEST(QrDecompositionTolerance, EndsTheCallWithTheObjectsBeforeDoneAndThoseAfterUntouched) {
     for (const Function *function : allArrays())
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 4, literal::spread);
             example.fill(call);
             const std::vector<double> zeros(std::size_t{order} * order, 0.0);
@@ -435,7 +409,6 @@ TEST(QrDecompositionRounding, OfFloatsIsDoneAtEveryStepAtEveryPrecision) {
         for (const Precision precision : {Precision::bits53, Precision::bits64})
             for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 5, 7}))
                 for (std::uint32_t variant = 0; variant < 5; ++variant) {
-                    SCOPED_TRACE(function->name);
                     Call call(function->name, order);
                     call.set("src", 0, matrixOf(order, order, variant));
                     const Left left = recur(*function, order, order, matrixOf(order, order, variant));
@@ -568,33 +541,6 @@ TEST(QrDecompositionRounding, OfDoublesMeetsLengthAndBetaAndNotTheProjection) {
 
 // ---- What is tested, and when
 
-TEST(QrDecompositionChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(QrDecompositionChecks, RefuseZeroSizesAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-    for (const Function *function : allOfRunTimeSize())
-        for (const char *size : {"cols", "rows"}) {
-            SCOPED_TRACE(function->name + ", " + size);
-            Call call(function->name, 3, 2);
-            example.fill(call);
-            literal::blankEntries(call);
-            call.pass(size, 0);
-            if (function->array()) call.pass("count", 0);
-            EXPECT_EQ(call.run(), vonkErrSize);
-            EXPECT_TRUE(call.changedNothing());
-        }
-}
-
-TEST(QrDecompositionChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(QrDecompositionChecks, LookAtAllPositionsUpFrontEvenForNoObjects) {
-    for (const Function *function : all()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
 TEST(QrDecompositionChecks, LookAtAllPositionsOfMatricesHigherThanWide) {
     for (const Function *function : allOfRunTimeSize()) {
         if (!catalogue::isTable(function->operands[0].layout)) continue;
@@ -608,10 +554,6 @@ TEST(QrDecompositionChecks, LookAtAllPositionsOfMatricesHigherThanWide) {
                 EXPECT_TRUE(call.changedNothing());
             }
     }
-}
-
-TEST(QrDecompositionChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
 }
 
 } // namespace

@@ -1,18 +1,11 @@
 // Saxpy: numbers by hand in every form, a product that is rounded before the sum, the long form at every alignment and
 // overlap, the few forms that hold the single vector where all is aligned, and what is tested in which order.
+#include "support/family_test.h"
 #include "support/vector_checks.h"
-
-#include <limits>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::callWith;
-using literal::wordOf;
-using support::Precision;
-using support::Rounding;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("saxpy"); }
 
@@ -36,8 +29,6 @@ const literal::ElementFamily family{[](Call &call) {
                                     }};
 
 // ---- Results
-
-TEST(Saxpy, HasTwoHundredAndTenForms) { EXPECT_EQ(all().size(), 210U); }
 
 TEST(Saxpy, ScalesTheFirstVectorAndAddsTheSecondInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, family.example(), lengths);
@@ -199,16 +190,6 @@ TEST(SaxpySingle, IsHeldByFoursAndSixesOfFloatsIfAllOfThemAreAligned) {
         }
     }
     EXPECT_EQ(forms, 2U);
-}
-
-// ---- What is tested, and when
-
-TEST(SaxpyChecks, ComeInTheUsualOrder) {
-    for (const Function *function : all()) literal::expectUsualTests(*function, family.example());
-}
-
-TEST(SaxpyChecks, LookAtThePositionsOfOnePairJustBeforeEachElement) {
-    for (const Function *function : all()) literal::expectPositionsAreTestedAlongTheWay(*function, family);
 }
 
 } // namespace

@@ -1,27 +1,12 @@
 // Traces: numbers by hand in every form, which forms begin with a zero and which round on the way, the partial sums
 // that stand in the result, and which entries of a table are looked at.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 #include "support/matrix_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <string>
-#include <vector>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
+using namespace literal::names;
 using literal::hasLanes;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
 
 std::vector<const Function *> all() { return literal::members("trace"); }
 
@@ -60,14 +45,11 @@ void expectDone(Call &call, std::uint32_t n) { EXPECT_EQ(resultOf(call, n), expe
 
 const literal::Example example{fill, expectDone};
 
-TEST(Trace, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
-
 TEST(Trace, SumsTheDiagonalInEveryFormAndGeometry) {
     for (const Function *function : all())
         for (const literal::Geometry geometry : {literal::packed, literal::spread, literal::backward})
             for (const std::uint32_t order : literal::sizesOf(*function, orders))
                 for (const std::uint32_t count : {1U, 2U, 5U}) {
-                    SCOPED_TRACE(function->name + ", order " + std::to_string(order));
                     Call call(function->name, order, count, geometry);
                     fill(call);
                     const double beside = resultOf(call, call.count());
@@ -82,7 +64,6 @@ TEST(Trace, SumsTheDiagonalInEveryFormAndGeometry) {
 TEST(Trace, BeginsWithAZeroExceptInLanes) {
     for (const Function *function : all())
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             fill(call);
             setDiagonal(call, std::vector<double>(order, -0.0));
@@ -96,7 +77,6 @@ TEST(Trace, RoundsFloatsAtEveryStep) {
     for (const Function *function : all()) {
         if (function->type != Type::real32) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {5})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order, 2);
             fill(call);
             std::vector<double> diagonal(order, 0x1p-24); // half a step above 1, each time
@@ -126,7 +106,6 @@ TEST(Trace, RoundsDoublesOnceAtTheEndButAheadOfALastOddElementOfTwoForms) {
     for (const Function *function : all()) {
         if (function->type != Type::real64) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 4, 5, 6})) {
-            SCOPED_TRACE(function->name + ", order " + std::to_string(order));
             Call call(function->name, order, 2);
             fill(call);
             std::vector<double> diagonal(order, 0.0);
@@ -137,10 +116,7 @@ TEST(Trace, RoundsDoublesOnceAtTheEndButAheadOfALastOddElementOfTwoForms) {
             ASSERT_EQ(call.run(), vonkOk);
             EXPECT_EQ(resultOf(call, 0), rounds ? 1 : 1 + 0x1p-52);
             rounding += rounds ? 1 : 0;
-            {
-                const SettingScope scope({Precision::bits53, Rounding::nearest});
-                ASSERT_EQ(call.run(), vonkOk);
-            }
+            ASSERT_EQ(call.run({Precision::bits53, Rounding::nearest}), vonkOk);
             EXPECT_EQ(resultOf(call, 0), 1);
         }
     }
@@ -153,7 +129,6 @@ TEST(Trace, LosesASumThatOverflowsOnTheWayOnlyWhereItIsReadBack) {
     for (const Function *function : all()) {
         if (function->type != Type::real64) continue;
         for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
-            SCOPED_TRACE(function->name);
             Call call(function->name, order);
             fill(call);
             std::vector<double> diagonal(order, 0.0);
@@ -197,37 +172,6 @@ TEST(Trace, DestroysAnElementUnderItsResultExceptInLanes) {
 
 // ---- What is tested, and when
 
-TEST(TraceChecks, CatchEveryNullPointerAheadOfTheOrderAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(TraceChecks, RefuseOrderZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(TraceChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(TraceChecks, LookAtTheEntryOfAListWhenTheObjectsTurnComes) {
-    std::size_t listed = 0;
-    for (const Function *function : all()) {
-        if (!catalogue::isList(function->operands[0].layout)) continue;
-        ++listed;
-        for (std::uint32_t entry = 0; entry < 3; ++entry) {
-            SCOPED_TRACE(function->name + ", entry " + std::to_string(entry));
-            Call call(function->name, 4, 3);
-            fill(call);
-            const double untouched = resultOf(call, 0);
-            call["src"].entries[entry] = nullptr;
-            EXPECT_EQ(call.run(), vonkErrNullPtr);
-            for (std::uint32_t n = 0; n < 3; ++n)
-                EXPECT_EQ(resultOf(call, n), n < entry ? expected(call.size(), n) : untouched) << "object " << n;
-        }
-    }
-    EXPECT_EQ(listed, 2U * 5U * 2U);
-}
-
 // The sum so far stays in the result, which is 0 ahead of the first element; off the diagonal nothing is looked at.
 TEST(TraceChecks, LookAtTheDiagonalOfASingleTableAsTheSumReachesIt) {
     for (const Function *function : all()) {
@@ -244,29 +188,6 @@ TEST(TraceChecks, LookAtTheDiagonalOfASingleTableAsTheSumReachesIt) {
                                     "the sum");
             }
     }
-}
-
-// Of an array the first entries are looked at, as many as the diagonal has, and only the first of them lies on it.
-TEST(TraceChecks, LookAtTheStartOfTheTableOfAnArray) {
-    std::size_t tabled = 0;
-    for (const Function *function : all()) {
-        if (!function->array() || !literal::isTabled(*function)) continue;
-        ++tabled;
-        for (const std::uint32_t order : literal::sizesOf(*function, {2, 5}))
-            for (std::uint32_t entry = 0; entry < order * order; ++entry)
-                for (const std::uint32_t count : {2U, 0U}) {
-                    SCOPED_TRACE(function->name + ", entry " + std::to_string(entry));
-                    Call call(function->name, order, 2);
-                    fill(call);
-                    if (count == 0) call.pass("count", 0);
-                    const double untouched = resultOf(call, 0);
-                    const std::int32_t status = literal::runThroughNull(call, "src", entry);
-                    EXPECT_EQ(status, entry < order ? vonkErrNullPtr : vonkOk);
-                    for (std::uint32_t n = 0; n < 2; ++n)
-                        EXPECT_EQ(resultOf(call, n), entry < order || count == 0 ? untouched : expected(order, n));
-                }
-    }
-    EXPECT_EQ(tabled, 2U * 5U * 2U);
 }
 
 } // namespace

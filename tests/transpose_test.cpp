@@ -1,23 +1,11 @@
 // Transposes: numbers by hand in every form, the tables whose row lengths stand exchanged, bits that no arithmetic may
 // touch, calls in place, and what is tested in which order.
-#include "support/literal.h"
-#include "support/literal_checks.h"
+#include "support/family_test.h"
 #include "support/matrix_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <string>
-#include <vector>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Operand;
-using catalogue::Type;
-using literal::Call;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("transpose"); }
 
@@ -36,8 +24,6 @@ void expectDone(Call &call, std::uint32_t n) {
 }
 
 const literal::Example example{fill, expectDone};
-
-TEST(Transpose, HasNinetyForms) { EXPECT_EQ(all().size(), 90U); }
 
 TEST(Transpose, ExchangesRowsAndColumnsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, orders);
@@ -65,7 +51,6 @@ TEST(TransposeTables, HaveTheirRowLengthsExchanged) {
     std::size_t called = 0;
     for (const Function *function : all()) {
         if (function->order != 0 || !literal::isTabled(*function)) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 3, 2);
         call.pass("cols", 2);
         call.pass("rows", 3);
@@ -136,7 +121,6 @@ TEST(TransposeTables, OfAnArrayAreLookedAtAsFarAsTheSizesCount) {
 // ---- Bits
 
 template <class Bits> void expectBitsMoved(const Function &function, const std::vector<Bits> &patterns) {
-    SCOPED_TRACE(function.name);
     Call call(function.name, 3);
     const std::uint32_t order = call.size();
     const auto patternOf = [&](std::uint32_t i, std::uint32_t j) {
@@ -176,7 +160,6 @@ TEST(TransposeInPlace, GoesElementByElement) {
     std::size_t called = 0;
     for (const Function *function : all()) {
         if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
         Call call(function->name, 2);
         call.layOver("src");
         call.set("src", 0, {1, 2, 3, 4});
@@ -200,64 +183,6 @@ TEST(TransposeInPlace, LosesTheLowerLeftCornerOfThree) {
             EXPECT_EQ(call.get("dst", n, 0, 2), 3);
             EXPECT_EQ(call.get("dst", n, 1, 1), 5);
         }
-    }
-}
-
-// ---- What is tested, and when
-
-TEST(TransposeChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(TransposeChecks, RefuseNoColumnsAndNoRowsAheadOfEntriesAndCount) {
-    for (const Function *function : all()) {
-        literal::expectZeroSizeIsRefused(*function, example);
-        if (function->order != 0) continue;
-        SCOPED_TRACE(function->name);
-        Call call(function->name, 3, 2);
-        fill(call);
-        literal::blankEntries(call);
-        call.pass("rows", 0);
-        if (function->array()) call.pass("count", 0);
-        EXPECT_EQ(call.run(), vonkErrSize);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
-TEST(TransposeChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(TransposeChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (function->array()) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(TransposeChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-// The walk follows the rows of the source, so a null there stops it in the middle of the columns of the destination.
-TEST(TransposeChecks, LookAtThePositionsOfASingleMatrixJustBeforeEachElement) {
-    for (const Function *function : all()) {
-        if (function->array() || function->layout != "P") continue;
-        for (const Operand &operand : function->operands)
-            for (const std::uint32_t order : literal::sizesOf(*function, {3}))
-                for (std::uint32_t entry = 0; entry < order * order; ++entry) {
-                    SCOPED_TRACE(function->name + ", " + operand.name + "[" + std::to_string(entry) + "] null");
-                    const std::uint32_t stop = operand.written ? entry % order * order + entry / order : entry;
-                    Call call(function->name, order);
-                    fill(call);
-                    call.set("dst", 0, std::vector<double>(std::size_t{order} * order, -1));
-                    std::byte *&slot = call[operand.name].entries[entry];
-                    std::byte *const kept = slot;
-                    slot = nullptr;
-                    EXPECT_EQ(call.run(), vonkErrNullPtr);
-                    slot = kept;
-                    for (std::uint32_t k = 0; k < order * order; ++k)
-                        EXPECT_EQ(call.get("dst", 0, k % order, k / order),
-                                  k < stop ? element(0, k / order, k % order) : -1);
-                }
     }
 }
 

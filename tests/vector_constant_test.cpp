@@ -1,18 +1,11 @@
 // Vectors and a constant: numbers by hand in every form, which side of a difference the constant stands on, the long
 // forms at every alignment and overlap, roundings, and what is tested in which order.
+#include "support/family_test.h"
 #include "support/vector_checks.h"
-
-#include <limits>
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using literal::callWith;
-using literal::wordOf;
-using support::Precision;
-using support::Rounding;
+using namespace literal::names;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
@@ -42,8 +35,6 @@ const literal::ElementFamily family{[](Call &call) {
                                     }};
 
 // ---- Results
-
-TEST(VectorConstant, HasThreeHundredAndSixtyForms) { EXPECT_EQ(all().size(), 360U); }
 
 TEST(VectorConstant, AddsSubtractsAndMultipliesInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, family.example(), lengths);
@@ -191,16 +182,6 @@ TEST(VectorConstantLong, CountsUpWhereTheDestinationIsOneElementAhead) {
                   vonkOk);
         for (std::uint32_t k = 0; k <= length; ++k) EXPECT_EQ(numbers[k], 7 + static_cast<float>(k));
     }
-}
-
-// ---- What is tested, and when
-
-TEST(VectorConstantChecks, ComeInTheUsualOrder) {
-    for (const Function *function : all()) literal::expectUsualTests(*function, family.example());
-}
-
-TEST(VectorConstantChecks, LookAtThePositionsOfOneVectorJustBeforeEachElement) {
-    for (const Function *function : all()) literal::expectPositionsAreTestedAlongTheWay(*function, family);
 }
 
 } // namespace

@@ -1,27 +1,10 @@
 // Sums and differences of vectors: numbers by hand in every form, the long run-time form at every alignment and
 // overlap, which forms hold the single vector and which read it anew, and what is tested in which order.
-#include "support/control.h"
-#include "support/literal.h"
-#include "support/literal_checks.h"
-
-#include "vonkk3.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <cstring>
-#include <limits>
-#include <numeric>
+#include "support/family_test.h"
 
 namespace {
 
-using catalogue::Function;
-using catalogue::Type;
-using literal::Call;
-using support::Precision;
-using support::Rounding;
-using support::SettingScope;
+using namespace literal::names;
 
 std::vector<const Function *> all() { return literal::members("vector-vector"); }
 
@@ -53,8 +36,6 @@ void expectDone(Call &call, std::uint32_t n) {
 }
 
 const literal::Example example{fill, expectDone};
-
-TEST(VectorVector, HasThreeHundredAndSixtyForms) { EXPECT_EQ(all().size(), 360U); }
 
 TEST(VectorVector, AddsAndSubtractsInEveryFormAndGeometry) {
     for (const Function *function : all()) literal::expectResults(*function, example, lengths);
@@ -147,7 +128,6 @@ TEST(VectorVector, FollowsTheArithmeticOfInfinitiesNansAndSignedZeros) {
 
 TEST(VectorVector, OverflowsToInfinityAndUnderflowsGradually) {
     for (const Function *function : all()) {
-        SCOPED_TRACE(function->name);
         const bool narrow = function->type == Type::real32;
         const double largest = narrow ? std::numeric_limits<float>::max() : std::numeric_limits<double>::max();
         const double smallest = narrow ? 0x1p-149 : 0x1p-1074;
@@ -196,10 +176,7 @@ TEST(VectorVector, RoundsDoublesToTheCallersPrecisionAndThenToTheStore) {
                     if (n < call.objectsOf("src2"))
                         call.set("src2", n, std::vector<double>(size, isDifference(*function) ? -small : small));
                 }
-                {
-                    const SettingScope scope(expectation.setting);
-                    ASSERT_EQ(call.run(), vonkOk);
-                }
+                ASSERT_EQ(call.run(expectation.setting), vonkOk);
                 for (std::uint32_t n = 0; n < call.count(); ++n)
                     literal::expectSame(std::vector<double>(size, expectation.expected), call.get("dst", n), "dst");
             }
@@ -231,10 +208,7 @@ TEST(VectorVector, RoundsFloatsInTheCallersDirection) {
                     call.set("src1", 0, std::vector<double>(size, sign));
                     const double small = sign * 0x1p-24;
                     call.set("src2", 0, std::vector<double>(size, isDifference(*function) ? -small : small));
-                    {
-                        const SettingScope scope(setting);
-                        ASSERT_EQ(call.run(), vonkOk);
-                    }
+                    ASSERT_EQ(call.run(setting), vonkOk);
                     const double expected = sign > 0 ? expectation.positive : expectation.negative;
                     literal::expectSame(std::vector<double>(size, expected), call.get("dst", 0), "dst");
                 }
@@ -396,7 +370,6 @@ TEST(VectorVectorRunTime, SumsUpWhereTheDestinationIsOneElementAhead) {
 TEST(VectorVectorRunTime, SumsUpInEveryLayout) {
     for (const Function *function : all()) {
         if (function->order != 0 || isDifference(*function)) continue;
-        SCOPED_TRACE(function->name);
         constexpr std::uint32_t length = 9;
         Call call(function->name, length);
         fill(call);
@@ -424,7 +397,6 @@ TEST(VectorVectorSingle, IsHeldByFloatsOfFixedSizeInTwoLayoutsAndReadAnewByAllOt
         if (!mixesArrayAndSingle(*function)) continue;
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 4, 13}))
             for (const literal::Geometry geometry : {literal::packed, literal::spread, literal::backward}) {
-                SCOPED_TRACE(function->name + ", size " + std::to_string(size));
                 const bool arrayFirst = function->group == "vav";
                 const char *array = arrayFirst ? "src1" : "src2";
                 const char *single = arrayFirst ? "src2" : "src1";
@@ -451,53 +423,6 @@ TEST(VectorVectorSingle, IsHeldByFloatsOfFixedSizeInTwoLayoutsAndReadAnewByAllOt
 }
 
 // ---- What is tested, and when
-
-TEST(VectorVectorChecks, CatchEveryNullPointerAheadOfSizesAndCount) {
-    for (const Function *function : all()) literal::expectNullPointersAreCaught(*function, example);
-}
-
-TEST(VectorVectorChecks, RefuseLengthZeroAheadOfEntriesAndCount) {
-    for (const Function *function : all()) literal::expectZeroSizeIsRefused(*function, example);
-}
-
-TEST(VectorVectorChecks, LeaveAllAloneForNoObjects) {
-    for (const Function *function : all()) literal::expectCountZeroDoesNothing(*function, example);
-}
-
-TEST(VectorVectorChecks, LookAtAllPositionsOfArraysUpFrontEvenForNoObjects) {
-    for (const Function *function : all())
-        if (!isSingle(*function)) literal::expectNullPositionsAreCaughtUpFront(*function, example);
-}
-
-TEST(VectorVectorChecks, LookAtTheEntriesOfAListWhenTheObjectsTurnComes) {
-    for (const Function *function : all()) literal::expectNullObjectsStopTheWalk(*function, example);
-}
-
-TEST(VectorVectorChecks, LookAtThePositionsOfOnePairJustBeforeEachElement) {
-    for (const Function *function : all()) {
-        if (!isSingle(*function) || function->layout != "P") continue;
-        for (const char *operand : {"src1", "src2", "dst"})
-            for (const std::uint32_t size : literal::sizesOf(*function, {1, 5, 8}))
-                for (std::uint32_t entry = 0; entry < size; ++entry) {
-                    SCOPED_TRACE(function->name + ", " + operand + "[" + std::to_string(entry) + "] null");
-                    Call call(function->name, size);
-                    fill(call);
-                    std::byte *&slot = call[operand].entries[entry];
-                    std::byte *const kept = slot;
-                    slot = nullptr;
-                    const double untouched = call.getAt(call.spareCell(0));
-                    EXPECT_EQ(call.run(), vonkErrNullPtr);
-                    slot = kept;
-                    for (std::uint32_t j = 0; j < entry; ++j) {
-                        const double expected =
-                            isDifference(*function) ? left(0, j) - right(0, j) : left(0, j) + right(0, j);
-                        EXPECT_EQ(call.get("dst", 0, 0, j), expected) << "element " << j;
-                    }
-                    for (std::uint32_t j = entry; j < size; ++j)
-                        EXPECT_EQ(call.get("dst", 0, 0, j), untouched) << "element " << j;
-                }
-    }
-}
 
 TEST(VectorVectorChecks, LeaveThreeElementsWrittenWhereTheFourthHasNoPlace) {
     float numbers[5] = {1, 2, 3, 4, 5};

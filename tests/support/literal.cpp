@@ -167,7 +167,9 @@ Call::Call(std::string_view name, std::uint32_t size, std::uint32_t count, Geome
       size_(function_.order == 0 ? size : static_cast<std::uint32_t>(function_.order)),
       rows_(function_.order == 0 && rows != 0 ? rows : size_), count_(function_.array() ? count : 1),
       pivots_(2 * pivotMargin + std::size_t{size_} * count_, untouchedPivot), pivotsWord_(pivots_.data() + pivotMargin),
-      work_(2 * workMargin + std::size_t{8} * rows_, background), workWord_(work_.data() + workMargin) {
+      work_(2 * workMargin + std::size_t{8} * rows_, background), workWord_(work_.data() + workMargin),
+      trace_(__FILE__, __LINE__,
+             function_.name + ", size " + std::to_string(size_) + ", count " + std::to_string(count_)) {
     for (const catalogue::Operand &operand : function_.operands) {
         Place place;
         place.operand = &operand;
@@ -409,6 +411,11 @@ std::int32_t Call::run() {
     if (!outcome.open && wroteElsewhere(outcome))
         throw support::Disagreement(function_.name + " writes where the model does not");
     return status;
+}
+
+std::int32_t Call::run(support::Setting setting) {
+    const support::SettingScope scope(setting);
+    return run();
 }
 
 // A byte of the call's memory has changed that the model leaves alone; scratch memory is the library's own.

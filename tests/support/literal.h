@@ -4,7 +4,10 @@
 #pragma once
 
 #include "catalogue.h"
+#include "control.h"
 #include "model/model.h"
+
+#include <gtest/gtest.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -83,6 +86,7 @@ struct Stray {
     explicit operator bool() const { return !what.empty(); }
 };
 
+// What fails while it lives is reported with its function and sizes.
 class Call {
 public:
     // `size` is the length or the order; a form of fixed size has its own. Matrices for QR may have more rows than
@@ -128,6 +132,7 @@ public:
     std::vector<std::uint64_t> words();
 
     std::int32_t run(); // the model, then the export; may be left by a jump out of that
+    std::int32_t run(support::Setting setting);
 
     bool changedNothing() const;         // in the last run, in any memory of the call
     bool changedObject(std::uint32_t n); // a byte of object n of `dst`, or of its pivots where these are written
@@ -172,6 +177,7 @@ private:
     std::vector<std::uint64_t> words_; // of the run
     Picture before_;
     Picture after_;
+    testing::ScopedTrace trace_;
 };
 
 // Equal, and of one sign if zero; one NaN is as good as another.

@@ -1,4 +1,4 @@
-// Expectations that the families of vectors share: results element by element, the order of their tests, and the
+// Expectations that the families of vectors share: results element by element, and the
 // forward walk that the long forms have to agree with at every alignment and overlap.
 #pragma once
 
@@ -42,36 +42,6 @@ inline std::uint32_t objectOf(const Call &call, std::string_view source, std::ui
     throw std::out_of_range(std::string(source));
 }
 
-// Null pointers, then sizes, then positions ahead of the count in arrays, then list entries object by object.
-inline void expectUsualTests(const catalogue::Function &function, const Example &example) {
-    expectNullPointersAreCaught(function, example);
-    expectZeroSizeIsRefused(function, example);
-    expectCountZeroDoesNothing(function, example);
-    if (function.array()) expectNullPositionsAreCaughtUpFront(function, example);
-    expectNullObjectsStopTheWalk(function, example);
-}
-
-// Of one vector in `P`: the positions of an element just before it is done.
-inline void expectPositionsAreTestedAlongTheWay(const catalogue::Function &function, const ElementFamily &family) {
-    if (function.array() || function.layout != "P") return;
-    for (const catalogue::Operand &operand : function.operands)
-        for (const std::uint32_t size : sizesOf(function, {1, 5, 8}))
-            for (std::uint32_t entry = 0; entry < size; ++entry) {
-                SCOPED_TRACE(function.name + ", " + operand.name + "[" + std::to_string(entry) + "] null");
-                Call call(function.name, size);
-                family.fill(call);
-                std::byte *&slot = call[operand.name].entries[entry];
-                std::byte *const kept = slot;
-                slot = nullptr;
-                const double untouched = call.getAt(call.spareCell(0));
-                EXPECT_EQ(call.run(), vonkErrNullPtr);
-                slot = kept;
-                for (std::uint32_t j = 0; j < size; ++j)
-                    EXPECT_EQ(call.get("dst", 0, 0, j), j < entry ? family.expected(call, 0, j) : untouched)
-                        << "element " << j;
-            }
-}
-
 // Every element of every operand has the same value: what does dst become under this setting?
 inline void expectUniform(const catalogue::Function &function, std::uint32_t size, support::Setting setting,
                           const std::map<std::string, double> &values, double expected) {
@@ -82,10 +52,7 @@ inline void expectUniform(const catalogue::Function &function, std::uint32_t siz
         else
             for (std::uint32_t n = 0; n < call.objectsOf(name); ++n)
                 call.set(name, n, std::vector<double>(call.size(), value));
-    {
-        const support::SettingScope scope(setting);
-        ASSERT_EQ(call.run(), vonkOk);
-    }
+    ASSERT_EQ(call.run(setting), vonkOk);
     for (std::uint32_t n = 0; n < call.count(); ++n)
         expectSame(std::vector<double>(call.size(), expected), call.get("dst", n), "object " + std::to_string(n));
 }

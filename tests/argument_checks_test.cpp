@@ -1,0 +1,336 @@
+// Which arguments are checked, in which order, and what a refused call leaves behind: of every export, by the rule of
+// its section. Who deviates is taken from the table of exceptions. Null pointers come first, then sizes, then entries
+// of tables, then `count`; entries of lists are checked when the object's turn comes.
+#include "support/family_test.h"
+
+namespace {
+
+using namespace literal::names;
+using literal::allMembers;
+
+// ---- The rules of the sections
+
+enum class OfSingleTable { upFront, beforeEachElement, asSumsReachThem }; // when entries of one object's are checked
+enum class OfEntries { checked, unchecked, addressStops, addressPassesOver };
+
+struct Rule {
+    OfSingleTable single = OfSingleTable::upFront;
+    OfEntries entries = OfEntries::checked; // the address of an object in a list is its entry with the shift added
+    bool sizes = true;                      // a size of 0 is vonkErrSize
+};
+
+const Rule &ruleOf(const Function &function) {
+    using enum OfSingleTable;
+    using enum OfEntries;
+    static const Rule usual{};
+    static const std::map<std::string_view, Rule> others{
+        {"vector-constant", {.single = beforeEachElement}},
+        {"vector-vector", {.single = beforeEachElement}},
+        {"saxpy", {.single = beforeEachElement}},
+        {"linear-combination", {.single = beforeEachElement}},
+        {"matrix-matrix", {.single = beforeEachElement}},
+        {"matrix-constant", {.single = beforeEachElement}},
+        {"transpose", {.single = beforeEachElement}},
+        {"trace", {.single = asSumsReachThem}},
+        {"matrix-product", {.single = asSumsReachThem}},
+        {"matrix-vector", {.single = asSumsReachThem}},
+        {"gaxpy", {.single = asSumsReachThem}},
+        {"copy", {.entries = unchecked}},
+        {"extract", {.entries = unchecked}},
+        {"identity", {.entries = unchecked, .sizes = false}},
+        {"cholesky-decomposition", {.entries = addressStops}},
+        {"cholesky-back-substitution", {.entries = addressPassesOver}},
+    };
+    const auto found = others.find(function.section->id);
+    return found == others.end() ? usual : found->second;
+}
+
+bool hasList(const Operand &operand) { return catalogue::isList(operand.layout) && operand.array; }
+bool hasTable(const Operand &operand) { return catalogue::isTable(operand.layout); }
+
+// ---- Calls that succeed
+
+constexpr std::uint32_t runTimeSize = 5;
+
+// Symmetric matrices with a large diagonal, which all families accept, and other numbers in each object.
+void fill(Call &call) {
+    for (const Operand &operand : call.function().operands) {
+        if (operand.written) continue;
+        const std::uint32_t rows = call[operand.name].rows, cols = call[operand.name].cols;
+        const std::uint32_t variant = operand.name == "src2" ? 1 : 0;
+        for (std::uint32_t n = 0; n < call.objectsOf(operand.name); ++n)
+            for (std::uint32_t i = 0; i < rows; ++i)
+                for (std::uint32_t j = 0; j < cols; ++j)
+                    call.set(operand.name, n, i, j,
+                             rows > 1 && i == j ? 16 + n : 1 + (i + j + 2 * n + variant) % 3 + (rows == 1 ? n : 0));
+    }
+    std::vector<std::uint32_t> unpermuted;
+    for (std::uint32_t i = 0; i < call.size(); ++i) unpermuted.push_back(i);
+    if (call.function().family->operation == "LUBackSubst")
+        for (std::uint32_t n = 0; n < call.count(); ++n) call.setPivots(n, unpermuted);
+}
+
+struct Objects {
+    std::vector<std::vector<double>> elements;
+    std::vector<std::vector<std::uint32_t>> pivots;
+};
+
+Objects objectsOf(Call &call) {
+    Objects found;
+    const bool isDense = !call.hasPlainResult() && !call.function().operands.back().written;
+    const std::vector<double> all = isDense ? call.results() : std::vector<double>{};
+    const auto size = static_cast<std::ptrdiff_t>(all.size() / call.count());
+    for (std::uint32_t n = 0; n < call.count(); ++n) {
+        if (isDense) found.elements.emplace_back(all.begin() + n * size, all.begin() + (n + 1) * size);
+        else found.elements.push_back(call.get("dst", n));
+        found.pivots.push_back(call.pivots(n));
+    }
+    return found;
+}
+
+// What a call without a fault leaves.
+Objects completed(const Function &function, std::uint32_t count) {
+    Call call(function.name, runTimeSize, count);
+    fill(call);
+    EXPECT_EQ(call.run(), vonkOk) << function.name;
+    return objectsOf(call);
+}
+
+void expectObject(const Objects &expected, const Objects &found, std::uint32_t n) {
+    literal::expectSame(expected.elements[n], found.elements[n], "object " + std::to_string(n));
+    EXPECT_EQ(found.pivots[n], expected.pivots[n]) << "object " << n;
+}
+
+// The first `done` objects are complete, and no byte of the others or beside them has changed. The ones of later
+// identities lie beside them by the rule.
+void expectDone(Call &call, const Objects &whole, std::uint32_t done) {
+    const Objects found = objectsOf(call);
+    for (std::uint32_t n = 0; n < call.count(); ++n)
+        if (n < done) expectObject(whole, found, n);
+        else EXPECT_FALSE(call.changedObject(n)) << "object " << n;
+    if (call.function().section->id == "identity") return;
+    if (const literal::Stray stray = call.strayWrites()) ADD_FAILURE() << stray.what;
+}
+
+void passZeroSizesAndCount(Call &call) {
+    for (const catalogue::Parameter &parameter : call.function().parameters)
+        if (parameter.kind == Kind::size || parameter.kind == Kind::count) call.pass(parameter.name, 0);
+}
+
+void expectRefused(Call &call, std::int32_t status) {
+    EXPECT_EQ(call.run(), status);
+    EXPECT_TRUE(call.changedNothing());
+}
+
+// ---- Pointers, sizes, count
+
+TEST(ArgumentChecks, CatchNullPointersAheadOfSizesEntriesAndCount) {
+    for (const Function &function : allMembers())
+        for (const catalogue::Parameter &parameter : function.parameters) {
+            if (!literal::isPointer(parameter.kind)) continue;
+            SCOPED_TRACE(function.name + ", null " + parameter.name);
+            const bool unchecked = isException(function, "extract-unchecked");
+            Call call(function.name, runTimeSize, 2);
+            fill(call);
+            call.pass(parameter.name, 0);
+            if (!unchecked) expectRefused(call, vonkErrNullPtr);
+            passZeroSizesAndCount(call);
+            literal::blankEntries(call);
+            expectRefused(call, unchecked ? vonkOk : vonkErrNullPtr);
+        }
+}
+
+TEST(ArgumentChecks, RefuseSizesOfZeroAheadOfEntriesAndCount) {
+    for (const Function &function : allMembers())
+        for (const catalogue::Parameter &parameter : function.parameters) {
+            if (parameter.kind != Kind::size || !ruleOf(function).sizes) continue;
+            SCOPED_TRACE(function.name + ", " + parameter.name + " 0");
+            const bool passes = isException(function, "copy-empty-matrix") ||
+                                isException(function, "extract-unchecked") ||
+                                (isException(function, "product-no-columns") && parameter.name == "src2Cols");
+            Call call(function.name, runTimeSize, 2);
+            fill(call);
+            call.pass(parameter.name, 0);
+            expectRefused(call, passes ? vonkOk : vonkErrSize);
+            if (isException(function, "product-no-columns") && passes) continue; // entries and count come next
+            literal::blankEntries(call);
+            if (function.array()) call.pass("count", 0);
+            expectRefused(call, passes ? vonkOk : vonkErrSize);
+        }
+}
+
+// Entries of tables come ahead of `count`, see below; lists are not looked at.
+TEST(ArgumentChecks, LeaveAllAloneForNoObjects) {
+    for (const Function &function : allMembers()) {
+        if (!function.array() && !literal::has(function, Kind::count)) continue;
+        Call call(function.name, runTimeSize, 2);
+        fill(call);
+        call.pass("count", 0);
+        if (isException(function, "sum-count-zero")) {
+            EXPECT_EQ(call.run(), vonkOk);
+            expectDone(call, completed(function, 2), 1);
+            continue;
+        }
+        expectRefused(call, literal::statusOfNoObjects(function));
+        const bool checksTables = ruleOf(function).entries == OfEntries::checked;
+        for (const Operand &operand : function.operands)
+            if (!hasTable(operand) || !checksTables) literal::blankEntries(call, operand.name);
+        expectRefused(call, literal::statusOfNoObjects(function));
+    }
+}
+
+TEST(ArgumentChecks, TakeANegativeSizeForNoneWithoutAWordWhereItIsSigned) {
+    for (const Function &function : allMembers())
+        for (const std::string parameter : {"count", "order"}) {
+            if (!literal::hasExceptionOf(function, "-signed-" + parameter, catalogue::ExceptionClass::arguments))
+                continue;
+            for (const std::uint32_t negative : {0x80000000U, 0xffffffffU}) {
+                SCOPED_TRACE(function.name + ", " + parameter);
+                Call call(function.name, runTimeSize, 2);
+                fill(call);
+                call.pass(parameter, negative);
+                expectRefused(call, vonkOk);
+                if (parameter == "count" || !function.array()) continue;
+                call.pass("count", 0);
+                expectRefused(call, literal::statusOfNoObjects(function));
+            }
+        }
+}
+
+// ---- Entries of tables of positions
+
+// An entry that is not checked is followed: the shift leads to memory.
+bool isChecked(const Function &function, const Operand &operand, std::uint32_t entry, std::uint32_t order) {
+    if (ruleOf(function).entries != OfEntries::checked) return false;
+    if (isException(function, "product-unchecked-entries")) return false;
+    if (isException(function, "trace-checked-entries")) return entry < order;
+    const bool ofEight = isException(function, "sum-position-8") || isException(function, "scale-position-8") ||
+                         isException(function, "product-vector-position-8");
+    if (ofEight && operand.transposed && entry == 8) return false;
+    return true;
+}
+
+bool isRead(const Function &function, std::uint32_t entry, std::uint32_t order) {
+    return function.section->id != "trace" || entry % (order + 1) == 0;
+}
+
+// The place among the elements of a result at which a single matrix comes to this entry.
+std::uint32_t placeOf(const Function &function, const Operand &operand, std::uint32_t entry, std::uint32_t order) {
+    const bool exchanged = operand.transposed || (function.section->id == "transpose" && operand.written);
+    return exchanged ? entry % order * order + entry / order : entry;
+}
+
+void expectElementsBefore(Call &call, const Operand &operand, std::uint32_t entry, const Objects &whole,
+                          double untouched) {
+    const std::uint32_t stop = placeOf(call.function(), operand, entry, call.size());
+    const std::vector<double> found = call.get("dst", 0);
+    for (std::uint32_t k = 0; k < found.size(); ++k) {
+        const bool done = placeOf(call.function(), call.function().operands.back(), k, call.size()) < stop;
+        EXPECT_EQ(found[k], done ? whole.elements[0][k] : untouched) << "element " << k;
+    }
+}
+
+// Two whose shift cannot be moved: one leaves it out, one uses it for another table.
+bool hasOtherShift(const Function &function) {
+    return isException(function, "extract-ignored-shift") || isException(function, "copy-other-table");
+}
+
+TEST(ArgumentChecks, CatchNullEntriesOfTablesAheadOfAllWorkAndTheCountOrElementByElement) {
+    for (const Function &function : allMembers())
+        for (const Operand &operand : function.operands) {
+            if (!hasTable(operand) || hasOtherShift(function)) continue;
+            const Objects whole = completed(function, 2);
+            const OfSingleTable single = function.array() ? OfSingleTable::upFront : ruleOf(function).single;
+            for (std::uint32_t entry = 0;; ++entry) {
+                SCOPED_TRACE(function.name + ", " + operand.name + "[" + std::to_string(entry) + "] null");
+                Call call(function.name, runTimeSize, 2);
+                if (entry == call[operand.name].rows * call[operand.name].cols) break;
+                fill(call);
+                const double untouched = call.getAt(call.spareCell(0));
+                const bool refused = isChecked(function, operand, entry, call.size()) &&
+                                     (single != OfSingleTable::asSumsReachThem || isRead(function, entry, call.size()));
+                EXPECT_EQ(literal::runThroughNull(call, operand.name, entry), refused ? vonkErrNullPtr : vonkOk);
+                if (!refused) expectDone(call, whole, call.count());
+                else if (single == OfSingleTable::beforeEachElement)
+                    expectElementsBefore(call, operand, entry, whole, untouched);
+                else if (single == OfSingleTable::upFront) expectDone(call, whole, 0);
+                if (!function.array()) continue;
+                call.pass("count", 0);
+                EXPECT_EQ(literal::runThroughNull(call, operand.name, entry),
+                          refused ? vonkErrNullPtr : literal::statusOfNoObjects(function));
+                EXPECT_TRUE(call.changedNothing());
+            }
+        }
+}
+
+// ---- Entries of lists
+
+constexpr std::array<std::uint32_t, 3> counts{1, 3, 9}; // 9 make a batch of eight or two of four, and one more
+
+// How many of `count` objects are complete where this entry is null; none if it is followed.
+std::optional<std::uint32_t> completeBefore(const Function &function, const Operand &operand, std::uint32_t entry,
+                                            std::uint32_t count) {
+    if (ruleOf(function).entries != OfEntries::checked) return {};
+    for (const char *id :
+         {"dot-unchecked-entries", "norm-unchecked-entries", "product-unchecked-entries", "inverse-unchecked-entries"})
+        if (isException(function, id)) return {};
+    if (isException(function, "inverse-entries-first")) return 0;
+    if (isException(function, "frobenius-unchecked-entries")) {
+        if (entry >= count / 4 * 4) return {};
+        return entry / 4 * 4;
+    }
+    if (isException(function, "sum-pipelined-entries")) {
+        if (operand.written && entry == count - 1) return 0;
+        if (operand.written && entry == 0) return {};
+        return entry == 0 ? 0 : entry - 1;
+    }
+    return entry;
+}
+
+template <class Check> void forEachListEntry(Check check) {
+    for (const Function &function : allMembers())
+        for (const std::uint32_t count : counts) {
+            if (!function.array() || !std::ranges::any_of(function.operands, hasList)) continue;
+            const Objects whole = completed(function, count);
+            for (const Operand &operand : function.operands)
+                for (std::uint32_t entry = 0; entry < count; ++entry) {
+                    if (!hasList(operand)) continue;
+                    SCOPED_TRACE(function.name + ", " + operand.name + "[" + std::to_string(entry) + "] of " +
+                                 std::to_string(count) + " null");
+                    check(function, operand, count, entry, whole);
+                }
+        }
+}
+
+TEST(ArgumentChecks, CatchNullEntriesOfListsWhenTheObjectsTurnComes) {
+    forEachListEntry([](const Function &function, const Operand &operand, std::uint32_t count, std::uint32_t entry,
+                        const Objects &whole) {
+        Call call(function.name, runTimeSize, count);
+        fill(call);
+        const std::optional<std::uint32_t> done = completeBefore(function, operand, entry, count);
+        EXPECT_EQ(literal::runThroughNull(call, operand.name, entry), done ? vonkErrNullPtr : vonkOk);
+        expectDone(call, whole, done.value_or(count));
+    });
+}
+
+TEST(ArgumentChecks, StopAtOrPassOverAnObjectWhoseAddressIsNullInTheCholeskyFamilies) {
+    forEachListEntry([](const Function &function, const Operand &operand, std::uint32_t count, std::uint32_t entry,
+                        const Objects &whole) {
+        const OfEntries rule = ruleOf(function).entries;
+        const bool stops = rule == OfEntries::addressStops;
+        if (!stops && rule != OfEntries::addressPassesOver) return;
+        Call call(function.name, runTimeSize, count);
+        fill(call);
+        literal::Place &place = call[operand.name];
+        std::byte *const kept = place.entries[entry];
+        place.entries[entry] = reinterpret_cast<std::byte *>(-std::intptr_t{place.shift});
+        EXPECT_EQ(call.run(), stops ? vonkErrNullPtr : vonkOk);
+        place.entries[entry] = kept;
+        const Objects found = objectsOf(call);
+        for (std::uint32_t n = 0; n < count; ++n)
+            if (n == entry || (stops && n > entry)) EXPECT_FALSE(call.changedObject(n)) << "object " << n;
+            else expectObject(whole, found, n);
+    });
+}
+
+} // namespace
