@@ -58,7 +58,7 @@ def section(match):
     """What stands between [start:name] and [end:name] of a file: the snippets' extension takes whole files only."""
     path, name = match.groups()
     text = (ROOT / path).read_text(encoding="utf-8")
-    found = re.search(rf"^.*\[start:{name}\]\n(.*?)^.*\[end:{name}\]$", text, re.MULTILINE | re.DOTALL)
+    found = re.search(rf"^.*\[start:{name}\](?: -->)?\n(.*?)^.*\[end:{name}\](?: -->)?$", text, re.MULTILINE | re.DOTALL)
     if found is None:
         sys.exit(f"assemble.py: {path} has no section {name}")
     return found.group(1).rstrip("\n")
