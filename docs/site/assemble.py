@@ -58,9 +58,9 @@ def section(match):
     """What stands between [start:name] and [end:name] of a file: the snippets' extension takes whole files only."""
     path, name = match.groups()
     text = (ROOT / path).read_text(encoding="utf-8")
-    found = re.search(rf"^.*\[start:{name}\](?: -->)?\n(.*?)^.*\[end:{name}\](?: -->)?$", text, re.MULTILINE | re.DOTALL)
-    if found is None:
-        sys.exit(f"assemble.py: {path} has no section {name}")
+    found = re.search(rf"^[^\n]*\[start:{name}\](?: -->)?\n(.*?)^[^\n]*\[end:{name}\](?: -->)?$", text, re.MULTILINE | re.DOTALL)
+    if found is None or not found.group(1).strip():
+        sys.exit(f"assemble.py: {path} has no section {name}, or nothing in it")
     return found.group(1).rstrip("\n")
 
 

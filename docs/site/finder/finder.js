@@ -292,7 +292,7 @@
             row('other type', near.type, (g) => g.type),
             next ? row('called next', [next], (g) => g.name) : undefined,
             programs.length && element('tr', { class: 'finder-recipes' }, [
-                element('th', { scope: 'row', text: 'programs' }), element('td', {}, programs.flatMap((a, k) => (k ? [', ', a] : [a])))]),
+                element('th', { scope: 'row', text: 'programs' }), element('td', {}, programs.flatMap((a) => [a, ' ']))]),
         ])]);
     }
 
