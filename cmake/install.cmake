@@ -18,7 +18,7 @@ endforeach()
 install(FILES ${PROJECT_BINARY_DIR}/src/generated/functions.json docs/functions.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vonkk3)
 install(FILES README.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/reference DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
-install(FILES docs/layouts.svg DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
+install(FILES docs/layouts.svg docs/speed.svg docs/python.svg DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # The Fortran modules as sources, since a module file is for one compiler alone, in the order in which they are compiled.
 set(VONKK3_FORTRAN_ORDER types views vector matrix product copy lu cholesky qr s2_32f s2_64f)

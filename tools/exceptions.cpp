@@ -159,10 +159,9 @@ constexpr std::array exceptionTable = std::to_array<Exception>({
      "diagonal lies: a null entry of the diagonal further on is followed."},
 
     {"frobenius-estimate", "frobenius-norm", arithmetic, "vonkFrobNorm_{m_32f_?x?,ma_32f_?x?{,_L}}",
-     "The sum runs in SIMD lanes, in the order above. The root is s * (r * (0.5 * (3.0 - s * (r * r)))) with r the "
-     "processor's estimate of 1 / root(s), of about 12 bits: not correctly rounded, dependent on the processor, and "
-     "NaN "
-     "for a matrix of zeros."},
+     "The sum s runs in SIMD lanes, in the family's order for them. The root is s * (r * (0.5 * (3.0 - s * (r * r)))) "
+     "with r the processor's estimate of 1 / root(s), of about 12 bits: not correctly rounded, dependent on the "
+     "processor, and NaN for a matrix of zeros."},
     {"frobenius-backwards", "frobenius-norm", arithmetic, "vonkFrobNorm_ma_32f_?x?_{P,PS2,LS2}",
      "The sum runs backwards from +0: the last column first, each column from the bottom."},
     {"frobenius-four-objects", "frobenius-norm", arithmetic, "vonkFrobNorm_ma_32f_{3x3,4x4}{,_L}",
@@ -275,9 +274,8 @@ constexpr std::array exceptionTable = std::to_array<Exception>({
      "Table entries are checked one by one, as `scratch` is filled."},
 
     {"inverse-estimate", "inverse", arithmetic, "vonkInvert_{m_32f_?x?,ma_32f_?x?{,_L}}",
-     "r comes from the processor's estimate of 1 / D, x, and one Newton step: x + x - (D x) x in 3x3, x + x - D (x x) "
-     "in "
-     "the others. It is right to rounding, but not promised bit for bit."},
+     "With D the determinant, r = 1 / D comes from the processor's estimate x of it and one Newton step: x + x - (D x) "
+     "x in 3x3, x + x - D (x x) in the others. It is right to rounding, but not promised bit for bit."},
     {"inverse-unchecked-entries", "inverse", checks, "vonkInvert_ma_32f_?x?_L",
      "List entries are not checked; a null entry is followed."},
     {"inverse-entries-first", "inverse", checks, "vonkInvert_ma_64f_?x?_L vonkInvert_ma_{32f,64f}_?x?_LS2",
@@ -285,7 +283,7 @@ constexpr std::array exceptionTable = std::to_array<Exception>({
     {"inverse-entry-by-entry", "inverse", checks, "vonkInvert_m_{32f,64f}_P",
      "Table entries are checked one by one, as `scratch` is filled."},
     {"inverse-exact-zero", "inverse", status, "vonkInvert_{m_32f_{3x3,4x4},ma_32f_{3x3,4x4}{,_L}}",
-     "A matrix is singular only if D is exactly 0: a D of 1e-30 gives huge numbers."},
+     "A matrix is singular only if its determinant is exactly 0: one of 1e-30 gives huge numbers."},
     {"inverse-column-5", "inverse", status, "vonkInvert_{m_32f_6x6,ma_32f_6x6{,_L}}",
      "Column 5 is a candidate as well. Where row 0 is zero but for column 5, all other 6x6 forms find a regular matrix "
      "singular."},

@@ -83,7 +83,7 @@ constexpr std::array usageTable = std::to_array<Usage>({
      "", "", ""},
     {"determinant", "Det", "", "Determinant", "determinant det volume orientation singular", "", "", "", ""},
     {"inverse", "Invert", "", "Inverse", "inverse invert inversion inv getri adjugate cofactor reciprocal matrix", "",
-     "", "", "Mul"},
+     "", "", ""},
     {"cholesky-decomposition", "CholeskyDecomp", "", "Cholesky decomposition",
      "cholesky decomposition factor factorize factorization llt potrf posv symmetric positive definite spd covariance "
      "normal "

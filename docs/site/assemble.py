@@ -49,13 +49,18 @@ def reference(catalogue, folder):
         page.write_text(text.replace("(README.md", "(index.md"), encoding="utf-8")
 
 
+def links(text):
+    """The prose links to docs/ as it lies in the tree, where it can be read, too; in the site that is beside the pages."""
+    return text.replace("](../../reference/README.md", "](reference/index.md").replace("](../../", "](")
+
+
 def section(match):
     """What stands between [start:name] and [end:name] of a file: the snippets' extension takes whole files only."""
     path, name = match.groups()
     text = (ROOT / path).read_text(encoding="utf-8")
-    found = re.search(rf"^.*\[start:{name}\]\n(.*?)^.*\[end:{name}\]$", text, re.MULTILINE | re.DOTALL)
-    if found is None:
-        sys.exit(f"assemble.py: {path} has no section {name}")
+    found = re.search(rf"^[^\n]*\[start:{name}\](?: -->)?\n(.*?)^[^\n]*\[end:{name}\](?: -->)?$", text, re.MULTILINE | re.DOTALL)
+    if found is None or not found.group(1).strip():
+        sys.exit(f"assemble.py: {path} has no section {name}, or nothing in it")
     return found.group(1).rstrip("\n")
 
 
@@ -67,6 +72,8 @@ def main():
     shutil.copytree(SITE / "pages", pages)
     for page in pages.rglob("*.md"):
         text = page.read_text(encoding="utf-8")
+        if page.parent == pages:
+            text = links(text)
         page.write_text(re.sub(r'^--8<-- "([^":]+):([\w-]+)"$', section, text, flags=re.MULTILINE), encoding="utf-8")
     reference(catalogue, pages / "reference")
     for file in ("layouts.svg", "python.svg", "python-scaling.svg", "python-benchmarks.md"):

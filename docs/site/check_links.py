@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Checks the built site: every link and picture leads to a file of it, every fragment to an anchor or to a function,
-nothing is fetched from elsewhere, and every name of a function, or beginning of one, exists.
+nothing is fetched from elsewhere, no block of code is empty, and every name of a function, or beginning of one, exists.
 
     check_links.py SITE_FOLDER
 """
@@ -16,14 +16,24 @@ class Page(html.parser.HTMLParser):
         super().__init__()
         self.links, self.fetched, self.anchors = [], [], set()
         self.names = set()
+        self.code, self.blocks = None, []  # the text of the block of code that is being read; of all blocks
         self.feed(text)
 
+    def handle_endtag(self, tag):
+        if tag == "pre" and self.code is not None:
+            self.blocks.append(self.code)
+            self.code = None
+
     def handle_data(self, data):
+        if self.code is not None:
+            self.code += data
         # Patterns, as vonk{Add,Sub}, are the generator's; it checks them.
         self.names.update(re.findall(r"\bvonk[A-Z0-9]\w*\b(?![{*?])", data))
 
     def handle_starttag(self, tag, attributes):
         found = dict(attributes)
+        if tag == "pre":
+            self.code = ""
         if found.get("id"):
             self.anchors.add(found["id"])
         if tag == "a" and found.get("href"):
@@ -45,6 +55,9 @@ def main():
     for path, page in pages.items():
         for name in sorted(page.names - functions - beginnings):
             errors.append(f"{path.relative_to(root)}: {name} is no function")
+        empty = sum(1 for block in page.blocks if not block.strip())
+        if empty:
+            errors.append(f"{path.relative_to(root)}: {empty} blocks of code are empty")
         if path.name == "404.html":  # its links begin at the root of a server
             continue
         where = path.relative_to(root)

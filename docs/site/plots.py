@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
-"""Draws the plots of the performance pages from a run of the benchmarks.
+"""Draws the plots of the performance pages, and the README's, from a run of the benchmarks.
 
-    plots.py --keep RUN.json FILE    keeps of a run (scripts/benchmark.sh --save RUN.json) what the plots need
-    plots.py FILE FOLDER             draws
+    plots.py --keep RUN.json         keeps of a run (scripts/benchmark.sh --save RUN.json) what the plots need, in
+                                     data/benchmarks.json, and draws docs/speed.svg from it
+    plots.py --speed FILE            draws the README's plot alone, into FILE
+    plots.py DATA FOLDER             draws the plots of the site
 
 Times are nanoseconds per object or call, the least of all rounds, with the best peer's beside them. A row that the
 file does not have is an error: nothing is drawn that was not measured.
@@ -16,6 +18,14 @@ LAYOUTS = ["", "S2", "P", "PS2", "L", "LS2"]
 BY_LAYOUT = ["Add_mama", "Mul_mama", "Mul_mva", "LUDecomp_ma", "CholeskyDecomp_ma", "Invert_ma"]
 PEERS = ["Add_mama", "Mul_mama", "Mul_mva", "Transpose_ma", "FrobNorm_ma", "LUDecomp_ma", "LUBackSubst_mava",
          "CholeskyDecomp_ma", "CholeskyBackSubst_mava", "QRDecomp_ma", "QRBackSubst_mava", "Det_ma", "Invert_ma"]
+# The README's: the line at a group of bars, the operation.
+SPEED = [("Matrix by matrix", "Mul_mama"), ("Matrix by vector", "Mul_mava"), ("One matrix by vectors", "Mul_mva"),
+         ("LU decomposition", "LUDecomp_ma"), ("LU back substitution", "LUBackSubst_mava"),
+         ("Cholesky decomposition", "CholeskyDecomp_ma"), ("Cholesky back substitution", "CholeskyBackSubst_mava"),
+         ("QR decomposition", "QRDecomp_ma"), ("QR back substitution", "QRBackSubst_mava"),
+         ("Inverse", "Invert_ma"), ("Determinant", "Det_ma")]
+DATA = pathlib.Path(__file__).resolve().parent / "data" / "benchmarks.json"
+SPEED_FILE = pathlib.Path(__file__).resolve().parent.parent / "speed.svg"
 SINGLES = [("Mul_mm_32f_4x4", "Mul_mama_32f_4x4"), ("LUDecomp_m_32f_4x4", "LUDecomp_ma_32f_4x4"),
            ("Add_vv_32f_4x1", "Add_vava_32f_4x1"), ("Sub_vv_32f_3x1", "Sub_vava_32f_3x1")]
 
@@ -29,7 +39,7 @@ def row_name(operation, layout, count):
 
 def needed():
     names = [row_name(op, layout, count) for op in BY_LAYOUT for layout in LAYOUTS for count in (64, 2048)]
-    names += [row_name(op, "", 2048) for op in PEERS]
+    names += [row_name(op, "", 2048) for op in PEERS + [op for _, op in SPEED]]
     names += [f"vonk{op}_{element}_4x4/2048" for op in TYPES for element in ("32f", "64f")]
     names += [f"vonk{name}/64" for pair in SINGLES for name in pair]
     return list(dict.fromkeys(names))
@@ -51,8 +61,12 @@ def keep(run, path):
 class Plot:
     """Groups of horizontal bars; each bar is (label, nanoseconds, class of colour)."""
 
-    COLOURS = {"ours": "#3f51b5", "light": "#9fa8da", "peer": "#b0b0b0"}
     LEFT, WIDTH, BAR = 215, 445, 15
+    # An image cannot see the page that shows it: it has a background of its own, for either of the reader's settings.
+    STYLE = ("text{font:13px sans-serif;fill:#222}.s{font-size:11px}.t{font-weight:bold;font-size:14px}.back{fill:#fff}"
+             ".ours{fill:#3f51b5}.light{fill:#9fa8da}.peer{fill:#b0b0b0}"
+             "@media(prefers-color-scheme:dark){text{fill:#ddd}.back{fill:#161b22}"
+             ".ours{fill:#8c9eff}.light{fill:#4d5ba8}.peer{fill:#6e7681}}")
 
     def __init__(self, title, source, legend):
         self.title, self.source, self.legend, self.groups = title, source, legend, []
@@ -68,28 +82,42 @@ class Plot:
             parts.append(f'<text x="{self.LEFT - 10}" y="{middle}" text-anchor="end">{escape(label)}</text>')
             for name, value, colour in bars:
                 width = max(1, self.WIDTH * value / most)
-                parts.append(f'<rect x="{self.LEFT}" y="{y}" width="{width:.1f}" height="{self.BAR - 3}" fill="{self.COLOURS[colour]}"/>'
+                parts.append(f'<rect x="{self.LEFT}" y="{y}" width="{width:.1f}" height="{self.BAR - 3}" class="{colour}"/>'
                              f'<text x="{self.LEFT + width + 5:.1f}" y="{y + 10}" class="s">{value:.3g}{" " + escape(name) if name else ""}</text>')
                 y += self.BAR
             y += 9
         x = self.LEFT
         for label, colour in self.legend:
-            parts.append(f'<rect x="{x}" y="36" width="12" height="12" fill="{self.COLOURS[colour]}"/>'
+            parts.append(f'<rect x="{x}" y="36" width="12" height="12" class="{colour}"/>'
                          f'<text x="{x + 17}" y="46" class="s">{escape(label)}</text>')
             x += 30 + 6.2 * len(label)
         height = y + 28
         return (f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 820 {height}" width="820" height="{height}" role="img" '
-                f'aria-label="{escape(self.title)}"><style>text{{font:13px sans-serif;fill:#222}}.s{{font-size:11px}}'
-                f'.t{{font-weight:bold;font-size:14px}}</style><rect width="820" height="{height}" fill="#fff"/>'
+                f'aria-label="{escape(self.title)}"><style>{self.STYLE}</style><rect width="820" height="{height}" rx="6" class="back"/>'
                 f'<text x="10" y="20" class="t">{escape(self.title)}</text>' + "".join(parts) +
                 f'<text x="10" y="{height - 10}" class="s">{escape(self.source)}</text></svg>\n')
 
 
-def write(path, folder):
+def read(path):
+    """The rows, and the line at the foot of every plot."""
     data = json.loads(pathlib.Path(path).read_text(encoding="utf-8"))
-    context, rows = data["context"], data["rows"]
-    source = (f'{context["processor"]}, {context["compiler"]}, library {context["library"]} built for x86-64, '
-              f'{context["rounds"]} rounds, {context["date"][:10]}')
+    context = data["context"]
+    return data["rows"], (f'{context["processor"]}, {context["compiler"]}, library {context["library"]} built for x86-64, '
+                          f'{context["rounds"]} rounds, {context["date"][:10]}')
+
+
+def write_speed(path):
+    rows, source = read(DATA)
+    plot = Plot("Nanoseconds per object: arrays of 2,048, float, 4x4, standard layout (shorter is faster)", source,
+                [("vonkk3", "ours"), ("best peer, named at its bar (plain: a C++ loop of fixed sizes)", "peer")])
+    for label, operation in SPEED:
+        row = rows[row_name(operation, "", 2048)]
+        plot.group(label, [("", row["ns"], "ours"), (row["peer"], row["peer_ns"], "peer")])
+    pathlib.Path(path).write_text(plot.text(), encoding="utf-8")
+
+
+def write(path, folder):
+    rows, source = read(path)
     folder = pathlib.Path(folder)
     folder.mkdir(parents=True, exist_ok=True)
 
@@ -109,7 +137,7 @@ def write(path, folder):
     (folder / "counts.svg").write_text(plot.text(), encoding="utf-8")
 
     plot = Plot("Nanoseconds per object beside the best peer: float, 4x4, standard layout, 2048 objects", source,
-                [("vonkk3", "ours"), ("best peer, named at its bar", "peer")])
+                [("vonkk3", "ours"), ("best peer, named at its bar (plain: a C++ loop of fixed sizes)", "peer")])
     for operation in PEERS:
         row = rows[row_name(operation, "", 2048)]
         plot.group(operation, [("", row["ns"], "ours"), (row["peer"], row["peer_ns"], "peer")])
@@ -130,6 +158,9 @@ def write(path, folder):
 
 if __name__ == "__main__":
     if sys.argv[1] == "--keep":
-        keep(sys.argv[2], sys.argv[3])
+        keep(sys.argv[2], DATA)
+        write_speed(SPEED_FILE)
+    elif sys.argv[1] == "--speed":
+        write_speed(sys.argv[2])
     else:
         write(sys.argv[1], sys.argv[2])

@@ -1480,8 +1480,8 @@ VonkStatus vonkDet_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, in
  *
  * Exceptions:
  * - inverse-estimate (arithmetic): vonkInvert_{m_32f_?x?,ma_32f_?x?{,_L}}
- *   r comes from the processor's estimate of 1 / D, x, and one Newton step: x + x - (D x) x in 3x3, x + x - D (x x) in
- *   the others. It is right to rounding, but not promised bit for bit.
+ *   With D the determinant, r = 1 / D comes from the processor's estimate x of it and one Newton step: x + x - (D x) x
+ *   in 3x3, x + x - D (x x) in the others. It is right to rounding, but not promised bit for bit.
  * - inverse-unchecked-entries (checks): vonkInvert_ma_32f_?x?_L
  *   List entries are not checked; a null entry is followed.
  * - inverse-entries-first (checks): vonkInvert_ma_64f_?x?_L vonkInvert_ma_{32f,64f}_?x?_LS2
@@ -1489,7 +1489,7 @@ VonkStatus vonkDet_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, in
  * - inverse-entry-by-entry (checks): vonkInvert_m_{32f,64f}_P
  *   Table entries are checked one by one, as `scratch` is filled.
  * - inverse-exact-zero (status): vonkInvert_{m_32f_{3x3,4x4},ma_32f_{3x3,4x4}{,_L}}
- *   A matrix is singular only if D is exactly 0: a D of 1e-30 gives huge numbers.
+ *   A matrix is singular only if its determinant is exactly 0: one of 1e-30 gives huge numbers.
  * - inverse-column-5 (status): vonkInvert_{m_32f_6x6,ma_32f_6x6{,_L}}
  *   Column 5 is a candidate as well. Where row 0 is zero but for column 5, all other 6x6 forms find a regular matrix
  *   singular.

@@ -6712,9 +6712,9 @@ VonkStatus vonkTrace_ma_64f_6x6_LS2(const double *const *src, int32_t srcShift, 
  *
  * Exceptions:
  * - frobenius-estimate (arithmetic): vonkFrobNorm_{m_32f_?x?,ma_32f_?x?{,_L}}
- *   The sum runs in SIMD lanes, in the order above. The root is s * (r * (0.5 * (3.0 - s * (r * r)))) with r the
- *   processor's estimate of 1 / root(s), of about 12 bits: not correctly rounded, dependent on the processor, and NaN
- *   for a matrix of zeros.
+ *   The sum s runs in SIMD lanes, in the family's order for them. The root is s * (r * (0.5 * (3.0 - s * (r * r))))
+ *   with r the processor's estimate of 1 / root(s), of about 12 bits: not correctly rounded, dependent on the
+ *   processor, and NaN for a matrix of zeros.
  * - frobenius-backwards (arithmetic): vonkFrobNorm_ma_32f_?x?_{P,PS2,LS2}
  *   The sum runs backwards from +0: the last column first, each column from the bottom.
  * - frobenius-four-objects (arithmetic): vonkFrobNorm_ma_32f_{3x3,4x4}{,_L}

@@ -100,6 +100,10 @@ def exceptions(driver):
     expect("a deep link opens its function", name(driver) == "vonkLUDecomp_ma_32f_3x3", name(driver))
     expect("its exceptions are shown", "lu-displaced-last-pivot" in text and "lu-reads-displaced-pivot" in text)
     expect("what is called next", "vonkLUBackSubst_mava_32f_3x3" in text)
+    links = [a.get_attribute("href") for a in driver.find_elements(By.CSS_SELECTOR, ".finder-recipes a")]
+    pages = [site / "recipes" / link.rsplit("/", 1)[1] for link in links]
+    expect("the recipes of LU decomposition", any(page.name == "lu-solves.html" for page in pages), links)
+    expect("recipes are there", all(page.is_file() for page in pages), links)
     link = driver.find_element(By.LINK_TEXT, "lu-displaced-last-pivot").get_attribute("href")
     expect("an exception leads to its family's page", link.endswith("reference/lu-decomposition.html#exceptions"), link)
     click(driver, ".finder-related a[href='#vonkLUDecomp_ma_32f_3x3_P']")

@@ -12,11 +12,12 @@ import tempfile
 DECLARATIONS = """
     static float *A, *B, *C, *x, *y, *d, *a, *b, *c, (*p)[4], (*q)[4], M[4][4];
     static double *src, *dst;
+    static uint32_t *pivots;
     const uint32_t N = 10, n = 10;
     const float alpha = 2;
     enum { m = 64, r = 16, v = 16 };
     (void)A; (void)B; (void)C; (void)x; (void)y; (void)d; (void)a; (void)b; (void)c; (void)p; (void)q; (void)M; (void)src;
-    (void)dst; (void)N; (void)n; (void)alpha;
+    (void)dst; (void)pivots; (void)N; (void)n; (void)alpha;
 """
 
 

@@ -41,6 +41,15 @@ const table = [
     ['scale vectors', [/^vonkMul_va?c_/]],
     ['solve linear systems LU 3x3', [/^vonkLU(Decomp|BackSubst)_.*_3x3$/]],
     ['vonkQRDecomp_ma_64f', [/^vonkQRDecomp_ma_64f$/]],
+    ['least squares 6x3 double structure of arrays', [/^vonkQRDecomp_ma_64f_P$/, /^vonkQRBackSubst_mava_64f_P$/]],
+    ['least squares 6x3', [/^vonkQRDecomp_ma_32f$/, /^vonkQRBackSubst_mava_32f$/]],
+    ['determinants of 5x5 floats, list of pointers', [/^vonkDet_ma_32f_5x5_L$/]],
+    ['determinant pointers 5x5', [/^vonkDet_ma_32f_5x5_L$/]],
+    ['solve 1000 double 6x6 SPD systems', [/^vonkCholeskyDecomp_ma_64f_6x6$/, /^vonkCholeskyBackSubst_mava_64f_6x6$/]],
+    ['inverse of 10000 float 4x4', [/^vonkInvert_ma_32f_4x4$/]],
+    ['rotate array of structs by one 3x3 matrix', [/^vonkMul_mva_32f_3x3$/]],
+    ['transpose 4x4 column major', [/^vonkTranspose_ma_32f_4x4_S2$/]],
+    ['convert array of structures to structure of arrays', [/^vonkCopy_/]],
     ['subtract matrices', [/^vonkSub_m/]],
 ];
 

@@ -255,21 +255,44 @@
         if (place) place.replaceChildren(code(vonkk3Model.call(f, callOptions(f)), 'call'));
     }
 
+    // The recipes that show a family, or a layout, at work.
+    const recipes = {
+        'matrix-vector': ['transform'], gaxpy: ['transform'], 'matrix-product': ['transform'], norm: ['normalise'],
+        'lu-decomposition': ['lu-solves', 'which-failed'], 'lu-back-substitution': ['lu-solves'], inverse: ['inverses', 'which-failed'],
+        'cholesky-decomposition': ['cholesky', 'which-failed'], 'cholesky-back-substitution': ['cholesky'],
+        'qr-decomposition': ['fits', 'which-failed'], 'qr-back-substitution': ['fits'],
+    };
+    const layoutRecipes = { S2: 'column-major', P: 'structure-of-arrays', PS2: 'structure-of-arrays', L: 'own-structs', LS2: 'own-structs' };
+
+    const recipeTitles = {
+        transform: 'transform by one matrix', normalise: 'normalise vectors', 'lu-solves': 'many LU solves', 'which-failed': 'which object failed',
+        inverses: 'inverses', cholesky: 'SPD systems', fits: 'least squares', 'column-major': 'column-major data',
+        'structure-of-arrays': 'structure of arrays', 'own-structs': 'arrays of your own structs',
+    };
+
+    function recipeLinks(f) {
+        const layout = vonkk3Model.memories(f).includes('struct') ? 'own-structs' : layoutRecipes[f.layout];
+        return [...new Set((recipes[f.family.id] || []).concat(layout || []))].map((name) =>
+            element('a', { href: 'recipes/' + name + '.html', text: recipeTitles[name] }));
+    }
+
     function related(f) {
-        const near = vonkk3Model.siblings(catalogue, f);
+        const near = vonkk3Model.siblings(catalogue, f), programs = recipeLinks(f);
         const row = (label, list, text) => list.length && element('tr', {}, [
             element('th', { scope: 'row', text: label }),
             element('td', {}, [].concat(...list.map((g) => [link(g, text(g)), ' ']))),
         ]);
         const next = f.usage.next && catalogue.functions.find((g) => g.usage.operation === f.usage.next && g.typeName === f.typeName &&
             sizeKey(g) === sizeKey(f) && g.layout === f.layout && vonkk3Model.isArray(g) === vonkk3Model.isArray(f) &&
-            (g.group === { m: 'mv', ma: 'mava' }[f.group] || g.group === 'vac' || g.group === 'vc' || g.group === 'v' || g.group === 'va'));
+            (g.group === { m: 'mv', ma: 'mava' }[f.group] || g.group === 'vc' || g.group === 'v' || g.group === 'va'));
         return element('table', { class: 'finder-related' }, [element('tbody', {}, [
             row('other layouts', near.layout, layoutTitle),
             row('other operands', near.operands, (g) => g.group),
             row('other sizes', near.size, (g) => (g.order ? g.name.split('_')[3] : 'run-time')),
             row('other type', near.type, (g) => g.type),
             next ? row('called next', [next], (g) => g.name) : undefined,
+            programs.length && element('tr', { class: 'finder-recipes' }, [
+                element('th', { scope: 'row', text: 'programs' }), element('td', {}, programs.flatMap((a) => [a, ' ']))]),
         ])]);
     }
 

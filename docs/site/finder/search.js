@@ -7,6 +7,9 @@ var vonkk3Search = (function () {
     const layoutWords = { aos: ['', 'L'], standard: [''], packed: [''], soa: ['P'], s2: ['S2'], strided: ['S2', 'LS2'],
                           'column-major': ['S2'], fortran: ['S2'], opengl: ['S2'], p: ['P'], pointer: ['P', 'L'],
                           ps2: ['PS2'], l: ['L'], list: ['L', 'LS2'], ls2: ['LS2'], scattered: ['L'] };
+    // Layouts that take more than a word, as one word each.
+    const phrases = [[/\b(struct(ure)?s?|structs) of (an )?arrays?\b/g, 'soa'], [/\barrays? of (\w+ ){0,2}struct(ure)?s?\b/g, 'array aos'],
+                     [/\b(arrays?|lists?|vectors?) of pointers?\b|\bpointers\b/g, 'array list'], [/\bcolumn major\b/g, 'column-major']];
     const arrayWords = new Set(['batch', 'batched', 'array', 'arrays', 'many', 'batches', 'thousands', 'millions', 'all', 'each']);
     const singleWords = new Set(['one', 'single-object']);
     const ignored = new Set(['a', 'an', 'the', 'of', 'by', 'with', 'and', 'to', 'in', 'for', 'from', 'how', 'do', 'i', 'on', 'x', 'two']);
@@ -17,6 +20,7 @@ var vonkk3Search = (function () {
             .replace(/([^s])s$/, '$1');
     }
 
+    const joined = (text) => phrases.reduce((t, [pattern, word]) => t.replace(pattern, word), text.toLowerCase());
     const split = (text) => text.toLowerCase().split(/[\s,;:()*/]+/).filter((w) => w && !ignored.has(w));
 
     // For every operation the words it answers to, and how telling a word is: rare words weigh more.
@@ -40,11 +44,11 @@ var vonkk3Search = (function () {
     function wishes(text) {
         const wish = { words: [] };
         let layouts = 0;
-        for (const token of split(text)) {
+        for (const token of split(joined(text))) {
             const size = token.match(/^([3-6])(?:x([1-6])|d)?$/);
             const general = token.match(/^(?:n|m|[0-9]+)x(?:n|[0-9]+)$/);
-            if (size) {
-                wish.order = Number(size[1]);
+            if (size) { // a matrix that is not square has no fixed size
+                wish.order = !size[2] || size[2] === '1' || size[2] === size[1] ? Number(size[1]) : 0;
                 if (size[2]) wish.vector = size[2] === '1';
             } else if (general) wish.order = 0;
             else if (/^\d+$/.test(token)) wish.array = Number(token) > 6 || wish.array;
