@@ -1,5 +1,6 @@
 """Which library is loaded, docstrings, stubs, overhead, and the wheel's contents."""
 import doctest
+import importlib.metadata
 import importlib.util
 import os
 import pathlib
@@ -37,6 +38,11 @@ def test_the_wheel_has_all_levels_that_were_built():
     built = {level for level in LEVELS if (pathlib.Path(build) / ("" if level == "x86-64" else f"levels/{level}") / "vonkk3.so").exists()}
     installed = {path.parent.name for path in (pathlib.Path(vonkk3.__file__).parent / "lib").glob("*/vonkk3.so")}
     assert "x86-64" in built and installed == built
+
+
+def test_the_wheel_has_the_licence():
+    found = [path for path in importlib.metadata.files("vonkk3") if path.name == "LICENSE"]
+    assert [path.read_text(encoding="utf-8") for path in found] == [(TOP / "LICENSE").read_text(encoding="utf-8")]
 
 
 def test_the_best_level_is_chosen():

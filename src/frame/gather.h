@@ -355,57 +355,73 @@ template <std::size_t length, bool isArray = true> using VectorsOfBatch = BatchO
 
 // ---- Rows and elements in an order of each object's own -------------------------------------------------------------
 
-// Element (i, j) of object k in a block of one register.
-template <class Number, std::size_t rows, std::size_t columns>
-VONKK3_INLINE const std::byte *elementInBlock(const Number (&block)[rows][columns], std::size_t i, std::size_t j,
-                                              std::size_t k) {
-    return reinterpret_cast<const std::byte *>(block) + (i * columns + j) * sizeof(Number) + k * sizeof(Real32);
-}
-
 // Row i of the block is row rowOf(k, i) of object n + k, which must be one of its `rows`. There are `step` registers
-// between one element of the block and the next.
+// between one element of the block and the next. Not for tables.
 template <Access access, std::size_t rows, std::size_t columns, std::size_t width, class RowOf>
 VONKK3_INLINE void gatherRowsInOrder(const BatchOperand<rows, columns, true> &operand, std::size_t n,
                                      const RowOf &rowOf, PackOf<width> *block, std::size_t step) {
-    using Number = Packs<width / packWidth>;
     const ObjectsView &view = operand.view;
-    const bool isPermutedLocally = access == Access::positions || (access == Access::any && view.isTable());
     const ElementsOf<const std::byte, width> elements(view, n);
-    Number unordered[rows][columns];
-    if (isPermutedLocally) operand.template gather<access>(n, unordered);
     forIndices(0, rows, fixed<rows>, [&](std::size_t i) VONKK3_INLINED {
-        const auto rowOfLane = [&](std::size_t k) VONKK3_INLINED { return rowOf(k, i); };
         PackOf<width> row[columns];
         SourcesOf<width> from;
-        if (isPermutedLocally)
-            for (std::size_t k = 0; k < width; ++k) from[k] = elementInBlock(unordered, rowOfLane(k), 0, k);
-        else elements.findOwn(rowOfLane, view.rowStride, from);
+        elements.findOwn([&](std::size_t k) VONKK3_INLINED { return rowOf(k, i); }, view.rowStride, from);
         if constexpr (access == Access::rows) gatherRow(from, columns, row);
-        else {
-            const std::ptrdiff_t stride = isPermutedLocally ? std::ptrdiff_t(sizeof(Number)) : view.elementStride;
-            for (std::size_t j = 0; j < columns; ++j) row[j] = gatherElement(from, strides(j, stride));
-        }
+        else
+            for (std::size_t j = 0; j < columns; ++j) row[j] = gatherElement(from, strides(j, view.elementStride));
         for (std::size_t j = 0; j < columns; ++j) block[(i * columns + j) * step] = row[j];
     });
 }
 
-// Element i of the block is element indexOf(k, i) of the vector of object n + k, which must be one of its `length`.
+// Element i of the block is element indexOf(k, i) of the vector of object n + k, which must be one of its `length`. Not
+// for tables.
 template <Access access, std::size_t length, std::size_t width, class IndexOf>
 VONKK3_INLINE void gatherElementsInOrder(const VectorsOfBatch<length> &operand, std::size_t n, const IndexOf &indexOf,
                                          PackOf<width> *block, std::size_t step) {
     const ObjectsView &view = operand.view;
-    const bool isPermutedLocally = access == Access::positions || (access == Access::any && view.isTable());
     const std::ptrdiff_t stride = access == Access::rows ? sizeof(Real32) : view.elementStride;
     const ElementsOf<const std::byte, width> elements(view, n);
-    Packs<width / packWidth> unordered[1][length];
-    if (isPermutedLocally) operand.template gather<access>(n, unordered);
     forIndices(0, length, fixed<length>, [&](std::size_t i) VONKK3_INLINED {
-        const auto indexOfLane = [&](std::size_t k) VONKK3_INLINED { return indexOf(k, i); };
         SourcesOf<width> from;
-        if (isPermutedLocally)
-            for (std::size_t k = 0; k < width; ++k) from[k] = elementInBlock(unordered, 0, indexOfLane(k), k);
-        else elements.findOwn(indexOfLane, stride, from);
+        elements.findOwn([&](std::size_t k) VONKK3_INLINED { return indexOf(k, i); }, stride, from);
         block[i * step] = gatherElement(from, 0);
+    });
+}
+
+// Element index[k] of those that are given, in lane k.
+template <std::size_t width, std::size_t length>
+VONKK3_INLINE PackOf<width> selectElement(const MaskOf<width> (&isIndex)[length],
+                                          const PackOf<width> (&elements)[length]) {
+    PackOf<width> selected = elements[0];
+    forIndices(1, length, fixed<length>,
+               [&](std::size_t r) VONKK3_INLINED { selected = select(isIndex[r], elements[r], selected); });
+    return selected;
+}
+
+// Matrices and vectors of a table: all of them are gathered, and row index[i] of the matrices and element index[i] of
+// the vectors become row and element i, lane by lane.
+template <Access access, std::size_t order, std::size_t width>
+VONKK3_INLINE void gatherInOrder(const MatricesOfBatch<order> &matrices, const VectorsOfBatch<order> &vectors,
+                                 std::size_t n, const PackOf<width> (&index)[order], PackOf<width> *rows,
+                                 PackOf<width> *elements, std::size_t step) {
+    Packs<width / packWidth> matrix[order][order], vector[1][order];
+    matrices.template gather<access>(n, matrix);
+    vectors.template gather<access>(n, vector);
+    const auto selectFor = [&](std::size_t i, PackOf<width> *to, const auto &element) VONKK3_INLINED {
+        MaskOf<width> isRow[order];
+        PackOf<width> each[order];
+        forIndices(0, order, fixed<order>, [&](std::size_t r) VONKK3_INLINED {
+            isRow[r] = haveSameBits(index[i], packOfIndex<PackOf<width>>(std::uint32_t(r)));
+            each[r] = element(r);
+        });
+        *to = selectElement(isRow, each);
+    };
+    forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+        selectFor(i, elements + i * step, [&](std::size_t r) VONKK3_INLINED { return vector[0][r].chain[0]; });
+        forIndices(0, order, fixed<order>, [&](std::size_t j) VONKK3_INLINED {
+            selectFor(i, rows + (i * order + j) * step,
+                      [&](std::size_t r) VONKK3_INLINED { return matrix[r][j].chain[0]; });
+        });
     });
 }
 
@@ -428,6 +444,12 @@ VONKK3_INLINE void scatterRowsInOrder(const ObjectsView &view, std::size_t n, co
 }
 
 // One packed row for each object.
+template <std::size_t width, std::size_t columns>
+VONKK3_INLINE void gatherPacked(const std::byte *from, PackOf<width> (&row)[columns]) {
+    SourcesOf<width> sources;
+    for (std::size_t k = 0; k < width; ++k) sources[k] = from + k * columns * sizeof(Real32);
+    gatherRow(sources, columns, row);
+}
 template <std::size_t packs, std::size_t columns>
 VONKK3_INLINE void scatterPacked(std::byte *to, const Packs<packs> (&block)[1][columns]) {
     constexpr std::size_t width = Packs<packs>::width, registers = Packs<packs>::registers;

@@ -60,6 +60,11 @@ template <std::size_t width> inline PackOf<width> magnitude(PackOf<width> a) {
     return bitAndNot(a.lanes, broadcast<Register<width>>(-0.0F));
 }
 
+// Numbers are not looked at.
+template <std::size_t width> inline MaskOf<width> haveSameBits(PackOf<width> a, PackOf<width> b) {
+    return {isSameBits(a.lanes, b.lanes)};
+}
+
 // The larger one; b if they are equal or one is a NaN.
 template <std::size_t width> inline PackOf<width> larger(PackOf<width> a, PackOf<width> b) {
     return largerOf(a.lanes, b.lanes);

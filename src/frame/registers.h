@@ -110,6 +110,12 @@ inline __mmask8 isAtLeast(__m128 a, __m128 b) { return _mm_cmp_ps_mask(a, b, _CM
 inline __mmask8 isAtLeast(__m256 a, __m256 b) { return _mm256_cmp_ps_mask(a, b, _CMP_GE_OS); }
 inline __mmask8 isEqual(__m128 a, __m128 b) { return _mm_cmp_ps_mask(a, b, _CMP_EQ_OQ); }
 inline __mmask8 isEqual(__m256 a, __m256 b) { return _mm256_cmp_ps_mask(a, b, _CMP_EQ_OQ); }
+inline __mmask8 isSameBits(__m128 a, __m128 b) {
+    return _mm_cmpeq_epi32_mask(_mm_castps_si128(a), _mm_castps_si128(b));
+}
+inline __mmask8 isSameBits(__m256 a, __m256 b) {
+    return _mm256_cmpeq_epi32_mask(_mm256_castps_si256(a), _mm256_castps_si256(b));
+}
 inline __mmask8 bitAnd(__mmask8 a, __mmask8 b) { return __mmask8(a & b); }
 inline __mmask8 bitOr(__mmask8 a, __mmask8 b) { return __mmask8(a | b); }
 inline __mmask8 bitXor(__mmask8 a, __mmask8 b) { return __mmask8(a ^ b); }
@@ -123,12 +129,18 @@ template <class Mask> inline Mask noLane() { return broadcast<Mask>(0); }
 inline __m128 isGreater(__m128 a, __m128 b) { return _mm_cmpgt_ps(a, b); }
 inline __m128 isAtLeast(__m128 a, __m128 b) { return _mm_cmpge_ps(a, b); }
 inline __m128 isEqual(__m128 a, __m128 b) { return _mm_cmpeq_ps(a, b); }
+inline __m128 isSameBits(__m128 a, __m128 b) {
+    return _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_castps_si128(a), _mm_castps_si128(b)));
+}
 inline unsigned bitsOf(__m128 mask) { return unsigned(_mm_movemask_ps(mask)); }
 inline __m128 choose(__m128 mask, __m128 a, __m128 b) { return bitOr(bitAnd(mask, a), bitAndNot(b, mask)); }
 #ifdef __AVX2__
 inline __m256 isGreater(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_GT_OS); }
 inline __m256 isAtLeast(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_GE_OS); }
 inline __m256 isEqual(__m256 a, __m256 b) { return _mm256_cmp_ps(a, b, _CMP_EQ_OQ); }
+inline __m256 isSameBits(__m256 a, __m256 b) {
+    return _mm256_castsi256_ps(_mm256_cmpeq_epi32(_mm256_castps_si256(a), _mm256_castps_si256(b)));
+}
 inline unsigned bitsOf(__m256 mask) { return unsigned(_mm256_movemask_ps(mask)); }
 inline __m256 choose(__m256 mask, __m256 a, __m256 b) { return _mm256_blendv_ps(b, a, mask); }
 #endif

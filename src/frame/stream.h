@@ -74,19 +74,21 @@ VONKK3_INLINE bool overwritesAhead(const std::byte *d, const std::byte *source, 
 template <class Operation, class... Sources>
 requires ElementOperation<Operation, Sources...> VONKK3_INLINE void
 streamInLanes(const Operation &operation, std::byte *d, std::size_t elements, const Sources &...sources) {
-    const std::size_t bytes = elements * sizeof(Real32);
     const auto lanes = [&]<class Lanes>(std::size_t at) VONKK3_INLINED {
         storeLanes(d + at, operation(sources.template lanes<Lanes>(at)...));
         keepLoopPlain();
     };
     const auto wide = [&](std::size_t at) VONKK3_INLINED { lanes.template operator()<WideRegister>(at); };
-    constexpr std::size_t step = sizeof(WideRegister);
+    constexpr std::size_t step = sizeof(WideRegister), block = 4 * step;
+    const std::size_t bytes = elements * sizeof(Real32), inBlocks = bytes / block * block;
+    const std::size_t inRegisters = bytes / step * step;
     std::size_t at = 0;
-    for (; bytes - at >= 4 * step; at += 4 * step) wide(at), wide(at + step), wide(at + 2 * step), wide(at + 3 * step);
-    for (; bytes - at >= step; at += step) wide(at);
+    for (; at != inBlocks; at += block) wide(at), wide(at + step), wide(at + 2 * step), wide(at + 3 * step);
+    for (; at != inRegisters; at += step) wide(at);
+    if (at == bytes) return;
     if constexpr (step > laneBytes)
         if (bytes - at >= laneBytes) lanes.template operator()<__m128>(at), at += laneBytes;
-    for (; at < bytes; at += sizeof(Real32)) {
+    for (; at != bytes; at += sizeof(Real32)) {
         keepLoopPlain();
         storeAt<Real32>(d + at, operation(sources.one(at)...));
     }
@@ -147,8 +149,10 @@ VONKK3_INLINE void streamPosition(const Operation &operation, std::byte *d, std:
 // Where positions share cache lines, so many objects are worked at one of them before the next one's turn as stay in
 // the first-level cache.
 inline constexpr std::size_t bytesPerBlock = 1 << 13;
-inline std::size_t objectsPerBlock(std::ptrdiff_t objectStride) {
-    const std::size_t objects = bytesPerBlock / (magnitudeOf(objectStride) | 1);
+inline std::size_t objectsPerBlock(std::ptrdiff_t objectStride, std::size_t count) {
+    const std::size_t stride = magnitudeOf(objectStride) | 1;
+    if (stride * count <= bytesPerBlock) return count; // a division takes as long as dozens of elements
+    const std::size_t objects = bytesPerBlock / stride;
     return objects < 16 ? 16 : objects;
 }
 
@@ -206,7 +210,7 @@ VONKK3_SHARED bool streamPositions(const Operation &shared, const ObjectsView &d
         return !view.isArray || view.objectStride == std::ptrdiff_t(sizeof(Real32));
     };
     const bool areContiguous = isContiguous(d) && (isContiguous(sources) && ...);
-    const std::size_t count = d.count, block = areContiguous ? count : objectsPerBlock(d.objectStride);
+    const std::size_t count = d.count, block = areContiguous ? count : objectsPerBlock(d.objectStride, count);
     for (std::size_t n = 0; n < count; n += block) {
         const std::size_t objects = count - n < block ? count - n : block;
         for (std::size_t i = 0; i < d.rows; ++i)
@@ -224,37 +228,61 @@ VONKK3_SHARED bool streamPositions(const Operation &shared, const ObjectsView &d
     return true;
 }
 
+// The positions of a table, one after the other, in the shape of the result.
+struct PositionsInOrder {
+    std::uintptr_t row, entry, shift;
+    std::size_t rowStep, elementStep;
+
+    template <class Table> VONKK3_INLINE explicit PositionsInOrder(const Table &table) {
+        constexpr bool isTransposed = areOfTransposedTable<Table>;
+        const std::size_t ofRow = std::uint32_t(table.elementStride) * sizeof(void *);
+        row = entry = table.begin;
+        shift = std::uintptr_t(std::ptrdiff_t(table.rowStride));
+        rowStep = isTransposed ? sizeof(void *) : ofRow;
+        elementStep = isTransposed ? ofRow : sizeof(void *);
+    }
+    VONKK3_INLINE std::byte *next() {
+        const std::uintptr_t position = ObjectsView::pointerAt(entry) + shift;
+        entry += elementStep;
+        return reinterpret_cast<std::byte *>(position);
+    }
+    VONKK3_INLINE void nextRow() { entry = row += rowStep; }
+};
+
 // The usual case of it, tables alone. False, with nothing done, where a look at the words does not show that they are
 // independent.
 template <class Operation, class Destination, class... Sources>
 VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::size_t columns, std::size_t count,
-                                const Destination &d, const Sources &...sources) {
-    if (!arePlainlyIndependent<true>(rows, columns, count, d, sources...)) return false;
+                                const Destination &dst, const Sources &...src) {
+    if (!arePlainlyIndependent<true>(rows, columns, count, dst, src...)) return false;
     const Operation operation = shared;
     const auto forEachPosition = [&](const auto &work) VONKK3_INLINED {
-        const auto address = [&](const auto &table, std::size_t i, std::size_t j) VONKK3_INLINED {
-            constexpr bool isTransposed = areOfTransposedTable<std::remove_cvref_t<decltype(table)>>;
-            const std::size_t entriesToRow = std::uint32_t(table.elementStride);
-            const std::size_t entry = isTransposed ? j * entriesToRow + i : i * entriesToRow + j;
-            return reinterpret_cast<std::byte *>(ObjectsView::pointerAt(table.begin + entry * sizeof(void *)) +
-                                                 std::uintptr_t(std::ptrdiff_t(table.rowStride)));
+        const auto walk = [&](auto d, auto... sources) VONKK3_INLINED {
+            for (std::size_t i = 0; i < rows; ++i) {
+                for (std::size_t j = 0; j < columns; ++j) work(d.next(), sources.next()...);
+                d.nextRow(), (sources.nextRow(), ...);
+            }
         };
-        for (std::size_t i = 0; i < rows; ++i)
-            for (std::size_t j = 0; j < columns; ++j) work(address(d, i, j), address(sources, i, j)...);
+        walk(PositionsInOrder(dst), PositionsInOrder(src)...);
     };
-    if (arePacked(d) && (arePacked(sources) && ...)) {
-        forEachPosition([&](std::byte *target, const auto *...first) VONKK3_INLINED {
-            streamPosition(operation, target, count, PositionSource{first, sources.isArray}...);
-        });
+    if (arePacked(dst) && (arePacked(src) && ...)) {
+        if (sizeof...(src) == 1 || (src.isArray && ...))
+            forEachPosition([&](std::byte *target, const auto *...first) VONKK3_INLINED {
+                streamInLanes(operation, target, count, ContiguousSource{first}...);
+            });
+        else
+            forEachPosition([&](std::byte *target, const auto *...first) VONKK3_INLINED {
+                streamPosition(operation, target, count, PositionSource{first, src.isArray}...);
+            });
         return true;
     }
     const auto stride = [](const OperandWords &table) { return table.isArray ? std::ptrdiff_t(table.step) : 0; };
-    const std::size_t block = objectsPerBlock(d.step);
+    const std::size_t block = objectsPerBlock(dst.step, count);
     for (std::size_t n = 0; n < count; n += block)
         forEachPosition([&](std::byte *target, const auto *...first) VONKK3_INLINED {
             streamStrided(operation, count - n < block ? count - n : block,
-                          StridedElements<std::byte>{target + strides(n, d.step), d.step},
-                          StridedElements<const std::byte>{first + strides(n, stride(sources)), stride(sources)}...);
+                          StridedElements<std::byte>{target + strides(n, dst.step), dst.step},
+                          StridedElements<const std::byte>{first + strides(n, stride(src)), stride(src)}...);
         });
     return true;
 }
