@@ -153,7 +153,7 @@ VONKK3_INLINE void streamPosition(const Operation &operation, std::byte *d, std:
 // the first-level cache.
 inline constexpr std::size_t bytesPerBlock = 1 << 13;
 inline std::size_t objectsPerBlock(std::ptrdiff_t objectStride) {
-    const std::size_t objects = bytesPerBlock / (magnitudeOf(objectStride) | 1);
+    const std::size_t objects = bytesPerBlock / (std::size_t(magnitudeOf(objectStride)) | 1);
     return objects < 16 ? 16 : objects;
 }
 

@@ -57,7 +57,8 @@ private:
 
     // The bytes of an element.
     static bool overlaps(std::uintptr_t address, const Extent &extent) {
-        return address - extent.begin + (sizeof(Real32) - 1) < extent.bytes() + (sizeof(Real32) - 1);
+        const auto distance = std::uintptr_t(address - extent.begin + (sizeof(Real32) - 1)); // may wrap round
+        return distance < extent.bytes() + (sizeof(Real32) - 1);
     }
 
     // The address of what is looked at for object n. False if the entry of the table that leads there may be
@@ -72,7 +73,7 @@ private:
         }
         const std::uintptr_t entry = view.begin + offset;
         if (mayOverwriteEntries) {
-            const Extent bytes{entry, entry + sizeof(void *)};
+            const Extent bytes{entry, Address(entry) + sizeof(void *)};
             if (!disjoint(bytes, factors.whole) || !disjoint(bytes, pivots.whole)) return false;
         }
         address = ObjectsView::pointerAt(entry) + std::uintptr_t(view.shift + strides(n, view.objectStride));
@@ -82,9 +83,9 @@ private:
     // All entries of a table that lead to what is looked at.
     Extent testedEntries() const {
         const ObjectsView &view = factors.view;
-        return Extent{view.begin, view.begin + sizeof(void *)}
-            .extendedBy(strides(order - 1, view.rowStride))
-            .extendedBy(strides(testedLastColumn(order, view.count - 1), view.elementStride));
+        return Extent{view.begin, Address(view.begin) + sizeof(void *)}
+            .extendedBy(distanceOf(order - 1, view.rowStride))
+            .extendedBy(distanceOf(testedLastColumn(order, view.count - 1), view.elementStride));
     }
 
     // The element of object n at an address, with its logical row; row `order` if there is none.
@@ -108,7 +109,7 @@ private:
             for (std::size_t row = 0; row < order; ++row)
                 for (std::size_t column = 0; column < order; ++column) {
                     const std::uintptr_t element = addressOf(row, column, m);
-                    if (overlaps(address, {element, element + sizeof(Real32)})) return true;
+                    if (overlaps(address, {element, Address(element) + sizeof(Real32)})) return true;
                 }
         }
         return false;
