@@ -1,6 +1,6 @@
 #!/bin/sh
 # Sets everything up on a fresh Debian machine and writes a release of the last commit into dist/: the source as a tarball,
-# Debian packages, the wheel, the Windows zip, a bill of materials (SPDX), and the checksums of them all.
+# Debian packages and their source package, the wheel, the Windows zip, a bill of materials (SPDX), and the checksums of them all.
 #
 #     release.sh [--twice] [--cached] [--no-windows] [--output FOLDER]
 #
@@ -73,6 +73,9 @@ source_tarball() {
     git archive --format=tar --prefix="$name/" "$commit" >"$work/$name.tar" &&
         xz -9 -T1 --stdout "$work/$name.tar" >"$out/$name.tar.xz" && tar -C "$work" -xf "$out/$name.tar.xz"
 }
+debian_source() { # its first tarball is the source's under the name that Debian's tools look for
+    cp "$out/$name.tar.xz" "$out/vonkk3_$version.orig.tar.xz" && (cd "$out" && dpkg-source --build "$work/$name")
+}
 packages() { (cd "$work/$name" && dpkg-buildpackage -b -us -uc) && mv "$work"/*.deb "$out"; }
 wheel() { # without debugging information, which a wheel has no use for
     mkdir "$work/wheel"
@@ -91,6 +94,7 @@ make_release() { # FOLDER
     rm -rf "$work"
     mkdir -p "$out"
     step "source" source_tarball
+    step "Debian source package" debian_source
     step "Debian packages" packages
     step "wheel" wheel
     [ -z "$windows" ] || step "Windows zip" windows_zip

@@ -13,6 +13,8 @@ import sys
 import uuid
 
 SUMMARIES = {
+    ".orig.tar.xz": "Source, as Debian's tools name it", ".debian.tar.xz": "What makes Debian packages of the source",
+    ".dsc": "Description of the Debian source package",
     ".tar.xz": "Source", ".whl": "Python package, with the library for all instruction sets", ".zip": "Windows DLL, headers, examples",
     "libvonkk3-4": "Library for all instruction sets", "libvonkk3-dev": "Headers, Fortran modules, man pages, CMake package",
     "libvonkk3-doc": "Documentation and examples", "python3-vonkk3": "Python package, for the library of libvonkk3-4",

@@ -38,6 +38,8 @@ for example in example choose; do
     $cc -std=c99 -pedantic -Wall -Wextra -Werror -I"$unpacked/include" "$unpacked/example/$example.c" "$unpacked/lib/vonkk3.lib" \
         -o "$scratch/$example.exe"
 done
+echo '#include <vonkk3.hpp>' | x86_64-w64-mingw32-g++ -std=c++17 -pedantic -Wall -Wextra -Werror -I"$unpacked/include" \
+    -fsyntax-only -x c++ -
 # How Visual C sets the precision, by instructions of which GCC has the same names.
 $cc -std=c99 -Wall -Wextra -Werror -mfxsr -DPRECISION_BY_STATE -I"$unpacked/include" "$unpacked/example/example.c" \
     "$unpacked/lib/vonkk3.lib" -o "$scratch/by_state.exe"

@@ -42,6 +42,9 @@ else echo "  left out: $folder has packages alone"; fi
 
 echo "lintian"
 lintian --allow-root --fail-on error,warning $debs || fail "lintian"
+for source in "$folder"/*.dsc; do # packages alone may have none
+    [ ! -f "$source" ] || lintian --allow-root --fail-on error,warning "$source" || fail "lintian of the source package"
+done
 
 echo "symbols"
 dpkg-deb --fsys-tarfile "$library" | tar -x -C "$scratch"

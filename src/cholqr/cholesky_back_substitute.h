@@ -111,7 +111,6 @@ VONKK3_INLINE VonkStatus choleskyBackSubstitute(const Factor &src1, const RightS
     if (order.isZero() || count == 0) return vonkErrSize;
     if (hasTopBit(count) || (ordersWithSign<Solution> && hasTopBit(order))) return vonkOk;
     if constexpr (!Count::isArray && Solution::layout == Layout::Standard) {
-        if (anyBeginsAtNull(0, src1, src2, dst)) return vonkOk;
         const auto factor = src1.view(0);
         if constexpr (Order::isFixed && std::is_same_v<T, Real32>)
             solve(InMemory{factor}, InMemory{src2.view(0)}, InMemory{dst.view(0)}, order);

@@ -13,61 +13,88 @@
 
 namespace vonkk3 {
 
-// From the first byte to past the last.
-struct Extent {
-    std::uintptr_t begin, end;
+// Addresses and distances have 64 bits in the test, in 32-bit processes too: memory is found at both ends of a small
+// address space there, operands are spread over most of it, and no difference of two addresses may overflow.
+using Address = std::uint64_t;
+using Distance = std::int64_t;
+inline constexpr bool isAddressSpaceSmall = sizeof(void *) < sizeof(Address);
 
-    std::uintptr_t bytes() const { return end - begin; }
-    Extent movedBy(std::uintptr_t distance) const { return {begin + distance, end + distance}; }
+inline Distance distanceOf(std::size_t number, std::ptrdiff_t stride) {
+    return Distance(Address(number) * Address(Distance(stride)));
+}
+
+// From the first byte to past the last. In a small address space the first wraps round as addresses do, and the end is
+// beyond the space if any other byte does.
+struct Extent {
+    Address begin, end;
+
+    Address bytes() const { return end - begin; }
+    Extent movedBy(Address distance) const { return wrapped(begin + distance, end + distance); }
 
     // With further copies of it, the last one so many bytes away.
-    Extent extendedBy(std::ptrdiff_t distance) const {
-        return distance < 0 ? Extent{begin + std::uintptr_t(distance), end}
-                            : Extent{begin, end + std::uintptr_t(distance)};
+    Extent extendedBy(Distance distance) const {
+        return distance < 0 ? wrapped(begin + Address(distance), end) : Extent{begin, end + Address(distance)};
     }
     Extent joinedWith(const Extent &other) const {
         return {begin < other.begin ? begin : other.begin, end > other.end ? end : other.end};
     }
+    bool wrapsRound() const {
+        if constexpr (isAddressSpaceSmall) return end > endOfSpace;
+        else return end < begin; // no memory lies there
+    }
+    bool isEmpty() const { return begin >= end || (isAddressSpaceSmall && wrapsRound()); }
+
+    static constexpr Address endOfSpace = Address(1) << 32; // of a small one
+
+private:
+    static Extent wrapped(Address begin, Address end) {
+        if constexpr (isAddressSpaceSmall) {
+            const Address first = std::uintptr_t(begin);
+            return {first, first + (end - begin)};
+        } else return {begin, end};
+    }
 };
 
-inline Extent extentOf(const std::byte *block, std::size_t bytes) {
-    const auto begin = reinterpret_cast<std::uintptr_t>(block);
+inline Extent extentOf(const std::byte *block, Address bytes) {
+    const Address begin = reinterpret_cast<std::uintptr_t>(block);
     return {begin, begin + bytes};
 }
 template <class T> inline Extent extentOf(const T *block, std::size_t length) {
-    return extentOf(reinterpret_cast<const std::byte *>(block), length * sizeof(T));
+    return extentOf(reinterpret_cast<const std::byte *>(block), Address(length) * sizeof(T));
 }
 template <class T> VONKK3_INLINE Extent extentOf(const RowsView<T> &view, std::size_t rows, std::size_t columns) {
-    return extentOf(view.base, columns * sizeof(T)).extendedBy(strides(rows - 1, view.rowStride));
+    return extentOf(view.base, Address(columns) * sizeof(T)).extendedBy(distanceOf(rows - 1, view.rowStride));
 }
 template <class T> VONKK3_INLINE Extent extentOf(const StridedView<T> &view, std::size_t rows, std::size_t columns) {
     return extentOf(view.base, sizeof(T))
-        .extendedBy(strides(rows - 1, view.rowStride))
-        .extendedBy(strides(columns - 1, view.elementStride));
+        .extendedBy(distanceOf(rows - 1, view.rowStride))
+        .extendedBy(distanceOf(columns - 1, view.elementStride));
 }
 
 // Of all objects of an operand with contiguous rows.
 template <class Operand>
 VONKK3_INLINE Extent extentOfAll(const Operand &operand, std::size_t rows, std::size_t columns, std::size_t count) {
     const Extent first = extentOf(operand.view(0), rows, columns);
-    return Operand::isArray ? first.extendedBy(strides(count - 1, operand.objectSpacing())) : first;
+    return Operand::isArray ? first.extendedBy(distanceOf(count - 1, operand.objectSpacing())) : first;
 }
 
 // Whether the rows of a matrix are disjoint.
 template <class T> inline bool areRowsDisjoint(const RowsView<T> &view, std::size_t columns) {
-    const auto rowBytes = std::ptrdiff_t(columns * sizeof(T));
+    const auto rowBytes = Distance(Address(columns) * sizeof(T));
     return view.rowStride >= rowBytes || view.rowStride <= -rowBytes;
 }
 
-VONKK3_INLINE bool disjoint(const Extent &a, const Extent &b) { return a.end <= b.begin || b.end <= a.begin; }
+// Those that wrap round in a small address space are never seen to be.
+VONKK3_INLINE bool disjoint(const Extent &a, const Extent &b) {
+    if (isAddressSpaceSmall && (a.wrapsRound() || b.wrapsRound())) return false;
+    return a.end <= b.begin || b.end <= a.begin;
+}
 
 template <class... Extents> VONKK3_INLINE bool disjointFromAll(const Extent &written, const Extents &...read) {
     return (disjoint(written, read) && ...);
 }
 
-inline std::uintptr_t magnitudeOf(std::ptrdiff_t stride) {
-    return stride < 0 ? -std::uintptr_t(stride) : std::uintptr_t(stride);
-}
+inline Address magnitudeOf(Distance stride) { return stride < 0 ? -Address(stride) : Address(stride); }
 
 // An operand in the test.
 struct AliasOperand {
@@ -92,10 +119,10 @@ struct AliasOperand {
     }
     bool isWritten() const { return use == Use::written; }
 
-    // Some families test every object for address 0. No memory lies there, nor where extents wrap round.
-    bool mayBeginAtNull() const { return whole.begin == 0 || whole.end < whole.begin; }
+    // Some families test every object for address 0, where no memory lies.
+    bool mayBeginAtNull() const { return whole.begin == 0 || whole.wrapsRound(); }
     Extent ofAllObjects(const Extent &part) const {
-        return part.extendedBy(strides(view.count - 1, view.objectStride));
+        return part.extendedBy(distanceOf(view.count - 1, view.objectStride));
     }
     Extent ofObject(std::size_t n) const {
         return object.movedBy(view.isList() ? view.object(n) : std::uintptr_t(strides(n, view.objectStride)));
@@ -109,40 +136,40 @@ struct AliasOperand {
     }
     Extent part(std::size_t k) const {
         if (view.isTable()) {
-            const std::uintptr_t address = view.position(k / view.columns, k % view.columns);
+            const Address address = view.position(k / view.columns, k % view.columns);
             return {address, address + view.elementBytes};
         }
-        const Extent element{view.begin, view.begin + view.elementBytes};
-        return isRowMajor()
-                   ? element.extendedBy(strides(view.columns - 1, view.elementStride))
-                         .movedBy(offset(k, view.rowStride))
-                   : element.extendedBy(strides(view.rows - 1, view.rowStride)).movedBy(offset(k, view.elementStride));
+        const Extent element{view.begin, Address(view.begin) + view.elementBytes};
+        return isRowMajor() ? element.extendedBy(distanceOf(view.columns - 1, view.elementStride))
+                                  .movedBy(offset(k, view.rowStride))
+                            : element.extendedBy(distanceOf(view.rows - 1, view.rowStride))
+                                  .movedBy(offset(k, view.elementStride));
     }
 
     // The list or table itself.
     bool hasEntries() const { return view.indirection != ObjectsView::Indirection::none; }
     Extent entries() const {
-        const Extent first{view.begin, view.begin + sizeof(void *)};
-        if (view.isList()) return first.extendedBy(strides(view.count - 1, sizeof(void *)));
-        return first.extendedBy(strides(view.rows - 1, view.rowStride))
-            .extendedBy(strides(view.columns - 1, view.elementStride));
+        const Extent first{view.begin, Address(view.begin) + sizeof(void *)};
+        if (view.isList()) return first.extendedBy(distanceOf(view.count - 1, sizeof(void *)));
+        return first.extendedBy(distanceOf(view.rows - 1, view.rowStride))
+            .extendedBy(distanceOf(view.columns - 1, view.elementStride));
     }
 
 private:
     bool isRowMajor() const { return magnitudeOf(view.rowStride) >= magnitudeOf(view.elementStride); }
-    static std::uintptr_t offset(std::size_t k, std::ptrdiff_t stride) { return std::uintptr_t(strides(k, stride)); }
+    static Address offset(std::size_t k, std::ptrdiff_t stride) { return Address(distanceOf(k, stride)); }
 
     Extent extentOfStrides() const {
-        const std::uintptr_t first = view.isList() ? 0 : view.begin;
+        const Address first = view.isList() ? 0 : view.begin;
         return Extent{first, first + view.elementBytes}
-            .extendedBy(strides(view.rows - 1, view.rowStride))
-            .extendedBy(strides(view.columns - 1, view.elementStride));
+            .extendedBy(distanceOf(view.rows - 1, view.rowStride))
+            .extendedBy(distanceOf(view.columns - 1, view.elementStride));
     }
     VONKK3_NOINLINE Extent extentOfPositions() const {
         Extent all = part(0);
         for (std::size_t i = 0; i < view.rows; ++i)
             for (std::size_t j = 0; j < view.columns; ++j) {
-                const std::uintptr_t address = view.position(i, j);
+                const Address address = view.position(i, j);
                 all.begin = address < all.begin ? address : all.begin;
                 all.end = address + view.elementBytes > all.end ? address + view.elementBytes : all.end;
             }
@@ -209,10 +236,9 @@ inline bool areIndependent(const AliasOperand &written, const AliasOperand &othe
 
 // Whether no two elements overlap, of one object or of two: strides, from the smallest, each step over all before it.
 inline bool areStridesDisjoint(const ObjectsView &view) {
-    std::uintptr_t stride[] = {magnitudeOf(view.elementStride), magnitudeOf(view.rowStride),
-                               magnitudeOf(view.objectStride)};
+    Address stride[] = {magnitudeOf(view.elementStride), magnitudeOf(view.rowStride), magnitudeOf(view.objectStride)};
     std::size_t number[] = {view.columns, view.rows, view.isList() ? 1 : view.count};
-    std::uintptr_t covered = view.elementBytes;
+    Address covered = view.elementBytes;
     for (std::size_t first = 0; first < 3; ++first) {
         for (std::size_t k = 2; k > first; --k)
             if (stride[k] < stride[k - 1]) std::swap(stride[k], stride[k - 1]), std::swap(number[k], number[k - 1]);
@@ -285,8 +311,9 @@ struct AscendingLists {
 // Entries are looked at object by object, none after the first that is null. A shift moves all objects of a list alike,
 // so entries are compared in place of objects; the objects ascend with them unless they wrap round at address 0.
 template <std::size_t lists> VONKK3_NOINLINE AscendingLists scanLists(AliasOperand *const *operands) {
-    constexpr std::uintptr_t farthest = std::uintptr_t(1) << 62; // a step down is farther
-    std::uintptr_t entries[lists], before[lists], leastStep[lists];
+    constexpr Address farthest = Address(1) << 62; // a step down is farther
+    std::uintptr_t entries[lists];
+    Address before[lists], leastStep[lists];
     for (std::size_t l = 0; l < lists; ++l) {
         const AliasOperand &operand = *operands[l];
         entries[l] = operand.view.begin;
@@ -298,7 +325,7 @@ template <std::size_t lists> VONKK3_NOINLINE AscendingLists scanLists(AliasOpera
     for (std::size_t n = 1; n < count; ++n) {
         VONKK3_UNROLL_WHOLE
         for (std::size_t l = 0; l < lists; ++l) {
-            const std::uintptr_t entry = ObjectsView::pointerAt(entries[l] + n * sizeof(void *));
+            const Address entry = ObjectsView::pointerAt(entries[l] + n * sizeof(void *));
             if (entry == 0) return {n, true};
             if (entry - before[l] - leastStep[l] > farthest) return {n, false};
             before[l] = entry;
@@ -314,13 +341,14 @@ inline AscendingLists scanLists(AliasOperand *operands, std::size_t number) {
     std::size_t found = 0;
     for (std::size_t k = 0; k < number; ++k)
         if (operands[k].view.isList()) lists[found++] = &operands[k];
-    const AscendingLists scanned = found == 1   ? scanLists<1>(lists)
-                                   : found == 2 ? scanLists<2>(lists)
-                                   : found == 3 ? scanLists<3>(lists)
-                                                : scanLists<4>(lists);
+    AscendingLists scanned = found == 1   ? scanLists<1>(lists)
+                             : found == 2 ? scanLists<2>(lists)
+                             : found == 3 ? scanLists<3>(lists)
+                                          : scanLists<4>(lists);
     for (std::size_t l = 0; l < found && scanned.length != 0; ++l) {
         AliasOperand &operand = *lists[l];
         operand.whole = operand.ofObject(0).joinedWith(operand.ofObject(scanned.length - 1));
+        if (isAddressSpaceSmall && operand.whole.wrapsRound()) scanned.ascend = false;
     }
     return scanned;
 }
@@ -351,17 +379,17 @@ inline bool areAllIndependent(const AliasOperand *operands, std::size_t number) 
 VONKK3_NOINLINE inline bool isAscendingTable(const ObjectsView &view, Extent &whole) {
     const std::ptrdiff_t step = view.count > 1 ? view.objectStride : std::ptrdiff_t(view.elementBytes);
     if (step < std::ptrdiff_t(view.elementBytes)) return false;
-    const std::uintptr_t ofPosition = std::uintptr_t(strides(view.count - 1, step)) + view.elementBytes;
+    const Address ofPosition = Address(distanceOf(view.count - 1, step)) + view.elementBytes;
     const bool isTransposed = view.rowStride < view.elementStride && view.rows > 1;
     const std::size_t rows = isTransposed ? view.columns : view.rows, columns = isTransposed ? view.rows : view.columns;
     const std::ptrdiff_t rowStride = isTransposed ? view.elementStride : view.rowStride;
     const std::ptrdiff_t elementStride = isTransposed ? view.rowStride : view.elementStride;
-    const std::uintptr_t first = ObjectsView::pointerAt(view.begin);
-    std::uintptr_t before = first;
-    std::ptrdiff_t least = std::numeric_limits<std::ptrdiff_t>::max(); // below 0 where entries descend
+    const Address first = ObjectsView::pointerAt(view.begin);
+    Address before = first;
+    Distance least = std::numeric_limits<Distance>::max(); // below 0 where entries descend
     const auto compare = [&](std::uintptr_t entry) VONKK3_INLINED {
-        const std::uintptr_t address = ObjectsView::pointerAt(entry);
-        const auto distance = std::ptrdiff_t(address - before);
+        const Address address = ObjectsView::pointerAt(entry);
+        const auto distance = Distance(address - before);
         least = distance < least ? distance : least;
         before = address;
     };
@@ -370,8 +398,8 @@ VONKK3_NOINLINE inline bool isAscendingTable(const ObjectsView &view, Extent &wh
         for (std::size_t j = 0; j < columns; ++j)
             compare(view.begin + std::uintptr_t(strides(i, rowStride) + strides(j, elementStride)));
     whole = Extent{first, before + ofPosition}.movedBy(std::uintptr_t(view.shift));
-    if (least < std::ptrdiff_t(view.elementBytes) || whole.begin >= whole.end) return false;
-    return std::uintptr_t(least) >= ofPosition || before + view.elementBytes - first <= std::uintptr_t(step);
+    if (least < Distance(view.elementBytes) || whole.isEmpty()) return false;
+    return Address(least) >= ofPosition || before + view.elementBytes - first <= Address(step);
 }
 
 // The usual case at a glance: arrays in ascending order, rows within objects and elements within rows; and tables, see
@@ -379,13 +407,13 @@ VONKK3_NOINLINE inline bool isAscendingTable(const ObjectsView &view, Extent &wh
 VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
     if (view.isTable()) return isAscendingTable(view, whole);
     if (view.isList()) return false;
-    const std::ptrdiff_t ofRow = strides(view.columns - 1, view.elementStride) + std::ptrdiff_t(view.elementBytes);
-    const std::ptrdiff_t ofObject = strides(view.rows - 1, view.rowStride) + ofRow;
+    const Distance ofRow = distanceOf(view.columns - 1, view.elementStride) + Distance(view.elementBytes);
+    const Distance ofObject = distanceOf(view.rows - 1, view.rowStride) + ofRow;
     if ((view.columns > 1 && view.elementStride < std::ptrdiff_t(view.elementBytes)) ||
         (view.rows > 1 && view.rowStride < ofRow) || (view.isArray && view.objectStride < ofObject))
         return false;
-    whole = {view.begin, view.begin + std::uintptr_t(strides(view.count - 1, view.objectStride) + ofObject)};
-    return whole.begin < whole.end;
+    whole = {view.begin, view.begin + Address(distanceOf(view.count - 1, view.objectStride) + ofObject)};
+    return !whole.isEmpty();
 }
 
 // The same words, and so the same elements.
@@ -463,7 +491,7 @@ VONKK3_NOINLINE inline bool askForBatch(const AliasOperand *operands, std::size_
 
 // The entries that are read for an object: `positions` of them, so many bytes apart.
 struct EntriesRead {
-    std::size_t positions, step;
+    Address positions, step;
 };
 
 // Of `rows` by `columns`, transposed or not; false where they are not equally spaced.
@@ -471,7 +499,7 @@ VONKK3_INLINE bool areEquallySpaced(const OperandWords &table, std::size_t rows,
                                     EntriesRead &entries) {
     const std::size_t entriesToRow = std::uint32_t(table.elementStride);
     const std::size_t length = table.isTransposed ? rows : columns, number = table.isTransposed ? columns : rows;
-    entries = {rows * columns, (length == 1 ? entriesToRow : 1) * sizeof(void *)};
+    entries = {Address(rows) * columns, Address(length == 1 ? entriesToRow : 1) * sizeof(void *)};
     return length == 1 || number == 1 || entriesToRow == length; // rows of the table as it lies
 }
 
@@ -480,22 +508,21 @@ VONKK3_INLINE bool areEquallySpaced(const OperandWords &table, std::size_t rows,
 VONKK3_INLINE Extent extentOfAscending(const OperandWords &table, const EntriesRead &entries, std::size_t count) {
     constexpr std::ptrdiff_t elementBytes = sizeof(Real32);
     const std::ptrdiff_t step = table.isArray ? std::ptrdiff_t(table.step) : elementBytes;
-    const std::ptrdiff_t ofPosition = (table.isArray ? strides(count - 1, step) : 0) + elementBytes;
-    const std::uintptr_t first = ObjectsView::pointerAt(table.begin);
-    std::uintptr_t last = first;
-    std::ptrdiff_t least = std::numeric_limits<std::ptrdiff_t>::max(); // below 0 where entries descend
+    const Distance ofPosition = (table.isArray ? distanceOf(count - 1, step) : 0) + elementBytes;
+    const Address first = ObjectsView::pointerAt(table.begin);
+    Address last = first;
+    Distance least = std::numeric_limits<Distance>::max(); // below 0 where entries descend
     for (std::size_t k = 1; k < entries.positions; ++k) {
-        const std::uintptr_t next = ObjectsView::pointerAt(table.begin + k * entries.step);
-        const auto distance = std::ptrdiff_t(next - last);
+        const Address next = ObjectsView::pointerAt(std::uintptr_t(table.begin + k * entries.step));
+        const auto distance = Distance(next - last);
         least = distance < least ? distance : least;
         last = next;
     }
     if (step < elementBytes || least < elementBytes) return {1, 0};
-    if (least < ofPosition && std::ptrdiff_t(last - first) + elementBytes > step) return {1, 0};
-    return Extent{first, last + std::uintptr_t(ofPosition)}.movedBy(std::uintptr_t(std::ptrdiff_t(table.rowStride)));
+    if (least < ofPosition && Distance(last - first) + elementBytes > step) return {1, 0};
+    return Extent{first, last + Address(ofPosition)}.movedBy(std::uintptr_t(std::ptrdiff_t(table.rowStride)));
 }
 
-inline bool isEmpty(const Extent &extent) { return extent.begin >= extent.end; }
 inline Extent extentOfEntries(const OperandWords &table, const EntriesRead &entries) {
     return {table.begin, table.begin + entries.positions * entries.step};
 }
@@ -520,11 +547,11 @@ VONKK3_INLINE Extent plainlyWritten(const OperandWords &d, std::size_t rows, std
 VONKK3_INLINE bool isPlainlyDisjoint(const Extent &written, const OperandWords &source, std::size_t rows,
                                      std::size_t columns, std::size_t count) {
     aliasing::EntriesRead entries;
-    if (aliasing::isEmpty(written) || !aliasing::areEquallySpaced(source, rows, columns, entries) ||
+    if (written.isEmpty() || !aliasing::areEquallySpaced(source, rows, columns, entries) ||
         !disjoint(written, aliasing::extentOfEntries(source, entries)))
         return false;
     const Extent read = aliasing::extentOfAscending(source, entries, count);
-    return !aliasing::isEmpty(read) && disjoint(written, read);
+    return !read.isEmpty() && disjoint(written, read);
 }
 
 // Or the same entries. Elements of an object keep their order, so it does not matter which are transposed.
@@ -542,7 +569,7 @@ VONKK3_INLINE bool arePlainlyIndependent(std::size_t rows, std::size_t columns, 
     const Extent written = plainlyWritten(d, rows, columns, count);
     const auto isIndependent = [&](const OperandWords &source) VONKK3_INLINED {
         return isPlainlyDisjoint(written, source, rows, columns, count) ||
-               (mayBeInPlace && !aliasing::isEmpty(written) && isInPlace(d, source, rows, columns));
+               (mayBeInPlace && !written.isEmpty() && isInPlace(d, source, rows, columns));
     };
     return (isIndependent(sources) && ...);
 }

@@ -117,11 +117,10 @@ constexpr std::size_t rowLength(Triangle triangle, std::size_t columns, std::siz
     return triangle == Triangle::lower ? i + 1 : columns;
 }
 
-// Elements of `width` objects of a view from object n on, by their addresses.
+// Elements of `width` objects of a view from object n on, by their addresses. Not of a table.
 template <class Byte, std::size_t width> class ElementsOf {
 public:
     VONKK3_INLINE ElementsOf(const ObjectsView &view, std::size_t n) : view(view) {
-        if (view.isTable()) return;
         const std::uintptr_t first = view.isList() ? 0 : view.object(n);
         for (std::size_t k = 0; k < width; ++k)
             object[k] = reinterpret_cast<Byte *>(view.isList() ? view.object(n + k)

@@ -18,15 +18,15 @@ template <std::size_t rows, std::size_t columns> struct HoistedPositions {
         forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
             hoisted[i][j] = ObjectsView::pointerAt(words.begin + strides.offset(i, j)) + shift;
         });
-        entries = {words.begin, words.begin + strides.offset(rows - 1, columns - 1) + sizeof(void *)};
+        entries = {words.begin, words.begin + Address(strides.offset(rows - 1, columns - 1)) + sizeof(void *)};
     }
     std::uintptr_t position(std::size_t i, std::size_t j) const { return hoisted[i][j]; }
 
     // Of the objects of one position; they ascend, if that is not below an element.
-    std::ptrdiff_t bytesOfPosition(std::size_t count) const {
+    Distance bytesOfPosition(std::size_t count) const {
         constexpr std::ptrdiff_t elementBytes = sizeof(Real32);
         if (!isArray) return elementBytes;
-        return step < elementBytes ? 0 : strides(count - 1, step) + elementBytes;
+        return step < elementBytes ? 0 : distanceOf(count - 1, step) + elementBytes;
     }
 
     // body(i, j), row by row.
@@ -40,19 +40,19 @@ template <std::size_t rows, std::size_t columns> struct HoistedPositions {
 // As in aliasing.h. What is written ascends by position; nothing, if it does not.
 template <std::size_t rows, std::size_t columns>
 VONKK3_INLINE Extent plainlyWritten(const HoistedPositions<rows, columns> &d, std::size_t count) {
-    const std::ptrdiff_t ofPosition = d.bytesOfPosition(count);
-    const std::uintptr_t first = d.hoisted[0][0];
-    std::uintptr_t last = first - std::uintptr_t(ofPosition);
-    std::ptrdiff_t least = ofPosition; // distance of positions; below 0 where they descend
+    const Distance ofPosition = d.bytesOfPosition(count);
+    const Address first = d.hoisted[0][0];
+    Address last = first - Address(ofPosition);
+    Distance least = ofPosition; // distance of positions; below 0 where they descend
     d.forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
-        const auto distance = std::ptrdiff_t(d.hoisted[i][j] - last);
+        const auto distance = Distance(d.hoisted[i][j] - last);
         least = distance < least ? distance : least;
         last = d.hoisted[i][j];
     });
     constexpr std::ptrdiff_t elementBytes = sizeof(Real32);
-    const Extent written{first, last + std::uintptr_t(ofPosition)};
+    const Extent written{first, last + Address(ofPosition)};
     const bool isWrittenOnce =
-        least == ofPosition || (least >= elementBytes && std::ptrdiff_t(last - first) + elementBytes <= d.step);
+        least == ofPosition || (least >= elementBytes && Distance(last - first) + elementBytes <= d.step);
     if (ofPosition == 0 || !isWrittenOnce || !disjoint(written, d.entries)) return {1, 0};
     return written;
 }
@@ -60,15 +60,15 @@ VONKK3_INLINE Extent plainlyWritten(const HoistedPositions<rows, columns> &d, st
 template <std::size_t rows, std::size_t columns>
 VONKK3_INLINE bool isPlainlyDisjoint(const Extent &written, const HoistedPositions<rows, columns> &source,
                                      std::size_t count) {
-    std::uintptr_t lowest = source.hoisted[0][0], highest = lowest;
+    Address lowest = source.hoisted[0][0], highest = lowest;
     source.forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
-        const std::uintptr_t position = source.hoisted[i][j];
+        const Address position = source.hoisted[i][j];
         lowest = position < lowest ? position : lowest;
         highest = position > highest ? position : highest;
     });
-    const std::ptrdiff_t ofPosition = source.bytesOfPosition(count);
-    const Extent read{lowest, highest + std::uintptr_t(ofPosition)};
-    return ofPosition != 0 && !aliasing::isEmpty(read) && !aliasing::isEmpty(written) && disjoint(written, read) &&
+    const Distance ofPosition = source.bytesOfPosition(count);
+    const Extent read{lowest, highest + Address(ofPosition)};
+    return ofPosition != 0 && !read.isEmpty() && !written.isEmpty() && disjoint(written, read) &&
            disjoint(written, source.entries);
 }
 
@@ -85,8 +85,8 @@ VONKK3_INLINE bool arePlainlyIndependent(std::size_t count, const HoistedPositio
                                          const Sources &...sources) {
     const Extent written = plainlyWritten(d, count);
     const auto isIndependent = [&](const auto &source) VONKK3_INLINED {
-        return isPlainlyDisjoint(written, source, count) || (mayBeInPlace && !aliasing::isEmpty(written) &&
-                                                             disjoint(written, source.entries) && isInPlace(d, source));
+        return isPlainlyDisjoint(written, source, count) ||
+               (mayBeInPlace && !written.isEmpty() && disjoint(written, source.entries) && isInPlace(d, source));
     };
     return (isIndependent(sources) && ...);
 }

@@ -75,13 +75,6 @@ public:
         else return false;
     }
 
-    // Whether object n lies at null. That is reckoned in integers, as compilers take no sum of a pointer for null.
-    bool beginsAtNull(std::size_t n) const {
-        if constexpr (isTable) return false;
-        else if constexpr (isList) return reinterpret_cast<std::uintptr_t>(base(n)) == 0;
-        else return reinterpret_cast<std::uintptr_t>(pointer) + std::uintptr_t(strides(n, objectStride)) == 0;
-    }
-
     // Object n. A matrix in a pointer layout needs to know how many columns make a row of its table.
     auto view(std::size_t n, [[maybe_unused]] std::size_t columns = 0) const {
         if constexpr (isTable) return TableView<T>(pointer, columns, shift + strides(n, objectStride));

@@ -150,9 +150,9 @@ VONKK3_INLINE void streamPosition(const Operation &operation, std::byte *d, std:
 // the first-level cache.
 inline constexpr std::size_t bytesPerBlock = 1 << 13;
 inline std::size_t objectsPerBlock(std::ptrdiff_t objectStride, std::size_t count) {
-    const std::size_t stride = magnitudeOf(objectStride) | 1;
+    const Address stride = magnitudeOf(objectStride) | 1;
     if (stride * count <= bytesPerBlock) return count; // a division takes as long as dozens of elements
-    const std::size_t objects = bytesPerBlock / stride;
+    const std::size_t objects = bytesPerBlock / std::size_t(stride);
     return objects < 16 ? 16 : objects;
 }
 

@@ -28,10 +28,10 @@ public:
     template <std::size_t objects, class Passes>
     VONKK3_INLINE bool passClear(std::size_t n, const std::uint32_t (&lastRow)[objects], const Passes &passes) const {
         const ObjectsView &view = factors.view;
-        const std::ptrdiff_t column = strides(testedLastColumn(order, n), view.elementStride);
-        const std::ptrdiff_t nextColumn = strides(order, view.elementStride);
+        const Distance column = distanceOf(testedLastColumn(order, n), view.elementStride);
+        const Distance nextColumn = distanceOf(order, view.elementStride);
         const auto inRow = [&](std::size_t k) VONKK3_INLINED {
-            return std::uintptr_t(strides(lastRow[k], view.rowStride) + column + strides(k, nextColumn));
+            return std::uintptr_t(distanceOf(lastRow[k], view.rowStride) + column + Distance(k) * nextColumn);
         };
         const auto passesAt = [&](std::uintptr_t address) VONKK3_INLINED {
             return passes(loadAt<Real32>(reinterpret_cast<const std::byte *>(address)));
@@ -56,7 +56,7 @@ public:
             for (std::size_t k = 1; k < objects; ++k) stored = stored.joinedWith(factors.ofObject(n + k));
             return allPass(stored, [&](std::size_t k) VONKK3_INLINED { return view.object(n + k) + inRow(k); });
         }
-        if (column < std::ptrdiff_t(factors.object.bytes())) return false; // the farther, the greater n
+        if (column < Distance(factors.object.bytes())) return false; // the farther, the greater n
         const std::uintptr_t first = view.object(n);
         for (std::size_t k = 0; k < objects; ++k)
             if (!passesAt(first + std::uintptr_t(strides(k, view.objectStride)) + inRow(k))) return false;
@@ -102,16 +102,17 @@ private:
         const ObjectsView &view = factors.view;
         if (view.objectStride <= 0 || view.rowStride < 0 || view.elementStride <= 0 || view.count > 1U << 28)
             return false;
-        const Extent tested = Extent{view.begin, view.begin + sizeof(Real32)}
-                                  .extendedBy(strides(view.count - 1, view.objectStride))
-                                  .extendedBy(strides(order - 1, view.rowStride))
-                                  .extendedBy(strides(testedLastColumn(order, view.count - 1), view.elementStride));
-        return tested.begin < tested.end && disjoint(tested, pivots.whole);
+        const Extent tested = Extent{view.begin, Address(view.begin) + sizeof(Real32)}
+                                  .extendedBy(distanceOf(view.count - 1, view.objectStride))
+                                  .extendedBy(distanceOf(order - 1, view.rowStride))
+                                  .extendedBy(distanceOf(testedLastColumn(order, view.count - 1), view.elementStride));
+        return !tested.isEmpty() && disjoint(tested, pivots.whole);
     }
 
     // The bytes of an element.
     static bool overlaps(std::uintptr_t address, const Extent &extent) {
-        return address - extent.begin + (sizeof(Real32) - 1) < extent.bytes() + (sizeof(Real32) - 1);
+        const auto distance = std::uintptr_t(address - extent.begin + (sizeof(Real32) - 1)); // may wrap round
+        return distance < extent.bytes() + (sizeof(Real32) - 1);
     }
 
     // The address of what is looked at for object n. False if the entry of the table that leads there may be
@@ -126,7 +127,7 @@ private:
         }
         const std::uintptr_t entry = view.begin + offset;
         if (mayOverwriteEntries) {
-            const Extent bytes{entry, entry + sizeof(void *)};
+            const Extent bytes{entry, Address(entry) + sizeof(void *)};
             if (!disjoint(bytes, factors.whole) || !disjoint(bytes, pivots.whole)) return false;
         }
         address = ObjectsView::pointerAt(entry) + std::uintptr_t(view.shift + strides(n, view.objectStride));
@@ -136,9 +137,9 @@ private:
     // All entries of a table that lead to what is looked at.
     Extent testedEntries() const {
         const ObjectsView &view = factors.view;
-        return Extent{view.begin, view.begin + sizeof(void *)}
-            .extendedBy(strides(order - 1, view.rowStride))
-            .extendedBy(strides(testedLastColumn(order, view.count - 1), view.elementStride));
+        return Extent{view.begin, Address(view.begin) + sizeof(void *)}
+            .extendedBy(distanceOf(order - 1, view.rowStride))
+            .extendedBy(distanceOf(testedLastColumn(order, view.count - 1), view.elementStride));
     }
 
     // The element of object n at an address, with its logical row; row `order` if there is none.
@@ -162,7 +163,7 @@ private:
             for (std::size_t row = 0; row < order; ++row)
                 for (std::size_t column = 0; column < order; ++column) {
                     const std::uintptr_t element = addressOf(row, column, m);
-                    if (overlaps(address, {element, element + sizeof(Real32)})) return true;
+                    if (overlaps(address, {element, Address(element) + sizeof(Real32)})) return true;
                 }
         }
         return false;

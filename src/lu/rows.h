@@ -28,18 +28,19 @@ template <class T> VONKK3_INLINE bool areElementsDisjoint(const RowsView<T> &fac
     return areRowsDisjoint(factors, order);
 }
 template <class T> VONKK3_INLINE bool areElementsDisjoint(const StridedView<T> &factors, std::size_t order) {
-    const std::uintptr_t row = magnitudeOf(factors.rowStride), element = magnitudeOf(factors.elementStride);
+    const Address row = magnitudeOf(factors.rowStride), element = magnitudeOf(factors.elementStride);
     return row < element ? row >= sizeof(T) && element >= row * (order - 1) + sizeof(T)
                          : element >= sizeof(T) && row >= element * (order - 1) + sizeof(T);
 }
 template <class T> VONKK3_INLINE bool areElementsDisjoint(const TableView<T> &factors, std::size_t order) {
-    const auto distance = [&](std::size_t from, std::size_t to) { return factors.at(to) - factors.at(from); };
-    std::ptrdiff_t least = sizeof(T);
+    const auto address = [&](std::size_t k) { return Address(reinterpret_cast<std::uintptr_t>(factors.at(k))); };
+    const auto distance = [&](std::size_t from, std::size_t to) { return Distance(address(to) - address(from)); };
+    Distance least = sizeof(T);
     for (std::size_t k = 1; k < order * order; ++k) {
-        const std::ptrdiff_t step = distance(k - 1, k);
+        const Distance step = distance(k - 1, k);
         least = step < least ? step : least;
     }
-    if (least >= std::ptrdiff_t(sizeof(T))) [[likely]]
+    if (least >= Distance(sizeof(T))) [[likely]]
         return true; // they ascend
     for (std::size_t k = 1; k < order * order; ++k)
         for (std::size_t l = 0; l < k; ++l)

@@ -91,7 +91,7 @@ VONKK3_INLINE VonkStatus trace(const A &a, Order order, T *results, Count count)
                                   VONKK3_INLINED { return StridedView<const T>(a.view(n).base, 0, stride); };
         if constexpr (!sumsInRegister<T, A, Order>) {
             if (count == 0) return vonkOk;
-            const Extent all = extentOf(diagonal(0), 1, order).extendedBy(strides(count - 1, a.objectSpacing()));
+            const Extent all = extentOf(diagonal(0), 1, order).extendedBy(distanceOf(count - 1, a.objectSpacing()));
             if (!disjoint(all, extentOf(results, count)))
                 return sumDiagonalsInMemory(diagonal(0), a.objectSpacing(), order, results, count), vonkOk;
         }
