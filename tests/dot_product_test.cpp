@@ -336,6 +336,4 @@ TEST(DotProductOverlap, DoesNoHarmInTheFirstElementOfTheOnlyObject) {
             }
 }
 
-// ---- What is tested, and when
-
 } // namespace

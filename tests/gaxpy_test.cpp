@@ -155,67 +155,6 @@ TEST(GaxpyTables, AreScannedAsFarAsTheLoopsComeAheadOfTheCount) {
     }
 }
 
-// ---- Single forms in tables: each element's entries are looked at when the sum comes to them
-
-std::vector<const Function *> interleaved() {
-    std::vector<const Function *> found;
-    for (const Function *function : all())
-        if (!function->array() && function->layout == "P") found.push_back(function);
-    return found;
-}
-
-std::int32_t runWithout(Call &call, const char *operand, std::size_t entry) {
-    fill(call);
-    call.set("dst", 0, std::vector<double>(call.size(), 77));
-    std::byte *&slot = call[operand].entries[entry];
-    std::byte *const kept = slot;
-    slot = nullptr;
-    const std::int32_t status = call.run();
-    slot = kept;
-    return status;
-}
-
-// Elements before the given one are final, it holds so many terms if any, and elements behind it are untouched.
-void expectStoppedAt(Call &call, std::uint32_t element, int terms) {
-    const std::vector<double> results = resultOf(call.size(), 0);
-    for (std::uint32_t i = 0; i < call.size(); ++i) {
-        double expected = i < element ? results[i] : 77;
-        if (i == element && terms >= 0) expected = sumOf(i, static_cast<std::uint32_t>(terms), 0);
-        literal::expectSame(expected, call.get("dst", 0, 0, i), "element " + std::to_string(i));
-    }
-}
-
-TEST(GaxpyOfSingleTables, LeavesTheZeroAndThePartialSumsOfTheElementWhoseTermIsMissing) {
-    EXPECT_EQ(interleaved().size(), 2U * 5U);
-    for (const Function *function : interleaved())
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 3})) {
-            Call call(function->name, order);
-            for (std::uint32_t k = 0; k < order; ++k) {
-                SCOPED_TRACE(function->name + ", term " + std::to_string(k));
-                EXPECT_EQ(runWithout(call, "src2", k), vonkErrNullPtr);
-                expectStoppedAt(call, 0, static_cast<int>(k));
-                for (std::uint32_t i = 0; i < order; ++i) {
-                    EXPECT_EQ(runWithout(call, "src1", std::size_t{i} * order + k), vonkErrNullPtr);
-                    expectStoppedAt(call, i, static_cast<int>(k));
-                }
-            }
-        }
-}
-
-// The addend joins last, but its entry is looked at first.
-TEST(GaxpyOfSingleTables, StopsAheadOfTheZeroOfAnElementThatIsMissingOrHasNoAddend) {
-    for (const Function *function : interleaved())
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 3})) {
-            Call call(function->name, order);
-            for (std::uint32_t i = 0; i < order; ++i)
-                for (const char *operand : {"src3", "dst"}) {
-                    SCOPED_TRACE(function->name + ", " + operand + "[" + std::to_string(i) + "]");
-                    EXPECT_EQ(runWithout(call, operand, i), vonkErrNullPtr);
-                    expectStoppedAt(call, i, -1);
-                }
-        }
-}
-
 // ---- Orders of addition
 
 // Every element of every object gets the same terms and, behind them, the same addend.

@@ -164,8 +164,6 @@ TEST(InverseOfRunTimeSize, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTh
     }
 }
 
-// ---- Arguments
-
 // ---- Singular matrices
 
 std::int32_t statusOf(const Function &function, const Matrix &matrix) {

@@ -275,63 +275,6 @@ std::vector<const Function *> interleaved() {
     return found;
 }
 
-std::int32_t runWithout(Call &call, const char *operand, std::size_t entry) {
-    fill(call);
-    call.set("dst", 0, std::vector<double>(call.size(), 77));
-    std::byte *&slot = call[operand].entries[entry];
-    std::byte *const kept = slot;
-    slot = nullptr;
-    const std::int32_t status = call.run();
-    slot = kept;
-    return status;
-}
-
-// Elements before the given one are final, it holds so many terms if any, and elements behind it are untouched.
-void expectStoppedAt(Call &call, std::uint32_t element, int terms) {
-    for (std::uint32_t i = 0; i < call.size(); ++i) {
-        double expected = 77;
-        if (i < element) expected = sumOf(call.function(), i, call.size(), 0);
-        if (i == element && terms >= 0) expected = sumOf(call.function(), i, static_cast<std::uint32_t>(terms), 0);
-        literal::expectSame(expected, call.get("dst", 0, 0, i), "element " + std::to_string(i));
-    }
-}
-
-TEST(MatrixVectorOfSingleTables, LeavesTheZeroAndThePartialSumsOfTheElementWhoseTermIsMissing) {
-    EXPECT_EQ(interleaved().size(), 2U * 2U * 5U);
-    for (const Function *function : interleaved())
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 4})) {
-            Call call(function->name, order);
-            const Shape shape{order, order, order};
-            for (std::uint32_t k = 0; k < order; ++k) {
-                SCOPED_TRACE(function->name + ", term " + std::to_string(k));
-                EXPECT_EQ(runWithout(call, "src2", k), vonkErrNullPtr);
-                expectStoppedAt(call, 0, static_cast<int>(k));
-                for (std::uint32_t i = 0; i < order; ++i) {
-                    const std::size_t entry = shape.entry(*function, i, k);
-                    if (isTransposed(*function) && function->order == 4 && entry == 8) continue; // never looked at
-                    EXPECT_EQ(runWithout(call, "src1", entry), vonkErrNullPtr);
-                    expectStoppedAt(call, i, static_cast<int>(k));
-                }
-            }
-        }
-}
-
-TEST(MatrixVectorOfSingleTables, StopsAheadOfAnElementThatIsMissing) {
-    for (const Function *function : interleaved())
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 4})) {
-            Call call(function->name, order);
-            for (std::uint32_t i = 0; i < order; ++i) {
-                SCOPED_TRACE(function->name + ", element " + std::to_string(i));
-                EXPECT_EQ(runWithout(call, "dst", i), vonkErrNullPtr);
-                expectStoppedAt(call, i, -1);
-            }
-            fill(call);
-            literal::blankEntries(call); // the element comes ahead of its terms, which would leave a zero
-            EXPECT_EQ(call.run(), vonkErrNullPtr);
-            EXPECT_TRUE(call.changedNothing());
-        }
-}
-
 // A table of two rows told of three columns is indexed by rows where it is read transposed: 1 2 / 3 4 / 5 6.
 TEST(MatrixVectorOfSingleTables, OfTransposedMatricesAreIndexedByTheRows) {
     for (const Function *function : interleaved()) {

@@ -461,24 +461,6 @@ TEST(QrBackSubstitutionCopy, GoesForwardWhereTheWorkOverlapsTheRightHandSide) {
 
 // ---- Members of their own
 
-TEST(QrBackSubstitutionShared, IgnoresTheWordBehindItsMatrix) {
-    std::size_t ignoring = 0;
-    for (const Function *function : all()) {
-        if (!literal::has(*function, Kind::ignored)) continue;
-        ++ignoring;
-        for (const std::uint32_t garbage : {0U, 8U, 0x7fffffffU, 0x80000000U, 0xffffffffU})
-            for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
-                SCOPED_TRACE(function->name + ", word " + std::to_string(garbage));
-                Call call(function->name, order, 3, literal::spread);
-                fill(call);
-                call.pass(literal::parameterOf(*function, Kind::ignored), garbage);
-                ASSERT_EQ(call.run(), vonkOk);
-                literal::expectAllDone(call, example);
-            }
-    }
-    EXPECT_EQ(ignoring, 4U * 2U * 5U); // layouts, types, sizes
-}
-
 // What a regular form makes of the same elements is something else.
 TEST(QrBackSubstitutionDisplaced, LooksElsewhereInListsOfDoublesAndNowhereElse) {
     std::size_t displaced = 0;

@@ -170,24 +170,4 @@ TEST(Trace, DestroysAnElementUnderItsResultExceptInLanes) {
     }
 }
 
-// ---- What is tested, and when
-
-// The sum so far stays in the result, which is 0 ahead of the first element; off the diagonal nothing is looked at.
-TEST(TraceChecks, LookAtTheDiagonalOfASingleTableAsTheSumReachesIt) {
-    for (const Function *function : all()) {
-        if (function->array() || function->layout != "P") continue;
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 5}))
-            for (std::uint32_t entry = 0; entry < order * order; ++entry) {
-                SCOPED_TRACE(function->name + ", entry " + std::to_string(entry));
-                Call call(function->name, order);
-                fill(call);
-                call["src"].entries[entry] = nullptr;
-                const bool onDiagonal = entry % (order + 1) == 0;
-                EXPECT_EQ(call.run(), onDiagonal ? vonkErrNullPtr : vonkOk);
-                literal::expectSame(expected(onDiagonal ? entry / (order + 1) : order, 0), resultOf(call, 0),
-                                    "the sum");
-            }
-    }
-}
-
 } // namespace
