@@ -8,14 +8,9 @@ namespace {
 using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
-std::vector<const Function *> all() { return literal::members("cholesky-back-substitution"); }
-
-std::vector<const Function *> allOf(Type type) {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [type](const Function *function) { return function->type != type; });
-    return found;
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("cholesky-back-substitution", wanted);
 }
 
 bool isInTable(const Function &function) { return catalogue::isTable(function.operands[0].layout); }
@@ -222,7 +217,7 @@ TEST(CholeskyBackSubstitutionSums, OfDoublesAreRoundedWhenStoredOnly) {
         {{a, 0, 0, 0, 0}, square, -0x1p-54, 0},
         {{a, -1, 1}, square, -0x1p-54, 0},
     });
-    for (const Function *function : allOf(Type::real64))
+    for (const Function *function : all(isDouble))
         for (const Case &expectation : cases)
             for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 4, 5, 6, 7}))
                 for (const Precision precision : {Precision::bits53, Precision::bits64}) {
@@ -247,7 +242,7 @@ TEST(CholeskyBackSubstitutionSums, OfDoublesAreRoundedWhenStoredOnly) {
 
 // 1 - 2^-54 is a number of 54 bits, and a double would be 1: of it, 1 is taken away.
 TEST(CholeskyBackSubstitutionSums, OfDoublesAreNotRoundedBetweenTermsInEitherSweep) {
-    for (const Function *function : allOf(Type::real64))
+    for (const Function *function : all(isDouble))
         for (const Precision precision : {Precision::bits53, Precision::bits64})
             for (const std::uint32_t order : literal::sizesOf(*function, {4, 5, 7})) {
                 if (order < 4) continue;
@@ -267,7 +262,7 @@ TEST(CholeskyBackSubstitutionSums, OfDoublesAreNotRoundedBetweenTermsInEitherSwe
 // 1 + 2^-53 times 1 + 2^-52 is 1 + 2^-52 + 2^-53 and a little that 64 bits do not hold: a tie, which goes to the even
 // one, 1 + 2^-51. Stored as 1 ahead of the product it would give 1 + 2^-52. The backward sweep multiplies once more.
 TEST(CholeskyBackSubstitutionSums, OfDoublesAreMultipliedAsTheyAre) {
-    for (const Function *function : allOf(Type::real64))
+    for (const Function *function : all(isDouble))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7})) {
             SCOPED_TRACE(function->name);
             const double once = 1 + 0x1p-51;
@@ -280,7 +275,7 @@ TEST(CholeskyBackSubstitutionSums, OfDoublesAreMultipliedAsTheyAre) {
 // (1 + 2^-12)^2 = 1 + 2^-11 + 2^-24 is rounded to 1 + 2^-11: nothing is left of the difference. And 2^-24 is lost
 // beside 1 + 2^-22 as often as it comes, since the last place there is 2^-23 and even.
 TEST(CholeskyBackSubstitutionSums, OfFloatsAreRoundedAtEveryStep) {
-    for (const Function *function : allOf(Type::real32))
+    for (const Function *function : all(isFloat))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 4, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
                 const SettingScope scope({precision, Rounding::nearest});
@@ -306,8 +301,7 @@ TEST(CholeskyBackSubstitutionSums, OfFloatsAreRoundedAtEveryStep) {
 
 // Twice times a third, rounded in between; times the square of a third would be another number.
 TEST(CholeskyBackSubstitution, MultipliesTheOnlyElementOfOrderOneTwice) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         const bool narrow = function->type == Type::real32;
         const double third = narrow ? static_cast<double>(1.0F / 3) : 1.0 / 3;
         int telling = 0;

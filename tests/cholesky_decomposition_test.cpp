@@ -8,21 +8,10 @@ namespace {
 using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double untouched = 99;
 
-std::vector<const Function *> all() { return literal::members("cholesky-decomposition"); }
-
-std::vector<const Function *> allArrays() {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [](const Function *function) { return !function->array(); });
-    return found;
-}
-
-std::vector<const Function *> allOf(Type type) {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [type](const Function *function) { return function->type != type; });
-    return found;
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("cholesky-decomposition", wanted);
 }
 
 bool isInTable(const Function &function) { return catalogue::isTable(function.operands[0].layout); }
@@ -126,7 +115,7 @@ TEST(CholeskyDecomposition, FollowsNoPointerAboveTheDiagonal) {
 
 // The destination lies one object ahead of the source: what object 0 leaves of 16 is 1/4, of which object 1 makes 2.
 TEST(CholeskyDecomposition, FinishesEachObjectBeforeTheNext) {
-    for (const Function *function : allArrays())
+    for (const Function *function : all(isArray))
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 3, 7})) {
             Call call(function->name, order, 2);
             call["dst"].moveTo(call["src"].origin + call["src"].objectStride);
@@ -239,7 +228,7 @@ TEST(CholeskyDecompositionPivots, FailAtExactlyZeroWithTheRowLeftOfThemStored) {
 }
 
 TEST(CholeskyDecompositionPivots, EndTheCallWithTheObjectsBeforeDoneAndThoseAfterUntouched) {
-    for (const Function *function : allArrays())
+    for (const Function *function : all(isArray))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5, 7})) {
             Call call(function->name, order, 4, geometries[1]);
             fill(call);
@@ -258,7 +247,7 @@ TEST(CholeskyDecompositionPivots, EndTheCallWithTheObjectsBeforeDoneAndThoseAfte
 // 1/sqrt(7) is 12682383.21 * 2^-25. The float next to sqrt(7) is 11097085 * 2^-22, a little too small, and 1 over it is
 // 12682383.56 * 2^-25.
 TEST(CholeskyDecompositionRounding, OfAFloatReciprocalIsOneStepButInTablesTwo) {
-    for (const Function *function : allOf(Type::real32))
+    for (const Function *function : all(isFloat))
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
                 Call call(function->name, order);
@@ -290,7 +279,7 @@ double reciprocalOf(const Function &function, std::uint32_t order, const Remaind
 // (1 + 2^-12)^2 = 1 + 2^-11 + 2^-24 is rounded to 1 + 2^-11 ahead of the difference: 2^-22 is left of 1 + 2^-11 +
 // 2^-22, and 3 * 2^-24 would be if it were not.
 TEST(CholeskyDecompositionRounding, OfFloatsIsDoneAtEveryStep) {
-    for (const Function *function : allOf(Type::real32))
+    for (const Function *function : all(isFloat))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7})) {
             SCOPED_TRACE(function->name);
             EXPECT_EQ(reciprocalOf(*function, order, {{1 + 0x1p-12}, 1 + 0x1p-11 + 0x1p-22}), 0x1p11);
@@ -310,7 +299,7 @@ double fifteenth() { return static_cast<double>(0x1p27L / std::sqrt(15.0L)); }
 
 TEST(CholeskyDecompositionRounding, OfDoublesComesAfterThePairsInTheGeneralLoopAndNowhereElse) {
     ASSERT_NE(fifteenth(), 0x1p25);
-    for (const Function *function : allOf(Type::real64))
+    for (const Function *function : all(isDouble))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 4, 5, 6, 7, 8})) {
             SCOPED_TRACE(function->name + ", order " + std::to_string(order));
             const bool straight = isStraight(*function, order);
@@ -336,7 +325,7 @@ TEST(CholeskyDecompositionRounding, OfDoublesComesAfterThePairsInTheGeneralLoopA
 
 TEST(CholeskyDecompositionRounding, OfDoublesIsDoneAtEveryStepAt53Bits) {
     const SettingScope scope({Precision::bits53, Rounding::nearest});
-    for (const Function *function : allOf(Type::real64))
+    for (const Function *function : all(isDouble))
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7})) {
             SCOPED_TRACE(function->name);
             EXPECT_EQ(reciprocalOf(*function, order, {{a}, 1 + 0x1p-26 + 0x1p-52}), 0x1p26);
@@ -347,7 +336,7 @@ TEST(CholeskyDecompositionRounding, OfDoublesIsDoneAtEveryStepAt53Bits) {
 // 2^1023 * 2^511 leaves the range of doubles. Behind an odd product what is left, -2^1534, goes wide into the
 // multiplication by 2^-511; behind a pair it is stored as infinity first. The row's own pivot fails afterwards.
 TEST(CholeskyDecompositionRounding, OfDoublesBehindAPairShowsInTheRange) {
-    for (const Function *function : allOf(Type::real64))
+    for (const Function *function : all(isDouble))
         for (const Precision precision : {Precision::bits53, Precision::bits64})
             for (const std::uint32_t order : literal::sizesOf(*function, {4, 5, 7}))
                 for (const std::uint32_t column : {1U, 2U}) {
@@ -369,7 +358,7 @@ TEST(CholeskyDecompositionRounding, OfDoublesBehindAPairShowsInTheRange) {
 TEST(CholeskyDecompositionRounding, OfAFactorThatIsUsedAgainIsLeftOutInTheStraightForms) {
     const long double wide = 1 / std::sqrt(3.0L);
     const auto stored = static_cast<double>(wide);
-    for (const Function *function : allOf(Type::real64))
+    for (const Function *function : all(isDouble))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 4, 5, 6, 7})) {
             int telling = 0;
             for (int x = 1; x <= 20; ++x) {
@@ -432,7 +421,7 @@ TEST(CholeskyDecompositionStrides, AreTakenInBytesInAllOthers) {
 // ---- What is tested, and when
 
 TEST(CholeskyDecompositionChecks, TakeANegativeCountForNoneWithoutAWordButInTables) {
-    for (const Function *function : allArrays())
+    for (const Function *function : all(isArray))
         for (const std::uint32_t count : {0x80000000U, 0xffffffffU}) {
             Call call(function->name, 3, 2);
             fill(call);

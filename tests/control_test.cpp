@@ -10,7 +10,6 @@ using namespace literal::names;
 using support::MachineState;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 constexpr std::uint32_t denormalsAreZero = 0x0040;
 constexpr std::uint32_t flushToZero = 0x8000;

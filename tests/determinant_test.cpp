@@ -12,16 +12,15 @@ namespace {
 using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 using Matrix = std::vector<double>;
 
-std::vector<const Function *> all() { return literal::members("determinant"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("determinant", wanted);
+}
 
 std::vector<const Function *> ofOrder(int order) {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [order](const Function *function) { return function->order != order; });
-    return found;
+    return literal::members("determinant", [order](const Function &function) { return function.order == order; });
 }
 
 // Fixed sizes of adjacent elements compute in extended precision, floats too.
@@ -165,8 +164,7 @@ TEST(DeterminantPivots, ChangeTheSignWithEachExchange) {
 }
 
 TEST(DeterminantPivots, TooSmallForRunTimeSizeAreNoMatterToClosedForms) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         const auto order = function->order == 0 ? 3U : static_cast<std::uint32_t>(function->order);
         SCOPED_TRACE(function->name);
         const double result = determinantOf(*function, order, bordered({1e-20, 0, 0, 4}, 2, order));

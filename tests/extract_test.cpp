@@ -6,10 +6,12 @@ namespace {
 
 using namespace literal::names;
 
-std::vector<const Function *> all() { return literal::members("extract"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("extract", wanted);
+}
 
 // The forms whose shift is a parameter and nothing else.
-bool leavesShiftOut(const Function &function) { return function.group == "mT" && function.layout == "P"; }
+bool leavesShiftOut(const Function &function) { return isException(function, "extract-ignored-shift"); }
 
 // Transposed in deed, not only in name.
 bool transposes(const Function &function) {

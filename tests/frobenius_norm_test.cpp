@@ -9,12 +9,13 @@
 namespace {
 
 using namespace literal::names;
-using literal::hasLanes;
 
-std::vector<const Function *> all() { return literal::members("frobenius-norm"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("frobenius-norm", wanted);
+}
 
 // Four objects share the lanes.
-bool takesBlocks(const Function &function) { return hasLanes(function) && function.array() && function.order <= 4; }
+bool takesBlocks(const Function &function) { return isException(function, "frobenius-four-objects"); }
 
 // ---- Calls
 
@@ -43,9 +44,7 @@ float rootByEstimate(float sum) {
     return sum * w;
 }
 
-bool roundsSum(const Function &function) {
-    return function.type == Type::real64 && function.order == 0 && !literal::isTabled(function);
-}
+bool roundsSum(const Function &function) { return isException(function, "frobenius-rounded-sum"); }
 
 double rootOf(const Function &function, long double sum) {
     if (function.type == Type::real64) {
@@ -80,8 +79,7 @@ TEST(FrobeniusNorm, TakesTheRootOfTheSumOfSquaresInEveryFormAndGeometry) {
 }
 
 TEST(FrobeniusNorm, MeasuresRowsAndColumns) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         for (const auto &[rows, cols] : {std::pair{2U, 3U}, {3U, 2U}, {1U, 5U}, {5U, 1U}, {4U, 5U}}) {
             SCOPED_TRACE(function->name + ", " + std::to_string(rows) + " by " + std::to_string(cols));
             Call call(function->name, 5, 2, literal::spread);
@@ -132,7 +130,6 @@ TEST(FrobeniusNorm, OfZerosIsANanInLanesAndZeroOtherwise) {
 
 // A sum that is infinite has an estimate of 0, and infinity times 0 is no number.
 TEST(FrobeniusNorm, OfInfinitiesIsANanInLanesAndInfiniteOtherwise) {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
     for (const Function *function : all()) {
         Call call(function->name, 3, 2);
         fill(call);
@@ -146,8 +143,7 @@ TEST(FrobeniusNorm, OfInfinitiesIsANanInLanesAndInfiniteOtherwise) {
 // Of one element, 2^512 or 2^-538: its square leaves the range of a double, but not that of the register.
 TEST(FrobeniusNorm, OfDoublesReachesAsFarAsItsSumIsRounded) {
     std::size_t rounding = 0;
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         SCOPED_TRACE(function->name);
         for (const bool large : {true, false}) {
             Call call(function->name, 3, 2);
@@ -355,8 +351,7 @@ TEST(FrobeniusNorm, OfSixRowsIsSeenByTheNextObject) {
 // ---- The roads for aligned and unaligned operands
 
 TEST(FrobeniusNormAlignment, ChangesNoResult) {
-    for (const Function *function : all()) {
-        if (!hasLanes(*function)) continue;
+    for (const Function *function : all(hasLanes)) {
         for (const char *offender : {"", "src"})
             for (const literal::Offence &offence : literal::offences)
                 for (const std::ptrdiff_t offset : {0, 4}) {

@@ -6,16 +6,13 @@ namespace {
 
 using namespace literal::names;
 
-std::vector<const Function *> all() { return literal::members("gaxpy"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("gaxpy", wanted);
+}
 
 const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
 
-bool isTabled(const Function &function) { return catalogue::isTable(function.operands[0].layout); }
 bool keepsExtendedSums(const Function &function) { return function.layout.empty() || function.layout == "S2"; }
-
-bool worksInLanes(const Function &function) {
-    return function.type == Type::real32 && function.order != 0 && (function.layout.empty() || function.layout == "L");
-}
 
 // ---- Numbers
 
@@ -105,8 +102,7 @@ void expectShaped(Call &call, std::uint32_t cols, std::uint32_t rows) {
 }
 
 TEST(GaxpyShapes, MakeAsManyResultsAsRowsOfAsManyTermsAsColumns) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         Call call(function->name, side, 2);
         for (std::uint32_t cols = 0; cols <= side; ++cols)
             for (std::uint32_t rows = 0; rows <= side; ++rows) {
@@ -155,67 +151,6 @@ TEST(GaxpyTables, AreScannedAsFarAsTheLoopsComeAheadOfTheCount) {
     }
 }
 
-// ---- Single forms in tables: each element's entries are looked at when the sum comes to them
-
-std::vector<const Function *> interleaved() {
-    std::vector<const Function *> found;
-    for (const Function *function : all())
-        if (!function->array() && function->layout == "P") found.push_back(function);
-    return found;
-}
-
-std::int32_t runWithout(Call &call, const char *operand, std::size_t entry) {
-    fill(call);
-    call.set("dst", 0, std::vector<double>(call.size(), 77));
-    std::byte *&slot = call[operand].entries[entry];
-    std::byte *const kept = slot;
-    slot = nullptr;
-    const std::int32_t status = call.run();
-    slot = kept;
-    return status;
-}
-
-// Elements before the given one are final, it holds so many terms if any, and elements behind it are untouched.
-void expectStoppedAt(Call &call, std::uint32_t element, int terms) {
-    const std::vector<double> results = resultOf(call.size(), 0);
-    for (std::uint32_t i = 0; i < call.size(); ++i) {
-        double expected = i < element ? results[i] : 77;
-        if (i == element && terms >= 0) expected = sumOf(i, static_cast<std::uint32_t>(terms), 0);
-        literal::expectSame(expected, call.get("dst", 0, 0, i), "element " + std::to_string(i));
-    }
-}
-
-TEST(GaxpyOfSingleTables, LeavesTheZeroAndThePartialSumsOfTheElementWhoseTermIsMissing) {
-    EXPECT_EQ(interleaved().size(), 2U * 5U);
-    for (const Function *function : interleaved())
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 3})) {
-            Call call(function->name, order);
-            for (std::uint32_t k = 0; k < order; ++k) {
-                SCOPED_TRACE(function->name + ", term " + std::to_string(k));
-                EXPECT_EQ(runWithout(call, "src2", k), vonkErrNullPtr);
-                expectStoppedAt(call, 0, static_cast<int>(k));
-                for (std::uint32_t i = 0; i < order; ++i) {
-                    EXPECT_EQ(runWithout(call, "src1", std::size_t{i} * order + k), vonkErrNullPtr);
-                    expectStoppedAt(call, i, static_cast<int>(k));
-                }
-            }
-        }
-}
-
-// The addend joins last, but its entry is looked at first.
-TEST(GaxpyOfSingleTables, StopsAheadOfTheZeroOfAnElementThatIsMissingOrHasNoAddend) {
-    for (const Function *function : interleaved())
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 3})) {
-            Call call(function->name, order);
-            for (std::uint32_t i = 0; i < order; ++i)
-                for (const char *operand : {"src3", "dst"}) {
-                    SCOPED_TRACE(function->name + ", " + operand + "[" + std::to_string(i) + "]");
-                    EXPECT_EQ(runWithout(call, operand, i), vonkErrNullPtr);
-                    expectStoppedAt(call, i, -1);
-                }
-        }
-}
-
 // ---- Orders of addition
 
 // Every element of every object gets the same terms and, behind them, the same addend.
@@ -229,7 +164,7 @@ void setTerms(Call &call, const std::vector<double> &terms) {
 }
 
 std::string treeOf(const Function &function, std::uint32_t order, std::uint32_t element) {
-    if (!worksInLanes(function) || order == 3) return literal::runningTree(order + 1);
+    if (!hasLanes(function) || order == 3) return literal::runningTree(order + 1);
     if (order == 4) return "(((02)(13))4)";
     if (order == 6) return "((((02)4)((13)5))6)";
     return element < 4 ? "((((01)4)(23))5)" : "((((02)4)(13))5)"; // the last of five goes its own way
@@ -259,16 +194,15 @@ TEST(GaxpySums, BeginAtPlusZeroInCellsAndAtTheFirstProductInLanes) {
             setTerms(call, std::vector<double>(order + 1, -0.0));
             ASSERT_EQ(call.run(), vonkOk);
             for (std::uint32_t n = 0; n < call.count(); ++n)
-                literal::expectSame(std::vector<double>(order, worksInLanes(*function) ? -0.0 : 0.0),
-                                    call.get("dst", n), "dst");
+                literal::expectSame(std::vector<double>(order, hasLanes(*function) ? -0.0 : 0.0), call.get("dst", n),
+                                    "dst");
         }
 }
 
 // Half a last place of the sum and half a one of the addend: in the 80-bit unit they make a whole one, unless the sum
 // goes through the cell before the addend joins or the unit is set to 53 bits.
 TEST(GaxpySums, OfDoublesAreRoundedWithTheAddendOrBeforeItByLayout) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
                 const SettingScope scope({precision, Rounding::nearest});
@@ -306,8 +240,8 @@ TEST(GaxpyInPlace, IsRightOverTheAddendInLanesAlone) {
             const auto results = resultsOver(*function, order, "src3");
             for (std::uint32_t n = 0; n < results.size(); ++n) {
                 const std::vector<double> expected =
-                    worksInLanes(*function) ? resultOf(order, n)
-                                            : listOf(order, [&](auto i) { return 2 * sumOf(i, order, n); });
+                    hasLanes(*function) ? resultOf(order, n)
+                                        : listOf(order, [&](auto i) { return 2 * sumOf(i, order, n); });
                 EXPECT_EQ(results[n], expected) << "object " << n;
             }
         }
@@ -326,7 +260,7 @@ TEST(GaxpyInPlace, IsRightOverTheVectorInLanesAlone) {
                     for (std::uint32_t k = 0; k < order; ++k) v[i] = sum += matrixElement(i, k) * v[k];
                     v[i] = sum + addendElement(n, i);
                 }
-                EXPECT_EQ(results[n], worksInLanes(*function) ? resultOf(order, n) : v) << "object " << n;
+                EXPECT_EQ(results[n], hasLanes(*function) ? resultOf(order, n) : v) << "object " << n;
             }
         }
 }
@@ -334,14 +268,13 @@ TEST(GaxpyInPlace, IsRightOverTheVectorInLanesAlone) {
 // The first result is stored over the first row of the matrix. Lanes fetch the matrix ahead of all objects; elsewhere
 // the second object sees the row of the first result.
 TEST(GaxpyInPlace, OverTheMatrixIsRightInLanesAlone) {
-    for (const Function *function : all()) {
-        if (!function->array()) continue;
+    for (const Function *function : all(isArray)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3})) {
             SCOPED_TRACE(function->name + ", order " + std::to_string(order));
             const auto results = resultsOver(*function, order, "src1");
             bool right = true;
             for (std::uint32_t n = 0; n < results.size(); ++n) right = right && results[n] == resultOf(order, n);
-            EXPECT_EQ(right, worksInLanes(*function));
+            EXPECT_EQ(right, hasLanes(*function));
         }
     }
 }

@@ -13,22 +13,11 @@ constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 using Matrix = std::vector<double>;
 
-std::vector<const Function *> all() { return literal::members("inverse"); }
-
-std::vector<const Function *> where(const std::function<bool(const Function &)> &wanted) {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [&](const Function *function) { return !wanted(*function); });
-    return found;
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("inverse", wanted);
 }
-
-bool isRunTime(const Function &function) { return function.order == 0; }
-bool isNarrow(const Function &function) { return function.type == Type::real32; }
 
 // Floats with adjacent elements, of fixed size: they estimate the reciprocal and take one Newton step.
-bool isFast(const Function &function) {
-    return function.order != 0 && isNarrow(function) && (function.layout.empty() || function.layout == "L");
-}
-
 std::uint32_t orderOf(const Function &function, std::uint32_t runTime) {
     return function.order == 0 ? runTime : static_cast<std::uint32_t>(function.order);
 }
@@ -46,7 +35,7 @@ Matrix diagonalOf(const Function &function, std::uint32_t runTime, std::vector<d
 }
 
 double towardZero(const Function &function, double value) {
-    return isNarrow(function) ? std::nextafter(static_cast<float>(value), 0.0F) : std::nextafter(value, 0.0);
+    return isFloat(function) ? std::nextafter(static_cast<float>(value), 0.0F) : std::nextafter(value, 0.0);
 }
 
 // ---- Values
@@ -78,7 +67,7 @@ void expectNear(const std::vector<double> &expected, const std::vector<double> &
 
 // Exact but for the fast forms, which are some units off.
 void expectDone(Call &call, std::uint32_t n) {
-    const double relative = isFast(call.function()) ? 0x1p-19 : 0;
+    const double relative = hasLanes(call.function()) ? 0x1p-19 : 0;
     expectNear(Exchanged(call.size(), n).inverse, call.get("dst", n), relative);
 }
 
@@ -98,7 +87,7 @@ TEST(Inverse, IsTheTransposedAdjugate) {
         call.set("src", 0, matrix);
         EXPECT_EQ(call.run(), vonkOk);
         // At run-time size the pivots are rounded; the closed forms have whole numbers only.
-        expectNear(inverse, call.get("dst", 0), function->order == 0 || isFast(*function) ? 1e-5 : 0);
+        expectNear(inverse, call.get("dst", 0), function->order == 0 || hasLanes(*function) ? 1e-5 : 0);
     }
 }
 
@@ -114,20 +103,20 @@ TEST(Inverse, TimesItsMatrixIsTheIdentity) {
             for (std::uint32_t j = 0; j < order; ++j) {
                 double sum = 0;
                 for (std::uint32_t k = 0; k < order; ++k) sum += matrix[i * order + k] * inverse[k * order + j];
-                EXPECT_NEAR(sum, i == j ? 1 : 0, isNarrow(*function) ? 1e-5 : 1e-14) << i << " " << j;
+                EXPECT_NEAR(sum, i == j ? 1 : 0, isFloat(*function) ? 1e-5 : 1e-14) << i << " " << j;
             }
     }
 }
 
 // 4 7 / 2 6 has the determinant 10; a tenth is rounded to the element type before it is used.
 TEST(InverseOfRunTimeSize, ScalesMinorsWithARoundedReciprocal) {
-    for (const Function *function : where(isRunTime)) {
+    for (const Function *function : literal::members("inverse", isRunTime)) {
         Call call(function->name, 2);
         call.set("src", 0, {4, 7, 2, 6});
         EXPECT_EQ(call.run(), vonkOk);
         Matrix expected;
         for (const double minor : {6.0, -7.0, -2.0, 4.0})
-            expected.push_back(isNarrow(*function) ? static_cast<float>(minor) * 0.1F : minor * 0.1);
+            expected.push_back(isFloat(*function) ? static_cast<float>(minor) * 0.1F : minor * 0.1);
         EXPECT_EQ(call.get("dst", 0), expected);
         EXPECT_FALSE(call.strayWrites());
     }
@@ -135,7 +124,7 @@ TEST(InverseOfRunTimeSize, ScalesMinorsWithARoundedReciprocal) {
 
 // A minor that is singular counts as 0, and an odd place changes its sign.
 TEST(InverseOfRunTimeSize, HasNegativeZerosInOddPlaces) {
-    for (const Function *function : where(isRunTime)) {
+    for (const Function *function : literal::members("inverse", isRunTime)) {
         Call call(function->name, 3);
         call.set("src", 0, diagonal({1, 1, 1}));
         EXPECT_EQ(call.run(), vonkOk);
@@ -145,8 +134,8 @@ TEST(InverseOfRunTimeSize, HasNegativeZerosInOddPlaces) {
 
 // The last pivot of a minor has to be above the tolerance; the smallest here is at it.
 TEST(InverseOfRunTimeSize, TakesMinorsAtTheToleranceForZero) {
-    for (const Function *function : where(isRunTime)) {
-        const double limit = isNarrow(*function) ? 0x1p-23 : 0x1p-52;
+    for (const Function *function : literal::members("inverse", isRunTime)) {
+        const double limit = isFloat(*function) ? 0x1p-23 : 0x1p-52;
         Call call(function->name, 2);
         call.set("src", 0, {limit, 1, 1, 0}); // exchanged; the determinant is -1
         EXPECT_EQ(call.run(), vonkOk);
@@ -155,16 +144,14 @@ TEST(InverseOfRunTimeSize, TakesMinorsAtTheToleranceForZero) {
 }
 
 TEST(InverseOfRunTimeSize, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTheRestAlone) {
-    for (const Function *function : where(isRunTime)) {
+    for (const Function *function : literal::members("inverse", isRunTime)) {
         Call call(function->name, 5, 3);
         fill(call);
-        call.block("scratch").address += isNarrow(*function) ? 4 : 8;
+        call.block("scratch").address += isFloat(*function) ? 4 : 8;
         EXPECT_EQ(call.run(), vonkOk);
         literal::expectAllDone(call, example);
     }
 }
-
-// ---- Arguments
 
 // ---- Singular matrices
 
@@ -175,8 +162,8 @@ std::int32_t statusOf(const Function &function, const Matrix &matrix) {
 }
 
 TEST(InverseSingularity, OfRunTimeSizeAsksMoreOfTheLastPivot) {
-    for (const Function *function : where(isRunTime)) {
-        const double limit = isNarrow(*function) ? 0x1p-23 : 0x1p-52;
+    for (const Function *function : literal::members("inverse", isRunTime)) {
+        const double limit = isFloat(*function) ? 0x1p-23 : 0x1p-52;
         for (const double sign : {1.0, -1.0}) {
             SCOPED_TRACE(function->name);
             EXPECT_EQ(statusOf(*function, diagonal({sign * limit, 1, 1})), vonkOk);
@@ -192,9 +179,10 @@ TEST(InverseSingularity, OfRunTimeSizeAsksMoreOfTheLastPivot) {
 
 // The interval is open, and its ends are doubles: the float next to 1e-7 is a little larger.
 TEST(InverseSingularity, OfClosedFormsIsADeterminantInAnOpenInterval) {
-    for (const Function *function : where([](const Function &found) { return found.order == 3 || found.order == 4; })) {
-        if (isFast(*function)) continue;
-        const double limit = isNarrow(*function) ? static_cast<double>(1e-7F) : 1e-15;
+    for (const Function *function :
+         literal::members("inverse", [](const Function &found) { return found.order == 3 || found.order == 4; })) {
+        if (hasLanes(*function)) continue;
+        const double limit = isFloat(*function) ? static_cast<double>(1e-7F) : 1e-15;
         for (const double sign : {1.0, -1.0}) {
             SCOPED_TRACE(function->name);
             EXPECT_EQ(statusOf(*function, diagonalOf(*function, 0, {1, sign * limit})), vonkOk);
@@ -206,7 +194,8 @@ TEST(InverseSingularity, OfClosedFormsIsADeterminantInAnOpenInterval) {
 }
 
 TEST(InverseSingularity, OfFastClosedFormsIsADeterminantOfZero) {
-    for (const Function *function : where([](const Function &found) { return isFast(found) && found.order < 5; })) {
+    for (const Function *function :
+         literal::members("inverse", [](const Function &found) { return hasLanes(found) && found.order < 5; })) {
         SCOPED_TRACE(function->name);
         EXPECT_EQ(statusOf(*function, diagonalOf(*function, 0, {1e-8, 1, 1})), vonkOk);
         EXPECT_EQ(statusOf(*function, diagonalOf(*function, 0, {-1e-10, 1e-10, 1e-10})), vonkOk);
@@ -225,7 +214,8 @@ TEST(InverseSingularity, OfTheFastFormOfFourStandsOnTheCofactorsOfRowZero) {
         for (const Matrix &row : rows) matrix.insert(matrix.end(), row.begin(), row.end());
         return matrix;
     };
-    for (const Function *function : where([](const Function &found) { return isFast(found) && found.order == 4; })) {
+    for (const Function *function :
+         literal::members("inverse", [](const Function &found) { return hasLanes(found) && found.order == 4; })) {
         SCOPED_TRACE(function->name);
         EXPECT_EQ(statusOf(*function, matrixOf({equal, equal, others[0], others[1]})), vonkOk);
         EXPECT_EQ(statusOf(*function, matrixOf({others[0], others[1], equal, equal})), vonkErrSingular);
@@ -234,18 +224,20 @@ TEST(InverseSingularity, OfTheFastFormOfFourStandsOnTheCofactorsOfRowZero) {
 
 // A determinant of 1e-30: the elements are 1e-20 times 1e30.
 TEST(InverseSingularity, LeavesTheFastFormOfThreeItsHugeResults) {
-    for (const Function *function : where([](const Function &found) { return found.order == 3; })) {
+    for (const Function *function :
+         literal::members("inverse", [](const Function &found) { return found.order == 3; })) {
         Call call(function->name, 0);
         call.set("src", 0, diagonal({1e-10, 1e-10, 1e-10}));
-        EXPECT_EQ(call.run(), isFast(*function) ? vonkOk : vonkErrSingular);
-        EXPECT_TRUE(isFast(*function) || call.changedNothing());
-        if (isFast(*function)) expectNear(diagonal({1e10, 1e10, 1e10}), call.get("dst", 0), 1e-6);
+        EXPECT_EQ(call.run(), hasLanes(*function) ? vonkOk : vonkErrSingular);
+        EXPECT_TRUE(hasLanes(*function) || call.changedNothing());
+        if (hasLanes(*function)) expectNear(diagonal({1e10, 1e10, 1e10}), call.get("dst", 0), 1e-6);
     }
 }
 
 // The step of the fast form of 4 squares the estimate, 2^80 here, which no float holds.
 TEST(InverseSingularity, LeavesTheFastFormOfFourNoResultsWhereTheSquareOverflows) {
-    for (const Function *function : where([](const Function &found) { return isFast(found) && found.order == 4; })) {
+    for (const Function *function :
+         literal::members("inverse", [](const Function &found) { return hasLanes(found) && found.order == 4; })) {
         Call call(function->name, 0);
         call.set("src", 0, diagonal({0x1p-20, 0x1p-20, 0x1p-20, 0x1p-20}));
         EXPECT_EQ(call.run(), vonkOk);
@@ -255,9 +247,10 @@ TEST(InverseSingularity, LeavesTheFastFormOfFourNoResultsWhereTheSquareOverflows
 
 // Of 1e-8 in the first pivots alone nothing follows for the others: the determinant of the whole is 1.
 TEST(InverseSingularity, OfBlocksIsThatOfTheLeadingOneOrOfTheRest) {
-    for (const Function *function : where([](const Function &found) { return found.order > 4; })) {
+    for (const Function *function :
+         literal::members("inverse", [](const Function &found) { return found.order > 4; })) {
         SCOPED_TRACE(function->name);
-        const double small = isNarrow(*function) ? 0x1p-13 : 0x1p-26; // its square is below the tolerance
+        const double small = isFloat(*function) ? 0x1p-13 : 0x1p-26; // its square is below the tolerance
         const double large = 1 / small;
         std::vector<double> elements(static_cast<std::size_t>(function->order), 1);
         elements[0] = elements[1] = small;
@@ -275,7 +268,7 @@ TEST(InverseSingularity, IsNoNaN) {
     for (const Function *function : all()) {
         Call call(function->name, 3);
         const std::uint32_t order = call.size();
-        const bool choosesFreely = isFast(*function) && order == 6; // and may leave out a single one
+        const bool choosesFreely = hasLanes(*function) && order == 6; // and may leave out a single one
         call.set("src", 0, choosesFreely ? Matrix(36, nan) : diagonalOf(*function, 3, {nan}));
         EXPECT_EQ(call.run(), function->order == 0 ? vonkErrSingular : vonkOk);
         if (function->order == 0) continue;
@@ -284,7 +277,7 @@ TEST(InverseSingularity, IsNoNaN) {
 }
 
 TEST(InverseSingularity, EndsTheCallWithTheObjectsBeforeDoneAndTheOthersUntouched) {
-    for (const Function *function : where([](const Function &found) { return found.array(); })) {
+    for (const Function *function : literal::members("inverse", [](const Function &found) { return found.array(); })) {
         Call call(function->name, 4, 3);
         fill(call);
         call.set("src", 1, Matrix(std::size_t{call.size()} * call.size(), 0));
@@ -299,7 +292,8 @@ TEST(InverseSingularity, EndsTheCallWithTheObjectsBeforeDoneAndTheOthersUntouche
 // Behind the leading block the fast forms of 5 and 6 have written to the object; what, is open. Elsewhere it is
 // untouched.
 TEST(InverseSingularity, OfTheSecondBlockMayFindFastFormsInTheirObject) {
-    for (const Function *function : where([](const Function &found) { return found.order > 4; })) {
+    for (const Function *function :
+         literal::members("inverse", [](const Function &found) { return found.order > 4; })) {
         Call call(function->name, 0, 2);
         const std::size_t order = call.size();
         for (std::uint32_t n = 0; n < call.count(); ++n) {
@@ -308,7 +302,7 @@ TEST(InverseSingularity, OfTheSecondBlockMayFindFastFormsInTheirObject) {
             call.set("src", n, matrix);
         }
         EXPECT_EQ(call.run(), vonkErrSingular);
-        EXPECT_TRUE(isFast(*function) || call.changedNothing());
+        EXPECT_TRUE(hasLanes(*function) || call.changedNothing());
         EXPECT_FALSE(function->array() && call.changedObject(1));
         EXPECT_FALSE(call.strayWrites());
     }
@@ -320,19 +314,21 @@ TEST(InverseSingularity, OfTheSecondBlockMayFindFastFormsInTheirObject) {
 TEST(InverseOfSix, LooksAtFiveColumnsButInTheFastForms) {
     Matrix exchange(36);
     for (std::size_t i = 0; i < 6; ++i) exchange[i * 6 + 5 - i] = 1;
-    for (const Function *function : where([](const Function &found) { return found.order == 6; })) {
+    for (const Function *function :
+         literal::members("inverse", [](const Function &found) { return found.order == 6; })) {
         Call call(function->name, 0);
         call.set("src", 0, exchange);
-        EXPECT_EQ(call.run(), isFast(*function) ? vonkOk : vonkErrSingular);
-        EXPECT_TRUE(isFast(*function) || call.changedNothing());
-        for (std::uint32_t k = 0; isFast(*function) && k < 36; ++k)
+        EXPECT_EQ(call.run(), hasLanes(*function) ? vonkOk : vonkErrSingular);
+        EXPECT_TRUE(hasLanes(*function) || call.changedNothing());
+        for (std::uint32_t k = 0; hasLanes(*function) && k < 36; ++k)
             EXPECT_NEAR(call.get("dst", 0)[k], exchange[k], 0x1p-19) << "element " << k;
     }
 }
 
 // The leading columns depend on one another, and others take their places.
 TEST(InverseOfBlocks, PutsRegularColumnsInFront) {
-    for (const Function *function : where([](const Function &found) { return found.order > 4; })) {
+    for (const Function *function :
+         literal::members("inverse", [](const Function &found) { return found.order > 4; })) {
         const auto order = static_cast<std::uint32_t>(function->order);
         Matrix matrix(std::size_t{order} * order), inverse(matrix.size());
         // Row i has its one in column 4 - i, and the last one of 6 by 6 its own.
@@ -344,7 +340,7 @@ TEST(InverseOfBlocks, PutsRegularColumnsInFront) {
         call.set("src", 0, matrix);
         EXPECT_EQ(call.run(), vonkOk);
         for (std::uint32_t k = 0; k < order * order; ++k)
-            EXPECT_NEAR(call.get("dst", 0)[k], inverse[k], isFast(*function) ? 0x1p-19 : 0) << "element " << k;
+            EXPECT_NEAR(call.get("dst", 0)[k], inverse[k], hasLanes(*function) ? 0x1p-19 : 0) << "element " << k;
     }
 }
 
@@ -353,7 +349,7 @@ TEST(InverseOfBlocks, PutsRegularColumnsInFront) {
 // A third is rounded as the caller says.
 TEST(InverseRounding, IsTheCallers) {
     for (const Function *function : all()) {
-        if (isFast(*function)) continue;
+        if (hasLanes(*function)) continue;
         SCOPED_TRACE(function->name);
         const auto at = [&](Rounding rounding) {
             const SettingScope scope({Precision::bits64, rounding});
@@ -369,7 +365,8 @@ TEST(InverseRounding, IsTheCallers) {
 // Cofactors, determinant and reciprocal of doubles stay in the extended type: the determinant is 2^-1200 or 2^1200, and
 // the results are numbers all the same.
 TEST(InverseOfDoubles, HasTheExtendedRange) {
-    for (const Function *function : where([](const Function &found) { return !isNarrow(found) && found.order != 0; })) {
+    for (const Function *function :
+         literal::members("inverse", [](const Function &found) { return !isFloat(found) && found.order != 0; })) {
         const std::uint32_t order = orderOf(*function, 0);
         Call call(function->name, 0);
         call.set("src", 0, diagonal(std::vector<double>(order, 0x1p400)));

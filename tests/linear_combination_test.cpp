@@ -7,7 +7,9 @@ namespace {
 
 using namespace literal::names;
 
-std::vector<const Function *> all() { return literal::members("linear-combination"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("linear-combination", wanted);
+}
 
 const std::vector<std::uint32_t> lengths{1, 2, 3, 7, 10, 11, 12, 19, 21};
 
@@ -58,7 +60,6 @@ TEST(LinearCombination, TakesEachConstantBehindItsVector) {
 
 // A constant of 0 is no short cut.
 TEST(LinearCombination, MakesANanOfAZeroConstantAndAnInfinity) {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     for (const Function *function : all())
         for (const std::uint32_t size : literal::sizesOf(*function, {2, 20})) {
@@ -78,8 +79,7 @@ TEST(LinearCombination, MakesANanOfAZeroConstantAndAnInfinity) {
 TEST(LinearCombinationRounding, OfBothProductsComesAheadOfTheSumOfFloats) {
     constexpr double factor = 1 + 0x1p-12;
     constexpr double square = 1 + 0x1p-11;
-    for (const Function *function : all()) {
-        if (function->type != Type::real32) continue;
+    for (const Function *function : all(isFloat)) {
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 10, 20})) {
             const support::Setting setting{Precision::bits64, Rounding::nearest};
             literal::expectUniform(*function, size, setting,
@@ -96,8 +96,7 @@ TEST(LinearCombinationRounding, LeavesTheProductsOfDoublesAsWideAsTheCallersPrec
     constexpr double square = 1 + 0x1p-29;
     const std::map<std::string, double> first{{"src1", factor}, {"val1", factor}, {"src2", square}, {"val2", -1}};
     const std::map<std::string, double> second{{"src1", square}, {"val1", -1}, {"src2", factor}, {"val2", factor}};
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 6}))
             for (const auto &values : {first, second}) {
                 literal::expectUniform(*function, size, {Precision::bits53, Rounding::nearest}, values, 0.0);

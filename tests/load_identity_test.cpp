@@ -6,7 +6,9 @@ namespace {
 
 using namespace literal::names;
 
-std::vector<const Function *> all() { return literal::members("identity"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("identity", wanted);
+}
 
 const literal::Example example{[](Call &) {}, [](Call &, std::uint32_t) {}};
 

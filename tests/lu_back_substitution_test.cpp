@@ -8,9 +8,9 @@ namespace {
 using namespace literal::names;
 using literal::hasColumnsFourBytesApart;
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-
-std::vector<const Function *> all() { return literal::members("lu-back-substitution"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("lu-back-substitution", wanted);
+}
 
 const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
 
@@ -148,24 +148,6 @@ TEST(LuBackSubstitution, TrustsThePivotOfOrderOne) {
 
 // ---- Members of their own
 
-TEST(LuBackSubstitutionShared, IgnoresTheWordBehindItsMatrix) {
-    std::size_t ignoring = 0;
-    for (const Function *function : all()) {
-        if (!literal::has(*function, Kind::ignored)) continue;
-        ++ignoring;
-        for (const std::uint32_t garbage : {0U, 8U, 0x7fffffffU, 0x80000000U, 0xffffffffU})
-            for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
-                SCOPED_TRACE(function->name + ", word " + std::to_string(garbage));
-                Call call(function->name, order, 3, literal::spread);
-                fill(call);
-                call.pass(literal::parameterOf(*function, Kind::ignored), garbage);
-                ASSERT_EQ(call.run(), vonkOk);
-                literal::expectAllDone(call, example);
-            }
-    }
-    EXPECT_EQ(ignoring, 4U * 2U * 5U); // layouts, types, sizes
-}
-
 double fromHalves(std::uint32_t low, std::uint32_t high) {
     return std::bit_cast<double>((std::uint64_t{high} << 32) | low);
 }
@@ -229,9 +211,7 @@ TEST(LuBackSubstitutionShared, TakesColumnsFourBytesApartInListsOfDoublesAndNowh
 
 // The fixed sizes of arrays, but for lists, keep a sum wide from its first term to its use. All others are loops over
 // pairs of terms and an odd last one, and store the sum as a double after the pairs and after the odd term.
-bool keepsSums(const Function &function) {
-    return function.order != 0 && function.array() && function.layout != "L" && function.layout != "LS2";
-}
+bool keepsSums(const Function &function) { return isException(function, "lu-solve-wide-sums"); }
 
 enum class Sweep { forward, backward };
 
@@ -264,12 +244,8 @@ double differenceOf(const Function &function, std::uint32_t order, Sweep sweep, 
 }
 
 // Where columns lie 4 bytes apart, matrices with neighbours of one's choice do not exist.
-std::vector<const Function *> allOfDoublesWithFreeMatrices() {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [](const Function *function) {
-        return function->type != Type::real64 || hasColumnsFourBytesApart(*function);
-    });
-    return found;
+bool isDoubleWithFreeMatrix(const Function &function) {
+    return isDouble(function) && !hasColumnsFourBytesApart(function);
 }
 
 struct SumCase {
@@ -317,13 +293,13 @@ TEST(LuBackSubstitutionSums, AreStoredAfterThePairsAndAfterTheOddTermInLoopsAndN
          -kept,
          0},
     });
-    for (const Function *function : allOfDoublesWithFreeMatrices())
+    for (const Function *function : all(isDoubleWithFreeMatrix))
         for (const SumCase &expectation : cases) expectSum(*function, expectation);
 }
 
 // 2^600 * 2^600 is infinite and 2^-600 * 2^-600 is 0 once stored, at either precision.
 TEST(LuBackSubstitutionSums, HaveTheRangeOfDoublesInLoopsAndAWiderOneWhenUnrolled) {
-    for (const Function *function : allOfDoublesWithFreeMatrices())
+    for (const Function *function : all(isDoubleWithFreeMatrix))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 5}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
                 SCOPED_TRACE(function->name);
@@ -343,7 +319,7 @@ TEST(LuBackSubstitutionSums, HaveTheRangeOfDoublesInLoopsAndAWiderOneWhenUnrolle
 // is above the tie. So the difference may not be stored ahead of the division.
 TEST(LuBackSubstitutionSums, AreTakenAwayAndDividedWithoutAStoreInBetween) {
     const Sum sum{{{-0x1p-60, 1}}, 1, 1 - 0x1p-53};
-    for (const Function *function : allOfDoublesWithFreeMatrices())
+    for (const Function *function : all(isDoubleWithFreeMatrix))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 5})) {
             SCOPED_TRACE(function->name);
             EXPECT_EQ(differenceOf(*function, order, Sweep::backward, Precision::bits64, sum), 1 + 0x1p-52);
@@ -354,7 +330,7 @@ TEST(LuBackSubstitutionSums, AreTakenAwayAndDividedWithoutAStoreInBetween) {
 
 // x1 = 1 + 2^-55 is stored as 1, and 1 is what the next row reads: 1 - 1 = 0.
 TEST(LuBackSubstitutionSums, AreMadeOfWhatWasStored) {
-    for (const Function *function : allOfDoublesWithFreeMatrices())
+    for (const Function *function : all(isDoubleWithFreeMatrix))
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 5}))
             for (const Sweep sweep : {Sweep::forward, Sweep::backward}) {
                 const bool forward = sweep == Sweep::forward;
@@ -388,8 +364,7 @@ TEST(LuBackSubstitutionSums, OfFloatsAreRoundedAtEveryStep) {
         {{{{1, 1}, {0x1p-24, 1}, {0x1p-24, 1}}, 1}, 0},
         {{{{0x1p-24, 1}, {0x1p-24, 1}, {1, 1}}, 1}, -0x1p-23}, // in ascending order the small ones add up first
     });
-    for (const Function *function : all()) {
-        if (function->type != Type::real32) continue;
+    for (const Function *function : all(isFloat)) {
         for (const Case &expectation : cases) {
             const auto least = static_cast<std::uint32_t>(expectation.sum.terms.size()) + 1;
             for (const std::uint32_t order : literal::sizesOf(*function, {least, 7}))

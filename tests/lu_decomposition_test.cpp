@@ -8,17 +8,12 @@ namespace {
 using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double tolerance = 0x1p-23;
 
 using Pivots = std::vector<std::uint32_t>;
 
-std::vector<const Function *> all() { return literal::members("lu-decomposition"); }
-
-std::vector<const Function *> allArrays() {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [](const Function *function) { return !function->array(); });
-    return found;
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("lu-decomposition", wanted);
 }
 
 const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
@@ -115,8 +110,7 @@ TEST(LuDecomposition, KeepsTheFirstOfEqualMagnitudes) {
 }
 
 TEST(LuDecomposition, CopiesTheOnlyElementOfOrderOne) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         for (const double element : {5.0, -tolerance, 0x1p-24, 0.0, nan}) {
             SCOPED_TRACE(function->name + ", element " + std::to_string(element));
             Call call(function->name, 1);
@@ -130,7 +124,7 @@ TEST(LuDecomposition, CopiesTheOnlyElementOfOrderOne) {
 // The destination lies one object ahead of the source, so that object 1 is made of what object 0 has left: the first
 // time 1/2 is the multiplier of 1 and 2, the second time 1/4 that of 1/2 and 2.
 TEST(LuDecomposition, FinishesEachObjectBeforeItCopiesTheNext) {
-    for (const Function *function : allArrays()) {
+    for (const Function *function : all(isArray)) {
         if (function->order != 0 && function->order != 3) continue;
         Call call(function->name, 3, 2);
         call["dst"].moveTo(call["src"].origin + call["src"].objectStride);
@@ -244,7 +238,7 @@ TEST(LuDecompositionFailure, LeavesTheObjectAsFarAsItGot) {
 }
 
 TEST(LuDecompositionFailure, EndsTheCallWithTheObjectsBeforeDoneAndThoseAfterUntouched) {
-    for (const Function *function : allArrays())
+    for (const Function *function : all(isArray))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
             Call call(function->name, order, 4);
             fill(call);
@@ -300,7 +294,7 @@ void expectLook(const Function &function, std::uint32_t order, std::uint32_t las
 }
 
 TEST(LuDecompositionLastPivot, IsLookedForPastItsRowInEveryArrayForm) {
-    for (const Function *function : allArrays()) {
+    for (const Function *function : all(isArray)) {
         const double below = function->type == Type::real32 ? std::nextafter(static_cast<float>(tolerance), 0.0F)
                                                             : std::nextafter(tolerance, 0.0);
         const std::array looks = std::to_array<Look>({{0, 1, true},
@@ -322,7 +316,7 @@ TEST(LuDecompositionLastPivot, IsLookedForPastItsRowInEveryArrayForm) {
 }
 
 TEST(LuDecompositionLastPivot, OfTheFirstObjectIsLookedForInItsPlace) {
-    for (const Function *function : allArrays())
+    for (const Function *function : all(isArray))
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
             Call call(function->name, order, 2, literal::roomy);
             Factors factors(order, 0);
@@ -340,7 +334,7 @@ TEST(LuDecompositionLastPivot, OfTheFirstObjectIsLookedForInItsPlace) {
 TEST(LuDecompositionLastPivot, IsLookedForOneRowDownInPackedObjects) {
     const std::vector<double> singular{0, 0, 0, 0, 4, 5, 4, 0, 0};
     const std::vector<double> innocent{0, 0, 9, 0, 4, 0, 4, 0, 0};
-    for (const Function *function : allArrays()) {
+    for (const Function *function : all(isArray)) {
         if (function->order != 0 && function->order != 3) continue;
         for (const bool passes : {true, false}) {
             const std::vector<double> &matrix = passes ? singular : innocent;
@@ -371,7 +365,7 @@ TEST(LuDecompositionLastPivot, OfOrderOneIsTheElementAsFarBehind) {
 
 // A NaN in the last column reaches the last pivot, which in objects after the first nobody looks at.
 TEST(LuDecompositionLastPivot, MayBeNanAfterTheFirstObject) {
-    for (const Function *function : allArrays())
+    for (const Function *function : all(isArray))
         for (const std::uint32_t order : literal::sizesOf(*function, {3})) {
             Call call(function->name, order, 2, literal::roomy);
             for (std::uint32_t n = 0; n < 2; ++n) call.set("src", n, diagonal(order, 1));
@@ -509,8 +503,7 @@ TEST(LuDecompositionArithmetic, NegatesAZeroMultiplierToPlusZeroInFloatsAndToMin
 // The float nearest 1/3 is above it by 2^-25 / 3. Three times that is 1 + 2^-25, which rounds to 1, and 1 - 1 = 0;
 // an unrounded product or quotient leaves something else.
 TEST(LuDecompositionArithmetic, RoundsEveryOperationOnFloats) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real32) continue;
+    for (const Function *function : all(isFloat)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
                 Call call(function->name, order);
@@ -561,8 +554,7 @@ double updated(const Function &function, std::uint32_t order, Precision precisio
 // quotient 3 * m rounds to 1 and nothing is left. With 53 bits 1 - 2^-54 is a tie that goes to 1: nothing is left
 // either.
 TEST(LuDecompositionArithmetic, UpdatesWithTheUnroundedQuotientIn3To5AndWithTheStoredMultiplierElsewhere) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 4, 5, 6, 7})) {
             SCOPED_TRACE(function->name + ", order " + std::to_string(order));
             EXPECT_EQ(updated(*function, order, Precision::bits64, {3, 3, 1, 1}),
@@ -575,8 +567,7 @@ TEST(LuDecompositionArithmetic, UpdatesWithTheUnroundedQuotientIn3To5AndWithTheS
 // (2^-600 / 2^500) * 2^100 = 2^-1000, though the quotient is 0 once stored: the registers keep the wide exponents at
 // either precision.
 TEST(LuDecompositionArithmetic, UpdatesWithAQuotientBelowTheRangeOfDoublesIn3To5) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 4, 5, 6, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
                 SCOPED_TRACE(function->name + ", order " + std::to_string(order));
@@ -610,8 +601,7 @@ Misled misled(const Function &function) {
 // A pivot is the smaller one only if a NaN has misled the search. The quotient of 2^1020 and 2^-20 is infinite once
 // stored. Times 2^-60 it is 2^980 where the quotient is kept.
 TEST(LuDecompositionArithmetic, UpdatesWithAQuotientBeyondTheRangeOfDoublesIn3To5) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         for (const Precision precision : {Precision::bits53, Precision::bits64}) {
             const Misled search = misled(*function);
             const auto order = static_cast<std::uint32_t>(search.column.size());

@@ -7,7 +7,9 @@ namespace {
 
 using namespace literal::names;
 
-std::vector<const Function *> all() { return literal::members("matrix-constant"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("matrix-constant", wanted);
+}
 
 const std::vector<std::uint32_t> orders{1, 2, 3, 4, 7};
 
@@ -56,8 +58,7 @@ TEST(MatrixConstant, GoesWrongInPlaceOverATransposedSource) {
 }
 
 TEST(MatrixConstant, TakesRowsAndColumnsOfTheResult) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         for (const auto &[rows, cols] : {std::pair{2U, 3U}, {3U, 2U}, {1U, 4U}, {4U, 1U}, {5U, 2U}}) {
             SCOPED_TRACE(function->name + ", " + std::to_string(rows) + " by " + std::to_string(cols));
             Call call(function->name, 5, 2, literal::spread);
@@ -72,8 +73,7 @@ TEST(MatrixConstant, TakesRowsAndColumnsOfTheResult) {
 
 TEST(MatrixConstantAlignment, ChangesNoResult) {
     std::size_t called = 0;
-    for (const Function *function : all()) {
-        if (!literal::hasLanes(*function)) continue;
+    for (const Function *function : all(hasLanes)) {
         for (const char *offender : {"", "src", "dst"})
             for (const literal::Offence &offence : literal::offences) {
                 SCOPED_TRACE(function->name + ", " + offender + " is off by " + std::to_string(offence.pointer) +
@@ -104,7 +104,6 @@ double product(const Function &function, double a, double constant, support::Set
 }
 
 TEST(MatrixConstant, MultipliesByZeroLikeByAnyNumber) {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     for (const Function *function : all()) {
         literal::expectSame(nan, product(*function, nan, 0), function->name);
@@ -121,8 +120,7 @@ TEST(MatrixConstant, MultipliesByZeroLikeByAnyNumber) {
 // up; at 64 bits the last term is lost in the register, and the store meets the tie.
 TEST(MatrixConstant, RoundsDoublesToTheCallersPrecisionAndThenToTheStore) {
     constexpr double even = 1 + 0x1p-26 + 0x1p-27 + 0x1p-51;
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         const auto at = [&](Precision precision, Rounding rounding) {
             return product(*function, 1 + 0x1p-26, 1 + 0x1p-27 + 0x1p-51, {precision, rounding});
         };
@@ -134,8 +132,7 @@ TEST(MatrixConstant, RoundsDoublesToTheCallersPrecisionAndThenToTheStore) {
 }
 
 TEST(MatrixConstant, RoundsFloatsInTheCallersDirection) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real32) continue;
+    for (const Function *function : all(isFloat)) {
         const auto at = [&](Rounding rounding) {
             return product(*function, 1 + 0x1p-12, 1 + 0x1p-12, {Precision::bits64, rounding});
         };

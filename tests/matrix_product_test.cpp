@@ -7,7 +7,9 @@ namespace {
 
 using namespace literal::names;
 
-std::vector<const Function *> all() { return literal::members("matrix-product"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("matrix-product", wanted);
+}
 
 const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
 
@@ -17,31 +19,13 @@ bool isOneOf(const std::string &word, std::initializer_list<std::string_view> li
 
 const catalogue::Operand &left(const Function &function) { return function.operands[0]; }
 const catalogue::Operand &right(const Function &function) { return function.operands[1]; }
-bool isTabled(const Function &function) { return catalogue::isTable(left(function).layout); }
 
 // ---- Members
 
-// 3x3 kernels that follow their entries without a look.
-bool trustsEntries(const Function &function) {
-    if (function.type != Type::real32 || function.order != 3) return false;
-    if (isOneOf(function.layout, {"P", "PS2"})) return isOneOf(function.group, {"mam", "maTm", "mamT"});
-    return function.layout == "LS2" && isOneOf(function.group, {"mam", "maTm", "mamT", "maTmT"});
-}
-
-bool addsInPairs(const Function &function) {
-    return function.type == Type::real32 && function.order == 6 && function.layout == "S2" &&
-           isOneOf(function.group, {"mm", "mmT", "mTmT"});
-}
+bool addsInPairs(const Function &function) { return isException(function, "product-pairs"); }
 
 // Works rows in lanes and stores each element once; all others run sums through the cells.
-bool worksInLanes(const Function &function) {
-    if (function.type != Type::real32 || function.order == 0) return false;
-    if (isOneOf(function.layout, {"", "L"})) return true;
-    if (function.layout == "S2" && function.order <= 5 && isOneOf(function.group, {"mam", "mama"})) return true;
-    if (function.layout == "S2" && function.order == 3 && isOneOf(function.group, {"maTm", "mamT", "maTmT"}))
-        return true;
-    return trustsEntries(function);
-}
+bool worksInLanes(const Function &function) { return hasLanes(function) || isException(function, "product-simd"); }
 
 bool runsThroughCells(const Function &function) { return !worksInLanes(function) && !addsInPairs(function); }
 
@@ -96,8 +80,7 @@ TEST(MatrixProduct, MultipliesSquareMatricesInEveryFormAndGeometry) {
 TEST(MatrixProduct, ReadsEitherOperandTransposed) {
     const std::map<std::string, Square> expected{
         {"mm", {19, 22, 43, 50}}, {"mmT", {17, 23, 39, 53}}, {"mTm", {26, 30, 38, 44}}, {"mTmT", {23, 31, 34, 46}}};
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         Call call(function->name, 2, 2);
         for (std::uint32_t n = 0; n < 2; ++n) {
             if (n < call.objectsOf("src1")) call.set("src1", n, {1, 2, 3, 4});
@@ -134,8 +117,7 @@ TEST(MatrixProduct, TakesItsWordsInTheOrderOfTheHeader) {
 }
 
 TEST(MatrixProduct, OfOrderOneIsZeroPlusTheProduct) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         Call call(function->name, 1);
         for (const auto &[a, b, expected] : {std::array{3.0, -5.0, -15.0}, std::array{-0.0, 4.0, 0.0}}) {
             call.set("src1", 0, {a});
@@ -286,8 +268,7 @@ private:
 };
 
 TEST(MatrixProductShapes, AreAcceptedRefusedAndLoopedOverAsEachGroupWillHaveThem) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         ShapedCall shaped(*function);
         for (const Words &words : wordsUpTo(3)) {
             SCOPED_TRACE(describe(*function, words));
@@ -366,8 +347,7 @@ TEST(MatrixProductShapes, IgnoreTheColumnsOfTheFirstMatrixInTheGroupsThatDoNotCo
 // ---- What is tested, and when
 
 TEST(MatrixProductChecks, RefuseWordsThatDoNotFitAheadOfEntriesAndCount) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         Call call(function->name, 3, 2);
         fill(call);
         call.pass(wordNames[ruleOf(*function).equal[1]], 2);
@@ -454,85 +434,6 @@ TEST(MatrixProductTables, AreFollowedBeyondTheScanWithoutALook) {
     EXPECT_GT(followed["dst"], 0U);
 }
 
-// ---- Single products in tables: each cell's entries are looked at when the sum comes to them
-
-std::vector<const Function *> interleaved() {
-    std::vector<const Function *> found;
-    for (const Function *function : all())
-        if (!function->array() && function->layout == "P") found.push_back(function);
-    return found;
-}
-
-// Cells before the given one are final, it holds so many terms if any, and cells behind it are untouched.
-void expectStoppedAt(Call &call, std::uint32_t i, std::uint32_t j, int terms) {
-    const std::uint32_t order = call.size();
-    const Square product = productOf(call.function(), order, 0);
-    for (std::uint32_t cell = 0; cell < order * order; ++cell) {
-        double expected = 77;
-        if (cell < i * order + j) expected = product[cell];
-        if (cell == i * order + j && terms >= 0) {
-            expected = 0;
-            for (std::uint32_t k = 0; k < static_cast<std::uint32_t>(terms); ++k)
-                expected += (left(call.function()).transposed ? leftElement(0, k, i) : leftElement(0, i, k)) *
-                            (right(call.function()).transposed ? rightElement(0, j, k) : rightElement(0, k, j));
-        }
-        literal::expectSame(expected, call.get("dst", 0, cell / order, cell % order), "cell " + std::to_string(cell));
-    }
-}
-
-std::int32_t runWithout(Call &call, const char *operand, std::uint32_t entry) {
-    fill(call);
-    call.set("dst", 0, Square(std::size_t{call.size()} * call.size(), 77));
-    std::byte *&slot = call[operand].entries[entry];
-    std::byte *const kept = slot;
-    slot = nullptr;
-    const std::int32_t status = call.run();
-    slot = kept;
-    return status;
-}
-
-TEST(MatrixProductOfSingleTables, LeavesTheZeroAndThePartialSumsOfTheCellWhoseTermIsMissing) {
-    EXPECT_EQ(interleaved().size(), 4U * 2U * 5U);
-    for (const Function *function : interleaved())
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 3})) {
-            Call call(function->name, order);
-            for (std::uint32_t i = 0; i < order; ++i)
-                for (std::uint32_t k = 0; k < order; ++k) {
-                    SCOPED_TRACE(function->name + ", element " + std::to_string(i) + ", " + std::to_string(k));
-                    EXPECT_EQ(runWithout(call, "src1", left(*function).transposed ? k * order + i : i * order + k),
-                              vonkErrNullPtr);
-                    expectStoppedAt(call, i, 0, static_cast<int>(k));
-                    EXPECT_EQ(runWithout(call, "src2", right(*function).transposed ? i * order + k : k * order + i),
-                              vonkErrNullPtr);
-                    expectStoppedAt(call, 0, i, static_cast<int>(k));
-                }
-        }
-}
-
-TEST(MatrixProductOfSingleTables, StopsAheadOfACellThatIsMissing) {
-    for (const Function *function : interleaved())
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 3})) {
-            Call call(function->name, order);
-            for (std::uint32_t cell = 0; cell < order * order; ++cell) {
-                SCOPED_TRACE(function->name + ", cell " + std::to_string(cell));
-                EXPECT_EQ(runWithout(call, "dst", cell), vonkErrNullPtr);
-                expectStoppedAt(call, cell / order, cell % order, -1);
-            }
-        }
-}
-
-// With nulls in all three tables the cell comes first: nothing is written, not even its zero. Without a term of the
-// first cell its zero is.
-TEST(MatrixProductOfSingleTables, LooksAtTheCellAheadOfItsTerms) {
-    for (const Function *function : interleaved()) {
-        Call call(function->name, 3);
-        fill(call);
-        literal::blankEntries(call);
-        EXPECT_EQ(call.run(), vonkErrNullPtr);
-        EXPECT_TRUE(call.changedNothing());
-    }
-}
-
 // ---- Orders of addition
 
 // Every element of every object gets the same terms: the rows of A hold them and B holds ones.
@@ -572,8 +473,7 @@ TEST(MatrixProductSums, RunThroughTheTermsButForThreeMembersThatAddPairs) {
 
 // 1 and two halves of its last place: one after the other they are rounded away, as a pair they make a whole one.
 TEST(MatrixProductSums, RoundEveryFloatAddition) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real32) continue;
+    for (const Function *function : all(isFloat)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {4})) {
             Call call(function->name, order, 2);
             std::vector<double> terms(order);
@@ -589,8 +489,7 @@ TEST(MatrixProductSums, RoundEveryFloatAddition) {
 
 // (1 + 2^-12)^2 is 1 + 2^-11 + 2^-24, a tie that falls back to 1 + 2^-11: no product is fused with its addition.
 TEST(MatrixProductSums, RoundEveryFloatProduct) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real32) continue;
+    for (const Function *function : all(isFloat)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {2})) {
             Call call(function->name, order, 2);
             for (std::uint32_t n = 0; n < call.count(); ++n)
@@ -630,8 +529,7 @@ bool keepsExtendedSums(const Function &function) { return isOneOf(function.layou
 // 1 and two halves of its last place again. In the 80-bit unit they make a whole one, unless the sum goes through the
 // cell at every step or the unit is set to 53 bits.
 TEST(MatrixProductSums, OfDoublesAreRoundedOnceOrAtEveryStepByLayout) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
                 const SettingScope scope({precision, Rounding::nearest});
@@ -650,8 +548,7 @@ TEST(MatrixProductSums, OfDoublesAreRoundedOnceOrAtEveryStepByLayout) {
 // (1 + 2^-30)^2 is 1 + 2^-29 + 2^-60. Its last bit outlives the subtraction of 1 + 2^-29 where the product is extended
 // and nothing has rounded it yet: always if it comes second, and if it comes first where the sum stays in the unit.
 TEST(MatrixProductSums, TakeProductsOfDoublesExtended) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {2}))
             for (const Precision precision : {Precision::bits53, Precision::bits64})
                 for (const std::uint32_t place : {0U, 1U}) {
@@ -849,8 +746,7 @@ TEST(MatrixProductInPlace, GoesWrongWhereSumsRunThroughCells) {
 
 // Of 3 by itself in place nothing is left: the cell is 0 before it is read.
 TEST(MatrixProductInPlace, OfOrderOneIsZero) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         for (const std::string &source : sourcesOfTheKindOfDst(*function)) {
             SCOPED_TRACE(function->name + ", dst over " + source);
             Call call(function->name, 1);

@@ -7,17 +7,14 @@ namespace {
 
 using namespace literal::names;
 
-std::vector<const Function *> all() { return literal::members("matrix-vector"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("matrix-vector", wanted);
+}
 
 const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
 
 bool isTransposed(const Function &function) { return function.operands[0].transposed; }
-bool isTabled(const Function &function) { return catalogue::isTable(function.operands[0].layout); }
 bool keepsExtendedSums(const Function &function) { return function.layout.empty() || function.layout == "S2"; }
-
-bool worksInLanes(const Function &function) {
-    return function.type == Type::real32 && function.order != 0 && (function.layout.empty() || function.layout == "L");
-}
 
 // ---- Numbers
 
@@ -72,8 +69,7 @@ TEST(MatrixVector, MultipliesSquareMatricesInEveryFormAndGeometry) {
 
 // 1 2 / 3 4 by 5 6.
 TEST(MatrixVector, ReadsTheMatrixTransposed) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         Call call(function->name, 2, 2);
         for (std::uint32_t n = 0; n < 2; ++n) {
             if (n < call.objectsOf("src1")) call.set("src1", n, {1, 2, 3, 4});
@@ -97,8 +93,7 @@ TEST(MatrixVector, TakesItsWordsInTheOrderOfTheHeader) {
 }
 
 TEST(MatrixVector, OfLengthOneIsZeroPlusTheProduct) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         Call call(function->name, 1);
         for (const auto &[a, v, expected] : {std::array{3.0, -5.0, -15.0}, std::array{-0.0, 4.0, 0.0}}) {
             call.set("src1", 0, {a});
@@ -158,8 +153,7 @@ void expectShaped(Call &call, const Shape &shape) {
 }
 
 TEST(MatrixVectorShapes, CompareTheLengthWithColumnsOrTransposedWithRows) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         Call call(function->name, side, 2);
         for (const Shape &shape : shapes()) {
             SCOPED_TRACE(function->name + shape.describe());
@@ -186,8 +180,7 @@ TEST(MatrixVectorShapes, OfATransposedMatrixMakeAsManyResultsAsItHasRows) {
 // ---- What is tested, and when
 
 TEST(MatrixVectorChecks, RefuseALengthThatDoesNotFitAheadOfEntriesAndCount) {
-    for (const Function *function : all()) {
-        if (function->order != 0) continue;
+    for (const Function *function : all(isRunTime)) {
         for (const std::uint32_t length : {0U, 2U, 4U, 0x80000003U}) {
             SCOPED_TRACE(function->name + ", length " + std::to_string(length));
             Call call(function->name, 3, 2);
@@ -268,73 +261,9 @@ TEST(MatrixVectorTables, MayHaveNullsBeyondTheScanWhereTheLoopsDoNotCome) {
 
 // ---- Single products in tables: each element's entries are looked at when the sum comes to them
 
-std::vector<const Function *> interleaved() {
-    std::vector<const Function *> found;
-    for (const Function *function : all())
-        if (!function->array() && function->layout == "P") found.push_back(function);
-    return found;
-}
-
-std::int32_t runWithout(Call &call, const char *operand, std::size_t entry) {
-    fill(call);
-    call.set("dst", 0, std::vector<double>(call.size(), 77));
-    std::byte *&slot = call[operand].entries[entry];
-    std::byte *const kept = slot;
-    slot = nullptr;
-    const std::int32_t status = call.run();
-    slot = kept;
-    return status;
-}
-
-// Elements before the given one are final, it holds so many terms if any, and elements behind it are untouched.
-void expectStoppedAt(Call &call, std::uint32_t element, int terms) {
-    for (std::uint32_t i = 0; i < call.size(); ++i) {
-        double expected = 77;
-        if (i < element) expected = sumOf(call.function(), i, call.size(), 0);
-        if (i == element && terms >= 0) expected = sumOf(call.function(), i, static_cast<std::uint32_t>(terms), 0);
-        literal::expectSame(expected, call.get("dst", 0, 0, i), "element " + std::to_string(i));
-    }
-}
-
-TEST(MatrixVectorOfSingleTables, LeavesTheZeroAndThePartialSumsOfTheElementWhoseTermIsMissing) {
-    EXPECT_EQ(interleaved().size(), 2U * 2U * 5U);
-    for (const Function *function : interleaved())
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 4})) {
-            Call call(function->name, order);
-            const Shape shape{order, order, order};
-            for (std::uint32_t k = 0; k < order; ++k) {
-                SCOPED_TRACE(function->name + ", term " + std::to_string(k));
-                EXPECT_EQ(runWithout(call, "src2", k), vonkErrNullPtr);
-                expectStoppedAt(call, 0, static_cast<int>(k));
-                for (std::uint32_t i = 0; i < order; ++i) {
-                    const std::size_t entry = shape.entry(*function, i, k);
-                    if (isTransposed(*function) && function->order == 4 && entry == 8) continue; // never looked at
-                    EXPECT_EQ(runWithout(call, "src1", entry), vonkErrNullPtr);
-                    expectStoppedAt(call, i, static_cast<int>(k));
-                }
-            }
-        }
-}
-
-TEST(MatrixVectorOfSingleTables, StopsAheadOfAnElementThatIsMissing) {
-    for (const Function *function : interleaved())
-        for (const std::uint32_t order : literal::sizesOf(*function, {1, 2, 4})) {
-            Call call(function->name, order);
-            for (std::uint32_t i = 0; i < order; ++i) {
-                SCOPED_TRACE(function->name + ", element " + std::to_string(i));
-                EXPECT_EQ(runWithout(call, "dst", i), vonkErrNullPtr);
-                expectStoppedAt(call, i, -1);
-            }
-            fill(call);
-            literal::blankEntries(call); // the element comes ahead of its terms, which would leave a zero
-            EXPECT_EQ(call.run(), vonkErrNullPtr);
-            EXPECT_TRUE(call.changedNothing());
-        }
-}
-
 // A table of two rows told of three columns is indexed by rows where it is read transposed: 1 2 / 3 4 / 5 6.
 TEST(MatrixVectorOfSingleTables, OfTransposedMatricesAreIndexedByTheRows) {
-    for (const Function *function : interleaved()) {
+    for (const Function *function : all(isSingleTable)) {
         if (function->order != 0 || !isTransposed(*function)) continue;
         Call call(function->name, 3);
         tell(call, {3, 2, 2});
@@ -360,7 +289,7 @@ void setTerms(Call &call, const std::vector<double> &terms) {
 }
 
 std::string treeOf(const Function &function, std::uint32_t order, std::uint32_t element) {
-    if (!worksInLanes(function) || order == 3) return literal::runningTree(order);
+    if (!hasLanes(function) || order == 3) return literal::runningTree(order);
     if (isTransposed(function)) {
         if (order == 4) return "((01)(23))";
         return order == 5 ? "(((01)4)(23))" : "(((01)(23))(45))";
@@ -394,7 +323,7 @@ TEST(MatrixVectorSums, FollowTheTreeOfTheKernelAndElseRunThroughTheTerms) {
 // ((2^24 + 0) + 0) + (1 + 1) = 2^24 + 2.
 TEST(MatrixVectorSums, OfTheLastOfFiveElementsAreRoundedInAnotherWay) {
     for (const Function *function : all()) {
-        if (!worksInLanes(*function) || function->order != 5) continue;
+        if (!hasLanes(*function) || function->order != 5) continue;
         Call call(function->name, 5, 2);
         setTerms(call, {0x1p24, 1, 0, 1, 0});
         ASSERT_EQ(call.run(), vonkOk);
@@ -411,15 +340,14 @@ TEST(MatrixVectorSums, BeginAtPlusZeroInCellsAndAtTheFirstProductInLanes) {
             setTerms(call, std::vector<double>(order, -0.0));
             ASSERT_EQ(call.run(), vonkOk);
             for (std::uint32_t n = 0; n < call.count(); ++n)
-                literal::expectSame(std::vector<double>(order, worksInLanes(*function) ? -0.0 : 0.0),
-                                    call.get("dst", n), "dst");
+                literal::expectSame(std::vector<double>(order, hasLanes(*function) ? -0.0 : 0.0), call.get("dst", n),
+                                    "dst");
         }
 }
 
 // (1 + 2^-12)^2 is 1 + 2^-11 + 2^-24, a tie that falls back: no product is fused with its addition.
 TEST(MatrixVectorSums, RoundEveryFloatProduct) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real32) continue;
+    for (const Function *function : all(isFloat)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {2}))
             for (std::uint32_t place = 1; place < order; ++place) {
                 SCOPED_TRACE(function->name + ", place " + std::to_string(place));
@@ -439,8 +367,7 @@ TEST(MatrixVectorSums, RoundEveryFloatProduct) {
 // 1 and two halves of its last place: in the 80-bit unit they make a whole one, unless the sum goes through the cell
 // at every step or the unit is set to 53 bits.
 TEST(MatrixVectorSums, OfDoublesAreRoundedOnceOrAtEveryStepByLayout) {
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         for (const std::uint32_t order : literal::sizesOf(*function, {3, 7}))
             for (const Precision precision : {Precision::bits53, Precision::bits64}) {
                 const SettingScope scope({precision, Rounding::nearest});
@@ -477,7 +404,7 @@ std::vector<std::vector<double>> expectedOverVector(const Function &function, st
     std::vector<std::vector<double>> results;
     std::vector<double> single = vectorOf(order, 0);
     for (std::uint32_t n = 0; n < count; ++n) {
-        if (worksInLanes(function)) {
+        if (hasLanes(function)) {
             results.push_back(productOf(function, order, n));
             continue;
         }
@@ -509,7 +436,7 @@ TEST(MatrixVectorInPlace, IsRightOverTheVectorInLanesAlone) {
             const auto results = resultsOver(*function, order, "src2");
             std::vector<std::vector<double>> products;
             for (std::uint32_t n = 0; n < results.size(); ++n) products.push_back(productOf(*function, order, n));
-            EXPECT_EQ(results == products, worksInLanes(*function));
+            EXPECT_EQ(results == products, hasLanes(*function));
             EXPECT_EQ(results, expectedOverVector(*function, order, static_cast<std::uint32_t>(results.size())));
         }
 }
@@ -525,7 +452,7 @@ TEST(MatrixVectorInPlace, OverASingleMatrixIsRightInLanesAlone) {
             bool right = true;
             for (std::uint32_t n = 0; n < results.size(); ++n)
                 right = right && results[n] == productOf(*function, order, n);
-            EXPECT_EQ(right, worksInLanes(*function));
+            EXPECT_EQ(right, hasLanes(*function));
         }
     }
 }

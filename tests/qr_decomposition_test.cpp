@@ -8,27 +8,10 @@ namespace {
 using namespace literal::names;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double tolerance = 0x1p-23;
 
-std::vector<const Function *> all() { return literal::members("qr-decomposition"); }
-
-std::vector<const Function *> allArrays() {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [](const Function *function) { return !function->array(); });
-    return found;
-}
-
-std::vector<const Function *> allOf(Type type) {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [type](const Function *function) { return function->type != type; });
-    return found;
-}
-
-std::vector<const Function *> allOfRunTimeSize() {
-    std::vector<const Function *> found = all();
-    std::erase_if(found, [](const Function *function) { return function->order != 0; });
-    return found;
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("qr-decomposition", wanted);
 }
 
 const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
@@ -129,7 +112,7 @@ TEST(QrDecomposition, FollowsTheRecurrenceInEveryFormAndGeometry) {
 }
 
 TEST(QrDecomposition, FollowsTheRecurrenceForMatricesHigherThanWide) {
-    for (const Function *function : allOfRunTimeSize())
+    for (const Function *function : all(isRunTime))
         for (const Geometry geometry : {literal::packed, literal::spread, literal::backward})
             for (const auto &[rows, cols] :
                  {std::pair{2U, 1U}, {3U, 1U}, {3U, 2U}, {4U, 3U}, {5U, 3U}, {6U, 2U}, {7U, 3U}, {8U, 7U}})
@@ -204,7 +187,7 @@ TEST(QrDecomposition, TakesItsWordsInTheOrderOfTheHeader) {
 
 // The norm with the opposite sign: of 3 4 it is 5.
 TEST(QrDecomposition, LeavesTheNormOfASingleColumnWithTheOtherSign) {
-    for (const Function *function : allOfRunTimeSize())
+    for (const Function *function : all(isRunTime))
         for (const double sign : {1.0, -1.0}) {
             Call call(function->name, 1, 2, literal::spread, 2);
             for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, {3 * sign, 4});
@@ -218,7 +201,7 @@ TEST(QrDecomposition, LeavesTheNormOfASingleColumnWithTheOtherSign) {
 
 // Neither tolerance nor reflector: whatever the number is.
 TEST(QrDecomposition, CopiesTheOnlyElementOfOneRowAndLeavesTheWorkAlone) {
-    for (const Function *function : allOfRunTimeSize())
+    for (const Function *function : all(isRunTime))
         for (const double element : {5.0, 0x1p-30, 0.0, -0.0, infinity, nan}) {
             Call call(function->name, 1, 2);
             for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, {element});
@@ -247,7 +230,7 @@ TEST(QrDecomposition, KeepsInTheWorkTheReflectorAndAboveItWhatEarlierOnesLeft) {
 
 // The destination lies one object ahead of the source: object 1 is made of what object 0 has left.
 TEST(QrDecomposition, FinishesEachObjectBeforeItCopiesTheNext) {
-    for (const Function *function : allArrays())
+    for (const Function *function : all(isArray))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3})) {
             Call call(function->name, order, 2);
             call["dst"].moveTo(call["src"].origin + call["src"].objectStride);
@@ -335,7 +318,7 @@ TEST(QrDecompositionTolerance, SparesTheLastColumnOfASquare) {
 }
 
 TEST(QrDecompositionTolerance, MeetsTheLastColumnOfAHigherMatrix) {
-    for (const Function *function : allOfRunTimeSize())
+    for (const Function *function : all(isRunTime))
         for (const double last : {0x1p-12, 1.0}) {
             Call call(function->name, 2, 2, literal::packed, 3);
             for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, {1, 0, 0, 0, 0, last});
@@ -364,7 +347,7 @@ TEST(QrDecompositionTolerance, LetsInfinityPass) {
 // The last row's reflector is its leading 1 alone and turns the signs of the row; then nothing is left to sum up. Zeros
 // below the diagonal do the same in the rows above.
 TEST(QrDecompositionTolerance, RefusesEveryMatrixWiderThanHighAfterAsManyReflectionsAsRows) {
-    for (const Function *function : allOfRunTimeSize())
+    for (const Function *function : all(isRunTime))
         for (const std::uint32_t rows : {1U, 2U, 3U})
             for (const std::uint32_t surplus : {1U, 2U, 4U}) {
                 const std::uint32_t cols = rows + surplus;
@@ -386,7 +369,7 @@ TEST(QrDecompositionTolerance, RefusesEveryMatrixWiderThanHighAfterAsManyReflect
 }
 
 TEST(QrDecompositionTolerance, EndsTheCallWithTheObjectsBeforeDoneAndThoseAfterUntouched) {
-    for (const Function *function : allArrays())
+    for (const Function *function : all(isArray))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
             Call call(function->name, order, 4, literal::spread);
             example.fill(call);
@@ -405,7 +388,7 @@ TEST(QrDecompositionTolerance, EndsTheCallWithTheObjectsBeforeDoneAndThoseAfterU
 
 // The precision of the 80-bit unit does not matter, not even to the root.
 TEST(QrDecompositionRounding, OfFloatsIsDoneAtEveryStepAtEveryPrecision) {
-    for (const Function *function : allOf(Type::real32))
+    for (const Function *function : all(isFloat))
         for (const Precision precision : {Precision::bits53, Precision::bits64})
             for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 5, 7}))
                 for (std::uint32_t variant = 0; variant < 5; ++variant) {
@@ -445,7 +428,7 @@ std::vector<double> reflectorOf(const Function &function, std::uint32_t order, c
 }
 
 TEST(QrDecompositionRounding, OfDoublesMeetsTheSquaredNormAndNotTheReciprocal) {
-    for (const Function *function : allOf(Type::real64))
+    for (const Function *function : all(isDouble))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 4, 5, 6, 7})) {
             int tellingNorm = 0;
             int tellingReciprocal = 0;
@@ -507,7 +490,7 @@ struct Wide {
 };
 
 TEST(QrDecompositionRounding, OfDoublesMeetsLengthAndBetaAndNotTheProjection) {
-    for (const Function *function : allOf(Type::real64))
+    for (const Function *function : all(isDouble))
         for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 4, 5, 6, 7})) {
             std::array<int, 3> telling{};
             for (int variant = 1; variant <= 300; ++variant) {
@@ -542,7 +525,7 @@ TEST(QrDecompositionRounding, OfDoublesMeetsLengthAndBetaAndNotTheProjection) {
 // ---- What is tested, and when
 
 TEST(QrDecompositionChecks, LookAtAllPositionsOfMatricesHigherThanWide) {
-    for (const Function *function : allOfRunTimeSize()) {
+    for (const Function *function : all(isRunTime)) {
         if (!catalogue::isTable(function->operands[0].layout)) continue;
         for (const char *operand : {"src", "dst"})
             for (std::size_t entry = 0; entry < 10; ++entry) {

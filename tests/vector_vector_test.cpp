@@ -6,7 +6,9 @@ namespace {
 
 using namespace literal::names;
 
-std::vector<const Function *> all() { return literal::members("vector-vector"); }
+std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
+    return literal::members("vector-vector", wanted);
+}
 
 bool isDifference(const Function &function) { return function.family->operation == "Sub"; }
 bool isSingle(const Function &function) { return function.group == "vv"; }
@@ -97,7 +99,6 @@ struct Special {
 };
 
 TEST(VectorVector, FollowsTheArithmeticOfInfinitiesNansAndSignedZeros) {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     constexpr std::array specials = std::to_array<Special>({
         {infinity, 1, infinity, infinity},
@@ -164,8 +165,7 @@ TEST(VectorVector, RoundsDoublesToTheCallersPrecisionAndThenToTheStore) {
         {{Precision::bits53, Rounding::towardZero}, 1},
         {{Precision::bits64, Rounding::towardZero}, 1},
     });
-    for (const Function *function : all()) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : all(isDouble)) {
         for (const Case &expectation : cases)
             for (const std::uint32_t size : literal::sizesOf(*function, {5})) {
                 SCOPED_TRACE(function->name + ", " + support::describe(expectation.setting));
@@ -197,8 +197,7 @@ TEST(VectorVector, RoundsFloatsInTheCallersDirection) {
         {Rounding::down, 1, -above},
         {Rounding::towardZero, 1, -1},
     });
-    for (const Function *function : all()) {
-        if (function->type != Type::real32) continue;
+    for (const Function *function : all(isFloat)) {
         for (const Case &expectation : cases)
             for (const std::uint32_t size : literal::sizesOf(*function, {21}))
                 for (const double sign : {1.0, -1.0}) {
@@ -385,9 +384,7 @@ TEST(VectorVectorRunTime, SumsUpInEveryLayout) {
 
 // ---- The single vector of `vav` and `vva`
 
-bool holdsSingle(const Function &function) {
-    return function.type == Type::real32 && function.order != 0 && (function.layout.empty() || function.layout == "L");
-}
+bool holdsSingle(const Function &function) { return isException(function, "vv-single-loaded-once"); }
 
 // Object 0 of `dst` lies on the single vector, which is 100; the array holds 1 and then 10. Those that have loaded the
 // single vector once see 100 for object 1 too; the others see the result for object 0.

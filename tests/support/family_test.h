@@ -46,4 +46,20 @@ using support::Rounding;
 using support::Setting;
 using support::SettingScope;
 
+inline constexpr double infinity = std::numeric_limits<double>::infinity();
+
+// What `all` of a family's tests may be asked for.
+inline bool isAny(const Function &) { return true; }
+inline bool isRunTime(const Function &function) { return function.order == 0; }
+inline bool isFloat(const Function &function) { return function.type == Type::real32; }
+inline bool isDouble(const Function &function) { return function.type == Type::real64; }
+inline bool isArray(const Function &function) { return function.array(); }
+inline bool isSingleTable(const Function &function) { return !function.array() && function.layout == "P"; }
+inline bool isTabled(const Function &function) { return catalogue::isTable(function.operands.front().layout); }
+
+// Floats of fixed size and adjacent elements, which are worked in SIMD lanes.
+inline bool hasLanes(const Function &function) {
+    return isFloat(function) && function.order != 0 && (function.layout.empty() || function.layout == "L");
+}
+
 } // namespace literal::names

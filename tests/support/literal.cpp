@@ -108,6 +108,12 @@ std::vector<const Function *> members(std::string_view section) {
     return found;
 }
 
+std::vector<const Function *> members(std::string_view section, const std::function<bool(const Function &)> &wanted) {
+    std::vector<const Function *> found = members(section);
+    std::erase_if(found, [&](const Function *candidate) { return !wanted(*candidate); });
+    return found;
+}
+
 namespace {
 
 const Function &functionFor(std::string_view name, const std::vector<std::uint64_t> &words) {

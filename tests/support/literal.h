@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -20,6 +21,8 @@ namespace literal {
 
 const catalogue::Function &function(std::string_view name);
 std::vector<const catalogue::Function *> members(std::string_view section); // of a section, by its id
+std::vector<const catalogue::Function *> members(std::string_view section,
+                                                 const std::function<bool(const catalogue::Function &)> &wanted);
 const std::vector<catalogue::Function> &allMembers();
 
 bool isPointer(catalogue::Kind kind);

@@ -14,15 +14,6 @@
 
 namespace literal {
 
-inline bool hasLanes(const catalogue::Function &function) {
-    return function.type == catalogue::Type::real32 && function.order != 0 &&
-           (function.layout.empty() || function.layout == "L");
-}
-
-inline bool isTabled(const catalogue::Function &function) {
-    return catalogue::isTable(function.operands.front().layout);
-}
-
 inline bool hasTransposed(const catalogue::Function &function) {
     return std::ranges::any_of(function.operands, &catalogue::Operand::transposed);
 }
