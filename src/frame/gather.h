@@ -134,7 +134,7 @@ public:
     // Element indexOf(k) of object k, where elements, or rows, are so many bytes apart.
     template <class IndexOf>
     VONKK3_INLINE void findOwn(const IndexOf &indexOf, std::ptrdiff_t stride, Byte *(&own)[width]) const {
-        for (std::size_t k = 0; k < width; ++k) own[k] = object[k] + strides(indexOf(k), stride);
+        for (std::size_t k = 0; k < width; ++k) own[k] = opaque(object[k] + strides(indexOf(k), stride));
     }
 
 private:
@@ -387,13 +387,20 @@ VONKK3_INLINE void gatherElementsInOrder(const VectorsOfBatch<length> &operand, 
     });
 }
 
-// Element index[k] of those that are given, in lane k.
+// The element whose mask is set, lane by lane; of each lane one is.
 template <std::size_t width, std::size_t length>
 VONKK3_INLINE PackOf<width> selectElement(const MaskOf<width> (&isIndex)[length],
                                           const PackOf<width> (&elements)[length]) {
     PackOf<width> selected = elements[0];
-    forIndices(1, length, fixed<length>,
-               [&](std::size_t r) VONKK3_INLINED { selected = select(isIndex[r], elements[r], selected); });
+    if constexpr (std::is_integral_v<MaskRegister<width>>)
+        forIndices(1, length, fixed<length>,
+                   [&](std::size_t r) VONKK3_INLINED { selected = select(isIndex[r], elements[r], selected); });
+    else {
+        const auto masked = [&](std::size_t r) VONKK3_INLINED { return bitAnd(isIndex[r].lanes, elements[r].lanes); };
+        selected = masked(0);
+        forIndices(1, length, fixed<length>,
+                   [&](std::size_t r) VONKK3_INLINED { selected = bitOr(selected.lanes, masked(r)); });
+    }
     return selected;
 }
 
@@ -446,7 +453,7 @@ VONKK3_INLINE void scatterRowsInOrder(const ObjectsView &view, std::size_t n, co
 template <std::size_t width, std::size_t columns>
 VONKK3_INLINE void gatherPacked(const std::byte *from, PackOf<width> (&row)[columns]) {
     SourcesOf<width> sources;
-    for (std::size_t k = 0; k < width; ++k) sources[k] = from + k * columns * sizeof(Real32);
+    for (std::size_t k = 0; k < width; ++k) sources[k] = opaque(from + k * columns * sizeof(Real32));
     gatherRow(sources, columns, row);
 }
 template <std::size_t packs, std::size_t columns>
@@ -456,7 +463,7 @@ VONKK3_INLINE void scatterPacked(std::byte *to, const Packs<packs> (&block)[1][c
         PackOf<width> row[columns];
         TargetsOf<width> targets;
         for (std::size_t j = 0; j < columns; ++j) row[j] = block[0][j].chain[c];
-        for (std::size_t k = 0; k < width; ++k) targets[k] = to + (c * width + k) * columns * sizeof(Real32);
+        for (std::size_t k = 0; k < width; ++k) targets[k] = opaque(to + (c * width + k) * columns * sizeof(Real32));
         scatterRow(targets, columns, row);
     });
 }

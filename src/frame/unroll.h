@@ -28,8 +28,9 @@
 
 namespace vonkk3 {
 
-// A constant argument that a function is not to be compiled for in a copy of its own.
-inline std::size_t opaque(std::size_t value) {
+// A constant argument that a function is not to be compiled for in a copy of its own; or an address that compilers are
+// not to compute beside others in lanes, to take it out of them again.
+template <class Word> inline Word opaque(Word value) {
     __asm__("" : "+r"(value));
     return value;
 }

@@ -18,7 +18,7 @@ add_custom_target(vonkk3_windows_inputs DEPENDS ${vonkk3_def} ${vonkk3_resource}
 add_dependencies(vonkk3_windows_inputs vonkk3_generated)
 
 function(add_vonkk3 target level folder)
-  add_vonkk3_of_kind(OBJECT ${target}_objects ${level})
+  add_vonkk3_of_kind(OBJECT ${target}_objects ${level} ${stubs64})
   target_sources(${target}_objects PRIVATE windows/stack_probe.cpp)
   # Visibility is another system's: there the headers' prototypes are the exports, here the list is.
   target_compile_options(${target}_objects PRIVATE -Wno-attributes)
