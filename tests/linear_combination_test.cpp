@@ -58,53 +58,6 @@ TEST(LinearCombination, TakesEachConstantBehindItsVector) {
     EXPECT_EQ(result[1], -4);
 }
 
-// A constant of 0 is no short cut.
-TEST(LinearCombination, MakesANanOfAZeroConstantAndAnInfinity) {
-    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-    for (const Function *function : all())
-        for (const std::uint32_t size : literal::sizesOf(*function, {2, 20})) {
-            literal::expectUniform(*function, size, {}, {{"src1", 1}, {"val1", 2}, {"src2", infinity}, {"val2", 0}},
-                                   nan);
-            literal::expectUniform(*function, size, {}, {{"src1", infinity}, {"val1", 0}, {"src2", 1}, {"val2", 2}},
-                                   nan);
-            literal::expectUniform(*function, size, {}, {{"src1", 1}, {"val1", 0}, {"src2", -0.0}, {"val2", 1}}, 0.0);
-            literal::expectUniform(*function, size, {}, {{"src1", 1}, {"val1", -0.0}, {"src2", -0.0}, {"val2", 1}},
-                                   -0.0);
-        }
-}
-
-// ---- Rounding
-
-// (1 + 2^-12)^2 = 1 + 2^-11 + 2^-24, whose last term a float loses ahead of the sum, whichever product it is.
-TEST(LinearCombinationRounding, OfBothProductsComesAheadOfTheSumOfFloats) {
-    constexpr double factor = 1 + 0x1p-12;
-    constexpr double square = 1 + 0x1p-11;
-    for (const Function *function : all(isFloat)) {
-        for (const std::uint32_t size : literal::sizesOf(*function, {1, 10, 20})) {
-            const support::Setting setting{Precision::bits64, Rounding::nearest};
-            literal::expectUniform(*function, size, setting,
-                                   {{"src1", factor}, {"val1", factor}, {"src2", square}, {"val2", -1}}, 0.0);
-            literal::expectUniform(*function, size, setting,
-                                   {{"src1", square}, {"val1", -1}, {"src2", factor}, {"val2", factor}}, 0.0);
-        }
-    }
-}
-
-// (1 + 2^-30)^2 = 1 + 2^-29 + 2^-60: 53 bits lose the last term, 64 bits keep it up to the sum.
-TEST(LinearCombinationRounding, LeavesTheProductsOfDoublesAsWideAsTheCallersPrecision) {
-    constexpr double factor = 1 + 0x1p-30;
-    constexpr double square = 1 + 0x1p-29;
-    const std::map<std::string, double> first{{"src1", factor}, {"val1", factor}, {"src2", square}, {"val2", -1}};
-    const std::map<std::string, double> second{{"src1", square}, {"val1", -1}, {"src2", factor}, {"val2", factor}};
-    for (const Function *function : all(isDouble)) {
-        for (const std::uint32_t size : literal::sizesOf(*function, {1, 6}))
-            for (const auto &values : {first, second}) {
-                literal::expectUniform(*function, size, {Precision::bits53, Rounding::nearest}, values, 0.0);
-                literal::expectUniform(*function, size, {Precision::bits64, Rounding::nearest}, values, 0x1p-60);
-            }
-    }
-}
-
 // ---- The long form
 
 literal::LongBench longBench() {

@@ -140,55 +140,6 @@ TEST(MatrixSum, PutsAllRowsAndObjectsOnOneAnotherAtStrideZero) {
 
 // ---- Rounding, infinities, NaNs, zeros
 
-double resultOf(const Function &function, double a, double b, support::Setting setting = {}) {
-    Call call(function.name, 3, 2);
-    literal::setAll(call, "src1", a);
-    literal::setAll(call, "src2", b);
-    EXPECT_EQ(call.run(setting), vonkOk);
-    for (std::uint32_t n = 0; n < call.count(); ++n)
-        literal::expectSame(std::vector<double>(call.get("dst", n).size(), call.get("dst", 0, 0, 0)),
-                            call.get("dst", n), "dst");
-    return call.get("dst", 0, 0, 0);
-}
-
-TEST(MatrixSum, FollowsTheArithmeticOfInfinitiesNansAndSignedZeros) {
-    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-    struct Special {
-        double left, right, sum, difference;
-    };
-    constexpr std::array specials = std::to_array<Special>({{infinity, -infinity, nan, infinity},
-                                                            {infinity, infinity, infinity, nan},
-                                                            {1, infinity, infinity, -infinity},
-                                                            {nan, 1, nan, nan},
-                                                            {-0.0, -0.0, -0.0, 0.0},
-                                                            {-0.0, 0.0, 0.0, -0.0}});
-    for (const Function *function : all())
-        for (const Special &special : specials)
-            literal::expectSame(isDifference(*function) ? special.difference : special.sum,
-                                resultOf(*function, special.left, special.right), function->name);
-}
-
-// 1 + 2^-53 + 2^-78 is above the tie at 53 bits. At 64 bits the last term is lost in the register, and the store meets
-// the tie.
-TEST(MatrixSum, RoundsDoublesToTheCallersPrecisionAndThenToTheStore) {
-    constexpr double above = 1 + 0x1p-52;
-    for (const Function *function : all(isDouble)) {
-        const double small = combine(*function, 0, 0x1p-53 + 0x1p-78);
-        EXPECT_EQ(resultOf(*function, 1, small, {Precision::bits53, Rounding::nearest}), above) << function->name;
-        EXPECT_EQ(resultOf(*function, 1, small, {Precision::bits64, Rounding::nearest}), 1) << function->name;
-        EXPECT_EQ(resultOf(*function, 1, small, {Precision::bits64, Rounding::up}), above) << function->name;
-    }
-}
-
-TEST(MatrixSum, RoundsFloatsInTheCallersDirection) {
-    for (const Function *function : all(isFloat)) {
-        const double small = combine(*function, 0, 0x1p-24);
-        EXPECT_EQ(resultOf(*function, 1, small, {Precision::bits64, Rounding::nearest}), 1) << function->name;
-        EXPECT_EQ(resultOf(*function, 1, small, {Precision::bits64, Rounding::up}), 1 + 0x1p-23) << function->name;
-        EXPECT_EQ(resultOf(*function, 1, small, {Precision::bits64, Rounding::down}), 1) << function->name;
-    }
-}
-
 // ---- The roads for aligned and unaligned operands
 
 TEST(MatrixSumAlignment, ChangesNoResult) {

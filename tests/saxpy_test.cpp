@@ -56,41 +56,6 @@ TEST(Saxpy, TakesItsConstantBehindTheFirstVector) {
     EXPECT_EQ(result[1], 26);
 }
 
-TEST(Saxpy, MakesANanOfZeroTimesInfinity) {
-    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-    for (const Function *function : all())
-        for (const std::uint32_t size : literal::sizesOf(*function, {2, 20})) {
-            literal::expectUniform(*function, size, {}, {{"src1", infinity}, {"val", 0}, {"src2", 1}}, nan);
-            literal::expectUniform(*function, size, {}, {{"src1", 1}, {"val", nan}, {"src2", 1}}, nan);
-            literal::expectUniform(*function, size, {}, {{"src1", -0.0}, {"val", 1}, {"src2", -0.0}}, -0.0);
-            literal::expectUniform(*function, size, {}, {{"src1", 0.0}, {"val", -1}, {"src2", 0.0}}, 0.0);
-        }
-}
-
-// ---- Rounding
-
-// (1 + 2^-12)^2 = 1 + 2^-11 + 2^-24, whose last term a float loses ahead of the sum. A fused operation would keep it.
-TEST(SaxpyRounding, OfTheProductComesAheadOfTheSumOfFloats) {
-    const std::map<std::string, double> values{{"src1", 1 + 0x1p-12}, {"val", 1 + 0x1p-12}, {"src2", -1 - 0x1p-11}};
-    for (const Function *function : all(isFloat)) {
-        for (const std::uint32_t size : literal::sizesOf(*function, {1, 10, 20})) {
-            literal::expectUniform(*function, size, {Precision::bits64, Rounding::nearest}, values, 0.0);
-            literal::expectUniform(*function, size, {Precision::bits64, Rounding::up}, values, 0x1p-23);
-        }
-    }
-}
-
-// (1 + 2^-30)^2 = 1 + 2^-29 + 2^-60: 53 bits lose the last term, 64 bits keep it up to the sum.
-TEST(SaxpyRounding, LeavesTheProductOfDoublesAsWideAsTheCallersPrecision) {
-    const std::map<std::string, double> values{{"src1", 1 + 0x1p-30}, {"val", 1 + 0x1p-30}, {"src2", -1 - 0x1p-29}};
-    for (const Function *function : all(isDouble)) {
-        for (const std::uint32_t size : literal::sizesOf(*function, {1, 6})) {
-            literal::expectUniform(*function, size, {Precision::bits53, Rounding::nearest}, values, 0.0);
-            literal::expectUniform(*function, size, {Precision::bits64, Rounding::nearest}, values, 0x1p-60);
-        }
-    }
-}
-
 // ---- The long form
 
 literal::LongBench longBench() {

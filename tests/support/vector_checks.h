@@ -42,21 +42,6 @@ inline std::uint32_t objectOf(const Call &call, std::string_view source, std::ui
     throw std::out_of_range(std::string(source));
 }
 
-// Every element of every operand has the same value: what does dst become under this setting?
-inline void expectUniform(const catalogue::Function &function, std::uint32_t size, support::Setting setting,
-                          const std::map<std::string, double> &values, double expected) {
-    SCOPED_TRACE(function.name + ", size " + std::to_string(size) + ", " + support::describe(setting));
-    Call call(function.name, size, 5);
-    for (const auto &[name, value] : values)
-        if (name.starts_with("val")) call.setConstant(name, value);
-        else
-            for (std::uint32_t n = 0; n < call.objectsOf(name); ++n)
-                call.set(name, n, std::vector<double>(call.size(), value));
-    ASSERT_EQ(call.run(setting), vonkOk);
-    for (std::uint32_t n = 0; n < call.count(); ++n)
-        expectSame(std::vector<double>(call.size(), expected), call.get("dst", n), "object " + std::to_string(n));
-}
-
 // ---- The long forms on adjacent elements
 
 // Addresses as offsets in bytes into the memory of a bench.
