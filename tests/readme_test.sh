@@ -22,7 +22,7 @@ awk '/^```cpp$/ { inside = 1; next } /^```$/ { inside = 0 } inside' "$source/REA
 test "$("$scratch/example")" = "x = 1 1 1 and 1 1 1"
 
 # The site's plots are drawn when it is built.
-for page in "$source"/*.md "$source"/bench/*.md "$source"/docs/*.md "$source"/docs/reference/*.md \
+for page in "$source"/*.md "$source"/bench/*.md "$source"/python/*.md "$source"/docs/*.md "$source"/docs/reference/*.md \
     "$source"/docs/site/pages/*.md "$source"/docs/site/pages/recipes/*.md "$source"/examples/nist/*.md; do
     grep -oE '\]\([^)#]+' "$page" | sed 's/^](//' | grep -vE '^(https?:|plots/)' | while read -r link; do
         test -e "${page%/*}/$link" || { echo "FAILED: ${page#"$source"/} links to $link, which is not there"; exit 1; }

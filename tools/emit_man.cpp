@@ -105,7 +105,8 @@ std::string synopsis(const Section &section, const std::vector<Function> &functi
         text += ");\n";
     }
     return text + ".PD\n.PP\nLink with \\fI\\-lvonkk3\\fR. The same in \\fB64f\\fR for double" +
-           (hasRunTimeSize ? ", and with the size in the name instead of among the parameters.\n" : ".\n");
+           (hasRunTimeSize ? ", and with the size in the name instead of among the parameters.\n" : ".\n") +
+           "Strides and shifts are in bytes; \\fBvonkk3\\fR(3) says how to read names and layouts.\n";
 }
 
 // Lines may break after the commas of a pattern.
