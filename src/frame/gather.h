@@ -392,7 +392,7 @@ template <std::size_t width, std::size_t length>
 VONKK3_INLINE PackOf<width> selectElement(const MaskOf<width> (&isIndex)[length],
                                           const PackOf<width> (&elements)[length]) {
     PackOf<width> selected = elements[0];
-    if constexpr (std::is_integral_v<MaskRegister<width>>)
+    if constexpr (hasMasks)
         forIndices(1, length, fixed<length>,
                    [&](std::size_t r) VONKK3_INLINED { selected = select(isIndex[r], elements[r], selected); });
     else {

@@ -102,6 +102,7 @@ inline void storeLanes(std::byte *address, __m256 lanes) { _mm256_storeu_ps(floa
 
 // Their outcome lane by lane: a bit for each where the target has masks, else all bits of a lane or none.
 #ifdef __AVX512VL__
+inline constexpr bool hasMasks = true;
 template <std::size_t> using MaskRegister = __mmask8;
 template <class Mask> inline Mask noLane() { return 0; }
 inline __mmask8 isGreater(__m128 a, __m128 b) { return _mm_cmp_ps_mask(a, b, _CMP_GT_OS); }
@@ -124,6 +125,7 @@ inline unsigned bitsOf(__mmask8 mask) { return mask; }
 inline __m128 choose(__mmask8 mask, __m128 a, __m128 b) { return _mm_mask_blend_ps(mask, b, a); }
 inline __m256 choose(__mmask8 mask, __m256 a, __m256 b) { return _mm256_mask_blend_ps(mask, b, a); }
 #else
+inline constexpr bool hasMasks = false;
 template <std::size_t lanes> using MaskRegister = Register<lanes>;
 template <class Mask> inline Mask noLane() { return broadcast<Mask>(0); }
 inline __m128 isGreater(__m128 a, __m128 b) { return _mm_cmpgt_ps(a, b); }
@@ -148,7 +150,7 @@ inline __m256 choose(__m256 mask, __m256 a, __m256 b) { return _mm256_blendv_ps(
 
 // Exchanges a and b in the lanes of the mask.
 template <class Mask, class Lanes> VONKK3_INLINE void exchangeWhere(Mask mask, Lanes &a, Lanes &b) {
-    if constexpr (std::is_integral_v<Mask>) {
+    if constexpr (hasMasks) {
         const Lanes first = a;
         a = choose(mask, b, a);
         b = choose(mask, first, b);

@@ -154,11 +154,12 @@ private:
     template <Access access, std::size_t width>
     VONKK3_NOINLINE void gatherSystem(std::size_t n, PackOf<width> *factors, PackOf<width> *b, std::size_t step) const {
         const std::byte *const rows = pivotsOf(n);
-        if (access == Access::positions || (access == Access::any && src1.view.isTable())) {
-            PackOf<width> index[order];
-            gatherPacked(rows, index);
-            return gatherInOrder<access>(src1, src2, n, index, factors, b, step);
-        }
+        if constexpr (access != Access::rows)
+            if (access == Access::positions || src1.view.isTable()) {
+                PackOf<width> index[order];
+                gatherPacked(rows, index);
+                return gatherInOrder<access>(src1, src2, n, index, factors, b, step);
+            }
         const auto rowOf = [&](std::size_t k, std::size_t i) VONKK3_INLINED { return loadPivot(rows, k * order + i); };
         gatherElementsInOrder<access>(src2, n, rowOf, b, step);
         gatherRowsInOrder<access>(src1, n, rowOf, factors, step);
