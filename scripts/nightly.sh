@@ -13,6 +13,7 @@
 #     valgrind      memory errors alone: its 80-bit arithmetic has 64 bits, so that results differ
 #     abi           scripts/abi.sh
 #     windows       scripts/windows.sh: the DLL and its tests by Wine
+#     linux32       scripts/linux32.sh: the library for 32-bit x86 Linux and its tests
 #     packages      scripts/release.sh, twice with the same bytes, and tests/debian_test.sh of its packages
 #     site          scripts/docs.sh --test: the documentation, by clicks in a browser
 #     faults        scripts/faults.py: every deliberate fault turns a test red
@@ -42,7 +43,7 @@ while [ $# -gt 0 ]; do
     esac
     shift
 done
-all="tests compilers levels abi windows packages threads valgrind coverage fuzz comparisons site faults"
+all="tests compilers levels abi windows linux32 packages threads valgrind coverage fuzz comparisons site faults"
 [ -n "$steps" ] || steps=$all
 for step in $steps; do
     case " $all " in *" $step "*) ;; *) echo "nightly.sh: no such step: $step" >&2; exit 2 ;; esac
@@ -135,6 +136,8 @@ step_valgrind() {
 step_abi() { record abi sh scripts/abi.sh; }
 
 step_windows() { record windows sh scripts/windows.sh; }
+
+step_linux32() { record linux32 sh scripts/linux32.sh; }
 
 step_packages() {
     record packages sh -c 'sh scripts/release.sh --twice --no-windows --output build/release-packages &&

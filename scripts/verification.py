@@ -21,6 +21,7 @@ STEPS = {
     "valgrind": "Memory errors, Valgrind",
     "abi": "Functions and types of the header",
     "windows": "Windows DLL, by Wine",
+    "linux32": "32-bit x86 Linux",
     "packages": "Debian packages and release",
     "site": "Documentation site",
     "faults": "Deliberate faults",

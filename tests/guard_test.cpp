@@ -612,7 +612,8 @@ void cutList(Call &call, const catalogue::Operand &operand, std::size_t entries,
     Place &place = call[operand.name];
     std::vector<std::byte *> kept(place.entries.begin(), place.entries.begin() + static_cast<std::ptrdiff_t>(entries));
     if (endsInNull)
-        kept.back() = reinterpret_cast<std::byte *>(support::families::nullEntry(call.function(), place.shift));
+        kept.back() = reinterpret_cast<std::byte *>(
+            static_cast<std::uintptr_t>(support::families::nullEntry(call.function(), place.shift)));
     GuardedMemory &readable = guards().readable;
     const std::size_t bytes = entries * sizeof(std::byte *);
     std::byte *const put = readable.take("the list of " + operand.name, 1, bytes, true);

@@ -31,7 +31,9 @@ grep NEEDED "$scratch/dynamic" >"$scratch/needed"
 expect "no other library is needed" empty "$scratch/needed"
 expect "the soname is libvonkk3.so.4" grep -q 'SONAME.*\[libvonkk3\.so\.4\]' "$scratch/dynamic"
 
-readelf -SW "$library" | grep -E ' \.(data|bss|tdata|tbss|init|fini|init_array|fini_array|ctors|dtors|got|got\.plt) ' \
+# Position-independent code for 32-bit x86 finds its data from the head of the table of import slots, three words.
+head=' .*\.got +PROGBITS +[0-9a-f]+ [0-9a-f]+ 00000c 04 '
+readelf -SW "$library" | grep -vE "$head" | grep -E ' \.(data|bss|tdata|tbss|init|fini|init_array|fini_array|ctors|dtors|got|got\.plt) ' \
     >"$scratch/sections"
 expect "no writable data, no constructors, no import slots" empty "$scratch/sections"
 

@@ -79,8 +79,8 @@ TEST(ModelVectorSum, ReportsNansOfTheArithmetic) {
 
 TEST(ModelOperands, ACallThatWritesItsOwnTableIsOpen) {
     std::array<double, 3> a = {1, 2, 3};
-    std::array<std::uint64_t, 3> table = {to(&a[0]), to(&a[1]), to(&a[2])};
-    std::array<std::uint64_t, 3> dstTable = {to(&table[1]), to(&a[1]), to(&a[2])};
+    std::array<void *, 3> table = {&a[0], &a[1], &a[2]};
+    std::array<void *, 3> dstTable = {&table[1], &a[1], &a[2]};
     EXPECT_TRUE(run("vonkAdd_vv_64f_P", {to(table), 0, to(table), 0, to(dstTable), 0, 3}).open);
 }
 
@@ -315,8 +315,8 @@ TEST(ProductModelOverlap, IsOpenWhereARowOfAPairFeedsTheOther) {
 
 TEST(ProductModelOverlap, ACallThatWritesItsOwnTableIsOpen) {
     std::array<double, 3> a = {1, 2, 3};
-    std::array<std::uint64_t, 1> table = {to(a)};
-    std::array<std::uint64_t, 1> dstTable = {to(table)};
+    std::array<void *, 1> table = {a.data()};
+    std::array<void *, 1> dstTable = {table.data()};
     EXPECT_TRUE(run("vonkMul_mm_64f_P", {to(table), 0, 1, 1, to(table), 0, 1, 1, to(dstTable), 0}).open);
 }
 

@@ -220,7 +220,7 @@ constexpr std::ptrdiff_t magnitude(std::ptrdiff_t x) { return x < 0 ? -x : x; }
 
 // Whether steps nest: in ascending order, each is at least what those before it span. A step of 0 stays where it is.
 constexpr bool strides_nest(std::ptrdiff_t size, const std::ptrdiff_t (&steps)[3], const std::ptrdiff_t (&counts)[3]) {
-    std::ptrdiff_t span = size;
+    std::int64_t span = size;
     bool done[3] = {};
     for (int round = 0; round < 3; ++round) {
         int least = -1;
@@ -229,7 +229,7 @@ constexpr bool strides_nest(std::ptrdiff_t size, const std::ptrdiff_t (&steps)[3
         done[least] = true;
         if (counts[least] <= 1 || steps[least] == 0) continue;
         if (magnitude(steps[least]) < span) return false;
-        span += (counts[least] - 1) * magnitude(steps[least]);
+        span += std::int64_t(counts[least] - 1) * magnitude(steps[least]);
     }
     return true;
 }
@@ -245,7 +245,8 @@ template <class V> constexpr void check_strides(const V &v, bool written) {
             const bool steps_objects = V::is_array && !V::is_list && v.count() > 1;
             const std::ptrdiff_t steps[] = {V::is_matrix ? s.element : 0, V::is_matrix ? s.row : s.element,
                                             steps_objects ? s.object : 0};
-            const std::ptrdiff_t counts[] = {V::is_matrix ? columns : 1, rows, steps_objects ? v.count() : 1};
+            const std::ptrdiff_t counts[] = {V::is_matrix ? columns : 1, rows,
+                                             steps_objects ? std::ptrdiff_t(v.count()) : 1};
             for (int k = 0; k < 3; ++k) {
                 if (counts[k] <= 1) continue;
                 require(steps[k] == 0 || magnitude(steps[k]) >= e,

@@ -309,7 +309,9 @@ struct AscendingLists {
 };
 
 // Entries are looked at object by object, none after the first that is null. A shift moves all objects of a list alike,
-// so entries are compared in place of objects; the objects ascend with them unless they wrap round at address 0.
+// so entries are compared in place of objects; the objects ascend with them unless they wrap round at address 0. An
+// object at address 0 is as good as a null entry to some families; in a large address space its entry is a step too
+// far.
 template <std::size_t lists> VONKK3_NOINLINE AscendingLists scanLists(AliasOperand *const *operands) {
     constexpr Address farthest = Address(1) << 62; // a step down is farther
     std::uintptr_t entries[lists];
@@ -327,6 +329,7 @@ template <std::size_t lists> VONKK3_NOINLINE AscendingLists scanLists(AliasOpera
         for (std::size_t l = 0; l < lists; ++l) {
             const Address entry = ObjectsView::pointerAt(entries[l] + n * sizeof(void *));
             if (entry == 0) return {n, true};
+            if (isAddressSpaceSmall && operands[l]->view.object(n) == 0) return {n, false};
             if (entry - before[l] - leastStep[l] > farthest) return {n, false};
             before[l] = entry;
         }

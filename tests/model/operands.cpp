@@ -7,8 +7,6 @@
 
 namespace model {
 
-static_assert(sizeof(std::uintptr_t) == 8, "tables hold 64-bit pointers, and addresses wrap at 64 bits");
-
 Arguments::Arguments(const std::vector<Parameter> &parameters, const std::vector<std::uint64_t> &words)
     : parameters_(parameters), words_(words) {
     if (parameters_.size() != words_.size()) throw std::invalid_argument("a call needs one word per parameter");
@@ -54,13 +52,13 @@ bool Arguments::hasNullPointer() const {
 }
 
 std::uintptr_t Operand::throughSlot(std::uint64_t n, std::uint64_t slot) const {
-    return memory->loadEntry(base + 8 * slot) + shift + n * objectStride;
+    return loadEntry(slot) + shift + n * objectStride;
 }
 
 std::uintptr_t Operand::element(std::uint64_t n, std::uint64_t i, std::uint64_t j) const {
     if (isPointerLayout(layout)) return throughSlot(n, i * columns + j);
     const std::uint64_t inObject = i * rowStride + j * elementStride;
-    if (isList()) return memory->loadEntry(base + 8 * n) + shift + inObject;
+    if (isList()) return loadEntry(n) + shift + inObject;
     return base + n * objectStride + inObject;
 }
 

@@ -1,5 +1,5 @@
 // Where an element of an operand lies: the words of one operand of a call and the address arithmetic of the six
-// layouts. Addresses are 64-bit and wrap; strides and shifts are 32-bit words that are sign-extended first.
+// layouts. Addresses wrap at the width of a pointer; strides and shifts are 32-bit words that are sign-extended first.
 #pragma once
 
 #include "model/grammar.h"
@@ -54,7 +54,8 @@ struct Operand {
     std::uintptr_t throughSlot(std::uint64_t n, std::uint64_t slot) const;
 
     bool isList() const { return isListLayout(layout) && shape.isArray; }
-    bool entryIsNull(std::uint64_t entry) const { return memory->loadEntry(base + 8 * entry) == 0; }
+    std::uintptr_t loadEntry(std::uint64_t entry) const { return memory->loadEntry(base + sizeof(void *) * entry); }
+    bool entryIsNull(std::uint64_t entry) const { return loadEntry(entry) == 0; }
     bool anyEntryIsNull(std::uint64_t entries) const; // of the first so many
 };
 

@@ -45,7 +45,7 @@ bool isUnspecified(const Call &call, std::uintptr_t byte) {
     return false;
 }
 
-// Words and memory that a call is given, eight bytes a step.
+// Words and memory that a call is given, as 64-bit processes have them, eight bytes a step.
 void addInputs(std::uint64_t &hash, const Call &call, const Image &before) {
     const auto add = [&hash](std::uint64_t word) { hash = (hash ^ word) * 0x9e3779b97f4a7c15 + (hash >> 29); };
     for (const std::uint64_t word : call.words) add(word);
@@ -107,10 +107,12 @@ StreamHash hashStream(const catalogue::Function &function, const Arena &arena,
     StreamHash hash{};
     Image before;
     for (std::uint64_t index = 0; index < bitstreamCalls; ++index) {
-        const Call call = makeCall(function, arena, bitstreamSeed, index, bitstreamMixture());
+        Call call = makeWideCall(function, arena, bitstreamSeed, index, bitstreamMixture());
         unifyNans(call); // before the call too, so that an untouched one does not count as changed
         arena.save(before);
         addInputs(hash.calls, call, before);
+        narrow(call);
+        arena.save(before);
         for (std::size_t k = 0; k < libraries.size(); ++k) {
             if (function.type == catalogue::Type::real64)
                 addCall(results[k], call, {.precision = Precision::bits53}, arena, before, libraries[k]);

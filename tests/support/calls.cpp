@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdlib>
 #include <cstring>
+#include <set>
 #include <stdexcept>
 #include <utility>
 
@@ -20,6 +21,10 @@ using catalogue::Operand;
 using catalogue::Parameter;
 
 enum class Fault { none, nullPointer, zeroDimension, nullEntry, zeroCount, trouble };
+
+bool isPointer(Kind kind) {
+    return kind == Kind::base || kind == Kind::table || kind == Kind::list || kind == Kind::dense;
+}
 
 // How one operand's memory lies to another's that gets its place first.
 struct Relation {
@@ -419,7 +424,7 @@ void Builder::writeTable(const Placement &placement) {
     for (std::size_t k = 0; k <= placement.slots.size(); ++k) {
         // The word in front of the table leads to its first place.
         const std::int64_t offset = placement.slots[k == 0 ? 0 : k - 1] - shift + astray;
-        std::uintptr_t entry = placement.origin + static_cast<std::uintptr_t>(offset);
+        std::uint64_t entry = Arena::widened(placement.origin) + static_cast<std::uint64_t>(offset);
         if (k > 0 && !families::followsEntry(function, placement, static_cast<std::uint32_t>(k - 1)))
             entry = random.percent(30) ? 0 : random.percent(50) ? random.next() : entry;
         std::memcpy(reinterpret_cast<void *>(placement.table + 8 * k - 8), &entry, sizeof entry);
@@ -455,10 +460,10 @@ std::uint64_t Builder::withRubbish(std::int64_t value) {
 std::uint64_t Builder::wordOf(const Parameter &parameter, const ValueSource &values) {
     const auto operandOf = [&]() -> Placement & { return operand(parameter.operand); };
     switch (parameter.kind) {
-    case Kind::base: return operandOf().origin;
+    case Kind::base: return Arena::widened(operandOf().origin);
     case Kind::table:
-    case Kind::list: return operandOf().table;
-    case Kind::dense: return std::ranges::find(call.blocks, parameter.name, &Block::parameter)->address;
+    case Kind::list: return Arena::widened(operandOf().table);
+    case Kind::dense: return Arena::widened(std::ranges::find(call.blocks, parameter.name, &Block::parameter)->address);
     case Kind::shift: return withRubbish(operandOf().shift);
     case Kind::objectStride: return withRubbish(operandOf().objectStride);
     case Kind::rowStride: return withRubbish(operandOf().rowStride);
@@ -498,9 +503,7 @@ void Builder::makeNullPointer() {
     if (!families::testsPointers(function)) return;
     std::vector<std::size_t> possible;
     for (std::size_t k = 0; k < function.parameters.size(); ++k) {
-        const Kind kind = function.parameters[k].kind;
-        if (kind == Kind::base || kind == Kind::table || kind == Kind::list || kind == Kind::dense)
-            possible.push_back(k);
+        if (isPointer(function.parameters[k].kind)) possible.push_back(k);
     }
     do call.words[random.pick(std::span<const std::size_t>(possible))] = 0;
     while (random.percent(15));
@@ -525,7 +528,7 @@ void Builder::makeNullEntry() {
     for (int other = 0; other < operandCount(); ++other) // two operands may have one table
         if (operand(other).table == placement.table && !families::testsEntry(function, described(other), sizes, entry))
             return;
-    const std::uintptr_t null = families::nullEntry(function, placement.shift);
+    const std::uint64_t null = families::nullEntry(function, placement.shift);
     for (const Placement &other : call.operands) // nor is what is null after one shift null after another
         if (null != 0 && other.table == placement.table && other.shift != placement.shift) return;
     std::memcpy(reinterpret_cast<void *>(placement.table + 8 * std::uintptr_t{entry}), &null, sizeof null);
@@ -650,13 +653,37 @@ Call Builder::build(const Arena &arena) {
 
 } // namespace
 
-Call makeCall(const Function &function, const Arena &arena, std::uint64_t seed, std::uint64_t index,
-              const CallMixture &mixture) {
+Call makeWideCall(const Function &function, const Arena &arena, std::uint64_t seed, std::uint64_t index,
+                  const CallMixture &mixture) {
     if (function.array() && !mixture.fixedOutcomesOnly) try {
             return Builder(function, seed, index, mixture, true).build(arena);
         } catch (const DoesNotFit &) { // so many objects are too many, and the call is made anew with few
         }
     return Builder(function, seed, index, mixture, false).build(arena);
+}
+
+void narrow(Call &call) {
+    if constexpr (sizeof(void *) == sizeof(std::uint64_t)) return;
+    for (std::size_t k = 0; k < call.words.size(); ++k)
+        if (isPointer(call.function->parameters[k].kind)) call.words[k] = Arena::narrowed(call.words[k]);
+    std::set<std::uintptr_t> done; // two operands may have one table
+    for (const Placement &placement : call.operands) {
+        if (!placement.tabled || !done.insert(placement.table).second) continue;
+        std::vector<std::uint64_t> entries(placement.slots.size() + 1); // with the one in front
+        std::memcpy(entries.data(), reinterpret_cast<void *>(placement.table - 8), 8 * entries.size());
+        for (std::size_t k = 0; k < entries.size(); ++k) {
+            const std::uintptr_t entry = Arena::narrowed(entries[k]);
+            const std::uintptr_t at = placement.table + sizeof entry * k - sizeof entry;
+            std::memcpy(reinterpret_cast<void *>(at), &entry, sizeof entry);
+        }
+    }
+}
+
+Call makeCall(const Function &function, const Arena &arena, std::uint64_t seed, std::uint64_t index,
+              const CallMixture &mixture) {
+    Call call = makeWideCall(function, arena, seed, index, mixture);
+    narrow(call);
+    return call;
 }
 
 } // namespace support

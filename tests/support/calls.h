@@ -66,8 +66,12 @@ struct Call {
     Traits traits;
 };
 
-// Fills the arena and returns the call.
+// Fills the arena and returns the call. In two steps: as 64-bit processes make it, in which words and entries of tables
+// are widened addresses, an entry in 8 bytes; and as this process needs it, which is the same in those.
 Call makeCall(const catalogue::Function &function, const Arena &arena, std::uint64_t seed, std::uint64_t index,
               const CallMixture &mixture = {});
+Call makeWideCall(const catalogue::Function &function, const Arena &arena, std::uint64_t seed, std::uint64_t index,
+                  const CallMixture &mixture = {});
+void narrow(Call &call);
 
 } // namespace support

@@ -75,11 +75,15 @@ MachineState MachineState::now() {
     if (seesUpperHalves()) clearUpperHalves();
     // The direction flag is looked at and cleared before any other code runs, which takes it for clear. The stack
     // pointer is stepped over the red zone around the push.
-    std::uint64_t flags;
+    std::uintptr_t flags;
+#ifdef __i386__
+    __asm__ volatile("pushfl\n\tpopl %0\n\tcld" : "=r"(flags) : : "memory");
+#else
     __asm__ volatile("lea -128(%%rsp), %%rsp\n\tpushfq\n\tpopq %0\n\tlea 128(%%rsp), %%rsp\n\tcld"
                      : "=r"(flags)
                      :
                      : "memory");
+#endif
     // The store masks all exceptions, so the environment is loaded again at once.
     std::array<std::uint32_t, 7> environment{};
     __asm__ volatile("fnstenv %0\n\tfldenv %0" : "+m"(environment));

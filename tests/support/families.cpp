@@ -379,9 +379,9 @@ bool testsEntry(const Function &function, const Operand &operand, const Sizes &s
 }
 
 // What these test is the sum of entry and shift.
-std::uintptr_t nullEntry(const Function &function, std::int32_t shift) {
+std::uint64_t nullEntry(const Function &function, std::int32_t shift) {
     if (!in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return 0;
-    return static_cast<std::uintptr_t>(-std::int64_t{shift});
+    return static_cast<std::uint64_t>(-std::int64_t{shift});
 }
 
 // The factor is a lower triangle.

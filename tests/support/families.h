@@ -72,7 +72,7 @@ bool testsEntry(const catalogue::Function &function, const catalogue::Operand &o
                 std::uint32_t entry);
 
 // What stands in the table in place of a null entry: what the function tests against null.
-std::uintptr_t nullEntry(const catalogue::Function &function, std::int32_t shift);
+std::uint64_t nullEntry(const catalogue::Function &function, std::int32_t shift);
 
 // Whether an entry of a table of positions is ever followed.
 bool followsEntry(const catalogue::Function &function, const Placement &placement, std::uint32_t entry);

@@ -4,7 +4,8 @@
 // each, while the first reals take xmm registers, independently of one another. So every parameter list of the
 // library is a prefix of one long list of 64-bit words, with the constants apart from it: 24 words and two reals
 // serve all exports. In that of Windows a parameter has one place for both kinds: of the first four an integer takes a
-// general register and a real the xmm register of the same number, and the rest lies on the stack.
+// general register and a real the xmm register of the same number, and the rest lies on the stack. In that of 32-bit
+// x86 all lies on the stack in the order of the parameters, 4 bytes each, and 8 a Real64.
 #include "invoke.h"
 
 #include <array>
@@ -18,10 +19,32 @@
 namespace support {
 namespace {
 
-constexpr std::size_t integerWords = 24;
+[[maybe_unused]] constexpr std::size_t integerWords = 24;
 constexpr std::uint64_t rubbish = 0xa5c3'96e1'5ad2'4b87;
 
-#ifndef _WIN32
+#ifdef __i386__
+using Stack = std::array<std::uint32_t, 36>;
+
+// The stack is aligned to 4 bytes and no further, which is all that some callers keep.
+std::int32_t call(void *address, const Stack &stack) {
+    static_assert(sizeof(Stack) % 16 == 0);
+    std::int32_t status;
+    const std::uint32_t *from = stack.data();
+    std::size_t words = stack.size();
+    __asm__ volatile("movl %%esp, %%ebx\n\t"
+                     "andl $-16, %%esp\n\t"
+                     "subl %[bytes], %%esp\n\t"
+                     "movl %%esp, %%edi\n\t"
+                     "rep movsl\n\t"
+                     "call *%%edx\n\t"
+                     "movl %%ebx, %%esp"
+                     : "=a"(status), "+S"(from), "+c"(words), "+d"(address)
+                     : [bytes] "i"(sizeof(Stack) + 4)
+                     : "ebx", "edi", "cc", "memory", "xmm0", "xmm1", "xmm2", "xmm3", "xmm4", "xmm5", "xmm6", "xmm7",
+                       "st", "st(1)", "st(2)", "st(3)", "st(4)", "st(5)", "st(6)", "st(7)");
+    return status;
+}
+#elif !defined _WIN32
 using Integers = std::array<std::uint64_t, integerWords>;
 
 template <std::size_t> using Word = std::uint64_t;
@@ -74,7 +97,19 @@ std::string defaultLibrary() {
 #endif
 }
 
-#ifndef _WIN32
+#ifdef __i386__
+std::int32_t invoke(void *address, const catalogue::Function &function, std::span<const std::uint64_t> words) {
+    Stack stack;
+    stack.fill(static_cast<std::uint32_t>(rubbish));
+    std::size_t at = 0;
+    for (std::size_t k = 0; k < function.parameters.size(); ++k) {
+        stack.at(at++) = static_cast<std::uint32_t>(words[k]);
+        if (function.parameters[k].kind == catalogue::Kind::constant && function.type == catalogue::Type::real64)
+            stack.at(at++) = static_cast<std::uint32_t>(words[k] >> 32);
+    }
+    return call(address, stack);
+}
+#elif !defined _WIN32
 std::int32_t invoke(void *address, const catalogue::Function &function, std::span<const std::uint64_t> words) {
     Integers integers;
     integers.fill(rubbish);

@@ -248,7 +248,7 @@ void Call::layOut(Geometry geometry) {
         const std::uint32_t entries = isList(place) ? count_ : place.rows * place.cols;
         for (std::uint32_t entry = 0; entry < entries; ++entry) {
             const std::ptrdiff_t step = isList(place) ? place.objectStride : place.positionStride;
-            place.entries.push_back(place.origin + step * std::ptrdiff_t{entry} - place.shift);
+            place.entries.push_back(place.origin + step * static_cast<std::ptrdiff_t>(entry) - place.shift);
         }
         place.before = place.entries.front();
         // The ones of an identity run on along the table, here to one cell.

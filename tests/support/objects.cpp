@@ -88,7 +88,7 @@ void Laid::writeTable(const Placement &placement) const {
     for (std::size_t n = 0; n <= placement.slots.size(); ++n) { // with the word before the table
         const std::int64_t offset = placement.slots[n == 0 ? 0 : n - 1] - shift;
         const std::uintptr_t entry = placement.origin + static_cast<std::uintptr_t>(offset);
-        std::memcpy(at(placement.table + 8 * n - 8), &entry, sizeof entry);
+        std::memcpy(at(placement.table + sizeof entry * n - sizeof entry), &entry, sizeof entry);
     }
 }
 

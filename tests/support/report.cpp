@@ -14,7 +14,7 @@ using catalogue::Kind;
 
 std::string where(std::uint64_t word) {
     std::ostringstream text;
-    if (Arena::contains(word))
+    if (Arena::contains(static_cast<std::uintptr_t>(word)))
         text << "arena + 0x" << std::hex << word - Arena::address << " (mod 16: " << std::dec << word % 16 << ")";
     else text << "0x" << std::hex << word;
     return text.str();
@@ -61,7 +61,7 @@ void describeTable(std::ostream &text, const Placement &placement, const Image &
     text << "    entries:" << std::hex;
     for (std::size_t k = 0; k < placement.slots.size(); ++k) {
         std::uintptr_t entry;
-        std::memcpy(&entry, image.data() + (placement.table + 8 * k - Arena::address), sizeof entry);
+        std::memcpy(&entry, image.data() + (placement.table + sizeof entry * k - Arena::address), sizeof entry);
         text << " " << entry;
     }
     text << std::dec << "\n";
