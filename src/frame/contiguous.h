@@ -15,10 +15,10 @@ namespace vonkk3 {
 
 // `length` elements lie in the widest registers of the target as far as they fill them, and the rest in quads, the last
 // of which has what is left over. Three elements lie there as load3 places them.
-template <std::size_t length> inline constexpr std::size_t wideRegistersOf =
-    widestRegister > 4 ? length / widestRegister : 0;
-template <std::size_t length> inline constexpr std::size_t elementsInQuads =
-    length - wideRegistersOf<length> * widestRegister;
+template <std::size_t length>
+inline constexpr std::size_t wideRegistersOf = widestRegister > 4 ? length / widestRegister : 0;
+template <std::size_t length>
+inline constexpr std::size_t elementsInQuads = length - wideRegistersOf<length> *widestRegister;
 template <std::size_t length> inline constexpr std::size_t quadsOf = (elementsInQuads<length> + 3) / 4;
 
 // Where wide register k, or quad k, of an object begins.
@@ -90,8 +90,8 @@ template <std::size_t length> struct HeldElements {
     VONKK3_INLINE WideRegister wide(std::size_t k) const { return wides[k]; }
     VONKK3_INLINE __m128 at(std::size_t k) const { return quads[k]; }
     VONKK3_INLINE void store(std::byte *d) const {
-        forEachBelow<wideRegistersOf<length>>(
-            [&](auto k) VONKK3_INLINED { storeLanes(d + wideOffset<length>(k), wides[k]); });
+        forEachBelow<wideRegistersOf<length>>([&](auto k)
+                                                  VONKK3_INLINED { storeLanes(d + wideOffset<length>(k), wides[k]); });
         forEachBelow<quadsOf<length>>([&](auto k) VONKK3_INLINED { storeQuad<length>(d, k, quads[k]); });
     }
 
@@ -104,16 +104,14 @@ private:
 // d = operation(sources...): all of them are read before any is stored, or register by register.
 template <std::size_t length, class Operation, class... Sources>
 VONKK3_INLINE void workElementsAtOnce(std::byte *d, const Operation &operation, const Sources &...sources) {
-    const HeldElements<length> results(
-        [&](auto k) VONKK3_INLINED { return operation(wideOf(sources, k)...); },
-        [&](auto k) VONKK3_INLINED { return operation(sources.at(k)...); });
+    const HeldElements<length> results([&](auto k) VONKK3_INLINED { return operation(wideOf(sources, k)...); },
+                                       [&](auto k) VONKK3_INLINED { return operation(sources.at(k)...); });
     results.store(d);
 }
 template <std::size_t length, class Operation, class... Sources>
 VONKK3_INLINE void workElementsInTurn(std::byte *d, const Operation &operation, const Sources &...sources) {
-    forEachBelow<wideRegistersOf<length>>([&](auto k) VONKK3_INLINED {
-        storeLanes(d + wideOffset<length>(k), operation(wideOf(sources, k)...));
-    });
+    forEachBelow<wideRegistersOf<length>>(
+        [&](auto k) VONKK3_INLINED { storeLanes(d + wideOffset<length>(k), operation(wideOf(sources, k)...)); });
     forEachBelow<quadsOf<length>>([&](std::size_t k)
                                       VONKK3_INLINED { storeQuad<length>(d, k, operation(sources.at(k)...)); });
 }

@@ -181,8 +181,7 @@ template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
         if (!(access == Access::rows ? factor(n, rows) : factorByCall(n, rows))) return false;
         if constexpr (access == Access::rows)
             scatterRowsInOrder(
-                dst.view, n,
-                [&](std::size_t k, std::size_t i) VONKK3_INLINED { return loadPivot(pivotsOf(n + k), i); },
+                dst.view, n, [&](std::size_t k, std::size_t i) VONKK3_INLINED { return loadPivot(pivotsOf(n + k), i); },
                 rows.elements);
         else {
             rows.takeBackExchanges();

@@ -23,8 +23,8 @@ public:
         mayPassClear = factors.isTable() ? !mayOverwriteEntries : factors.isList() || areTestedAhead();
     }
 
-    // The usual case: whether they pass, and nothing of what is looked at is stored by the batch. lastRow[k] is the row of
-    // the last pivot of object n + k. False also tells nothing.
+    // The usual case: whether they pass, and nothing of what is looked at is stored by the batch. lastRow[k] is the row
+    // of the last pivot of object n + k. False also tells nothing.
     template <std::size_t objects, class Passes>
     VONKK3_INLINE bool passClear(std::size_t n, const std::uint32_t (&lastRow)[objects], const Passes &passes) const {
         const ObjectsView &view = factors.view;
