@@ -134,7 +134,7 @@ public:
     // Element indexOf(k) of object k, where elements, or rows, are so many bytes apart.
     template <class IndexOf>
     VONKK3_INLINE void findOwn(const IndexOf &indexOf, std::ptrdiff_t stride, Byte *(&own)[width]) const {
-        for (std::size_t k = 0; k < width; ++k) own[k] = opaque(object[k] + strides(indexOf(k), stride));
+        for (std::size_t k = 0; k < width; ++k) own[k] = object[k] + strides(indexOf(k), stride);
     }
 
 private:
@@ -366,8 +366,10 @@ VONKK3_INLINE void gatherRowsInOrder(const BatchOperand<rows, columns, true> &op
         SourcesOf<width> from;
         elements.findOwn([&](std::size_t k) VONKK3_INLINED { return rowOf(k, i); }, view.rowStride, from);
         if constexpr (access == Access::rows) gatherRow(from, columns, row);
-        else
+        else {
+            for (std::size_t k = 0; k < width; ++k) from[k] = opaque(from[k]);
             for (std::size_t j = 0; j < columns; ++j) row[j] = gatherElement(from, strides(j, view.elementStride));
+        }
         for (std::size_t j = 0; j < columns; ++j) block[(i * columns + j) * step] = row[j];
     });
 }
