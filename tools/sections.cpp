@@ -214,10 +214,11 @@ Sums:
   standard layout and `S2` the sum itself stays unrounded to the end; in `P`, `PS2`, `L` and `LS2` it is rounded to
   64 bits at every step.)",
      R"(Overlap is not checked, and where partial sums are stored to memory they destroy an operand that `dst` overlaps. The
-forms in SIMD lanes (`32f` of fixed size in the standard layout and `L`) load B first and read A row by row, so some calls in place are right: with `dst` = `src1` where A
-is not transposed (3x3 to 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in
-`mmT`, `mTmT` of 6x6). A single operand must never overlap a `dst` that is an array. With disjoint operands the order
-of objects, elements and stores may be another, with the same results.)"},
+forms in SIMD lanes (`32f` of fixed size in the standard layout and `L`) load B first and read A row by row, so some
+calls in place are right: with `dst` = `src1` where A is not transposed (3x3 to 5x5), with `dst` = `src2` where B
+need not be read again (not in `mm`, `mTm` of 5x5, nor in `mmT`, `mTmT` of 6x6). A single operand must never overlap
+a `dst` that is an array. With disjoint operands the order of objects, elements and stores may be another, with the
+same results.)"},
     {"matrix-vector", "product", "Matrix by vector", "product of a matrix and a vector",
      R"(dst(n, i) = sum over k of A(i, k) src2(n, k)
 
@@ -238,9 +239,9 @@ lanes in orders of their own. With p0, p1, ... for the products of row i:
 - 4x4: (p0 + p2) + (p1 + p3); transposed (p0 + p1) + (p2 + p3)
 - 5x5: ((p0 + p1) + p4) + (p2 + p3), but the LAST element, if not transposed, is ((p0 + p2) + p4) + (p1 + p3)
 - 6x6: ((p0 + p2) + p4) + ((p1 + p3) + p5); transposed ((p0 + p1) + (p2 + p3)) + (p4 + p5))",
-     R"(Overlap is not checked. `32f` of fixed size in the standard layout and `L` loads the vector before the first store, so
-`dst` may be `src2` (in place); elsewhere the partial sums that are stored to memory destroy it. With disjoint operands
-the order of objects, elements and stores may be another, with the same results.)"},
+     R"(Overlap is not checked. `32f` of fixed size in the standard layout and `L` loads the vector before the first store,
+so `dst` may be `src2` (in place); elsewhere the partial sums that are stored to memory destroy it. With disjoint
+operands the order of objects, elements and stores may be another, with the same results.)"},
     {"gaxpy", "product", "Gaxpy", "a matrix times a vector, plus a vector",
      R"(dst(n, i) = (sum over k of src1(i, k) src2(n, k)) + src3(n, i)
 

@@ -40,10 +40,11 @@ extern "C" {
  *
  * Overlap:
  * Overlap is not checked, and where partial sums are stored to memory they destroy an operand that `dst` overlaps. The
- * forms in SIMD lanes (`32f` of fixed size in the standard layout and `L`) load B first and read A row by row, so some calls in place are right: with `dst` = `src1` where A
- * is not transposed (3x3 to 5x5), with `dst` = `src2` where B need not be read again (not in `mm`, `mTm` of 5x5, nor in
- * `mmT`, `mTmT` of 6x6). A single operand must never overlap a `dst` that is an array. With disjoint operands the order
- * of objects, elements and stores may be another, with the same results.
+ * forms in SIMD lanes (`32f` of fixed size in the standard layout and `L`) load B first and read A row by row, so some
+ * calls in place are right: with `dst` = `src1` where A is not transposed (3x3 to 5x5), with `dst` = `src2` where B
+ * need not be read again (not in `mm`, `mTm` of 5x5, nor in `mmT`, `mTmT` of 6x6). A single operand must never overlap
+ * a `dst` that is an array. With disjoint operands the order of objects, elements and stores may be another, with the
+ * same results.
  *
  * Exceptions:
  * - product-simd (arithmetic): vonkMul_{mam,mama}_32f_{3x3,4x4,5x5}_S2 vonkMul_{maTm,mamT,maTmT}_32f_3x3_S2
@@ -3466,9 +3467,9 @@ VonkStatus vonkMul_maTmaT_64f_6x6_LS2(const double *const *src1, int32_t src1Shi
  * - 6x6: ((p0 + p2) + p4) + ((p1 + p3) + p5); transposed ((p0 + p1) + (p2 + p3)) + (p4 + p5)
  *
  * Overlap:
- * Overlap is not checked. `32f` of fixed size in the standard layout and `L` loads the vector before the first store, so
- * `dst` may be `src2` (in place); elsewhere the partial sums that are stored to memory destroy it. With disjoint operands
- * the order of objects, elements and stores may be another, with the same results.
+ * Overlap is not checked. `32f` of fixed size in the standard layout and `L` loads the vector before the first store,
+ * so `dst` may be `src2` (in place); elsewhere the partial sums that are stored to memory destroy it. With disjoint
+ * operands the order of objects, elements and stores may be another, with the same results.
  *
  * Exceptions:
  * - product-vector-position-8 (checks): vonkMul_mTv_{32f,64f}_4x4_P
