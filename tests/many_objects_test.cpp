@@ -38,12 +38,14 @@ std::array<Number *, positions> tableFrom(Number *first, std::ptrdiff_t apart) {
 // call(arena, n, count) works on so many objects from n on.
 using Work = std::function<void(Arena &, std::int32_t, std::uint32_t)>;
 
-void expectSameObjectByObject(const Work &call) {
+// Calls may find that the memory they were given cannot be compared.
+void expectSameObjectByObject(const Work &call, const bool &isComparable = true) {
     static Arena together, alone;
     together = Arena();
     alone = Arena();
     call(together, 0, objects);
     for (std::uint32_t n = 0; n < objects; ++n) call(alone, static_cast<std::int32_t>(n), 1);
+    if (!isComparable) return;
     EXPECT_TRUE(together == alone);
     EXPECT_FALSE(together == Arena()) << "nothing was written";
 }
@@ -210,32 +212,35 @@ TEST(ManyObjects, MayBeScaledOntoATableTheyAreFoundThrough) {
     for (const bool ownTable : {false, true}) {
         SCOPED_TRACE(ownTable);
         bool isNumber = true;
-        expectSameObjectByObject([&](Arena &arena, std::int32_t n, std::uint32_t count) {
-            float *const numbers = arena.numbers.data();
-            float *const source = numbers + 2000;
-            float *const onEntry = reinterpret_cast<float *>(&arena.table[43]) - (objects - 1);
-            const float *const other = numbers + 3050;
-            if (n == 0) {
-                for (std::size_t k = 0; k < 4; ++k) arena.table[40 + k] = (ownTable ? numbers + 1000 : source) + 64 * k;
-                if (ownTable) arena.table[40] = onEntry;
-                std::memcpy(source, onEntry, (objects - 1) * sizeof(float));
-                std::memcpy(source + objects - 1, &other, sizeof(float));
-                isNumber = isNumber && !std::isnan(source[objects - 1]);
-                for (std::uint32_t k = 0; k + 1 < objects; ++k) isNumber = isNumber && !std::isnan(source[k]);
-            }
-            if (!isNumber) return void(numbers[0] = 0); // skipped below
-            const auto a = tableFrom<4>(static_cast<const float *>(source), 64);
-            const std::array<float *, 4> d{onEntry, numbers + 1064, numbers + 1128, numbers + 1192};
-            ASSERT_EQ(vonkMul_vac_32f_4x1_P(ownTable ? a.data() : &arena.table[40], n * bytes, 1.0F,
-                                            ownTable ? const_cast<float *const *>(&arena.table[40]) : d.data(),
-                                            n * bytes, count),
-                      vonkOk);
-            if (static_cast<std::uint32_t>(n) + count == objects) { // addresses differ from arena to arena
-                if (ownTable) EXPECT_EQ(numbers[3050 + objects - 1], source[3 * 64 + objects - 1]);
-                else EXPECT_EQ(numbers[1192 + objects - 1], numbers[3050 + objects - 1]);
-                std::memset(source, 0, objects * sizeof(float));
-            }
-        });
+        expectSameObjectByObject(
+            [&](Arena &arena, std::int32_t n, std::uint32_t count) {
+                float *const numbers = arena.numbers.data();
+                float *const source = numbers + 2000;
+                float *const onEntry = reinterpret_cast<float *>(&arena.table[43]) - (objects - 1);
+                const float *const other = numbers + 3050;
+                if (n == 0) {
+                    for (std::size_t k = 0; k < 4; ++k)
+                        arena.table[40 + k] = (ownTable ? numbers + 1000 : source) + 64 * k;
+                    if (ownTable) arena.table[40] = onEntry;
+                    std::memcpy(source, onEntry, (objects - 1) * sizeof(float));
+                    std::memcpy(source + objects - 1, &other, sizeof(float));
+                    isNumber = isNumber && !std::isnan(source[objects - 1]);
+                    for (std::uint32_t k = 0; k + 1 < objects; ++k) isNumber = isNumber && !std::isnan(source[k]);
+                }
+                if (!isNumber) return;
+                const auto a = tableFrom<4>(static_cast<const float *>(source), 64);
+                const std::array<float *, 4> d{onEntry, numbers + 1064, numbers + 1128, numbers + 1192};
+                ASSERT_EQ(vonkMul_vac_32f_4x1_P(ownTable ? a.data() : &arena.table[40], n * bytes, 1.0F,
+                                                ownTable ? const_cast<float *const *>(&arena.table[40]) : d.data(),
+                                                n * bytes, count),
+                          vonkOk);
+                if (static_cast<std::uint32_t>(n) + count == objects) { // addresses differ from arena to arena
+                    if (ownTable) EXPECT_EQ(numbers[3050 + objects - 1], source[3 * 64 + objects - 1]);
+                    else EXPECT_EQ(numbers[1192 + objects - 1], numbers[3050 + objects - 1]);
+                    std::memset(source, 0, objects * sizeof(float));
+                }
+            },
+            isNumber);
         if (!isNumber) GTEST_SKIP() << "the bits of these addresses are no numbers";
     }
 }
