@@ -51,7 +51,7 @@ class Library:
         self.compile = {}
         for line in commands:
             compiled = re.search(r" -o (\S+/([^/ ]+)\.cpp\.o) -c \S+$", line)
-            if compiled and "/vonkk3" in compiled[1]:
+            if compiled and f" {compiled[1]} " in self.link: # wide levels have objects of the baseline, too
                 self.compile[compiled[2]] = (line, compiled[1])
 
     def with_fault(self, units, sources, folder):
