@@ -135,7 +135,16 @@ void Comparing::reportFailure(const support::Call &call, support::Setting settin
 
 void Comparing::compareExport(const Function &function) {
     constexpr std::uint64_t shownFailures = 3;
-    for (std::uint64_t index = 0; index < options.calls; ++index) {
+    const auto allStatusesSeen = [&] {
+        return std::ranges::all_of(contestants, [&](const auto &contestant) {
+            return support::missingStatuses(contestant->tally, function).empty();
+        });
+    };
+    // A status that random calls return seldom may take more of them, but not for ever.
+    const auto mayGoOn = [&](std::uint64_t index) {
+        return index < options.calls || (index < 10 * options.calls && !allStatusesSeen());
+    };
+    for (std::uint64_t index = 0; mayGoOn(index); ++index) {
         const support::Call call = support::makeCall(function, arena, options.seed, index);
         announce(call);
         for (const support::Setting setting : settingsFor(call)) {

@@ -72,10 +72,17 @@ std::vector<std::string> shortcomings(const Tally &tally, const catalogue::Funct
         if (fallsShort(tally.worked, tally.calls, leastWorked))
             found.push_back("only " + std::to_string(percentage(tally.worked)) + " % of the calls did their work");
     }
+    for (const std::int32_t status : missingStatuses(tally, function))
+        found.push_back(std::string("no call returned ") + nameOf(status));
+    return found;
+}
+
+std::vector<std::int32_t> missingStatuses(const Tally &tally, const catalogue::Function &function) {
+    std::vector<std::int32_t> missing;
     if (tally.calls >= enoughForStatuses)
         for (const std::int32_t status : families::relevantStatuses(function))
-            if (!tally.perStatus.contains(status)) found.push_back(std::string("no call returned ") + nameOf(status));
-    return found;
+            if (!tally.perStatus.contains(status)) missing.push_back(status);
+    return missing;
 }
 
 std::string summary(const Tally &tally) {

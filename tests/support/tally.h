@@ -31,6 +31,9 @@ struct Tally {
 // Sentences about what is missing. Shares are asked for from 50 calls on, each status from four rounds of faults on.
 std::vector<std::string> shortcomings(const Tally &tally, const catalogue::Function &function);
 
+// The statuses that no call has returned, though calls of this function should.
+std::vector<std::int32_t> missingStatuses(const Tally &tally, const catalogue::Function &function);
+
 // A small table over all calls.
 std::string summary(const Tally &tally);
 
