@@ -94,6 +94,20 @@ template <class... Extents> VONKK3_INLINE bool disjointFromAll(const Extent &wri
     return (disjoint(written, read) && ...);
 }
 
+template <class T> inline StridedView<T> strided(const RowsView<T> &view) {
+    return {view.base, view.rowStride, sizeof(T)};
+}
+template <class T> inline const StridedView<T> &strided(const StridedView<T> &view) { return view; }
+
+// Whether all of a source may be read before any of the destination is stored.
+template <class Source, class Factors>
+VONKK3_INLINE bool mayReadFirst(const Source &source, const Factors &factors, std::size_t order) {
+    if (source.base == factors.base && source.rowStride == factors.rowStride &&
+        strided(source).elementStride == strided(factors).elementStride)
+        return true;
+    return disjoint(extentOf(source, order, order), extentOf(factors, order, order));
+}
+
 inline Address magnitudeOf(Distance stride) { return stride < 0 ? -Address(stride) : Address(stride); }
 
 // An operand in the test.
@@ -377,38 +391,61 @@ inline bool areAllIndependent(const AliasOperand *operands, std::size_t number) 
     return true;
 }
 
-// A table whose entries ascend, and all objects of a position lie before the next position's, or all positions of an
-// object before the next object. Whether it is one, and where it lies.
-VONKK3_NOINLINE inline bool isAscendingTable(const ObjectsView &view, Extent &whole) {
-    const std::ptrdiff_t step = view.count > 1 ? view.objectStride : std::ptrdiff_t(view.elementBytes);
-    if (step < std::ptrdiff_t(view.elementBytes)) return false;
-    const Address ofPosition = Address(distanceOf(view.count - 1, step)) + view.elementBytes;
-    const bool isTransposed = view.rowStride < view.elementStride && view.rows > 1;
-    const std::size_t rows = isTransposed ? view.columns : view.rows, columns = isTransposed ? view.rows : view.columns;
-    const std::ptrdiff_t rowStride = isTransposed ? view.elementStride : view.rowStride;
-    const std::ptrdiff_t elementStride = isTransposed ? view.rowStride : view.elementStride;
-    const Address first = ObjectsView::pointerAt(view.begin);
-    Address before = first;
-    Distance least = std::numeric_limits<Distance>::max(); // below 0 where entries descend
-    const auto compare = [&](std::uintptr_t entry) VONKK3_INLINED {
-        const Address address = ObjectsView::pointerAt(entry);
-        const auto distance = Distance(address - before);
-        least = distance < least ? distance : least;
-        before = address;
-    };
-    for (std::size_t j = 1; j < columns; ++j) compare(view.begin + std::uintptr_t(strides(j, elementStride)));
-    for (std::size_t i = 1; i < rows; ++i)
-        for (std::size_t j = 0; j < columns; ++j)
-            compare(view.begin + std::uintptr_t(strides(i, rowStride) + strides(j, elementStride)));
-    whole = Extent{first, before + ofPosition}.movedBy(std::uintptr_t(view.shift));
-    if (least < Distance(view.elementBytes) || whole.isEmpty()) return false;
-    return Address(least) >= ofPosition || before + view.elementBytes - first <= Address(step);
+// The entries that are read for an object: `positions` of them, so many bytes apart.
+struct EntriesRead {
+    std::uintptr_t begin;
+    std::size_t positions;
+    std::size_t step;
+};
+
+struct Ascent {
+    Address first, last;
+    Distance least; // from entry to entry; below 0 where they descend
+};
+VONKK3_NOINLINE inline Ascent ascentOf(const EntriesRead &read) {
+    const std::size_t step = read.step;
+    std::uintptr_t entry = read.begin;
+    const Address first = ObjectsView::pointerAt(entry);
+    Ascent ascent{first, first, std::numeric_limits<Distance>::max()};
+    VONKK3_UNROLL_FOURFOLD
+    for (std::size_t left = read.positions - 1; left != 0; --left) {
+        const Address next = ObjectsView::pointerAt(entry += step);
+        const auto distance = Distance(next - ascent.last);
+        ascent.least = distance < ascent.least ? distance : ascent.least;
+        ascent.last = next;
+    }
+    return ascent;
+}
+
+// Where `count` objects lie, `objectStride` bytes apart at each position, if positions ascend, and each position's
+// objects lie before the next one's, or each object before the next one; else nothing.
+VONKK3_INLINE Extent extentOfAscending(const EntriesRead &read, std::ptrdiff_t shift, std::ptrdiff_t objectStride,
+                                       std::size_t count, std::uint32_t elementBytes) {
+    if (count > 1 && objectStride < std::ptrdiff_t(elementBytes)) return {1, 0};
+    const Ascent ascent = ascentOf(read);
+    const Distance ofPosition = distanceOf(count - 1, objectStride) + Distance(elementBytes);
+    const bool isWrittenOnce =
+        ascent.least >= ofPosition || (ascent.least >= Distance(elementBytes) &&
+                                       Distance(ascent.last - ascent.first) + Distance(elementBytes) <= objectStride);
+    if (!isWrittenOnce) return {1, 0};
+    return Extent{ascent.first, ascent.last + Address(ofPosition)}.movedBy(std::uintptr_t(shift));
+}
+
+// The same of a view; nothing also where its entries are not equally spaced.
+VONKK3_INLINE Extent extentOfAscending(const ObjectsView &table) {
+    const bool isTransposed = table.rowStride < table.elementStride && table.rows > 1;
+    const std::ptrdiff_t inner = isTransposed || table.columns == 1 ? table.rowStride : table.elementStride;
+    const std::ptrdiff_t outer = isTransposed ? table.elementStride : table.rowStride;
+    const std::size_t length = isTransposed ? table.rows : table.columns;
+    if (length != 1 && table.rows != 1 && table.columns != 1 && outer != strides(length, inner)) return {1, 0};
+    const EntriesRead read{table.begin, std::size_t(table.rows) * table.columns, std::size_t(inner)};
+    return extentOfAscending(read, table.shift, table.objectStride, table.count, table.elementBytes);
 }
 
 // The usual case at a glance: arrays in ascending order, rows within objects and elements within rows; and tables, see
 // above. Whether it is one, and where it lies.
 VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
-    if (view.isTable()) return isAscendingTable(view, whole);
+    if (view.isTable()) return whole = extentOfAscending(view), !whole.isEmpty();
     if (view.isList()) return false;
     const Distance ofRow = distanceOf(view.columns - 1, view.elementStride) + Distance(view.elementBytes);
     const Distance ofObject = distanceOf(view.rows - 1, view.rowStride) + ofRow;
@@ -492,42 +529,21 @@ VONKK3_NOINLINE inline bool askForBatch(const AliasOperand *operands, std::size_
 
 // ---- Tables, from the words of a call -------------------------------------------------------------------------------
 
-// The entries that are read for an object: `positions` of them, so many bytes apart.
-struct EntriesRead {
-    Address positions, step;
-};
-
 // Of `rows` by `columns`, transposed or not; false where they are not equally spaced.
 VONKK3_INLINE bool areEquallySpaced(const OperandWords &table, std::size_t rows, std::size_t columns,
                                     EntriesRead &entries) {
     const std::size_t entriesToRow = std::uint32_t(table.elementStride);
     const std::size_t length = table.isTransposed ? rows : columns, number = table.isTransposed ? columns : rows;
-    entries = {Address(rows) * columns, Address(length == 1 ? entriesToRow : 1) * sizeof(void *)};
+    entries = {table.begin, rows * columns, (length == 1 ? entriesToRow : 1) * sizeof(void *)};
     return length == 1 || number == 1 || entriesToRow == length; // rows of the table as it lies
 }
 
-// Where so many objects lie, if positions ascend, and each position's objects lie before the next one's, or each object
-// before the next one; else nothing.
 VONKK3_INLINE Extent extentOfAscending(const OperandWords &table, const EntriesRead &entries, std::size_t count) {
-    constexpr std::ptrdiff_t elementBytes = sizeof(Real32);
-    const std::ptrdiff_t step = table.isArray ? std::ptrdiff_t(table.step) : elementBytes;
-    const Distance ofPosition = (table.isArray ? distanceOf(count - 1, step) : 0) + elementBytes;
-    const Address first = ObjectsView::pointerAt(table.begin);
-    Address last = first;
-    Distance least = std::numeric_limits<Distance>::max(); // below 0 where entries descend
-    for (std::size_t k = 1; k < entries.positions; ++k) {
-        const Address next = ObjectsView::pointerAt(std::uintptr_t(table.begin + k * entries.step));
-        const auto distance = Distance(next - last);
-        least = distance < least ? distance : least;
-        last = next;
-    }
-    if (step < elementBytes || least < elementBytes) return {1, 0};
-    if (least < ofPosition && Distance(last - first) + elementBytes > step) return {1, 0};
-    return Extent{first, last + Address(ofPosition)}.movedBy(std::uintptr_t(std::ptrdiff_t(table.rowStride)));
+    return extentOfAscending(entries, table.rowStride, table.step, table.isArray ? count : 1, sizeof(Real32));
 }
 
-inline Extent extentOfEntries(const OperandWords &table, const EntriesRead &entries) {
-    return {table.begin, table.begin + entries.positions * entries.step};
+inline Extent extentOfEntries(const EntriesRead &entries) {
+    return {entries.begin, entries.begin + Address(entries.positions) * entries.step};
 }
 
 } // namespace aliasing
@@ -543,7 +559,7 @@ VONKK3_INLINE Extent plainlyWritten(const OperandWords &d, std::size_t rows, std
     aliasing::EntriesRead entries;
     if (!aliasing::areEquallySpaced(d, rows, columns, entries)) return {1, 0};
     const Extent written = aliasing::extentOfAscending(d, entries, count);
-    return disjoint(written, aliasing::extentOfEntries(d, entries)) ? written : Extent{1, 0};
+    return disjoint(written, aliasing::extentOfEntries(entries)) ? written : Extent{1, 0};
 }
 
 // Then whether a source is disjoint from that.
@@ -551,7 +567,7 @@ VONKK3_INLINE bool isPlainlyDisjoint(const Extent &written, const OperandWords &
                                      std::size_t columns, std::size_t count) {
     aliasing::EntriesRead entries;
     if (written.isEmpty() || !aliasing::areEquallySpaced(source, rows, columns, entries) ||
-        !disjoint(written, aliasing::extentOfEntries(source, entries)))
+        !disjoint(written, aliasing::extentOfEntries(entries)))
         return false;
     const Extent read = aliasing::extentOfAscending(source, entries, count);
     return !read.isEmpty() && disjoint(written, read);

@@ -176,16 +176,18 @@ template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
           lastPivots(dst.view, pivots) {}
 
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
-        RowsOfBatch<chains, order> rows;
-        src.template gather<access>(n, rows.elements);
-        if (!(access == Access::rows ? factor(n, rows) : factorByCall(n, rows))) return false;
-        if constexpr (access == Access::rows)
+        if constexpr (access == Access::rows) {
+            RowsOfBatch<chains, order, false> rows;
+            src.template gather<access>(n, rows.elements);
+            if (!factor(n, rows)) return false;
             scatterRowsInOrder(
                 dst.view, n, [&](std::size_t k, std::size_t i) VONKK3_INLINED { return loadPivot(pivotsOf(n + k), i); },
                 rows.elements);
-        else {
-            rows.takeBackExchanges();
-            dst.template scatter<access>(n, rows.elements);
+        } else {
+            Packs<chains> elements[order][order];
+            src.template gather<access>(n, elements);
+            if (!factorInPlace(n, elements)) return false;
+            dst.template scatter<access>(n, elements);
         }
         return true;
     }
@@ -194,24 +196,33 @@ private:
     std::byte *pivotsOf(std::size_t n) const { return reinterpret_cast<std::byte *>(pivots.object(n)); }
 
     // Stores the row indices if all is well.
-    template <std::size_t chains> VONKK3_INLINE bool factor(std::size_t n, RowsOfBatch<chains, order> &rows) const {
+    template <std::size_t chains, bool rowsReturn>
+    VONKK3_INLINE bool factor(std::size_t n, RowsOfBatch<chains, order, rowsReturn> &rows) const {
         rows.begin();
         if (!eliminateColumns<Packs<chains>>(rows, fixed<order>, true)) return false;
         std::uint32_t lastRow[chains * packWidth];
         storePacks(reinterpret_cast<std::byte *>(lastRow), rows.rows[0][order - 1]);
-        if (!lastPivots.passClear(n, lastRow, passesLast) && !lastPivotsPass(n, rows)) return false;
+        if (!lastPivots.passClear(n, lastRow, passesLast)) [[unlikely]] {
+            const auto copy = rows; // whose address may be known
+            if (!lastPivotsPass(n, copy)) return false;
+        }
         scatterPacked(pivotsOf(n), rows.rows);
         return true;
     }
-    // One body where rows are not contiguous.
+    // The factors in the rows where the matrix had them. One body for all arrays whose rows are not contiguous.
     template <std::size_t chains>
-    VONKK3_NOINLINE bool factorByCall(std::size_t n, RowsOfBatch<chains, order> &rows) const {
-        return factor(n, rows);
+    VONKK3_NOINLINE bool factorInPlace(std::size_t n, Packs<chains> (&elements)[order][order]) const {
+        RowsOfBatch<chains, order, true> rows;
+        copyElements(elements, rows.elements);
+        if (!factor(n, rows)) return false;
+        rows.takeBackExchanges();
+        copyElements(rows.elements, elements);
+        return true;
     }
 
     static bool passesLast(Real32 last) { return passesAsPivot(last); }
-    template <std::size_t chains>
-    VONKK3_NOINLINE bool lastPivotsPass(std::size_t n, const RowsOfBatch<chains, order> &rows) const {
+    template <std::size_t chains, bool rowsReturn>
+    VONKK3_NOINLINE bool lastPivotsPass(std::size_t n, const RowsOfBatch<chains, order, rowsReturn> &rows) const {
         std::uint32_t physical[chains * packWidth][order];
         scatterPacked(reinterpret_cast<std::byte *>(physical), rows.rows);
         const auto own = [&](std::size_t k, std::size_t i, std::size_t j)

@@ -8,20 +8,6 @@
 
 namespace vonkk3::lu {
 
-template <class T> inline StridedView<T> strided(const RowsView<T> &view) {
-    return {view.base, view.rowStride, sizeof(T)};
-}
-template <class T> inline const StridedView<T> &strided(const StridedView<T> &view) { return view; }
-
-// Whether all of a source may be read before any of the destination is stored.
-template <class Source, class Factors>
-VONKK3_INLINE bool mayReadFirst(const Source &source, const Factors &factors, std::size_t order) {
-    if (source.base == factors.base && source.rowStride == factors.rowStride &&
-        strided(source).elementStride == strided(factors).elementStride)
-        return true;
-    return disjoint(extentOf(source, order, order), extentOf(factors, order, order));
-}
-
 // Whether elements of the destination do not overlap each other. Then nothing tells what is kept in registers from what
 // is in memory.
 template <class T> VONKK3_INLINE bool areElementsDisjoint(const RowsView<T> &factors, std::size_t order) {
@@ -115,11 +101,29 @@ private:
     std::size_t rows[order];
 };
 
-// Those of the objects of a batch, and where they lie. Rows are exchanged in the lanes of a mask.
-template <std::size_t chains, std::size_t order> class RowsOfBatch {
+template <std::size_t chains, std::size_t order>
+VONKK3_INLINE void copyElements(const Packs<chains> (&from)[order][order], Packs<chains> (&to)[order][order]) {
+    forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+        forIndices(0, order, fixed<order>, [&](std::size_t j) VONKK3_INLINED { to[i][j] = from[i][j]; });
+    });
+}
+
+// Those of the objects of a batch, and where they lie. Rows are exchanged in the lanes of a mask. Where they are going
+// to return, an exchange leaves the columns alone that are finished.
+template <std::size_t chains, std::size_t order, bool rowsReturn> class RowsOfBatch {
 public:
     using Mask = PackMasks<chains>;
-    static constexpr std::size_t objects = chains * packWidth;
+
+    RowsOfBatch() = default;
+    VONKK3_INLINE RowsOfBatch(const RowsOfBatch &other) {
+        copyElements(other.elements, elements);
+        forIndices(0, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
+            rows[0][i] = other.rows[0][i];
+            forIndices(i + 1, order, fixed<order>,
+                       [&](std::size_t k) VONKK3_INLINED { exchanged[i][k] = other.exchanged[i][k]; });
+        });
+    }
+    RowsOfBatch &operator=(const RowsOfBatch &) = delete;
 
     VONKK3_INLINE void begin() {
         forIndices(0, order, fixed<order>,
@@ -135,15 +139,16 @@ public:
         forIndices(a + 1, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED {
             exchanged[a][i] = mask[i];
             exchangeWhere(mask[i], rows[0][a], rows[0][i]);
-            exchangeElements(a, i);
+            exchangeElements(elements, a, i, rowsReturn ? a : 0, order);
         });
     }
 
     // Back to where they lie.
-    VONKK3_NOINLINE void takeBackExchanges() {
+    VONKK3_INLINE void takeBackExchanges() requires(rowsReturn) {
         forIndices(1, order, fixed<order>, [&](std::size_t later) VONKK3_INLINED {
             const std::size_t a = order - 1 - later;
-            forIndices(a + 1, order, fixed<order>, [&](std::size_t i) VONKK3_INLINED { exchangeElements(a, i); });
+            forIndices(a + 1, order, fixed<order>,
+                       [&](std::size_t i) VONKK3_INLINED { exchangeElements(elements, a, i, a, order); });
         });
     }
 
@@ -151,10 +156,12 @@ public:
     // out of registers.
     VONKK3_INLINE Real32 element(std::size_t object, std::size_t i, std::size_t j) const {
         Packs<chains> copy[order][order];
-        forIndices(0, order, fixed<order>, [&](std::size_t row) VONKK3_INLINED {
-            forIndices(0, order, fixed<order>,
-                       [&](std::size_t column) VONKK3_INLINED { copy[row][column] = elements[row][column]; });
-        });
+        copyElements(elements, copy);
+        if constexpr (rowsReturn)
+            forIndices(1, order - 1, fixed<order>, [&](std::size_t a) VONKK3_INLINED {
+                forIndices(a + 1, order, fixed<order>,
+                           [&](std::size_t row) VONKK3_INLINED { exchangeElements(copy, a, row, 0, a); });
+            });
         return loadAt<Real32>(reinterpret_cast<const std::byte *>(&copy[i][j]) + object * sizeof(Real32));
     }
 
@@ -164,10 +171,10 @@ public:
 private:
     Mask exchanged[order][order];
 
-    VONKK3_INLINE void exchangeElements(std::size_t a, std::size_t i) {
-        forIndices(0, order, fixed<order>, [&](std::size_t j) VONKK3_INLINED {
-            exchangeWhere(exchanged[a][i], elements[a][j], elements[i][j]);
-        });
+    VONKK3_INLINE void exchangeElements(Packs<chains> (&block)[order][order], std::size_t a, std::size_t i,
+                                        std::size_t from, std::size_t to) const {
+        forIndices(from, to, fixed<order>,
+                   [&](std::size_t j) VONKK3_INLINED { exchangeWhere(exchanged[a][i], block[a][j], block[i][j]); });
     }
 };
 
