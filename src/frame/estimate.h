@@ -3,19 +3,15 @@
 // depend on the lane it is worked in.
 #pragma once
 
-#include "frame/real.h"
-
-#include <xmmintrin.h>
+#include "frame/registers.h"
 
 namespace vonkk3 {
 
 // The square root of s as s * (1 / root of s). There is no test for zero: its estimate is infinite, and the root of 0
 // is NaN.
-inline __m128 rootByEstimate(__m128 s) {
-    const __m128 r = _mm_rsqrt_ps(s);
-    const __m128 correction =
-        _mm_mul_ps(_mm_set1_ps(0.5F), _mm_sub_ps(_mm_set1_ps(3.0F), _mm_mul_ps(s, _mm_mul_ps(r, r))));
-    return _mm_mul_ps(s, _mm_mul_ps(r, correction));
+template <class Lanes> VONKK3_INLINE Lanes rootByEstimate(Lanes s) {
+    const Lanes r = reciprocalRootEstimate(s);
+    return s * (r * (broadcast<Lanes>(0.5F) * (broadcast<Lanes>(3) - s * (r * r))));
 }
 
 inline Real32 rootByEstimate(Real32 s) {

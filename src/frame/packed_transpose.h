@@ -6,10 +6,15 @@
 namespace vonkk3 {
 
 #ifdef __AVX2__
-// Lane k of the result is that of the k-th index.
+// Lane k of the result is that of the k-th index, from 8 on of the second register.
 template <int... lanes> VONKK3_INLINE __m256 permuted(__m256 a) {
     return _mm256_permutevar8x32_ps(a, _mm256_setr_epi32(lanes...));
 }
+#ifdef __AVX512VL__
+template <int... lanes> VONKK3_INLINE __m256 permuted(__m256 a, __m256 b) {
+    return _mm256_permutex2var_ps(a, _mm256_setr_epi32(lanes...), b);
+}
+#endif
 #endif
 
 // e0 ... e8 as e0 e3 e6 e1, e4 e7 e2 e5, e8
@@ -30,8 +35,13 @@ VONKK3_INLINE void transposePacked(const std::byte *from, std::byte *to, Fixed<3
 VONKK3_INLINE void transposePacked(const std::byte *from, std::byte *to, Fixed<4>) {
 #ifdef __AVX2__
     const __m256 upper = loadLanes<__m256>(from), lower = loadLanes<__m256>(from + 2 * laneBytes);
+#ifdef __AVX512VL__
+    storeLanes(to, permuted<0, 4, 8, 12, 1, 5, 9, 13>(upper, lower));
+    storeLanes(to + 2 * laneBytes, permuted<2, 6, 10, 14, 3, 7, 11, 15>(upper, lower));
+#else
     storeLanes(to, permuted<0, 4, 1, 5, 2, 6, 3, 7>(unpackLow(upper, lower)));
     storeLanes(to + 2 * laneBytes, permuted<0, 4, 1, 5, 2, 6, 3, 7>(unpackHigh(upper, lower)));
+#endif
 #else
     __m128 rows[4];
     for (std::size_t i = 0; i < 4; ++i) rows[i] = load4(from + i * laneBytes);

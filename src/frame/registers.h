@@ -35,6 +35,7 @@ inline __m128 bitAndNot(__m128 a, __m128 b) { return _mm_andnot_ps(b, a); } // a
 inline __m128 rootOf(__m128 a) { return _mm_sqrt_ps(a); }
 inline __m128 largerOf(__m128 a, __m128 b) { return _mm_max_ps(a, b); } // b if they are equal or one is a NaN
 inline __m128 reciprocalEstimate(__m128 a) { return _mm_rcp_ps(a); }
+inline __m128 reciprocalRootEstimate(__m128 a) { return _mm_rsqrt_ps(a); }
 
 inline __m128 unpackLow(__m128 a, __m128 b) { return _mm_unpacklo_ps(a, b); }
 inline __m128 unpackHigh(__m128 a, __m128 b) { return _mm_unpackhi_ps(a, b); }
@@ -42,8 +43,20 @@ inline __m128 lowPairs(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHU
 inline __m128 highPairs(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 2, 3, 2)); }
 inline __m128 evenOf(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
 inline __m128 oddOf(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
+inline __m128 outerPairs(__m128 a, __m128 b) { // a0 a1 b2 b3
+    return _mm_castpd_ps(_mm_move_sd(_mm_castps_pd(b), _mm_castps_pd(a)));
+}
 
-// Lane k in lane 0, whatever else. The integer shuffle needs no copy before it.
+// Lane i of every quad is its lane ki. The integer shuffle needs no copy before it.
+template <int k0, int k1, int k2, int k3> VONKK3_INLINE __m128 pick(__m128 lanes) {
+    return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(lanes), _MM_SHUFFLE(k3, k2, k1, k0)));
+}
+// Two lanes of a register and two of another.
+template <int a0, int a1, int b2, int b3> VONKK3_INLINE __m128 pick(__m128 a, __m128 b) {
+    return _mm_shuffle_ps(a, b, _MM_SHUFFLE(b3, b2, a1, a0));
+}
+
+// Lane k in lane 0, whatever else.
 template <int k> inline __m128 shuffled(__m128 a) {
     return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a), k));
 }
@@ -69,6 +82,8 @@ template <class Lanes, class Quad> VONKK3_INLINE Lanes ofQuads(const Quad &quad)
 }
 template <class Lanes> inline Lanes loadLanes(const std::byte *address);
 template <> inline __m128 loadLanes<__m128>(const std::byte *address) { return load4(address); }
+template <class Lanes> inline Lanes loadInEveryQuad(const std::byte *address);
+template <> inline __m128 loadInEveryQuad<__m128>(const std::byte *address) { return load4(address); }
 inline void storeLanes(std::byte *address, __m128 lanes) { store4(address, lanes); }
 
 #ifdef __AVX2__
@@ -79,6 +94,7 @@ inline __m256 bitAndNot(__m256 a, __m256 b) { return _mm256_andnot_ps(b, a); }
 inline __m256 rootOf(__m256 a) { return _mm256_sqrt_ps(a); }
 inline __m256 largerOf(__m256 a, __m256 b) { return _mm256_max_ps(a, b); }
 inline __m256 reciprocalEstimate(__m256 a) { return _mm256_rcp_ps(a); }
+inline __m256 reciprocalRootEstimate(__m256 a) { return _mm256_rsqrt_ps(a); }
 
 inline __m256 unpackLow(__m256 a, __m256 b) { return _mm256_unpacklo_ps(a, b); }
 inline __m256 unpackHigh(__m256 a, __m256 b) { return _mm256_unpackhi_ps(a, b); }
@@ -86,6 +102,14 @@ inline __m256 lowPairs(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_
 inline __m256 highPairs(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_SHUFFLE(3, 2, 3, 2)); }
 inline __m256 evenOf(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
 inline __m256 oddOf(__m256 a, __m256 b) { return _mm256_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
+
+inline __m256 outerPairs(__m256 a, __m256 b) { return _mm256_blend_ps(a, b, 0b11001100); }
+template <int k0, int k1, int k2, int k3> VONKK3_INLINE __m256 pick(__m256 lanes) {
+    return _mm256_permute_ps(lanes, _MM_SHUFFLE(k3, k2, k1, k0));
+}
+template <int a0, int a1, int b2, int b3> VONKK3_INLINE __m256 pick(__m256 a, __m256 b) {
+    return _mm256_shuffle_ps(a, b, _MM_SHUFFLE(b3, b2, a1, a0));
+}
 
 template <class Lanes>
 requires(lanesIn<Lanes> == 4) inline Lanes narrowed(__m256 lanes) { return _mm256_castps256_ps128(lanes); }
@@ -95,8 +119,30 @@ template <> inline __m256 inEveryQuad<__m256>(__m128 quad) {
     return _mm256_insertf128_ps(_mm256_castps128_ps256(quad), quad, 1);
 }
 template <> inline __m256 loadLanes<__m256>(const std::byte *address) { return _mm256_loadu_ps(floats(address)); }
+template <> inline __m256 loadInEveryQuad<__m256>(const std::byte *address) {
+    return _mm256_broadcast_ps(reinterpret_cast<const __m128 *>(address));
+}
 inline void storeLanes(std::byte *address, __m256 lanes) { _mm256_storeu_ps(floats(address), lanes); }
 #endif
+
+// One lane of every quad in all four of it. `lane` is known when compiling.
+template <class Lanes> VONKK3_INLINE Lanes broadcastLane(Lanes lanes, std::size_t lane) {
+    switch (lane) {
+    case 0: return pick<0, 0, 0, 0>(lanes);
+    case 1: return pick<1, 1, 1, 1>(lanes);
+    case 2: return pick<2, 2, 2, 2>(lanes);
+    default: return pick<3, 3, 3, 3>(lanes);
+    }
+}
+// One lane of each of two registers, in two lanes.
+template <class Lanes> VONKK3_INLINE Lanes broadcastLane(Lanes a, Lanes b, std::size_t lane) {
+    switch (lane) {
+    case 0: return pick<0, 0, 0, 0>(a, b);
+    case 1: return pick<1, 1, 1, 1>(a, b);
+    case 2: return pick<2, 2, 2, 2>(a, b);
+    default: return pick<3, 3, 3, 3>(a, b);
+    }
+}
 
 // ---- Comparisons ----------------------------------------------------------------------------------------------------
 

@@ -44,6 +44,7 @@ template <class T> struct RowsView : ElementAccess<RowsView<T>, T> {
     ByteOf<T> *at(std::size_t row, std::size_t column) const {
         return base + strides(row, rowStride) + column * sizeof(T);
     }
+    bool hasPackedRows(std::size_t columns) const { return rowStride == std::ptrdiff_t(columns * sizeof(T)); }
     static constexpr bool hasNullEntry(std::size_t) { return false; }
     static constexpr bool hasNullEntry(std::size_t, std::size_t) { return false; }
 };

@@ -9,14 +9,6 @@
 
 namespace vonkk3::lu {
 
-// Lane i of the result is lane ki of the argument, from the lowest lane up.
-template <int k0, int k1, int k2, int k3> VONKK3_INLINE __m128 pick(__m128 lanes) {
-    return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(lanes), _MM_SHUFFLE(k3, k2, k1, k0)));
-}
-template <int a0, int a1, int b2, int b3> VONKK3_INLINE __m128 pick(__m128 a, __m128 b) {
-    return _mm_shuffle_ps(a, b, _MM_SHUFFLE(b3, b2, a1, a0));
-}
-
 // ---- 3x3: a row (x, y, z) lies in lanes 0, 2 and 3, where it goes to and fro without shuffling ----------------------
 
 VONKK3_INLINE __m128 rotatedLeft(__m128 row) { return pick<2, 1, 3, 0>(row); }  // (y, z, x)

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "frame/estimate.h"
-#include "frame/four_objects.h"
 #include "frame/lanes.h"
 #include "frame/straight.h"
+#include "frame/vector_blocks.h"
 
 namespace vonkk3::matrix {
 

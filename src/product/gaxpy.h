@@ -16,15 +16,17 @@ VONKK3_INLINE VonkStatus gaxpyInLanes(const A &src1, const V &src2, const W &src
             const typename Held::Factors v(src2.view(n).base);
             const ProductVector addend = loadVector<order>(w.view(n).base);
             const ProductVector product = matrices(n).times(v);
-            storeVector<order>(d.view(n).base, {add(product.head, addend.head), add(product.tail, addend.tail)});
+            storeVector<order>(d.view(n).base, product + addend);
             return vonkOk;
         });
     };
+    const std::size_t done = multiplyOneAtOnce<order>(src1, src2, dst, count, src3);
     if constexpr (order <= 4 && Count::isArray && D::layout == Layout::Standard)
         if (equallySpaced(src2, src3, dst))
-            return walk([&](auto work) VONKK3_INLINED { return forEachLightObject(count, work); }, src3.spacedAs(src2),
-                        dst.spacedAs(src2));
-    return walk([&](auto work) VONKK3_INLINED { return forEachObject(count, work, src2, src3, dst); }, src3, dst);
+            return walk([&](auto work) VONKK3_INLINED { return forEachLightObjectFrom(done, count, work); },
+                        src3.spacedAs(src2), dst.spacedAs(src2));
+    return walk([&](auto work) VONKK3_INLINED { return forEachObjectFrom(done, count, work, src2, src3, dst); }, src3,
+                dst);
 }
 
 // A single object element by element. In tables an element's entries of src3 and dst are tested before it is set to

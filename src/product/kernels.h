@@ -3,6 +3,7 @@
 // That order of reads and stores is what calls in place stand on.
 #pragma once
 
+#include "frame/aliasing.h"
 #include "frame/registers.h"
 #include "frame/unroll.h"
 #include "frame/views.h"
@@ -12,29 +13,8 @@ namespace vonkk3::product {
 
 inline __m128 broadcast(Real32 value) { return _mm_set1_ps(value); }
 
-// One lane in all four. `lane` is known when compiling.
-VONKK3_INLINE __m128 broadcastLane(__m128 lanes, std::size_t lane) {
-    const __m128i bits = _mm_castps_si128(lanes);
-    switch (lane) {
-    case 0: return _mm_castsi128_ps(_mm_shuffle_epi32(bits, _MM_SHUFFLE(0, 0, 0, 0)));
-    case 1: return _mm_castsi128_ps(_mm_shuffle_epi32(bits, _MM_SHUFFLE(1, 1, 1, 1)));
-    case 2: return _mm_castsi128_ps(_mm_shuffle_epi32(bits, _MM_SHUFFLE(2, 2, 2, 2)));
-    default: return _mm_castsi128_ps(_mm_shuffle_epi32(bits, _MM_SHUFFLE(3, 3, 3, 3)));
-    }
-}
-
-// One lane of each of two registers, in two lanes.
-VONKK3_INLINE __m128 broadcastLane(__m128 upper, __m128 lower, std::size_t lane) {
-    switch (lane) {
-    case 0: return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(0, 0, 0, 0));
-    case 1: return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(1, 1, 1, 1));
-    case 2: return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(2, 2, 2, 2));
-    default: return _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(3, 3, 3, 3));
-    }
-}
-
 inline __m128 broadcastPair(Real32 low, Real32 high) { return _mm_setr_ps(low, low, high, high); }
-inline __m128 multiplyAdd(__m128 sum, __m128 a, __m128 b) { return _mm_add_ps(sum, _mm_mul_ps(a, b)); }
+template <class Lanes> VONKK3_INLINE Lanes multiplyAdd(Lanes sum, Lanes a, Lanes b) { return sum + a * b; }
 
 template <class View> inline constexpr bool hasAdjacentRows = false;
 template <class T> inline constexpr bool hasAdjacentRows<RowsView<T>> = true;
@@ -73,14 +53,18 @@ template <class View> VONKK3_INLINE void storePair(const View &view, std::size_t
     else view.store(i, j, _mm_cvtss_f32(lanes)), view.store(i, j + 1, _mm_cvtss_f32(broadcastLane(lanes, 1)));
 }
 
-// The second operand as the kernels hold it: row k of B in lanes, and what lies beyond column 3.
+// The second operand as the kernels hold it: row k of B in lanes, of 4x4 in every quad, and what lies beyond column 3.
 template <std::size_t order> struct HeldRows {
-    __m128 head[order];
+    using Head = Register<order == 4 ? widestRegister : 4>;
+    Head head[order];
     Real32 last[order];  // 5x5: column 4
     __m128 pairs[order]; // 6x6: columns 4 and 5, twice
 
     template <class View> VONKK3_INLINE void loadHead(const View &b) {
-        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED { head[k] = loadRowHead<order>(b, k); });
+        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+            if constexpr (order == 4 && hasAdjacentRows<View>) head[k] = loadInEveryQuad<Head>(b.at(k, 0));
+            else head[k] = inEveryQuad<Head>(loadRowHead<order>(b, k));
+        });
     }
 
     // Of a matrix that is read transposed: row k of B is column k as stored, transposed in registers.
@@ -91,8 +75,9 @@ template <std::size_t order> struct HeldRows {
         forIndices(0, lanes, fixed<lanes>,
                    [&](std::size_t j) VONKK3_INLINED { rows[j] = loadInOrder<order>(b.stored, j); });
         transpose(rows[0], rows[1], rows[2], rows[3]);
-        forIndices(0, lanes, fixed<lanes>,
-                   [&](std::size_t k) VONKK3_INLINED { head[k] = order == 3 ? shuffleThree(rows[k]) : rows[k]; });
+        forIndices(0, lanes, fixed<lanes>, [&](std::size_t k) VONKK3_INLINED {
+            head[k] = inEveryQuad<Head>(order == 3 ? shuffleThree(rows[k]) : rows[k]);
+        });
         if constexpr (order > 4)
             forIndices(4, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
                 head[k] = _mm_setr_ps(b.load(k, 0), b.load(k, 1), b.load(k, 2), b.load(k, 3));
@@ -152,23 +137,43 @@ template <class T> struct TwoRowFactors<RowsView<T>> {
 };
 
 // The first term of a sum.
-template <SumBegins begins> VONKK3_INLINE __m128 firstTerm(__m128 product) {
-    return begins == SumBegins::withZero ? _mm_add_ps(_mm_setzero_ps(), product) : product;
+template <SumBegins begins, class Lanes> VONKK3_INLINE Lanes firstTerm(Lanes product) {
+    return begins == SumBegins::withZero ? vonkk3::broadcast<Lanes>(0) + product : product;
 }
 
 // Columns 0 to 3 of row i of the product.
 template <SumBegins begins, std::size_t order, class A>
 VONKK3_INLINE __m128 rowHead(const A &a, std::size_t i, const HeldRows<order> &b) {
     const RowFactors<order, A> factors(a, i);
-    __m128 sum = firstTerm<begins>(_mm_mul_ps(factors[0], b.head[0]));
+    const auto row = [&](std::size_t k) VONKK3_INLINED { return narrowed<__m128>(b.head[k]); };
+    __m128 sum = firstTerm<begins>(_mm_mul_ps(factors[0], row(0)));
     forIndices(1, order, fixed<order>,
-               [&](std::size_t k) VONKK3_INLINED { sum = multiplyAdd(sum, factors[k], b.head[k]); });
+               [&](std::size_t k) VONKK3_INLINED { sum = multiplyAdd(sum, factors[k], row(k)); });
     return sum;
+}
+
+// Packed 4x4 in registers of several rows. All of a matrix is read before anything is stored.
+template <SumBegins begins>
+VONKK3_INLINE void multiplyPackedRows(const RowsView<const Real32> &a, const HeldRows<4> &b,
+                                      const RowsView<Real32> &d) {
+    constexpr std::size_t registers = 16 / widestRegister;
+    WideRegister rows[registers];
+    forIndices(0, registers, fixed<registers>,
+               [&](std::size_t r) VONKK3_INLINED { rows[r] = loadLanes<WideRegister>(a.base + r * sizeof rows[r]); });
+    forIndices(0, registers, fixed<registers>, [&](std::size_t r) VONKK3_INLINED {
+        WideRegister sum = firstTerm<begins>(broadcastLane(rows[r], 0) * b.head[0]);
+        forIndices(1, 4, fixed<4>,
+                   [&](std::size_t k) VONKK3_INLINED { sum = multiplyAdd(sum, broadcastLane(rows[r], k), b.head[k]); });
+        storeLanes(d.base + r * sizeof sum, sum);
+    });
 }
 
 // 3x3 and 4x4: a row is one register.
 template <SumBegins begins, std::size_t order, class A, class D>
 VONKK3_INLINE void multiplyRows(const A &a, const HeldRows<order> &b, const D &d) {
+    if constexpr (order == 4 && hasAdjacentRows<A> && hasAdjacentRows<D> && widestRegister > 4)
+        if (a.hasPackedRows(4) && d.hasPackedRows(4) && mayReadFirst(a, d, 4))
+            return multiplyPackedRows<begins>(a, b, d);
     forIndices(0, order, fixed<order>,
                [&](std::size_t i) VONKK3_INLINED { storeRowHead<order>(d, i, rowHead<begins>(a, i, b)); });
 }

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "frame/untested_position.h"
-#include "product/packed_triples.h"
 #include "product/running_sums.h"
 #include "product/vector_kernels.h"
+#include "product/vectors_at_once.h"
 
 namespace vonkk3::product {
 
@@ -49,7 +49,7 @@ VONKK3_INLINE VonkStatus multiplyVectors(const A &src1, const V &src2, const D &
             return vonkOk;
         });
     };
-    std::size_t done = 0;
+    std::size_t done = multiplyOneAtOnce<order>(src1, src2, dst, count);
     if constexpr (order == 3 && !A::isArray && V::isArray && D::layout == Layout::Standard)
         done = multiplyOneByTriples(src1, src2, dst, count);
     if constexpr (order <= 4 && V::isArray && D::layout == Layout::Standard)

@@ -1,25 +1,29 @@
-// Products of 3x3 and packed vectors of three elements, four vectors at a time: a single matrix times an array of
+// Products of 3x3 and packed vectors of three elements, blocks of vectors at a time: a single matrix times an array of
 // vectors, or an array of matrices, whose rows are such vectors, times a single matrix. Every element of the result is
 // (p0 + p1) + p2, as in the kernels for one object, and so are the results.
 #pragma once
 
 #include "frame/aliasing.h"
-#include "frame/four_objects.h"
+#include "frame/vector_blocks.h"
 
 namespace vonkk3::product {
 
 // The elements of a matrix in all lanes: element (i, j) of the result's vector i takes factor j of it.
-struct BroadcastMatrix {
-    __m128 element[3][3];
+template <std::size_t width> struct BroadcastMatrix {
+    Register<width> element[3][3];
     template <class Element> VONKK3_INLINE explicit BroadcastMatrix(const Element &elementAt) {
         for (std::size_t i = 0; i < 3; ++i)
-            for (std::size_t j = 0; j < 3; ++j) element[i][j] = _mm_set1_ps(elementAt(i, j));
+            for (std::size_t j = 0; j < 3; ++j) element[i][j] = vonkk3::broadcast<Register<width>>(elementAt(i, j));
     }
-    VONKK3_INLINE FourTriples times(const FourTriples &v) const {
+    VONKK3_INLINE Triples<width> times(const Triples<width> &v) const {
         const auto row = [&](std::size_t i) VONKK3_INLINED {
             return (v.x * element[i][0] + v.y * element[i][1]) + v.z * element[i][2];
         };
         return {row(0), row(1), row(2)};
+    }
+    BroadcastMatrix<four> narrowed() const {
+        return BroadcastMatrix<four>(
+            [&](std::size_t i, std::size_t j) { return _mm_cvtss_f32(quad<0>(element[i][j])); });
     }
 };
 
@@ -28,10 +32,13 @@ template <class Element>
 inline void multiplyPackedTriples(const Element &elementAt, const std::byte *vectors, std::byte *results,
                                   std::size_t count) {
     constexpr std::ptrdiff_t packed = 3 * sizeof(Real32);
-    const BroadcastMatrix held(elementAt);
     const SpacedVectors<const Real32, packed> from{vectors};
     const SpacedVectors<Real32, packed> to{results};
-    for (std::size_t n = 0; n < count; n += four) held.times(FourTriples::load(from, n)).store(to, n);
+    const BroadcastMatrix<widestRegister> held(elementAt);
+    std::size_t n = 0;
+    for (; count - n >= widestRegister; n += widestRegister)
+        held.times(Triples<widestRegister>::load(from, n)).store(to, n);
+    if (n < count) held.narrowed().times(Triples<four>::load(from, n)).store(to, n);
 }
 
 // Packed results that are disjoint from the vectors, or lie exactly on them. The matrix is read before any is stored.

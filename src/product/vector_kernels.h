@@ -13,10 +13,13 @@ inline __m128 add(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
 inline __m128 multiply(__m128 a, __m128 b) { return _mm_mul_ps(a, b); }
 
 // A vector in registers: elements 0 to 3 (of 3x3: 0 to 2) in order, and elements 4 and 5.
-struct ProductVector {
-    __m128 head;
-    __m128 tail;
+template <std::size_t width> struct ProductVectors { // one in each quad
+    Register<width> head, tail;
+    friend ProductVectors operator+(const ProductVectors &a, const ProductVectors &b) {
+        return {a.head + b.head, a.tail + b.tail};
+    }
 };
+using ProductVector = ProductVectors<4>;
 
 template <std::size_t order> VONKK3_INLINE ProductVector loadVector(const std::byte *address) {
     if constexpr (order == 3) return {_mm_movelh_ps(load2(address), load1(address + 8)), _mm_setzero_ps()};
@@ -33,11 +36,10 @@ template <std::size_t order> VONKK3_INLINE void storeVector(std::byte *address, 
     } else Lanes<order>{vector.head, vector.tail}.store(address);
 }
 
-// For two registers u and l, (u0 + u2, u1 + u3, l0 + l2, l1 + l3). One operand of the addition is a blend of whole
-// halves, which more of a processor's units can do than a shuffle.
-VONKK3_INLINE __m128 addHalves(__m128 u, __m128 l) {
-    const __m128 outer = _mm_castpd_ps(_mm_move_sd(_mm_castps_pd(l), _mm_castps_pd(u)));
-    return add(outer, _mm_shuffle_ps(u, l, _MM_SHUFFLE(1, 0, 3, 2)));
+// For two registers u and l, (u0 + u2, u1 + u3, l0 + l2, l1 + l3), quad by quad. One operand of the addition is a blend
+// of whole halves, which more of a processor's units can do than a shuffle.
+template <class Lanes> VONKK3_INLINE Lanes addHalves(Lanes u, Lanes l) {
+    return outerPairs(u, l) + pick<2, 3, 0, 1>(u, l);
 }
 
 // ---- The matrix as stored, by order ---------------------------------------------------------------------------------
@@ -94,30 +96,29 @@ struct PackedMatrixOfThree {
     }
 };
 
-// Two rows interleaved: their columns 0 and 1, 2 and 3, and of 6x6 4 and 5.
-template <std::size_t order> struct RowPair {
-    __m128 columns[order / 2];
+// Two rows interleaved, in every quad: their columns 0 and 1, 2 and 3, and of 6x6 4 and 5.
+template <std::size_t order, std::size_t width = 4> struct RowPair {
+    using Lanes = Register<width>;
+    Lanes columns[order / 2];
 
     template <class View> VONKK3_INLINE void load(const View &a, std::size_t i) {
-        const __m128 upper = load4(a.at(i, 0)), lower = load4(a.at(i + 1, 0));
-        columns[0] = _mm_unpacklo_ps(upper, lower);
-        columns[1] = _mm_unpackhi_ps(upper, lower);
-        if constexpr (order == 6) columns[2] = _mm_unpacklo_ps(load2(a.at(i, 4)), load2(a.at(i + 1, 4)));
+        const Lanes upper = loadInEveryQuad<Lanes>(a.at(i, 0)), lower = loadInEveryQuad<Lanes>(a.at(i + 1, 0));
+        columns[0] = unpackLow(upper, lower);
+        columns[1] = unpackHigh(upper, lower);
+        if constexpr (order == 6)
+            columns[2] = inEveryQuad<Lanes>(_mm_unpacklo_ps(load2(a.at(i, 4)), load2(a.at(i + 1, 4))));
     }
 };
 
 // The vector's elements as row pairs want them: (v0, v0, v1, v1), (v2, v2, v3, v3), ...
-template <std::size_t order> struct PairFactors {
-    __m128 elements[order / 2];
-    VONKK3_INLINE explicit PairFactors(const std::byte *v) {
-        const __m128 head = load4(v);
-        elements[0] = _mm_unpacklo_ps(head, head);
-        elements[1] = _mm_unpackhi_ps(head, head);
-        if constexpr (order == 6) {
-            const __m128 tail = load2(v + 16);
-            elements[2] = _mm_unpacklo_ps(tail, tail);
-        }
+template <std::size_t order, std::size_t width = 4> struct PairFactors {
+    Register<width> elements[order / 2];
+    VONKK3_INLINE explicit PairFactors(const ProductVectors<width> &v) {
+        elements[0] = unpackLow(v.head, v.head);
+        elements[1] = unpackHigh(v.head, v.head);
+        if constexpr (order == 6) elements[2] = unpackLow(v.tail, v.tail);
     }
+    VONKK3_INLINE explicit PairFactors(const std::byte *v) : PairFactors(loadVector<order>(v)) {}
 };
 
 // (p0 + p2) + (p1 + p3)
@@ -163,25 +164,26 @@ struct PassingMatrixOfFour {
 };
 
 // ((p0 + p2) + p4) + ((p1 + p3) + p5)
-template <> struct PlainMatrix<6> {
-    using Factors = PairFactors<6>;
-    RowPair<6> pairs[3];
+template <std::size_t width> struct PlainMatrixOfSix {
+    using Factors = PairFactors<6, width>;
+    RowPair<6, width> pairs[3];
 
-    template <class View> VONKK3_INLINE explicit PlainMatrix(const View &a) {
+    template <class View> VONKK3_INLINE explicit PlainMatrixOfSix(const View &a) {
         forIndices(0, 3, fixed<3>, [&](std::size_t half) VONKK3_INLINED { pairs[half].load(a, 2 * half); });
     }
 
-    VONKK3_INLINE __m128 halves(std::size_t half, const Factors &v) const {
-        const __m128 *columns = pairs[half].columns;
-        const __m128 sum = multiplyAdd(multiply(columns[0], v.elements[0]), columns[1], v.elements[1]);
-        return multiplyAdd(sum, columns[2], v.elements[2]);
+    VONKK3_INLINE auto halves(std::size_t half, const Factors &v) const {
+        const auto &columns = pairs[half].columns;
+        return multiplyAdd(multiplyAdd(columns[0] * v.elements[0], columns[1], v.elements[1]), columns[2],
+                           v.elements[2]);
     }
 
-    VONKK3_INLINE ProductVector times(const Factors &v) const {
-        const __m128 upper = halves(0, v), middle = halves(1, v), lower = halves(2, v);
-        return {addHalves(upper, middle), add(lower, _mm_movehl_ps(lower, lower))};
+    VONKK3_INLINE ProductVectors<width> times(const Factors &v) const {
+        const auto upper = halves(0, v), middle = halves(1, v), lower = halves(2, v);
+        return {addHalves(upper, middle), lower + highPairs(lower, lower)};
     }
 };
+template <> struct PlainMatrix<6> : PlainMatrixOfSix<4> { using PlainMatrixOfSix::PlainMatrixOfSix; };
 
 // Elements 0 to 3: ((p0 + p1) + p4) + (p2 + p3). Element 4 is rounded in another order: ((p0 + p2) + p4) + (p1 + p3).
 template <> struct PlainMatrix<5> {

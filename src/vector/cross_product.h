@@ -1,8 +1,8 @@
 // Cross product of vectors of three elements, single ones or arrays.
 #pragma once
 
-#include "frame/four_objects.h"
 #include "frame/positions.h"
+#include "frame/vector_blocks.h"
 
 namespace vonkk3::vector {
 
@@ -52,19 +52,23 @@ VONKK3_INLINE void crossByComponent(const A &a, const B &b, const D &d) {
     }
 }
 
-// ---- Blocks of four objects -----------------------------------------------------------------------------------------
+// ---- Blocks of objects ----------------------------------------------------------------------------------------------
 
-VONKK3_INLINE FourTriples cross(const FourTriples &a, const FourTriples &b) {
+template <std::size_t width> VONKK3_INLINE Triples<width> cross(const Triples<width> &a, const Triples<width> &b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 
 // How many objects were done.
 template <class A, class B, class D>
 inline std::size_t crossInBlocks(const A &a, const B &b, const D &d, std::size_t count) {
-    const std::size_t end = inFours(count);
+    if (count < four) return 0;
+    const bool areDisjoint =
+        disjointFromAll(extentOfAll(d, 1, 3, count), extentOfAll(a, 1, 3, count), extentOfAll(b, 1, 3, count));
     const auto work = [&](const auto &p, const auto &q, const auto &r) VONKK3_INLINED {
-        for (std::size_t n = 0; n < end; n += four) cross(FourTriples::load(p, n), FourTriples::load(q, n)).store(r, n);
-        return end;
+        return forEachBlock(count, areDisjoint, [&](auto width, std::size_t n) VONKK3_INLINED {
+            cross(Triples<width>::load(p, n), Triples<width>::load(q, n)).store(r, n);
+            return true;
+        });
     };
     return withKnownSpacing<3>(work, a, b, d);
 }

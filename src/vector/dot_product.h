@@ -1,9 +1,9 @@
 // Dot product: of two vectors, of an array and one vector, or of two arrays pairwise. Results are a dense block.
 #pragma once
 
-#include "frame/four_objects.h"
 #include "frame/positions.h"
 #include "frame/stream.h"
+#include "frame/vector_blocks.h"
 #include "vector/block_walk.h"
 
 namespace vonkk3::vector {
@@ -71,7 +71,7 @@ VONKK3_INLINE Working<typename F::T> sumProducts(const A &a, const B &b, Length 
     }
 }
 
-// ---- Blocks of four objects -----------------------------------------------------------------------------------------
+// ---- Blocks of objects ----------------------------------------------------------------------------------------------
 
 template <class... Operands> inline bool allAligned(const Real32 *dst, const Operands &...operands) {
     const std::uintptr_t words =
@@ -80,69 +80,73 @@ template <class... Operands> inline bool allAligned(const Real32 *dst, const Ope
     return words % laneBytes == 0;
 }
 
-// Element j of what is multiplied: of four objects, or of the one vector in all lanes.
-template <class B> struct FourOrOne {
+// What is multiplied: the objects of a block, or the one vector in all lanes.
+template <class B, std::size_t width> struct BlockOrOne {
     const B &b;
     std::size_t n;
-    VONKK3_INLINE __m128 element(std::size_t j) const {
-        if constexpr (B::isArray) return gatherElement(SourceBlock(b, n).at, j * sizeof(Real32)).lanes;
-        else return _mm_set1_ps(b.view(0).load(j));
+    VONKK3_INLINE Register<width> element(std::size_t j) const {
+        if constexpr (B::isArray) return gatherElement(SourceBlock<width>(b, n).at, j * sizeof(Real32)).lanes;
+        else return broadcast<Register<width>>(b.view(0).load(j));
     }
-    VONKK3_INLINE __m128 row(std::size_t k) const { return load4(b.view(B::isArray ? n + k : 0).base); }
-    VONKK3_INLINE FourTriples triples() const {
-        if constexpr (B::isArray) return FourTriples::load(b, n);
+    VONKK3_INLINE Register<width> row(std::size_t k) const {
+        if constexpr (B::isArray) return SourceBlock<width>(b, n).row(k);
+        else return loadInEveryQuad<Register<width>>(b.view(0).base);
+    }
+    VONKK3_INLINE Triples<width> triples() const {
+        if constexpr (B::isArray) return Triples<width>::load(b, n);
         else return {element(0), element(1), element(2)};
     }
 };
 
-// The sums of objects n to n + 3.
-template <class F, class A, class B> VONKK3_INLINE __m128 dotBlock(const A &a, const B &b, std::size_t n) {
-    const FourOrOne<A> p{a, n};
-    const FourOrOne<B> q{b, n};
+// The sums of the objects from n on.
+template <class F, std::size_t width, class A, class B>
+VONKK3_INLINE Register<width> dotBlock(const A &a, const B &b, std::size_t n) {
+    const BlockOrOne<A, width> p{a, n};
+    const BlockOrOne<B, width> q{b, n};
     if constexpr (F::length == 3) {
-        const FourTriples u = p.triples(), v = q.triples();
+        const auto u = p.triples(), v = q.triples();
         return (u.x * v.x + u.y * v.y) + u.z * v.z;
     } else {
-        const auto product = [&](std::size_t k) VONKK3_INLINED { return p.row(k) * q.row(k); };
-        if constexpr (sumsInPairs<F>) return addRows(product(0), product(1), product(2), product(3));
-        const Columns products(product(0), product(1), product(2), product(3));
-        __m128 sum = ((products[0] + products[1]) + products[2]) + products[3];
+        auto p0 = p.row(0) * q.row(0), p1 = p.row(1) * q.row(1), p2 = p.row(2) * q.row(2), p3 = p.row(3) * q.row(3);
+        if constexpr (sumsInPairs<F>) return addRows(p0, p1, p2, p3);
+        transpose(p0, p1, p2, p3);
+        auto sum = ((p0 + p1) + p2) + p3;
         for (std::size_t j = 4; j < F::length; ++j) sum = sum + p.element(j) * q.element(j);
         return sum;
     }
 }
 
 // Products in rows of xyz and the element behind, which is worked along and dropped.
-template <class A, class B> VONKK3_INLINE __m128 dotAlignedTriples(const A &a, const B &b, std::size_t n) {
-    const SourceBlock p(a, n), q(b, n);
-    const auto product = [&](std::size_t k) VONKK3_INLINED { return load4Aligned(p.at[k]) * load4Aligned(q.at[k]); };
-    const Columns products(product(0), product(1), product(2), product(3));
-    return (products[0] + products[2]) + products[1];
-}
-
-// Works whole blocks; the first object that they leave.
-template <class Sums> VONKK3_INLINE std::size_t forEachBlock(Objects count, std::byte *results, const Sums &sums) {
-    const std::size_t end = inFours(count);
-    for (std::size_t n = 0; n < end; n += four) store4(results + n * sizeof(Real32), sums(n));
-    return end;
+template <std::size_t width, class A, class B>
+VONKK3_INLINE Register<width> dotAlignedTriples(const A &a, const B &b, std::size_t n) {
+    const SourceBlock<width> p(a, n), q(b, n);
+    auto x = p.row(0) * q.row(0), y = p.row(1) * q.row(1), z = p.row(2) * q.row(2), behind = p.row(3) * q.row(3);
+    transpose(x, y, z, behind);
+    return (x + z) + y;
 }
 
 // How many objects were done in blocks.
 template <class F, class A, class B>
 inline std::size_t dotInBlocks(const A &a, const B &b, Real32 *dst, Objects count) {
     std::byte *results = reinterpret_cast<std::byte *>(dst);
+    const bool areDisjoint =
+        mayTakeBlocks<F> &&
+        disjointFromAll(extentOf(dst, count), extentOfAll(a, 1, F::length, count), extentOfAll(b, 1, F::length, count));
+    const auto forEach = [&](const auto &sums) VONKK3_INLINED {
+        return forEachBlock(count, areDisjoint, [&](auto width, std::size_t n) VONKK3_INLINED {
+            storeLanes(results + n * sizeof(Real32), sums(width, n));
+            return true;
+        });
+    };
     if constexpr (takesAlignedTriples<F>)
         if (allAligned(dst, a, b))
-            return forEachBlock(count, results,
-                                [&](std::size_t n) VONKK3_INLINED { return dotAlignedTriples(a, b, n); });
+            return forEach([&](auto width, std::size_t n) VONKK3_INLINED { return dotAlignedTriples<width>(a, b, n); });
     if constexpr (mayTakeBlocks<F>) {
         const bool must = takesFourAgainstOne<F> && (F::length == 4 || allAligned(dst, a));
-        if (!must && !disjointFromAll(extentOf(dst, count), extentOfAll(a, 1, F::length, count),
-                                      extentOfAll(b, 1, F::length, count)))
-            return 0;
+        if (!must && !areDisjoint) return 0;
     }
     const auto work = [&](const auto &p, const auto &q) VONKK3_INLINED {
-        return forEachBlock(count, results, [&](std::size_t n) VONKK3_INLINED { return dotBlock<F>(p, q, n); });
+        return forEach([&](auto width, std::size_t n) VONKK3_INLINED { return dotBlock<F, width>(p, q, n); });
     };
     if constexpr (B::isArray) return withKnownSpacing<F::length>(work, a, b);
     else return withKnownSpacing<F::length>([&](const auto &p) VONKK3_INLINED { return work(p, b); }, a);

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "frame/estimate.h"
-#include "frame/four_objects.h"
 #include "frame/operations.h"
 #include "frame/positions.h"
+#include "frame/vector_blocks.h"
 #include "vector/block_walk.h"
 
 namespace vonkk3::vector {
@@ -26,7 +26,7 @@ template <class Source, class Length>
 inline constexpr bool squaresInBlocks = std::is_same_v<typename Source::Element, Real32> && !Length::isFixed &&
                                         !Source::isArray && Source::layout == Layout::Standard;
 
-// ---- One object, or four in lanes -----------------------------------------------------------------------------------
+// ---- One object, or several in lanes --------------------------------------------------------------------------------
 
 struct SquareTerm {
     Real32 operator()(Real32 a) const { return a * a; }
@@ -47,7 +47,7 @@ template <class T, class View> VONKK3_INLINE Working<T> sumSquaresOf(const View 
     return sumSquares<Working<T>>([&](std::size_t j) VONKK3_INLINED { return view.load(j); }, length);
 }
 
-// The sum of squares q(j) as the forms with an estimated root group it; Reals are one object's or four objects'.
+// The sum of squares q(j) as the forms with an estimated root group it; Reals are one object's or a block's.
 template <std::size_t length, class Square> VONKK3_INLINE auto addAsTree(const Square &q) {
     if constexpr (length == 3) return (q(0) + q(1)) + q(2);
     else {
@@ -65,20 +65,21 @@ template <std::size_t length, class View> VONKK3_INLINE Real32 normByEstimate(co
     }));
 }
 
-// ---- Blocks of four objects -----------------------------------------------------------------------------------------
+// ---- Blocks of objects ----------------------------------------------------------------------------------------------
 
-// The sums of squares of objects n to n + 3.
-template <std::size_t length, class Source> VONKK3_INLINE __m128 sumFourSquares(const Source &source, std::size_t n) {
+// The sums of squares of the objects from n on.
+template <std::size_t length, std::size_t width, class Source>
+VONKK3_INLINE Register<width> sumSquaresOfBlock(const Source &source, std::size_t n) {
     if constexpr (length == 3) {
-        const FourTriples v = FourTriples::load(source, n);
+        const auto v = Triples<width>::load(source, n);
         return (v.x * v.x + v.y * v.y) + v.z * v.z;
     } else {
-        const SourceBlock block(source, n);
-        const auto square = [](__m128 a) VONKK3_INLINED { return a * a; };
+        const SourceBlock<width> block(source, n);
+        const auto square = [](auto a) VONKK3_INLINED { return a * a; };
         const auto elements = [&](std::size_t j)
                                   VONKK3_INLINED { return square(gatherElement(block.at, j * sizeof(Real32)).lanes); };
-        const __m128 ofFour = addRows(square(load4(block.at[0])), square(load4(block.at[1])),
-                                      square(load4(block.at[2])), square(load4(block.at[3])));
+        const auto ofFour =
+            addRows(square(block.row(0)), square(block.row(1)), square(block.row(2)), square(block.row(3)));
         if constexpr (length == 4) return ofFour;
         else if constexpr (length == 5) return ofFour + elements(4);
         else return ofFour + (elements(4) + elements(5));
@@ -88,14 +89,15 @@ template <std::size_t length, class Source> VONKK3_INLINE __m128 sumFourSquares(
 // Blocks from the first object on, as long as no entry of theirs is null; the first object that they leave.
 template <std::size_t length, bool testsEntries, class Source>
 inline std::size_t normInBlocks(const Source &source, std::byte *results, Objects count) {
+    const bool mayBeWide = !Source::isList && count != 0 &&
+                           disjoint(extentOf(results, count * sizeof(Real32)), extentOfAll(source, 1, length, count));
     const auto work = [&](const auto &vectors) VONKK3_INLINED {
-        const std::size_t end = inFours(count);
-        for (std::size_t n = 0; n < end; n += four) {
-            for (std::size_t k = 0; testsEntries && k < four; ++k)
-                if (source.listHasNull(n + k)) return n;
-            store4(results + n * sizeof(Real32), rootByEstimate(sumFourSquares<length>(vectors, n)));
-        }
-        return end;
+        return forEachBlock(count, mayBeWide, [&](auto width, std::size_t n) VONKK3_INLINED {
+            for (std::size_t k = 0; testsEntries && k < width; ++k)
+                if (source.listHasNull(n + k)) return false;
+            storeLanes(results + n * sizeof(Real32), rootByEstimate(sumSquaresOfBlock<length, width>(vectors, n)));
+            return true;
+        });
     };
     return withKnownSpacing<length>(work, source);
 }
