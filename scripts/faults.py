@@ -3,8 +3,9 @@
 sources, and checks the library that comes of it; at least one check must turn red. Prints what caught each fault and ends
 in 'N passed, N failed', where a fault that nothing catches has failed.
 
-    faults.py [--list] [--unit UNIT] [WORD...]     the faults whose names contain one of the words, all without words;
-                                                   with --unit those that change what is compiled into a unit
+    faults.py [--list | --apply] [--unit UNIT] [WORD...]     the faults whose names contain one of the words, all without
+                                                              words; with --unit those that change what is compiled into a
+                                                              unit; --apply only looks whether each still changes its file
 
 Only the units that a fault names are compiled anew, at -O1; the rest of the library, the programs that check it and the
 compiler's options are those of build/bench, which is brought up to date first. One fault to a processor is in work.
@@ -106,12 +107,29 @@ def copied_with(fault, folder, names):
         else:
             shutil.copy2(TOP / name, tree / name)
     path = tree / fault["file"]
-    before = path.read_text()
-    changed = must(["sed", "-E", fault["change"], path])
-    if changed == before:
-        raise NotApplied("the code has moved on: mend tests/faults.toml")
-    path.write_text(changed)
+    path.write_text(changed(fault, path))
     return tree
+
+
+def changed(fault, path):
+    """The text of a file with the fault in it."""
+    text = must(["sed", "-E", fault["change"], path])
+    if text == path.read_text():
+        raise NotApplied("the code has moved on: mend tests/faults.toml")
+    return text
+
+
+def all_apply(faults):
+    """Whether each of them still changes its file. It takes a second, so that the tests of a change can ask."""
+    passed = 0
+    for fault in faults:
+        try:
+            changed(fault, TOP / fault["file"])
+            passed += 1
+        except NotApplied as reason:
+            print(f"NOT APPLIED: {fault['name']} ({reason})")
+    print(f"{passed} passed, {len(faults) - passed} failed")
+    return passed == len(faults)
 
 
 def caught_by_library(fault, folder, libraries):
@@ -164,6 +182,7 @@ def worked(number, fault, libraries):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--list", action="store_true", help="print the names of the faults and stop")
+    parser.add_argument("--apply", action="store_true", help="only look whether each still changes its file")
     parser.add_argument("--unit", action="append", default=[], help="only faults that change this unit")
     parser.add_argument("words", nargs="*")
     options = parser.parse_args()
@@ -178,6 +197,8 @@ def main():
     if not faults:
         print("no fault is named so; --list prints their names" if options.words else "0 passed, 0 failed")
         return 2 if options.words else 0
+    if options.apply:
+        return 0 if all_apply(faults) else 1
     levels = sorted({fault.get("level", "x86-64") for fault in faults})
     unknown = [level for level in levels if level != "x86-64" and run(["sh", "-c", f". scripts/levels.sh; runs_level {level}"], cwd=TOP).returncode]
     for level in unknown:

@@ -8,8 +8,11 @@
 
 #include "frame/objects_view.h"
 
-#include <limits>
 #include <utility>
+
+#ifdef __AVX2__
+#include <immintrin.h>
+#endif
 
 namespace vonkk3 {
 
@@ -398,23 +401,33 @@ struct EntriesRead {
     std::size_t step;
 };
 
-struct Ascent {
-    Address first, last;
-    Distance least; // from entry to entry; below 0 where they descend
-};
-VONKK3_NOINLINE inline Ascent ascentOf(const EntriesRead &read) {
-    const std::size_t step = read.step;
-    std::uintptr_t entry = read.begin;
-    const Address first = ObjectsView::pointerAt(entry);
-    Ascent ascent{first, first, std::numeric_limits<Distance>::max()};
-    VONKK3_UNROLL_FOURFOLD
-    for (std::size_t left = read.positions - 1; left != 0; --left) {
-        const Address next = ObjectsView::pointerAt(entry += step);
-        const auto distance = Distance(next - ascent.last);
-        ascent.least = distance < ascent.least ? distance : ascent.least;
-        ascent.last = next;
+// Whether every entry leads so many bytes, or more, beyond the one before it.
+VONKK3_NOINLINE inline bool doStepsReach(const EntriesRead &read, Distance least) {
+    const std::size_t positions = read.positions;
+#ifdef __AVX2__
+    if (read.step == sizeof(std::uint64_t) && sizeof(void *) == sizeof(std::uint64_t) && positions > 4) {
+        const auto *const entries = reinterpret_cast<const std::byte *>(read.begin);
+        __m256i tooShort = _mm256_setzero_si256();
+        const auto compare = [&](std::size_t k) VONKK3_INLINED { // entries k to k + 3
+            const auto load = [&](std::size_t first) VONKK3_INLINED {
+                return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(entries + first * sizeof(std::uint64_t)));
+            };
+            const __m256i distances = _mm256_sub_epi64(load(k), load(k - 1));
+            tooShort = _mm256_or_si256(tooShort, _mm256_cmpgt_epi64(_mm256_set1_epi64x(least), distances));
+        };
+        for (std::size_t k = 1; k + 4 < positions; k += 4) compare(k);
+        compare(positions - 4);
+        return _mm256_testz_si256(tooShort, tooShort) != 0;
     }
-    return ascent;
+#endif
+    Address before = ObjectsView::pointerAt(read.begin);
+    VONKK3_UNROLL_FOURFOLD
+    for (std::size_t k = 1; k < positions; ++k) {
+        const Address next = ObjectsView::pointerAt(read.begin + k * read.step);
+        if (Distance(next - before) < least) return false;
+        before = next;
+    }
+    return true;
 }
 
 // Where `count` objects lie, `objectStride` bytes apart at each position, if positions ascend, and each position's
@@ -422,13 +435,14 @@ VONKK3_NOINLINE inline Ascent ascentOf(const EntriesRead &read) {
 VONKK3_INLINE Extent extentOfAscending(const EntriesRead &read, std::ptrdiff_t shift, std::ptrdiff_t objectStride,
                                        std::size_t count, std::uint32_t elementBytes) {
     if (count > 1 && objectStride < std::ptrdiff_t(elementBytes)) return {1, 0};
-    const Ascent ascent = ascentOf(read);
     const Distance ofPosition = distanceOf(count - 1, objectStride) + Distance(elementBytes);
+    const Address first = ObjectsView::pointerAt(read.begin);
+    const Address last = ObjectsView::pointerAt(read.begin + (read.positions - 1) * read.step);
     const bool isWrittenOnce =
-        ascent.least >= ofPosition || (ascent.least >= Distance(elementBytes) &&
-                                       Distance(ascent.last - ascent.first) + Distance(elementBytes) <= objectStride);
+        doStepsReach(read, ofPosition) ||
+        (Distance(last - first) + Distance(elementBytes) <= objectStride && doStepsReach(read, Distance(elementBytes)));
     if (!isWrittenOnce) return {1, 0};
-    return Extent{ascent.first, ascent.last + Address(ofPosition)}.movedBy(std::uintptr_t(shift));
+    return Extent{first, last + Address(ofPosition)}.movedBy(std::uintptr_t(shift));
 }
 
 // The same of a view; nothing also where its entries are not equally spaced.

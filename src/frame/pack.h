@@ -85,6 +85,12 @@ template <std::size_t width> inline PackOf<width> select(MaskOf<width> mask, Pac
     return choose(mask.lanes, a.lanes, b.lanes);
 }
 
+// The same, which the compiler no longer takes for what lies in memory.
+template <std::size_t width> VONKK3_INLINE PackOf<width> inRegister(PackOf<width> a) {
+    __asm__("" : "+x"(a.lanes));
+    return a;
+}
+
 // Several packs, in as few registers as they fill; each register is a chain of operations that does not wait for the
 // others, for work whose limit is latency.
 template <template <std::size_t> class Of, std::size_t packs> struct Chains {

@@ -7,72 +7,95 @@
 
 namespace vonkk3::product {
 
-// One factor of `order` products: ranges of all objects, or a single object's numbers, broadcast.
-template <std::size_t order, bool isArray, std::size_t width> struct Factors {
-    const std::byte *range[order];
-    VONKK3_INLINE void copy(const Factors &other) {
-        for (std::size_t k = 0; k < order; ++k) range[k] = other.range[k];
-    }
-    VONKK3_INLINE void take(std::size_t k, std::uintptr_t address) {
-        range[k] = reinterpret_cast<const std::byte *>(address);
-    }
-    VONKK3_INLINE PackOf<width> at(std::size_t k, std::size_t offset) const {
-        return loadLanes<Register<width>>(range[k] + offset);
-    }
+// A factor of products: the range of all objects at a position, or a single object's number, broadcast.
+template <bool isArray, std::size_t width> struct Factor {
+    const std::byte *range;
+    Factor() = default;
+    VONKK3_INLINE explicit Factor(std::uintptr_t address) : range(reinterpret_cast<const std::byte *>(address)) {}
+    VONKK3_INLINE PackOf<width> at(std::size_t offset) const { return loadLanes<Register<width>>(range + offset); }
 };
-template <std::size_t order, std::size_t width> struct Factors<order, false, width> {
-    PackOf<width> number[order];
-    VONKK3_INLINE void copy(const Factors &other) {
-        for (std::size_t k = 0; k < order; ++k) number[k] = other.number[k];
-    }
-    VONKK3_INLINE void take(std::size_t k, std::uintptr_t address) {
-        number[k] = loadAt<Real32>(reinterpret_cast<const std::byte *>(address));
-    }
-    VONKK3_INLINE PackOf<width> at(std::size_t k, std::size_t) const { return number[k]; }
+template <std::size_t width> struct Factor<false, width> {
+    PackOf<width> number;
+    Factor() = default;
+    VONKK3_INLINE explicit Factor(std::uintptr_t address)
+        : number(loadAt<Real32>(reinterpret_cast<const std::byte *>(address))) {}
+    VONKK3_INLINE PackOf<width> at(std::size_t) const { return number; }
 };
 
-// Several cells that share a factor: a row of the first operand, or the vector. As many as pointers fit registers.
+// Which operand has the factor that the cells of a row share: the first of matrices, and of matrix by vector, whose
+// cells are a row of one, the vector.
+enum class Shares { rowOfFirst, vector };
+
+// Several cells of a row at once, which share a factor. As many as pointers fit registers.
 template <std::size_t order, bool sharedIsArray, bool otherIsArray>
 inline constexpr std::size_t cellsAtOnce = order == 3                      ? 3
                                            : (order == 4 || !otherIsArray) ? 2
                                                                            : 1;
 
-template <std::size_t order, bool sharedIsArray, bool otherIsArray, bool hasAddends, std::size_t width> struct Cells {
-    static constexpr std::size_t number = cellsAtOnce<order, sharedIsArray, otherIsArray>;
-    Factors<order, sharedIsArray, width> shared;
-    Factors<order, otherIsArray, width> other[number];
-    const std::byte *addend[number];
-    std::byte *target[number];
+// d(i, j) = sum of shared(i, k) other(k, j), plus the addend's element, for ranges of objects. All positions are known
+// before the first range: what is written overlaps no table.
+template <Shares shares, std::size_t order, bool sharedIsArray, bool otherIsArray, bool hasAddend, std::size_t width>
+struct PositionProduct {
+    static constexpr std::size_t rows = shares == Shares::vector ? 1 : order;
+    static constexpr std::size_t cells = cellsAtOnce<order, sharedIsArray, otherIsArray>;
+    Factor<sharedIsArray, width> shared[rows][order];
+    Factor<otherIsArray, width> other[order][order];
+    const std::byte *addend[rows][order];
+    std::byte *target[rows][order];
 
-    Cells() = default;
-    VONKK3_INLINE Cells(const Cells &memory) { // as a whole, some compilers would call for memcpy
-        shared.copy(memory.shared);
-        for (std::size_t w = 0; w < number; ++w) {
-            other[w].copy(memory.other[w]);
-            if constexpr (hasAddends) addend[w] = memory.addend[w];
-            target[w] = memory.target[w];
-        }
+    template <class Operands> VONKK3_INLINE explicit PositionProduct(const Operands &p) {
+        const auto forEach = [](std::size_t number, const auto &body) VONKK3_INLINED {
+            for (std::size_t i = 0; i < number; ++i)
+                for (std::size_t j = 0; j < order; ++j) body(i, j);
+        };
+        constexpr bool ofVector = shares == Shares::vector; // whose elements are columns of one
+        forEach(rows, [&](std::size_t i, std::size_t j) VONKK3_INLINED {
+            shared[i][j] = Factor<sharedIsArray, width>(ofVector ? p.b.position(j, 0) : p.a.position(i, j));
+            target[i][j] = reinterpret_cast<std::byte *>(ofVector ? p.d.position(j, 0) : p.d.position(i, j));
+            if constexpr (hasAddend) addend[i][j] = reinterpret_cast<const std::byte *>(p.addend.position(j, 0));
+        });
+        forEach(order, [&](std::size_t k, std::size_t j) VONKK3_INLINED {
+            other[k][j] = Factor<otherIsArray, width>(ofVector ? p.a.position(j, k) : p.b.position(k, j));
+        });
     }
 
-    // For the objects between two offsets. All is read before anything is stored.
+    template <SumBegins begins> VONKK3_INLINE void work(std::size_t from, std::size_t to) const {
+        for (std::size_t i = 0; i < rows; ++i)
+            for (std::size_t next = 0; next < order; next += cells)
+                workCells<begins>(*this, i, next + cells <= order ? next : order - cells, from, to);
+    }
+
+private:
+    // Cells (i, j) to (i, j + cells - 1), for the objects between two offsets. All is read before anything is stored.
     template <SumBegins begins>
-    VONKK3_NOINLINE static void work(const Cells &memory, std::size_t from, std::size_t to) {
-        const Cells cells = memory; // pointers and numbers in registers
+    VONKK3_NOINLINE static void workCells(const PositionProduct &p, std::size_t i, std::size_t j, std::size_t from,
+                                          std::size_t to) {
         using Number = PackOf<width>;
+        Factor<sharedIsArray, width> a[order]; // in registers
+        Factor<otherIsArray, width> b[order][cells];
+        const std::byte *w[cells];
+        std::byte *d[cells];
+        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+            a[k] = p.shared[i][k];
+            forIndices(0, cells, fixed<cells>, [&](std::size_t c) VONKK3_INLINED { b[k][c] = p.other[k][j + c]; });
+        });
+        forIndices(0, cells, fixed<cells>, [&](std::size_t c) VONKK3_INLINED {
+            if constexpr (hasAddend) w[c] = p.addend[i][j + c];
+            d[c] = p.target[i][j + c];
+        });
         for (std::size_t at = from; at < to; at += width * sizeof(Real32)) {
-            Number sum[number];
-            forIndices(0, number, fixed<number>, [&](std::size_t w) VONKK3_INLINED {
-                sum[w] = cells.shared.at(0, at) * cells.other[w].at(0, at);
-                if constexpr (begins == SumBegins::withZero) sum[w] = Number(0.0F) + sum[w];
+            Number sum[cells];
+            forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+                const Number factor = inRegister(a[k].at(at)); // not loaded anew for every cell
+                forIndices(0, cells, fixed<cells>, [&](std::size_t c) VONKK3_INLINED {
+                    const Number product = factor * b[k][c].at(at);
+                    if (k != 0) sum[c] = sum[c] + product;
+                    else sum[c] = begins == SumBegins::withZero ? Number(0.0F) + product : product;
+                });
             });
-            forIndices(1, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
-                const Number factor = cells.shared.at(k, at);
-                forIndices(0, number, fixed<number>,
-                           [&](std::size_t w) VONKK3_INLINED { sum[w] = sum[w] + factor * cells.other[w].at(k, at); });
-            });
-            forIndices(0, number, fixed<number>, [&](std::size_t w) VONKK3_INLINED {
-                if constexpr (hasAddends) sum[w] = sum[w] + Number(loadLanes<Register<width>>(cells.addend[w] + at));
-                storeLanes(cells.target[w] + at, sum[w].lanes);
+            forIndices(0, cells, fixed<cells>, [&](std::size_t c) VONKK3_INLINED {
+                if constexpr (hasAddend) sum[c] = sum[c] + Number(loadLanes<Register<width>>(w[c] + at));
+                storeLanes(d[c] + at, sum[c].lanes);
             });
         }
     }
@@ -81,73 +104,41 @@ template <std::size_t order, bool sharedIsArray, bool otherIsArray, bool hasAdde
 // As many objects at a time as stay in the first-level cache with all their positions.
 inline constexpr std::size_t objectsInCache = 256;
 
-// work.operator()<width>(from, to) with offsets, in the widest registers and what they leave in packs.
-template <class Work> VONKK3_INLINE void forEachRange(std::size_t objects, const Work &work) {
+// For so many objects, a multiple of packWidth: in the widest registers, and what they leave in packs. `p` has the
+// tables a, b, d and, with an addend, addend.
+template <Shares shares, SumBegins begins, std::size_t order, bool sharedIsArray, bool otherIsArray, bool hasAddend,
+          class Operands>
+VONKK3_NOINLINE void multiplyPositions(const Operands &p, std::size_t objects) {
+    const auto work = [&](auto width, std::size_t first, std::size_t end) VONKK3_INLINED {
+        if (first == end) return;
+        const PositionProduct<shares, order, sharedIsArray, otherIsArray, hasAddend, width> product(p);
+        for (std::size_t from = first; from < end; from += objectsInCache) {
+            const std::size_t to = end - from < objectsInCache ? end : from + objectsInCache;
+            product.template work<begins>(from * sizeof(Real32), to * sizeof(Real32));
+        }
+    };
     const std::size_t whole = objects / widestRegister * widestRegister;
-    for (std::size_t from = 0; from < whole; from += objectsInCache) {
-        const std::size_t to = whole - from < objectsInCache ? whole : from + objectsInCache;
-        work.template operator()<widestRegister>(from * sizeof(Real32), to * sizeof(Real32));
-    }
-    if constexpr (widestRegister > packWidth)
-        if (whole < objects) work.template operator()<packWidth>(whole * sizeof(Real32), objects * sizeof(Real32));
-}
-
-// d(i, j) = sum of a(i, k) b(k, j), for so many objects, a multiple of packWidth.
-// `p` has the views a, b and d.
-template <SumBegins begins, std::size_t order, bool firstIsArray, bool secondIsArray, class Operands>
-VONKK3_NOINLINE void multiplyMatrices(const Operands &p, std::size_t objects) {
-    forEachRange(objects, [&]<std::size_t width>(std::size_t from, std::size_t to) VONKK3_INLINED {
-        using Strip = Cells<order, firstIsArray, secondIsArray, false, width>;
-        for (std::size_t i = 0; i < order; ++i)
-            for (std::size_t next = 0; next < order; next += Strip::number) {
-                const std::size_t j = next + Strip::number <= order ? next : order - Strip::number;
-                Strip cells;
-                for (std::size_t k = 0; k < order; ++k) {
-                    cells.shared.take(k, p.a.position(i, k));
-                    for (std::size_t w = 0; w < Strip::number; ++w) cells.other[w].take(k, p.b.position(k, j + w));
-                }
-                for (std::size_t w = 0; w < Strip::number; ++w)
-                    cells.target[w] = reinterpret_cast<std::byte *>(p.d.position(i, j + w));
-                Strip::template work<begins>(cells, from, to);
-            }
-    });
+    work(fixed<widestRegister>, 0, whole);
+    if constexpr (widestRegister > packWidth) work(fixed<packWidth>, whole, objects);
 }
 
 template <SumBegins begins, std::size_t order, class Operands>
 void multiplyMatrices(const Operands &p, std::size_t objects) {
-    if (!p.a.isArray) multiplyMatrices<begins, order, false, true>(p, objects);
-    else if (!p.b.isArray) multiplyMatrices<begins, order, true, false>(p, objects);
-    else multiplyMatrices<begins, order, true, true>(p, objects);
+    constexpr Shares shares = Shares::rowOfFirst;
+    if (!p.a.isArray) multiplyPositions<shares, begins, order, false, true, false>(p, objects);
+    else if (!p.b.isArray) multiplyPositions<shares, begins, order, true, false, false>(p, objects);
+    else multiplyPositions<shares, begins, order, true, true, false>(p, objects);
 }
 
-// d(i) = sum of a(i, k) b(k), plus the addend's element; vectors are columns.
-template <std::size_t order, bool firstIsArray, bool secondIsArray, bool hasAddends, class Operands>
-VONKK3_NOINLINE void multiplyVectors(const Operands &p, std::size_t objects) {
-    forEachRange(objects, [&]<std::size_t width>(std::size_t from, std::size_t to) VONKK3_INLINED {
-        using Strip = Cells<order, secondIsArray, firstIsArray, hasAddends, width>;
-        for (std::size_t next = 0; next < order; next += Strip::number) {
-            const std::size_t i = next + Strip::number <= order ? next : order - Strip::number;
-            Strip cells;
-            for (std::size_t k = 0; k < order; ++k) {
-                cells.shared.take(k, p.b.position(k, 0));
-                for (std::size_t w = 0; w < Strip::number; ++w) cells.other[w].take(k, p.a.position(i + w, k));
-            }
-            for (std::size_t w = 0; w < Strip::number; ++w) {
-                if constexpr (hasAddends)
-                    cells.addend[w] = reinterpret_cast<const std::byte *>(p.addend.position(i + w, 0));
-                cells.target[w] = reinterpret_cast<std::byte *>(p.d.position(i + w, 0));
-            }
-            Strip::template work<SumBegins::withZero>(cells, from, to);
-        }
-    });
-}
-
-template <std::size_t order, bool hasAddends, class Operands>
+// Vectors are columns.
+template <std::size_t order, bool hasAddend, class Operands>
 void multiplyVectors(const Operands &p, std::size_t objects) {
-    if (!p.a.isArray) multiplyVectors<order, false, true, hasAddends>(p, objects);
-    else if constexpr (!hasAddends)
-        p.b.isArray ? multiplyVectors<order, true, true, false>(p, objects)
-                    : multiplyVectors<order, true, false, false>(p, objects);
+    constexpr Shares shares = Shares::vector;
+    constexpr SumBegins begins = SumBegins::withZero;
+    if (!p.a.isArray) multiplyPositions<shares, begins, order, true, false, hasAddend>(p, objects);
+    else if constexpr (!hasAddend)
+        p.b.isArray ? multiplyPositions<shares, begins, order, true, true, false>(p, objects)
+                    : multiplyPositions<shares, begins, order, false, true, false>(p, objects);
 }
 
 } // namespace vonkk3::product
