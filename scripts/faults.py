@@ -63,7 +63,7 @@ class Library:
                 raise NotApplied(f"there is no unit {unit}")
             line, output = self.compile[unit]
             ours = f"{folder}/{unit}.o"
-            line = line.replace(f"-I{TOP}/src", f"-I{sources}/src").replace(" -O3 ", " -O1 ").replace(" -Werror ", " ")
+            line = line.replace(f"-I{TOP}/src", f"-I{sources}/src").replace(" -O3 ", " -O1 -fexpensive-optimizations ").replace(" -Werror ", " ")
             line = line.replace(f"-c {TOP}/src/", f"-c {sources}/src/").replace(output, ours)
             must(["sh", "-c", line], cwd=BUILD)
             # Before all others: of functions that several units have alike, the linker takes the first.

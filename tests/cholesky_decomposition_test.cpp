@@ -418,6 +418,45 @@ TEST(CholeskyDecompositionStrides, AreTakenInBytesInAllOthers) {
     }
 }
 
+// ---- Reciprocal roots of arrays, which are worked in lanes and filtered
+
+// The diagonals of matrices, one after the other, and their reciprocal roots.
+void expectReciprocalRoots(const std::vector<float> &diagonals) {
+    const std::size_t count = diagonals.size() / 3;
+    std::vector<float> matrices(9 * count), factors(9 * count);
+    for (std::size_t k = 0; k < 3 * count; ++k) matrices[k / 3 * 9 + k % 3 * 4] = diagonals[k];
+    ASSERT_EQ(vonkCholeskyDecomp_ma_32f_3x3(matrices.data(), 36, 12, factors.data(), 36, 12,
+                                            static_cast<std::int32_t>(count)),
+              vonkOk);
+    for (std::size_t k = 0; k < 3 * count; ++k) {
+        const float s = diagonals[k], root = factors[k / 3 * 9 + k % 3 * 4];
+        ASSERT_EQ(root, static_cast<float>(1.0L / __builtin_sqrtl(s))) << s;
+    }
+}
+
+TEST(CholeskyOfManyFloats, RoundsTheReciprocalRootOfEveryFloatBetween1And4Once) {
+    constexpr std::size_t atOnce = 3 << 14, floats = 1 << 24;
+    for (const Precision precision : {Precision::bits53, Precision::bits64}) {
+        const SettingScope scope({precision, Rounding::nearest});
+        std::vector<float> diagonals(atOnce, 1);
+        for (std::size_t first = 0; first < floats; first += atOnce) {
+            for (std::size_t k = 0; k < atOnce; ++k)
+                diagonals[k] = std::bit_cast<float>(0x3f800000U + static_cast<std::uint32_t>((first + k) % floats));
+            expectReciprocalRoots(diagonals);
+            if (testing::Test::HasFatalFailure()) return;
+        }
+    }
+}
+
+TEST(CholeskyOfManyFloats, RoundsReciprocalRootsOverTheWholeRangeOnce) {
+    std::vector<float> diagonals;
+    for (std::uint32_t exponent = 0; exponent < 255; ++exponent) // 0: subnormal
+        for (std::uint32_t k = 0; k < 96; ++k)
+            diagonals.push_back(
+                std::bit_cast<float>(exponent << 23 | (k * 0x2aaab7U + exponent * 0x12347U + 1) % 0x800000U));
+    expectReciprocalRoots(diagonals);
+}
+
 // ---- What is tested, and when
 
 TEST(CholeskyDecompositionChecks, TakeANegativeCountForNoneWithoutAWordButInTables) {

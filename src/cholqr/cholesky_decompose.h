@@ -137,7 +137,7 @@ private:
     template <class Number> VONKK3_INLINE static Outcome factorGathered(Number (&f)[order][order]) {
         if constexpr (throughTables) return factorWith(f, RoundedTwice()) ? Outcome::good : Outcome::failed;
         else {
-            Filtered roots;
+            Filtered<Number::width> roots;
             if (!factorWith(f, roots)) return Outcome::failed;
             return roots.hasDoubt() ? Outcome::doubtful : Outcome::good;
         }

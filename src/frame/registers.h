@@ -144,6 +144,14 @@ template <class Lanes> VONKK3_INLINE Lanes broadcastLane(Lanes a, Lanes b, std::
     }
 }
 
+#if defined(__AVX2__) && defined(__FMA__)
+// a b + c and c - a b, rounded once; for filters, whose results do not show how they came about.
+inline __m128 fusedAdd(__m128 a, __m128 b, __m128 c) { return _mm_fmadd_ps(a, b, c); }
+inline __m256 fusedAdd(__m256 a, __m256 b, __m256 c) { return _mm256_fmadd_ps(a, b, c); }
+inline __m128 fusedSubtract(__m128 c, __m128 a, __m128 b) { return _mm_fnmadd_ps(a, b, c); }
+inline __m256 fusedSubtract(__m256 c, __m256 a, __m256 b) { return _mm256_fnmadd_ps(a, b, c); }
+#endif
+
 // ---- Comparisons ----------------------------------------------------------------------------------------------------
 
 // Their outcome lane by lane: a bit for each where the target has masks, else all bits of a lane or none.
