@@ -402,7 +402,7 @@ struct EntriesRead {
 };
 
 // Whether every entry leads so many bytes, or more, beyond the one before it.
-VONKK3_NOINLINE inline bool doStepsReach(const EntriesRead &read, Distance least) {
+inline bool doStepsReach(const EntriesRead &read, Distance least) {
     const std::size_t positions = read.positions;
 #ifdef __AVX2__
     if (read.step == sizeof(std::uint64_t) && sizeof(void *) == sizeof(std::uint64_t) && positions > 4) {
@@ -432,8 +432,9 @@ VONKK3_NOINLINE inline bool doStepsReach(const EntriesRead &read, Distance least
 
 // Where `count` objects lie, `objectStride` bytes apart at each position, if positions ascend, and each position's
 // objects lie before the next one's, or each object before the next one; else nothing.
-VONKK3_INLINE Extent extentOfAscending(const EntriesRead &read, std::ptrdiff_t shift, std::ptrdiff_t objectStride,
-                                       std::size_t count, std::uint32_t elementBytes) {
+VONKK3_NOINLINE inline Extent extentOfAscending(const EntriesRead &read, std::ptrdiff_t shift,
+                                                std::ptrdiff_t objectStride, std::size_t count,
+                                                std::uint32_t elementBytes) {
     if (count > 1 && objectStride < std::ptrdiff_t(elementBytes)) return {1, 0};
     const Distance ofPosition = distanceOf(count - 1, objectStride) + Distance(elementBytes);
     const Address first = ObjectsView::pointerAt(read.begin);
@@ -446,7 +447,7 @@ VONKK3_INLINE Extent extentOfAscending(const EntriesRead &read, std::ptrdiff_t s
 }
 
 // The same of a view; nothing also where its entries are not equally spaced.
-VONKK3_INLINE Extent extentOfAscending(const ObjectsView &table) {
+VONKK3_NOINLINE inline Extent extentOfAscending(const ObjectsView &table) {
     const bool isTransposed = table.rowStride < table.elementStride && table.rows > 1;
     const std::ptrdiff_t inner = isTransposed || table.columns == 1 ? table.rowStride : table.elementStride;
     const std::ptrdiff_t outer = isTransposed ? table.elementStride : table.rowStride;

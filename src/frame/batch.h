@@ -61,6 +61,13 @@ template <class Batch>
 requires requires { Batch::takesAny; }
 inline constexpr bool takesAny<Batch> = Batch::takesAny;
 
+// Kernels that compute less than they gather, where elements come one by one, say so: putting several packs together to
+// a register costs more than it saves.
+template <class Batch> inline constexpr bool gathersMost = false;
+template <class Batch>
+requires requires { Batch::gathersMost; }
+inline constexpr bool gathersMost<Batch> = Batch::gathersMost;
+
 // Batches from object n on, as long as they can be had; the first object that they leave.
 template <Access access, std::size_t packs, BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
@@ -77,7 +84,8 @@ template <Access access, BatchKernel Batch, std::size_t operands>
 VONKK3_NOINLINE std::size_t workBatches(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                         std::size_t count) {
     batch.template hoist<access>(); // again after every plain object, which may have written there
-    constexpr std::size_t toRegister = objectsOfChain<Batch> == 1 ? 1 : packsToRegister;
+    constexpr bool takesPacksSingly = objectsOfChain<Batch> == 1 || (access == Access::any && gathersMost<Batch>);
+    constexpr std::size_t toRegister = takesPacksSingly ? 1 : packsToRegister;
     if constexpr (Batch::chains > 1)
         n = workWhileAllowed<access, Batch::chains * toRegister>(batch, aliasing, n, count);
     if constexpr (toRegister > 1) n = workWhileAllowed<access, toRegister>(batch, aliasing, n, count);
