@@ -82,8 +82,10 @@ def comparisons(results, older):
         passed, failed = (sum(numbers) for numbers in zip(*(chunk.passed_and_failed() for chunk in chunks)))
         dates = sorted({chunk.date for chunk in chunks})
         seconds = sum(int(chunk.seconds) for chunk in chunks)
+        builds = max(chunk.command.count("--library") for chunk in chunks)
+        of_builds = f" of {builds} builds of the library" if builds > 1 else ""
         lines.append(f"- Commit {commit}, {' to '.join(dates[:1] + dates[1:][-1:])}, {len(chunks)} "
-                     f"chunk{'s' * (len(chunks) != 1)}, {seconds} s: {passed + failed:,} comparisons, {failed} failures.")
+                     f"chunk{'s' * (len(chunks) != 1)}, {seconds} s: {passed + failed:,} comparisons{of_builds}, {failed} failures.")
     counted = tuple(f"- Commit {result.commit}," for result in results)
     return [line for line in older.splitlines() if line.startswith("- ") and not line.startswith(counted)] + lines
 

@@ -162,6 +162,51 @@ TEST(ManyObjects, AreTransformedWithResultsOnLaterVectors) {
     }
 }
 
+// Results of objects overlap each other and nothing else: a later object has the last word.
+TEST(ManyObjects, AreMultipliedIntoObjectsThatOverlapEachOther) {
+    for (const std::int32_t apart : {-44, -24, -16, -4, 0, 4, 8, 12, 16, 20, 24, 40, 48, 72, 100, 140}) {
+        SCOPED_TRACE(apart);
+        const auto expectSame = [apart](const auto &call) {
+            expectSameObjectByObject([&](Arena &arena, std::int32_t n, std::uint32_t count) {
+                const float *const a = arena.numbers.data(), *const b = a + 640;
+                float *const d = arena.numbers.data() + 2450 + n * (apart / bytes);
+                ASSERT_EQ(call(a, b, d, n, count), vonkOk);
+            });
+        };
+        expectSame([=](const float *a, const float *b, float *d, std::int32_t n, std::uint32_t count) {
+            return vonkMul_mam_32f_4x4(a + 16 * n, 64, 16, b, 16, d, apart, 16, count);
+        });
+        expectSame([=](const float *a, const float *b, float *d, std::int32_t n, std::uint32_t count) {
+            return vonkMul_mama_32f_4x4(a + 16 * n, 64, 16, b + 16 * n, 64, 16, d, apart, 16, count);
+        });
+        expectSame([=](const float *a, const float *b, float *d, std::int32_t n, std::uint32_t count) {
+            return vonkMul_mam_32f_5x5(a + n, 4, 20, b, 20, d, apart, 20, count);
+        });
+        expectSame([=](const float *a, const float *b, float *d, std::int32_t n, std::uint32_t count) {
+            return vonkMul_mam_32f_6x6(a + n, 4, 24, b, 24, d, apart, 24, count);
+        });
+        expectSame([=](const float *a, const float *b, float *d, std::int32_t n, std::uint32_t count) {
+            return vonkMul_mama_32f_6x6(a + n, 4, 24, b + n, 4, 24, d, apart, 24, count);
+        });
+        expectSame([=](const float *a, const float *b, float *d, std::int32_t n, std::uint32_t count) {
+            return vonkMul_mva_32f_3x3(a, 12, b + n, 4, d, apart, count);
+        });
+        expectSame([=](const float *a, const float *, float *d, std::int32_t n, std::uint32_t count) {
+            return vonkMul_mva_32f_4x4(a, 16, a + 1000 + n * (apart / bytes), apart, d, apart, count);
+        });
+        expectSame([=](const float *a, const float *, float *d, std::int32_t n, std::uint32_t count) {
+            return vonkMul_mva_32f_6x6(a, 24, a + 1000 + n * (apart / bytes), apart, d, apart, count);
+        });
+        expectSame([=](const float *a, const float *, float *d, std::int32_t n, std::uint32_t count) {
+            return vonkGaxpy_va_32f_6x6(a, 24, a + 1000 + n * (apart / bytes), apart, a + 1001 + n * (apart / bytes),
+                                        apart, d, apart, count);
+        });
+        expectSame([=](const float *a, const float *b, float *d, std::int32_t n, std::uint32_t count) {
+            return vonkCrossProduct_vava_32f_3x1(a + 3 * n, 12, b + 4 * n, 16, d, apart, count);
+        });
+    }
+}
+
 // Results begin where a source does, but their objects are closer: object by object, they overwrite what is yet to be
 // read.
 TEST(ManyObjects, AreMultipliedIntoCloserObjectsOfTheSamePositions) {

@@ -115,7 +115,8 @@ template <class A, class B, class D>
 VONKK3_INLINE std::size_t multiplyByRowPairs(const A &src1, const B &src2, const D &dst, std::size_t objects) {
     if (!dst.hasPackedRows(6)) return 0;
     const auto mayWork = [&](const auto &matrices) { // a single matrix is read before any result is stored
-        if (disjoint(extentOfAll(dst, 6, 6, objects), extentOfAll(matrices, 6, 6, objects))) return true;
+        if constexpr (B::isArray)                    // one object after the other
+            if (disjoint(extentOfAll(dst, 6, 6, objects), extentOfAll(matrices, 6, 6, objects))) return true;
         const ObjectsView source = objectsOf(matrices, 6, 6, objects), d = objectsOf(dst, 6, 6, objects);
         return Aliasing(objects, writes(d), reads(source)).allowsBatch(0, objects);
     };
