@@ -54,7 +54,8 @@ public:
         if (view.isList()) {
             Extent stored = factors.ofObject(n);
             for (std::size_t k = 1; k < objects; ++k) stored = stored.joinedWith(factors.ofObject(n + k));
-            return allPass(stored, [&](std::size_t k) VONKK3_INLINED { return view.object(n + k) + inRow(k); });
+            // Addresses one by one: put together in a register, they may leave its upper half in use behind them.
+            return allPass(stored, [&](std::size_t k) VONKK3_INLINED { return opaque(view.object(n + k) + inRow(k)); });
         }
         if (column < Distance(factors.object.bytes())) return false; // the farther, the greater n
         const std::uintptr_t first = view.object(n);
