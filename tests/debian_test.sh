@@ -57,7 +57,7 @@ if grep -q -r -F -e "$PWD" "$scratch/usr"; then fail "the library knows where it
 echo "fresh root"
 if [ ! -f "$tarball" ]; then
     mkdir -p "$(dirname "$tarball")"
-    mmdebstrap --quiet --variant=minbase --include=gcc,g++,gfortran,libc6-dev,make,cmake,pkg-config,python3-numpy \
+    mmdebstrap --quiet --format=tar --variant=minbase --include=gcc,g++,gfortran,libc6-dev,make,cmake,pkg-config,python3-numpy \
         "$(. /etc/os-release && echo "$VERSION_CODENAME")" "$tarball.new" && mv "$tarball.new" "$tarball" ||
         { echo "debian_test.sh: cannot make a root" >&2; exit 2; }
 fi
