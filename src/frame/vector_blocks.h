@@ -68,12 +68,12 @@ template <std::size_t width> using SourceBlock = Block<const std::byte, width>;
 template <std::size_t width> using TargetBlock = Block<std::byte, width>;
 
 // Vectors of three elements: x, y and z of the objects of a block.
-template <std::size_t width> struct Triples {
+template <std::size_t width> struct Vectors3 {
     using Lanes = Register<width>;
     Lanes x, y, z;
 
     // From anywhere, with their own bytes and no others. load3 leaves lane 1 empty, so y lies in lane 2 and z in 3.
-    template <class Operand> VONKK3_INLINE static Triples load(const Operand &operand, std::size_t n) {
+    template <class Operand> VONKK3_INLINE static Vectors3 load(const Operand &operand, std::size_t n) {
         const SourceBlock<width> block(operand, n);
         if constexpr (spacingOf<Operand> == 12) return loadPacked(block.at[0]);
         else if constexpr (spacingOf<Operand> == 16) return loadPadded(block);
@@ -91,7 +91,7 @@ template <std::size_t width> struct Triples {
     }
 
 private:
-    VONKK3_INLINE static Triples fromRows(Lanes a, Lanes b, Lanes c, Lanes d) {
+    VONKK3_INLINE static Vectors3 fromRows(Lanes a, Lanes b, Lanes c, Lanes d) {
         const Lanes yzOfTwo = unpackHigh(a, b), yzOfOthers = unpackHigh(c, d);
         return {lowPairs(unpackLow(a, b), unpackLow(c, d)), lowPairs(yzOfTwo, yzOfOthers),
                 highPairs(yzOfTwo, yzOfOthers)};
@@ -110,7 +110,7 @@ private:
 
     // Contiguous, those of a quad are three times four lanes: xyzx, yzxy, zxyz.
     static constexpr std::size_t quadBytes = 3 * laneBytes;
-    VONKK3_INLINE static Triples loadPacked(const std::byte *at) {
+    VONKK3_INLINE static Vectors3 loadPacked(const std::byte *at) {
         const auto part = [&](std::size_t k) VONKK3_INLINED {
             return ofQuads<Lanes>([&](std::size_t q)
                                       VONKK3_INLINED { return load4(at + q * quadBytes + k * laneBytes); });
@@ -128,14 +128,15 @@ private:
         });
     }
 
-    // With one element between them four lanes each. The gaps are loaded along, but not the one behind the last.
-    VONKK3_INLINE static Triples loadPadded(const SourceBlock<width> &block) {
+    // With one element of padding, each vector is four lanes. Padding is loaded and dropped, but never that after the
+    // last vector of a quad, which is loaded from one element before it.
+    VONKK3_INLINE static Vectors3 loadPadded(const SourceBlock<width> &block) {
         const Lanes a = block.row(0), b = block.row(1), c = block.row(2);
-        const Lanes dBehindGap =
+        const Lanes dAfterPadding =
             ofQuads<Lanes>([&](std::size_t q) VONKK3_INLINED { return load4(block.at[4 * q + 3] - sizeof(Real32)); });
-        const Lanes xz = pick<0, 2, 0, 2>(a, b), xzOfOthers = pick<0, 2, 1, 3>(c, dBehindGap);
+        const Lanes xz = pick<0, 2, 0, 2>(a, b), xzOfOthers = pick<0, 2, 1, 3>(c, dAfterPadding);
         return {pick<0, 2, 0, 2>(xz, xzOfOthers),
-                pick<0, 2, 0, 2>(pick<1, 1, 1, 1>(a, b), pick<1, 1, 2, 2>(c, dBehindGap)),
+                pick<0, 2, 0, 2>(pick<1, 1, 1, 1>(a, b), pick<1, 1, 2, 2>(c, dAfterPadding)),
                 pick<1, 3, 1, 3>(xz, xzOfOthers)};
     }
 };

@@ -54,7 +54,7 @@ public:
         if (view.isList()) {
             Extent stored = factors.ofObject(n);
             for (std::size_t k = 1; k < objects; ++k) stored = stored.joinedWith(factors.ofObject(n + k));
-            // Addresses one by one: put together in a register, they may leave its upper half in use behind them.
+            // Addresses one by one: some compilers vectorize them and leave the upper half of a register in use.
             return allPass(stored, [&](std::size_t k) VONKK3_INLINED { return opaque(view.object(n + k) + inRow(k)); });
         }
         if (column < Distance(factors.object.bytes())) return false; // the farther, the greater n

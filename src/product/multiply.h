@@ -3,7 +3,7 @@
 
 #include "product/four_rows.h"
 #include "product/kernels.h"
-#include "product/packed_triples.h"
+#include "product/packed_vectors3.h"
 #include "product/row_pairs.h"
 #include "product/running_sums.h"
 #include "product/shape.h"
@@ -91,7 +91,7 @@ VONKK3_INLINE std::size_t multiplyBatches(const A &src1, const B &src2, const D 
         }
         return multiplyMatrices<SumBegins::withFirstProduct, order>(TableOperands(words), done), done;
     } else if constexpr (isOfRows && order == 3 && !P::secondArray)
-        return multiplyTriplesByOne(src1, src2, dst, objects);
+        return multiplyVectors3ByOne(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 5 && !P::secondArray && !P::secondTransposed)
         return multiplyFourRows(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 6 && !P::secondTransposed)

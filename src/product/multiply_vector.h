@@ -51,7 +51,7 @@ VONKK3_INLINE VonkStatus multiplyVectors(const A &src1, const V &src2, const D &
     };
     std::size_t done = multiplyOneAtOnce<order>(src1, src2, dst, count);
     if constexpr (order == 3 && !A::isArray && V::isArray && D::layout == Layout::Standard)
-        done = multiplyOneByTriples(src1, src2, dst, count);
+        done = multiplyOneByVectors3(src1, src2, dst, count);
     if constexpr (order <= 4 && V::isArray && D::layout == Layout::Standard)
         if (equallySpaced(src2, dst))
             return walk([&](auto work) VONKK3_INLINED { return forEachLightObjectFrom(done, count, work); },

@@ -2,7 +2,7 @@
 // the widest register. Every element of the result is summed as in the kernels for one object.
 #pragma once
 
-#include "product/packed_triples.h"
+#include "product/packed_vectors3.h"
 #include "product/vector_kernels.h"
 
 namespace vonkk3::product {

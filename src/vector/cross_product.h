@@ -54,7 +54,7 @@ VONKK3_INLINE void crossByComponent(const A &a, const B &b, const D &d) {
 
 // ---- Blocks of objects ----------------------------------------------------------------------------------------------
 
-template <std::size_t width> VONKK3_INLINE Triples<width> cross(const Triples<width> &a, const Triples<width> &b) {
+template <std::size_t width> VONKK3_INLINE Vectors3<width> cross(const Vectors3<width> &a, const Vectors3<width> &b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 
@@ -66,7 +66,7 @@ inline std::size_t crossInBlocks(const A &a, const B &b, const D &d, std::size_t
         disjointFromAll(extentOfAll(d, 1, 3, count), extentOfAll(a, 1, 3, count), extentOfAll(b, 1, 3, count));
     const auto work = [&](const auto &p, const auto &q, const auto &r) VONKK3_INLINED {
         return forEachBlock(count, areDisjoint, [&](auto width, std::size_t n) VONKK3_INLINED {
-            cross(Triples<width>::load(p, n), Triples<width>::load(q, n)).store(r, n);
+            cross(Vectors3<width>::load(p, n), Vectors3<width>::load(q, n)).store(r, n);
             return true;
         });
     };

@@ -45,7 +45,7 @@ template <class F> inline constexpr bool trustsEntries = takesFourAgainstOne<F> 
 // And 3x1 of two arrays, if both, their object strides and `dst` are multiples of 16. It reads the element behind each
 // object along, and sums (p0 + p2) + p1 in blocks, but left to right in the objects that follow.
 template <class F>
-inline constexpr bool takesAlignedTriples =
+inline constexpr bool takesAlignedVectors3 =
     F::isReal32 &&F::isArray && !F::sharesOne && F::length == 3 && F::layout == Layout::Standard;
 
 // All arrays of fixed size and adjacent elements in the standard layout go in blocks where results are disjoint from
@@ -92,8 +92,8 @@ template <class B, std::size_t width> struct BlockOrOne {
         if constexpr (B::isArray) return SourceBlock<width>(b, n).row(k);
         else return loadInEveryQuad<Register<width>>(b.view(0).base);
     }
-    VONKK3_INLINE Triples<width> triples() const {
-        if constexpr (B::isArray) return Triples<width>::load(b, n);
+    VONKK3_INLINE Vectors3<width> vectors3() const {
+        if constexpr (B::isArray) return Vectors3<width>::load(b, n);
         else return {element(0), element(1), element(2)};
     }
 };
@@ -104,7 +104,7 @@ VONKK3_INLINE Register<width> dotBlock(const A &a, const B &b, std::size_t n) {
     const BlockOrOne<A, width> p{a, n};
     const BlockOrOne<B, width> q{b, n};
     if constexpr (F::length == 3) {
-        const auto u = p.triples(), v = q.triples();
+        const auto u = p.vectors3(), v = q.vectors3();
         return (u.x * v.x + u.y * v.y) + u.z * v.z;
     } else {
         auto p0 = p.row(0) * q.row(0), p1 = p.row(1) * q.row(1), p2 = p.row(2) * q.row(2), p3 = p.row(3) * q.row(3);
@@ -116,12 +116,12 @@ VONKK3_INLINE Register<width> dotBlock(const A &a, const B &b, std::size_t n) {
     }
 }
 
-// Products in rows of xyz and the element behind, which is worked along and dropped.
+// Products in rows of x, y, z and the element after them, which is multiplied, too, and dropped.
 template <std::size_t width, class A, class B>
-VONKK3_INLINE Register<width> dotAlignedTriples(const A &a, const B &b, std::size_t n) {
+VONKK3_INLINE Register<width> dotAlignedVectors3(const A &a, const B &b, std::size_t n) {
     const SourceBlock<width> p(a, n), q(b, n);
-    auto x = p.row(0) * q.row(0), y = p.row(1) * q.row(1), z = p.row(2) * q.row(2), behind = p.row(3) * q.row(3);
-    transpose(x, y, z, behind);
+    auto x = p.row(0) * q.row(0), y = p.row(1) * q.row(1), z = p.row(2) * q.row(2), padding = p.row(3) * q.row(3);
+    transpose(x, y, z, padding);
     return (x + z) + y;
 }
 
@@ -138,9 +138,10 @@ inline std::size_t dotInBlocks(const A &a, const B &b, Real32 *dst, Objects coun
             return true;
         });
     };
-    if constexpr (takesAlignedTriples<F>)
+    if constexpr (takesAlignedVectors3<F>)
         if (allAligned(dst, a, b))
-            return forEach([&](auto width, std::size_t n) VONKK3_INLINED { return dotAlignedTriples<width>(a, b, n); });
+            return forEach([&](auto width, std::size_t n)
+                               VONKK3_INLINED { return dotAlignedVectors3<width>(a, b, n); });
     if constexpr (mayTakeBlocks<F>) {
         const bool must = takesFourAgainstOne<F> && (F::length == 4 || allAligned(dst, a));
         if (!must && !areDisjoint) return 0;

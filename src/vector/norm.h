@@ -71,7 +71,7 @@ template <std::size_t length, class View> VONKK3_INLINE Real32 normByEstimate(co
 template <std::size_t length, std::size_t width, class Source>
 VONKK3_INLINE Register<width> sumSquaresOfBlock(const Source &source, std::size_t n) {
     if constexpr (length == 3) {
-        const auto v = Triples<width>::load(source, n);
+        const auto v = Vectors3<width>::load(source, n);
         return (v.x * v.x + v.y * v.y) + v.z * v.z;
     } else {
         const SourceBlock<width> block(source, n);
