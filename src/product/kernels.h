@@ -11,6 +11,8 @@
 
 namespace vonkk3::product {
 
+inline constexpr std::size_t quadsAtOnce = widestRegister / 4;
+
 inline __m128 broadcast(Real32 value) { return _mm_set1_ps(value); }
 
 inline __m128 broadcastPair(Real32 low, Real32 high) { return _mm_setr_ps(low, low, high, high); }

@@ -85,7 +85,6 @@ VONKK3_INLINE void multiplyTwoRowsAtOnce(const SourceOf &sourceOf, std::ptrdiff_
     storePart(2, sumOfSixRows(lower, b.last));
 }
 
-inline constexpr std::size_t quadsAtOnce = widestRegister / 4;
 inline constexpr std::size_t bytesOfRowPair = 3 * laneBytes;
 
 // Each object by its own matrix: several row pairs of one object at once.

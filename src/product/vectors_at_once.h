@@ -7,8 +7,6 @@
 
 namespace vonkk3::product {
 
-inline constexpr std::size_t vectorsAtOnce = widestRegister / 4;
-
 // Packed vectors of four elements. The columns of the matrix are in every quad.
 template <bool isTransposed> struct TimesFours {
     static constexpr std::size_t length = 4;
@@ -65,14 +63,14 @@ struct TimesSixes : PlainMatrixOfSix<widestRegister> {
 template <class Times, class A, class V, class D, class... Addend>
 VONKK3_INLINE std::size_t multiplyAtOnce(const A &src1, const V &src2, const D &dst, std::size_t objects,
                                          const Addend &...src3) {
-    const std::size_t done = objects / vectorsAtOnce * vectorsAtOnce;
+    const std::size_t done = objects / quadsAtOnce * quadsAtOnce;
     if (done == 0 || !equallySpaced(src2, dst, src3...) || !Times::takes(dst.objectSpacing())) return 0;
     const auto extent = [&](const auto &vectors)
                             VONKK3_INLINED { return extentOfAll(vectors, 1, Times::length, done); };
     const Extent results = extent(dst);
     if (!(mayWorkPacked(results, extent(src2)) && ... && mayWorkPacked(results, extent(src3)))) return 0;
     const Times times(src1.view(0));
-    for (std::size_t n = 0; n < done; n += vectorsAtOnce) {
+    for (std::size_t n = 0; n < done; n += quadsAtOnce) {
         auto sum = times(Times::load(src2, n));
         ((sum = sum + Times::load(src3, n)), ...);
         Times::store(dst, n, sum);
