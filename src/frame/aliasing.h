@@ -8,6 +8,7 @@
 
 #include "frame/objects_view.h"
 
+#include <emmintrin.h>
 #include <utility>
 
 #ifdef __AVX2__
@@ -401,27 +402,41 @@ struct EntriesRead {
     std::size_t step;
 };
 
-// Whether every entry leads so many bytes, or more, beyond the one before it.
+// Addresses, as many as a register takes.
+template <std::size_t lanes> using Addresses [[gnu::vector_size(lanes * sizeof(std::uint64_t))]] = std::uint64_t;
+inline bool isAnyNegative(Addresses<2> lanes) { return _mm_movemask_pd(__m128d(lanes)) != 0; }
+#ifdef __AVX2__
+inline bool isAnyNegative(Addresses<4> lanes) { return _mm256_movemask_pd(__m256d(lanes)) != 0; }
+#endif
+
+// Whether each of more entries than there are lanes leads so many bytes, or more, beyond the one before it: the
+// distance is then not negative, and neither is what it has more than the least.
+template <std::size_t lanes>
+VONKK3_INLINE bool doStepsReach(const std::byte *entries, std::size_t positions, std::uint64_t least) {
+    const auto load = [&](std::size_t k) VONKK3_INLINED { // entries k to k + lanes - 1
+        return loadAt<Addresses<lanes>>(entries + k * sizeof(std::uint64_t));
+    };
+    Addresses<lanes> negative = {};
+    const auto compare = [&](std::size_t k) VONKK3_INLINED {
+        const Addresses<lanes> distances = load(k) - load(k - 1);
+        negative |= distances | (distances - least);
+    };
+    for (std::size_t k = 1; k + lanes < positions; k += lanes) compare(k);
+    compare(positions - lanes);
+    return !isAnyNegative(negative);
+}
+
+// The same of any number.
 inline bool doStepsReach(const EntriesRead &read, Distance least) {
     const std::size_t positions = read.positions;
-#ifdef __AVX2__
-    if (read.step == sizeof(std::uint64_t) && sizeof(void *) == sizeof(std::uint64_t) && positions > 4) {
+    if (sizeof(void *) == sizeof(std::uint64_t) && read.step == sizeof(void *)) {
         const auto *const entries = reinterpret_cast<const std::byte *>(read.begin);
-        __m256i tooShort = _mm256_setzero_si256();
-        const auto compare = [&](std::size_t k) VONKK3_INLINED { // entries k to k + 3
-            const auto load = [&](std::size_t first) VONKK3_INLINED {
-                return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(entries + first * sizeof(std::uint64_t)));
-            };
-            const __m256i distances = _mm256_sub_epi64(load(k), load(k - 1));
-            tooShort = _mm256_or_si256(tooShort, _mm256_cmpgt_epi64(_mm256_set1_epi64x(least), distances));
-        };
-        for (std::size_t k = 1; k + 4 < positions; k += 4) compare(k);
-        compare(positions - 4);
-        return _mm256_testz_si256(tooShort, tooShort) != 0;
-    }
+#ifdef __AVX2__
+        if (positions > 4) return doStepsReach<4>(entries, positions, std::uint64_t(least));
 #endif
+        if (positions > 2) return doStepsReach<2>(entries, positions, std::uint64_t(least));
+    }
     Address before = ObjectsView::pointerAt(read.begin);
-    VONKK3_UNROLL_FOURFOLD
     for (std::size_t k = 1; k < positions; ++k) {
         const Address next = ObjectsView::pointerAt(read.begin + k * read.step);
         if (Distance(next - before) < least) return false;

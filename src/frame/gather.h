@@ -236,11 +236,11 @@ struct BatchOperand {
         if constexpr (isArray && access == Access::any) {
             findOffsets(view, offset);
             if (!view.isList()) start = view.addressOf(0, 0);
-        } else if constexpr (!isArray || access == Access::positions)
-            forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
-                if constexpr (isArray) offset[i][j] = view.position(i, j);
-                else single[i][j] = view.load<Real32>(i, j);
-            });
+        } else if constexpr (isArray && access == Access::positions)
+            readPositions(view.begin, view.rowStride, view.elementStride, view.shift, offset);
+        else if constexpr (!isArray)
+            forEachElement([&](std::size_t i, std::size_t j)
+                               VONKK3_INLINED { single[i][j] = view.load<Real32>(i, j); });
     }
 
     // For so many packs of objects from n on.

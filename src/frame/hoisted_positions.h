@@ -14,10 +14,7 @@ template <std::size_t rows, std::size_t columns> struct HoistedPositions {
     template <class Words>
     VONKK3_INLINE explicit HoistedPositions(const Words &words) : step(words.step), isArray(words.isArray) {
         const EntryStrides strides(words);
-        const auto shift = std::uintptr_t(std::ptrdiff_t(words.rowStride));
-        forEachElement([&](std::size_t i, std::size_t j) VONKK3_INLINED {
-            hoisted[i][j] = ObjectsView::pointerAt(words.begin + strides.offset(i, j)) + shift;
-        });
+        readPositions(words.begin, strides.row, strides.element, words.rowStride, hoisted);
         entries = {words.begin, words.begin + Address(strides.offset(rows - 1, columns - 1)) + sizeof(void *)};
     }
     std::uintptr_t position(std::size_t i, std::size_t j) const { return hoisted[i][j]; }

@@ -100,6 +100,25 @@ struct EntryStrides {
     }
 };
 
+// Where the positions of a small object's table lead, all at once. Entries without gaps are at constant offsets, and
+// the lanes of a register take several.
+template <std::size_t rows, std::size_t columns>
+VONKK3_INLINE void readPositions(std::uintptr_t begin, std::ptrdiff_t rowStride, std::ptrdiff_t elementStride,
+                                 std::ptrdiff_t shift, std::uintptr_t (&positions)[rows][columns]) {
+    constexpr std::ptrdiff_t entry = sizeof(void *);
+    const auto read = [&](std::ptrdiff_t ofRow, std::ptrdiff_t ofElement) VONKK3_INLINED {
+        for (std::size_t i = 0; i < rows; ++i)
+            for (std::size_t j = 0; j < columns; ++j)
+                positions[i][j] =
+                    ObjectsView::pointerAt(begin + std::uintptr_t(strides(i, ofRow) + strides(j, ofElement))) +
+                    std::uintptr_t(shift);
+    };
+    constexpr bool areFew = rows * columns <= 6;
+    if (!areFew && rowStride == std::ptrdiff_t(columns) * entry && (columns == 1 || elementStride == entry)) [[likely]]
+        read(std::ptrdiff_t(columns) * entry, entry);
+    else read(rowStride, elementStride);
+}
+
 // Where the positions of a table lead: to object 0, and the others a step after it.
 struct TablePositions {
     std::uintptr_t begin;

@@ -89,7 +89,7 @@ VONKK3_INLINE std::size_t multiplyBatches(const A &src1, const B &src2, const D 
             // The kernel of order 3 has a row of the first operand in registers before it stores there.
             if (!Aliasing(objects, writes(p.d), readsInPlace(p.a), reads(p.b)).allowsBatch(0, done)) return 0;
         }
-        return multiplyMatrices<SumBegins::withFirstProduct, order>(TableOperands(words), done), done;
+        return multiplyMatrices<SumBegins::withFirstProduct, order>(words, done), done;
     } else if constexpr (isOfRows && order == 3 && !P::secondArray)
         return multiplyVectors3ByOne(src1, src2, dst, objects);
     else if constexpr (isOfRows && order == 5 && !P::secondArray && !P::secondTransposed)

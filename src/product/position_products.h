@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/batch.h"
+#include "frame/hoisted_positions.h"
 #include "product/sums.h"
 
 namespace vonkk3::product {
@@ -26,95 +27,108 @@ template <std::size_t width> struct Factor<false, width> {
 // cells are a row of one, the vector.
 enum class Shares { rowOfFirst, vector };
 
-// Several cells of a row at once, which share a factor. As many as pointers fit registers.
-template <std::size_t order, bool sharedIsArray, bool otherIsArray>
-inline constexpr std::size_t cellsAtOnce = order == 3                      ? 3
-                                           : (order == 4 || !otherIsArray) ? 2
-                                                                           : 1;
+// Cells that are worked at once share their factors. With 32 registers they are as many as sums fit; with half of them
+// as many as pointers fit, of one row.
+struct CellsAtOnce {
+    std::size_t rows, columns;
+};
+template <Shares shares, std::size_t order, bool otherIsArray> constexpr CellsAtOnce cellsAtOnce() {
+    if (hasMasks) return {shares == Shares::vector || order == 5 ? 1 : order == 6 ? 2 : order, order};
+    return {1, order == 3 ? 3U : order == 4 || !otherIsArray ? 2U : 1U};
+}
 
-// d(i, j) = sum of shared(i, k) other(k, j), plus the addend's element, for ranges of objects. All positions are known
-// before the first range: what is written overlaps no table.
-template <Shares shares, std::size_t order, bool sharedIsArray, bool otherIsArray, bool hasAddend, std::size_t width>
-struct PositionProduct {
-    static constexpr std::size_t rows = shares == Shares::vector ? 1 : order;
-    static constexpr std::size_t cells = cellsAtOnce<order, sharedIsArray, otherIsArray>;
-    Factor<sharedIsArray, width> shared[rows][order];
-    Factor<otherIsArray, width> other[order][order];
-    const std::byte *addend[rows][order];
-    std::byte *target[rows][order];
+// The positions of a, b, d and, with one, the addend. All are known before the first object: what is written overlaps
+// no table.
+struct NoPositions {
+    template <class Words> explicit NoPositions(const Words &) {}
+};
+template <Shares shares, std::size_t order, bool hasAddend> struct ProductPositions {
+    static constexpr bool ofVector = shares == Shares::vector; // whose elements are columns of one
+    static constexpr std::size_t rows = ofVector ? 1 : order;
+    using Result = HoistedPositions<order, ofVector ? 1 : order>;
+    HoistedPositions<order, order> a;
+    Result b, d;
+    std::conditional_t<hasAddend, Result, NoPositions> addend;
 
-    template <class Operands> VONKK3_INLINE explicit PositionProduct(const Operands &p) {
-        const auto forEach = [](std::size_t number, const auto &body) VONKK3_INLINED {
-            for (std::size_t i = 0; i < number; ++i)
-                for (std::size_t j = 0; j < order; ++j) body(i, j);
-        };
-        constexpr bool ofVector = shares == Shares::vector; // whose elements are columns of one
-        forEach(rows, [&](std::size_t i, std::size_t j) VONKK3_INLINED {
-            shared[i][j] = Factor<sharedIsArray, width>(ofVector ? p.b.position(j, 0) : p.a.position(i, j));
-            target[i][j] = reinterpret_cast<std::byte *>(ofVector ? p.d.position(j, 0) : p.d.position(i, j));
-            if constexpr (hasAddend) addend[i][j] = reinterpret_cast<const std::byte *>(p.addend.position(j, 0));
-        });
-        forEach(order, [&](std::size_t k, std::size_t j) VONKK3_INLINED {
-            other[k][j] = Factor<otherIsArray, width>(ofVector ? p.a.position(j, k) : p.b.position(k, j));
-        });
-    }
+    template <class Words>
+    VONKK3_INLINE explicit ProductPositions(const Words &words)
+        : a(words.a), b(words.b), d(words.d), addend([&]() VONKK3_INLINED -> const auto & {
+              if constexpr (hasAddend) return words.addend;
+              else return words.d;
+          }()) {}
 
-    template <SumBegins begins> VONKK3_INLINE void work(std::size_t from, std::size_t to) const {
-        for (std::size_t i = 0; i < rows; ++i)
-            for (std::size_t next = 0; next < order; next += cells)
-                workCells<begins>(*this, i, next + cells <= order ? next : order - cells, from, to);
-    }
-
-private:
-    // Cells (i, j) to (i, j + cells - 1), for the objects between two offsets. All is read before anything is stored.
-    template <SumBegins begins>
-    VONKK3_NOINLINE static void workCells(const PositionProduct &p, std::size_t i, std::size_t j, std::size_t from,
-                                          std::size_t to) {
-        using Number = PackOf<width>;
-        Factor<sharedIsArray, width> a[order]; // in registers
-        Factor<otherIsArray, width> b[order][cells];
-        const std::byte *w[cells];
-        std::byte *d[cells];
-        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
-            a[k] = p.shared[i][k];
-            forIndices(0, cells, fixed<cells>, [&](std::size_t c) VONKK3_INLINED { b[k][c] = p.other[k][j + c]; });
-        });
-        forIndices(0, cells, fixed<cells>, [&](std::size_t c) VONKK3_INLINED {
-            if constexpr (hasAddend) w[c] = p.addend[i][j + c];
-            d[c] = p.target[i][j + c];
-        });
-        for (std::size_t at = from; at < to; at += width * sizeof(Real32)) {
-            Number sum[cells];
-            forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
-                const Number factor = inRegister(a[k].at(at)); // not loaded anew for every cell
-                forIndices(0, cells, fixed<cells>, [&](std::size_t c) VONKK3_INLINED {
-                    const Number product = factor * b[k][c].at(at);
-                    if (k != 0) sum[c] = sum[c] + product;
-                    else sum[c] = begins == SumBegins::withZero ? Number(0.0F) + product : product;
-                });
-            });
-            forIndices(0, cells, fixed<cells>, [&](std::size_t c) VONKK3_INLINED {
-                if constexpr (hasAddend) sum[c] = sum[c] + Number(loadLanes<Register<width>>(w[c] + at));
-                storeLanes(d[c] + at, sum[c].lanes);
-            });
-        }
+    std::uintptr_t shared(std::size_t i, std::size_t k) const { return ofVector ? b.position(k, 0) : a.position(i, k); }
+    std::uintptr_t other(std::size_t k, std::size_t j) const { return ofVector ? a.position(j, k) : b.position(k, j); }
+    static std::uintptr_t cell(const Result &of, std::size_t i, std::size_t j) {
+        return ofVector ? of.position(j, 0) : of.position(i, j);
     }
 };
+
+// d(i, j) = sum of shared(i, k) other(k, j), plus the addend's element: the cells from (i, j) on, for the objects
+// between two offsets. All is read before anything is stored.
+template <SumBegins begins, bool sharedIsArray, bool otherIsArray, std::size_t width, Shares shares, std::size_t order,
+          bool hasAddend>
+VONKK3_INLINE void workCells(const ProductPositions<shares, order, hasAddend> &p, std::size_t i, std::size_t j,
+                             std::size_t from, std::size_t to) {
+    using Number = PackOf<width>;
+    static constexpr CellsAtOnce cells = cellsAtOnce<shares, order, otherIsArray>();
+    Factor<sharedIsArray, width> a[cells.rows][order]; // in registers
+    Factor<otherIsArray, width> b[order][cells.columns];
+    const std::byte *w[cells.rows][cells.columns];
+    std::byte *d[cells.rows][cells.columns];
+    const auto forEachRow = [](const auto &body) VONKK3_INLINED { forIndices(0, cells.rows, fixed<cells.rows>, body); };
+    const auto forEachColumn = [](const auto &body)
+                                   VONKK3_INLINED { forIndices(0, cells.columns, fixed<cells.columns>, body); };
+    forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+        forEachRow([&](std::size_t r) VONKK3_INLINED { a[r][k] = Factor<sharedIsArray, width>(p.shared(i + r, k)); });
+        forEachColumn([&](std::size_t c) VONKK3_INLINED { b[k][c] = Factor<otherIsArray, width>(p.other(k, j + c)); });
+    });
+    forEachRow([&](std::size_t r) VONKK3_INLINED {
+        forEachColumn([&](std::size_t c) VONKK3_INLINED {
+            if constexpr (hasAddend) w[r][c] = address(p.cell(p.addend, i + r, j + c));
+            d[r][c] = address(p.cell(p.d, i + r, j + c));
+        });
+    });
+    for (std::size_t at = from; at < to; at += width * sizeof(Real32)) {
+        Number sum[cells.rows][cells.columns];
+        forIndices(0, order, fixed<order>, [&](std::size_t k) VONKK3_INLINED {
+            Number factor[cells.rows]; // not loaded anew for every cell
+            forEachRow([&](std::size_t r) VONKK3_INLINED { factor[r] = inRegister(a[r][k].at(at)); });
+            forEachColumn([&](std::size_t c) VONKK3_INLINED {
+                const Number other = cells.rows > 1 ? inRegister(b[k][c].at(at)) : b[k][c].at(at);
+                forEachRow([&](std::size_t r) VONKK3_INLINED {
+                    const Number product = factor[r] * other;
+                    if (k != 0) sum[r][c] = sum[r][c] + product;
+                    else sum[r][c] = begins == SumBegins::withZero ? Number(0.0F) + product : product;
+                });
+            });
+        });
+        forEachRow([&](std::size_t r) VONKK3_INLINED {
+            forEachColumn([&](std::size_t c) VONKK3_INLINED {
+                if constexpr (hasAddend) sum[r][c] = sum[r][c] + Number(loadLanes<Register<width>>(w[r][c] + at));
+                storeLanes(d[r][c] + at, sum[r][c].lanes);
+            });
+        });
+    }
+}
 
 // As many objects at a time as stay in the first-level cache with all their positions.
 inline constexpr std::size_t objectsInCache = 256;
 
-// For so many objects, a multiple of packWidth: in the widest registers, and what they leave in packs. `p` has the
-// tables a, b, d and, with an addend, addend.
+// For so many objects, a multiple of packWidth: in the widest registers, and what they leave in packs.
 template <Shares shares, SumBegins begins, std::size_t order, bool sharedIsArray, bool otherIsArray, bool hasAddend,
-          class Operands>
-VONKK3_NOINLINE void multiplyPositions(const Operands &p, std::size_t objects) {
+          class Words>
+VONKK3_NOINLINE void multiplyPositions(const Words &words, std::size_t objects) {
+    const ProductPositions<shares, order, hasAddend> p(words);
     const auto work = [&](auto width, std::size_t first, std::size_t end) VONKK3_INLINED {
-        if (first == end) return;
-        const PositionProduct<shares, order, sharedIsArray, otherIsArray, hasAddend, width> product(p);
+        static constexpr CellsAtOnce cells = cellsAtOnce<shares, order, otherIsArray>();
         for (std::size_t from = first; from < end; from += objectsInCache) {
             const std::size_t to = end - from < objectsInCache ? end : from + objectsInCache;
-            product.template work<begins>(from * sizeof(Real32), to * sizeof(Real32));
+            for (std::size_t i = 0; i < p.rows; i += cells.rows)
+                for (std::size_t j = 0; j < order; j += cells.columns)
+                    workCells<begins, sharedIsArray, otherIsArray, width>(
+                        p, i, j + cells.columns <= order ? j : order - cells.columns, from * sizeof(Real32),
+                        to * sizeof(Real32));
         }
     };
     const std::size_t whole = objects / widestRegister * widestRegister;
@@ -122,23 +136,23 @@ VONKK3_NOINLINE void multiplyPositions(const Operands &p, std::size_t objects) {
     if constexpr (widestRegister > packWidth) work(fixed<packWidth>, whole, objects);
 }
 
-template <SumBegins begins, std::size_t order, class Operands>
-void multiplyMatrices(const Operands &p, std::size_t objects) {
+template <SumBegins begins, std::size_t order, class Words>
+void multiplyMatrices(const Words &words, std::size_t objects) {
     constexpr Shares shares = Shares::rowOfFirst;
-    if (!p.a.isArray) multiplyPositions<shares, begins, order, false, true, false>(p, objects);
-    else if (!p.b.isArray) multiplyPositions<shares, begins, order, true, false, false>(p, objects);
-    else multiplyPositions<shares, begins, order, true, true, false>(p, objects);
+    if (!words.a.isArray) multiplyPositions<shares, begins, order, false, true, false>(words, objects);
+    else if (!words.b.isArray) multiplyPositions<shares, begins, order, true, false, false>(words, objects);
+    else multiplyPositions<shares, begins, order, true, true, false>(words, objects);
 }
 
 // Vectors are columns.
-template <std::size_t order, bool hasAddend, class Operands>
-void multiplyVectors(const Operands &p, std::size_t objects) {
+template <std::size_t order, bool hasAddend, class Words>
+void multiplyVectors(const Words &words, std::size_t objects) {
     constexpr Shares shares = Shares::vector;
     constexpr SumBegins begins = SumBegins::withZero;
-    if (!p.a.isArray) multiplyPositions<shares, begins, order, true, false, hasAddend>(p, objects);
+    if (!words.a.isArray) multiplyPositions<shares, begins, order, true, false, hasAddend>(words, objects);
     else if constexpr (!hasAddend)
-        p.b.isArray ? multiplyPositions<shares, begins, order, true, true, false>(p, objects)
-                    : multiplyPositions<shares, begins, order, false, true, false>(p, objects);
+        words.b.isArray ? multiplyPositions<shares, begins, order, true, true, false>(words, objects)
+                        : multiplyPositions<shares, begins, order, false, true, false>(words, objects);
 }
 
 } // namespace vonkk3::product

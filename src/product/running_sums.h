@@ -107,14 +107,6 @@ inline bool arePositionsContiguous(const GaxpyWords &words) {
     return arePositionsContiguous(static_cast<const ProductWords &>(words)) && arePacked(words.addend);
 }
 
-struct TableOperands {
-    TablePositions a, b, d, addend;
-    VONKK3_INLINE explicit TableOperands(const ProductWords &words)
-        : a(words.a), b(words.b), d(words.d), addend(words.d) {}
-    VONKK3_INLINE explicit TableOperands(const GaxpyWords &words)
-        : a(words.a), b(words.b), d(words.d), addend(words.addend) {}
-};
-
 // The usual alias test of those.
 template <class Words, class Shape>
 VONKK3_INLINE bool arePlainlyIndependent(const Words &words, const Shape &shape, std::size_t count) {
@@ -263,9 +255,9 @@ VONKK3_SHARED VonkStatus sumArrays(const Words &words, const Shape &sizes, std::
             const bool mayWork = arePlainlyIndependent(words, shape, count) ||
                                  Operands(words, shape, count).aliasing(count).allowsBatch(0, count);
             const std::size_t done = mayWork ? inWholePacks(count) : 0;
-            if constexpr (Shape::ofVector) multiplyVectors<order, hasAddend>(TableOperands(words), done);
-            else multiplyMatrices<SumBegins::withZero, order>(TableOperands(words), done);
-            return plainly(done, count);
+            if constexpr (Shape::ofVector) multiplyVectors<order, hasAddend>(words, done);
+            else multiplyMatrices<SumBegins::withZero, order>(words, done);
+            return done == count ? vonkOk : plainly(done, count);
         }
     if constexpr (std::is_same_v<T, Real32> && Shape::ofVector) {
         const auto inVectorBatches = [&]<bool firstIsArray, bool secondIsArray>() VONKK3_INLINED {
