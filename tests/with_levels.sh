@@ -5,7 +5,7 @@
 #     with_levels.sh BUILD_FOLDER BASE,LEVEL,... PROGRAM [OPTION...]      the file is VONKK3_FILE, or vonkk3.so
 . "$(dirname "$0")/../scripts/levels.sh"
 build=$1
-levels=$(echo "${2#*,}" | tr ',' ' ')
+levels=$(echo "$2" | tr ',' ' ' | sed 's/^[^ ]* *//')
 shift 2
 file=${VONKK3_FILE:-vonkk3.so}
 set -- "$@" --library "$build/$file"
