@@ -46,10 +46,8 @@ run_all() {
 }
 
 build build/coverage x86-64 all
-for test in build/coverage/tests/*_test build/coverage/tests/fuzz/*_test; do
-    case $test in */least_squares_test | */generator_test) continue ;; esac # of examples and of the generator
-    run "$test"
-done
+run build/coverage/tests/vonkk3_tests --gtest_brief=1
+run build/coverage/tests/fuzz/steered_test
 run_all
 libraries=build/coverage/vonkk3.so
 if runs_level x86-64-v3; then

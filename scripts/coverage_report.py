@@ -13,6 +13,7 @@ remark. Exit code 1: a place that was not reached has no reason, or a reason no 
 """
 import collections
 import json
+import os
 import pathlib
 import sys
 
@@ -41,7 +42,7 @@ def read_lines(path, root):
         for region in function["regions"]:
             by_file[region[5]].append(region)
         for number, regions in by_file.items():
-            file = pathlib.Path(function["filenames"][number])
+            file = pathlib.Path(os.path.normpath(function["filenames"][number]))  # compilers are given relative ones
             if not file.is_relative_to(root / "src"):
                 continue
             lines = files[str(file.relative_to(root))]

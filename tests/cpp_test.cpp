@@ -565,6 +565,95 @@ TYPED_TEST(CppOperations, LuInListsTablesAndInPlace) {
     EXPECT_EQ(a, f);
 }
 
+// Regular matrices of many kinds, most of whose pivots move: digits, permutations, triangles, large and small numbers.
+template <vonk::Size order> Numbers<float> manyMatrices(std::size_t count) {
+    std::mt19937 random(order);
+    Numbers<float> all;
+    std::uint32_t pivots[order];
+    float factors[order * order];
+    for (unsigned seed = 1; all.size() < count * order * order; ++seed) {
+        auto one = numbers<float>(std::size_t(order) * order, seed);
+        const std::size_t shift = random() % order;
+        for (std::size_t i = 0; i < order; ++i)
+            for (std::size_t j = 0; j < order; ++j) {
+                float &element = one[i * order + j];
+                if (seed % 4 == 1) element = float((i + shift) % order == j);
+                if (seed % 4 == 2 && (i + shift) % order < j) element = 0;
+                if (seed % 4 == 3) element = std::ldexp(element, int(random() % 30) - 10);
+            }
+        if (vonk::lu(vonk::matrix<order, order>(one), pivots, vonk::matrix<order, order>(factors)).ok())
+            all.insert(all.end(), one.begin(), one.end());
+    }
+    return all;
+}
+
+template <vonk::Size order> using OrderOf = std::integral_constant<vonk::Size, order>;
+using OrdersOfMany = testing::Types<OrderOf<2>, OrderOf<3>, OrderOf<4>, OrderOf<5>, OrderOf<6>, OrderOf<7>>;
+template <class Order> struct CppLuOfMany : testing::Test {};
+TYPED_TEST_SUITE(CppLuOfMany, OrdersOfMany);
+
+// Bit by bit, where arrays are worked many at a time and where they are not, over the ends of blocks.
+TYPED_TEST(CppLuOfMany, IsThatOfEachObject) {
+    constexpr vonk::Size order = TypeParam::value;
+    for (const std::size_t count : {1U, 7U, 8U, 31U, 32U, 33U, 100U}) {
+        auto a = manyMatrices<order>(count);
+        auto b = numbers<float>(count * order);
+        Numbers<float> f(a.size()), wanted(a.size()), x(b.size()), solutions(b.size());
+        std::vector<std::uint32_t> pivots(count * order), wantedPivots(count * order);
+        const auto A = vonk::matrices<order, order>(a), F = vonk::matrices<order, order>(f);
+        const auto B = vonk::vectors<order>(b), X = vonk::vectors<order>(x);
+        for (std::size_t n = 0; n < count; ++n) {
+            ASSERT_EQ(vonk::lu(A[n], &wantedPivots[n * order], vonk::matrices<order, order>(wanted)[n]), vonkOk);
+            ASSERT_EQ(vonk::solve(A[n], B[n], vonk::vectors<order>(solutions)[n]), vonkOk);
+        }
+        const auto expectSame = [&](const char *what) {
+            SCOPED_TRACE(std::string(what) + ", " + std::to_string(count) + " objects");
+            EXPECT_EQ(f, wanted);
+            EXPECT_EQ(pivots, wantedPivots);
+            EXPECT_EQ(x, solutions);
+            std::fill(f.begin(), f.end(), 0.0F), std::fill(x.begin(), x.end(), 0.0F);
+            std::fill(pivots.begin(), pivots.end(), 0U);
+        };
+        ASSERT_EQ(vonk::lu(A, pivots, F), vonkOk);
+        ASSERT_EQ(vonk::solve(A, B, X), vonkOk);
+        expectSame("packed");
+        // By columns, to rows
+        Numbers<float> columns(a.size());
+        for (std::size_t k = 0; k < a.size(); ++k)
+            columns[k / (order * order) * order * order + k % order * order + k / order % order] = a[k];
+        const auto C = vonk::matrices<order, order>(columns).column_major();
+        ASSERT_EQ(vonk::lu(C, pivots, F.element_stride(sizeof(float))), vonkOk);
+        ASSERT_EQ(vonk::solve(C, B, X), vonkOk);
+        expectSame("by columns");
+        // Lists
+        std::vector<float *> la, lf, lb, lx;
+        for (std::size_t n = 0; n < count; ++n) {
+            la.push_back(&a[n * order * order]), lf.push_back(&f[n * order * order]);
+            lb.push_back(&b[n * order]), lx.push_back(&x[n * order]);
+        }
+        ASSERT_EQ((vonk::lu(vonk::matrices<order, order>(la), pivots, vonk::matrices<order, order>(lf))), vonkOk);
+        ASSERT_EQ((vonk::solve(vonk::matrices<order, order>(la), vonk::vectors<order>(lb), vonk::vectors<order>(lx))),
+                  vonkOk);
+        expectSame("lists");
+        lf[count / 2] = nullptr;
+        vonk::Failed failed;
+        EXPECT_EQ((vonk::lu(vonk::matrices<order, order>(la), pivots, vonk::matrices<order, order>(lf), failed)),
+                  vonkErrNullPtr);
+        EXPECT_EQ(failed.object, count / 2);
+        // In place, with one matrix that has no inverse
+        auto half = a;
+        std::fill_n(half.begin() + std::ptrdiff_t(count / 2 * order * order), order, 0.0F);
+        const auto H = vonk::matrices<order, order>(half);
+        EXPECT_EQ(vonk::lu(H, pivots, H, failed), vonkErrSingular);
+        EXPECT_EQ(failed.object, count / 2);
+        for (std::size_t k = 0; k < half.size(); ++k) {
+            const std::size_t n = k / (order * order);
+            if (n == count / 2) continue;
+            EXPECT_EQ(half[k], n < count / 2 ? wanted[k] : a[k]) << k;
+        }
+    }
+}
+
 TYPED_TEST(CppOperations, TheObjectThatFailsIsFound) {
     using T = TypeParam;
     const std::size_t count = 50;

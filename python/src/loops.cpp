@@ -358,7 +358,8 @@ template <typename T> void det(char **data, const Size *dimensions, const Size *
 
 // ---- LU decomposition
 //
-// The array forms check the last pivot of an object at another place, so each matrix is decomposed by a single call.
+// The array forms check the last pivot of an object at another place, so each matrix is decomposed by a single call;
+// but for float matrices of order 3 to 6, which go through a workspace in which that place holds a 1.
 
 // The library refuses a pivot below 2^-23. Scaled to 2^luTarget, that is 2^-23 of the largest elements in float32 and
 // 2^-48 in float64, both a little above the rounding errors of an elimination.
@@ -391,6 +392,67 @@ template <typename T> std::int32_t decompose(const View &a, T *factors, std::uin
     return ok;
 }
 
+// Of many at a time. The array form checks the last pivot of object n, in its row r, n * order elements further on: of
+// packed objects at n order^2 + r order + (order - 1) + n order. From object `order` on that is past the object, in one
+// that is not written yet or past them all; and for identities, which are the objects before.
+class LuBlock {
+public:
+    static constexpr Size most = 32, least = 8; // matrices
+    static constexpr bool takes(const View &a, Size count) {
+        return a.rows >= 3 && a.rows <= 6 && count >= least && count <= most;
+    }
+
+    // The factors of `count` matrices and their pivots, packed; false if one of them cannot be decomposed.
+    bool decompose(const View &a, Size count, float *factors, std::uint32_t *pivots) {
+        const Size n = a.rows, area = n * n, row = n * static_cast<Size>(sizeof(float)), objects = n + count;
+        for (Size k = 0; k < n; ++k)
+            for (Size i = 0; i < area; ++i)
+                source[static_cast<std::size_t>(k * area + i)] = i % (n + 1) == 0 ? 1.0F : 0.0F;
+        for (Size k = 0; k < count; ++k) pack(a.from(k), &source[static_cast<std::size_t>((n + k) * area)]);
+        std::fill_n(results.begin(), (objects - 1) * (area + n) + area, 1.0F);
+        if (Exports<float>::LUDecomp_ma(source.data(), s(n * row), s(row), places.data(), results.data(), s(n * row),
+                                        s(row), u(n), u(objects)) != ok)
+            return false;
+        std::copy_n(&results[static_cast<std::size_t>(n * area)], count * area, factors);
+        std::copy_n(&places[static_cast<std::size_t>(area)], count * n, pivots);
+        bool allPass = true;
+        for (Size k = 0; k < count; ++k) { // a NaN does not
+            const float last = factors[k * area + static_cast<Size>(pivots[k * n + n - 1]) * n + n - 1];
+            allPass = allPass && std::fabs(last) >= 0x1p-23F;
+        }
+        return allPass;
+    }
+
+private:
+    static constexpr std::size_t order = 6, objects = order + most;
+    std::array<float, objects * order * order> source;
+    std::array<float, (objects - 1) * (order * order + order) + order * order> results;
+    std::array<std::uint32_t, objects * order> places;
+};
+
+// Of `count` matrices, packed; outcome[k] tells of matrix k.
+template <typename T>
+void decomposeEach(const View &a, Size count, T *factors, std::uint32_t *pivots, std::int32_t *outcome) {
+    const Size n = a.rows;
+    if constexpr (std::is_same_v<T, float>) {
+        LuBlock block;
+        for (Size k = 0; k < count;) {
+            const Size run = std::min(block.most, count - k);
+            if (!block.takes(a, run) || !block.decompose(a.from(k), run, factors + k * n * n, pivots + k * n))
+                for (Size each = k; each < k + run; ++each)
+                    outcome[each] = decompose(a.from(each), factors + each * n * n, pivots + each * n);
+            else std::fill_n(outcome + k, run, ok);
+            k += run;
+        }
+    } else
+        for (Size k = 0; k < count; ++k) outcome[k] = decompose(a.from(k), factors + k * n * n, pivots + k * n);
+}
+
+// Matrices whose factors go through a workspace together.
+constexpr Size objectsOfBlock(Size elements) {
+    return std::clamp<Size>(2304 / std::max<Size>(elements, 1), 1, blockOfObjects);
+}
+
 template <typename T> void lu(char **data, const Size *dimensions, const Size *steps, void *) {
     const Flags flags;
     Arguments<T> arguments(data, dimensions, steps, 1, 3);
@@ -399,19 +461,24 @@ template <typename T> void lu(char **data, const Size *dimensions, const Size *s
     const View pivots = arguments.vector(n, sizeof(std::uint32_t));
     const Status status(arguments.scalar(sizeof(std::int32_t)));
     if (n == 0) return status.succeed(0, arguments.count);
-    const bool packed = factors.packed();
-    Room<T> room(packed ? 0 : n * n);
-    Room<std::uint32_t> places(n);
-    for (Size k = 0; k < arguments.count; ++k) {
-        T *const to = packed ? p<T>(factors.from(k)) : room.data();
-        const std::int32_t done = decompose(a.from(k), to, places.data());
-        status.set(k, done);
-        if (done != ok) {
-            std::fill_n(to, n * n, nan<T>);
-            for (Size i = 0; i < n; ++i) places.data()[i] = u(i);
+    const Size block = objectsOfBlock(n * n);
+    Room<T> room(block * n * n);
+    Room<std::uint32_t> places(block * n);
+    std::array<std::int32_t, blockOfObjects> outcome;
+    for (Size start = 0; start < arguments.count; start += block) {
+        const Size run = std::min(block, arguments.count - start);
+        decomposeEach(a.from(start), run, room.data(), places.data(), outcome.data());
+        for (Size k = 0; k < run; ++k) {
+            T *const from = room.data() + k * n * n;
+            std::uint32_t *const rows = places.data() + k * n;
+            status.set(start + k, outcome[static_cast<std::size_t>(k)]);
+            if (outcome[static_cast<std::size_t>(k)] != ok) {
+                std::fill_n(from, n * n, nan<T>);
+                for (Size i = 0; i < n; ++i) rows[i] = u(i);
+            }
+            unpack(from, factors.from(start + k));
+            unpack(rows, pivots.from(start + k));
         }
-        if (!packed) unpack(to, factors.from(k));
-        unpack(places.data(), pivots.from(k));
     }
 }
 
@@ -423,7 +490,7 @@ template <typename T> void lu(char **data, const Size *dimensions, const Size *s
 template <typename T, class Factor, class Substitute>
 void solveBlocks(bool single, Size factorSize, const View &b, const View &x, Size count, const Status &status,
                  Factor &&factor, Substitute &&substitute) {
-    const Size block = std::clamp<Size>(2304 / std::max<Size>(factorSize, 1), 1, blockOfObjects);
+    const Size block = objectsOfBlock(factorSize);
     Room<T> room(block * factorSize);
     std::array<std::int32_t, blockOfObjects> outcome;
     T *const factors = room.data();
@@ -477,12 +544,11 @@ template <typename T, bool oneColumn> void solve(char **data, const Size *dimens
     solveBlocks<T>(
         a.outer == 0, n * n, b, x, arguments.count, status,
         [&](Size first, Size count, T *factors, std::int32_t *outcome) {
+            decomposeEach(a.from(first), count, factors, places.data(), outcome);
             for (Size k = 0; k < count; ++k) {
-                std::uint32_t *const pivots = places.data() + k * n;
-                outcome[k] = decompose(a.from(first + k), factors + k * n * n, pivots);
                 if (outcome[k] == ok) continue;
                 makeIdentity(factors + k * n * n, n);
-                for (Size i = 0; i < n; ++i) pivots[i] = u(i);
+                for (Size i = 0; i < n; ++i) places.data()[k * n + i] = u(i);
             }
         },
         [&](const T *factors, Size index, const View &from, const View &to, Size count) {
