@@ -26,6 +26,15 @@ expect "exports are exactly the built functions" same "$scratch/expected" "$scra
 nm -D --undefined-only "$library" >"$scratch/undefined"
 expect "nothing is imported" empty "$scratch/undefined"
 
+# Objects of the baseline are linked, too: of an inline function that both have, the linker would keep one.
+case $folder in
+*/levels/*)
+    level=$(basename "$folder" | tr -c 'a-z0-9\n' _)
+    nm -C "$library" >"$scratch/local"
+    expect "inline functions are compiled for $level" grep -q " vonkk3_${level}::aliasing::askOnce(" "$scratch/local"
+    ;;
+esac
+
 readelf -dW "$library" >"$scratch/dynamic"
 grep NEEDED "$scratch/dynamic" >"$scratch/needed"
 expect "no other library is needed" empty "$scratch/needed"
