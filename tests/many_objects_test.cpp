@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <cstring>
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -225,6 +227,25 @@ TEST(ManyObjects, AreMultipliedIntoCloserObjectsOfTheSamePositions) {
 
 // The first position of the objects lies on the table: what is copied there is what stands there, but for the last
 // object, which gets another address, or its lower half, for the table's last entry: its last element comes from there.
+// Long arrays are worked in blocks, position by position: far and near objects, and counts at the ends of blocks.
+TEST(ManyObjects, AreAddedInBlocksThatLeaveNoneOut) {
+    for (const std::int32_t step : {4, 12, 600})
+        for (const std::uint32_t count : {2047U, 2048U, 2049U, 5003U}) {
+            SCOPED_TRACE(std::to_string(step) + " bytes apart, " + std::to_string(count) + " objects");
+            const std::size_t apart = static_cast<std::size_t>(step) / sizeof(float), position = apart * count;
+            std::vector<float> a(9 * position), b(9 * position), d(9 * position, 99.0F), expected(d);
+            for (std::size_t k = 0; k < a.size(); ++k)
+                a[k] = static_cast<float>(k % 1021), b[k] = static_cast<float>(k % 61);
+            for (std::size_t k = 0; k < a.size(); k += apart) expected[k] = a[k] + b[k];
+            const auto src1 = tableFrom<9>(static_cast<const float *>(a.data()), static_cast<std::ptrdiff_t>(position));
+            const auto src2 = tableFrom<9>(static_cast<const float *>(b.data()), static_cast<std::ptrdiff_t>(position));
+            const auto dst = tableFrom<9>(d.data(), static_cast<std::ptrdiff_t>(position));
+            ASSERT_EQ(vonkAdd_mama_32f_3x3_PS2(src1.data(), 0, step, src2.data(), 0, step, dst.data(), 0, step, count),
+                      vonkOk);
+            EXPECT_TRUE(d == expected);
+        }
+}
+
 TEST(ManyObjects, MayBeCopiedOntoTheTableTheyAreReadThrough) {
     expectSameObjectByObject([](Arena &arena, std::int32_t n, std::uint32_t count) {
         static_assert(sizeof(void *) >= sizeof(float), "an entry is as long as two elements, or one");
