@@ -91,28 +91,26 @@ VONKK3_INLINE VonkStatus normsByFour(const A &a, Fixed<order> size, std::byte *r
     return vonkOk;
 }
 
-// 6x6 gives the same results one by one or four at a time, but four at a time must not be seen: no result may lie where
-// a later object is read, and objects before a null list entry are complete.
+// 6x6 gives the same results one by one or many at a time, but that must not be seen: no result may lie where a later
+// object is read, and objects before a null list entry are complete.
 template <class A> VONKK3_INLINE VonkStatus normsOfSix(const A &a, std::byte *results, std::size_t count) {
-    const auto mayWorkBlock = [&](std::size_t n) VONKK3_INLINED {
-        const Extent written = extentOf(results + n * sizeof(Real32), four * sizeof(Real32));
-        const auto mayWork = [&](std::size_t k) VONKK3_INLINED {
-            return !a.listHasNull(k) && disjoint(written, extentOf(a.view(k), 6, 6));
-        };
-        return mayWork(n) && mayWork(n + 1) && mayWork(n + 2) && mayWork(n + 3);
+    const bool areClear =
+        !A::isList && disjoint(extentOf(results, count * sizeof(Real32)), extentOfAll(a, 6, 6, count));
+    const auto workBlock = [&](auto width, std::size_t first) VONKK3_INLINED {
+        const Extent written = extentOf(results + first * sizeof(Real32), width * sizeof(Real32));
+        for (std::size_t n = first; !areClear && n < first + width; ++n)
+            if (a.listHasNull(n) || !disjoint(written, extentOf(a.view(n), 6, 6))) return false;
+        const auto view = [&](std::size_t k) VONKK3_INLINED { return a.view(first + k); };
+        storeLanes(results + first * sizeof(Real32), rootByEstimate(sumsOfSquaresOfSix<width>(view)));
+        return true;
     };
-    std::size_t n = 0;
-    if (!A::isList && disjoint(extentOf(results, count * sizeof(Real32)), extentOfAll(a, 6, 6, count)))
-        for (; n + four <= count; n += four) normOfBlock<true>(a, n, fixed<6>, results);
-    while (n < count) {
-        if (A::isList && count - n >= four && mayWorkBlock(n)) {
-            normOfBlock<true>(a, n, fixed<6>, results);
-            n += four;
-        } else
-            for (const std::size_t end = count - n < four ? count : n + four; n < end; ++n) {
-                if (a.listHasNull(n)) return vonkErrNullPtr;
-                normOfOne(a, n, fixed<6>, results);
-            }
+    for (std::size_t n = 0; n < count;) {
+        n += forEachBlock(count - n, true,
+                          [&](auto width, std::size_t k) VONKK3_INLINED { return workBlock(width, n + k); });
+        for (const std::size_t end = count - n < four ? count : n + four; n < end; ++n) {
+            if (a.listHasNull(n)) return vonkErrNullPtr;
+            normOfOne(a, n, fixed<6>, results);
+        }
     }
     return vonkOk;
 }

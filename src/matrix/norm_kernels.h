@@ -13,7 +13,7 @@ VONKK3_INLINE __m128 add(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
 VONKK3_INLINE __m128 square(__m128 a) { return _mm_mul_ps(a, a); }
 
 // Lanes 0 and 2, 1 and 3 of two registers, each pair beside its counterpart: what a sum of halves adds.
-VONKK3_INLINE __m128 addHalves(__m128 a, __m128 b) { return add(_mm_movelh_ps(a, b), _mm_movehl_ps(b, a)); }
+template <class Lanes> VONKK3_INLINE Lanes addHalves(Lanes a, Lanes b) { return lowPairs(a, b) + highPairs(a, b); }
 VONKK3_INLINE __m128 lane1(__m128 lanes) { return pick<1, 1, 1, 1>(lanes, lanes); }
 VONKK3_INLINE __m128 lane2(__m128 lanes) { return _mm_movehl_ps(lanes, lanes); }
 
@@ -55,17 +55,23 @@ VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<5>) {
 
 // Columns 0 to 3: cj = ((p0j + p1j) + (p2j + p3j)) + (p4j + p5j). Columns 4 and 5: ((p0j + p2j) + p4j) + ((p1j + p3j) +
 // p5j), in lanes as c4, c5 of the even rows and c4, c5 of the odd ones. ((c0 + c2) + (c1 + c3)) + (c4 + c5)
-VONKK3_INLINE __m128 headsOfSix(const RowsView<const Real32> &a) {
-    return add(firstFourRows<6>(a), add(loadSquares<6>(a, 4), loadSquares<6>(a, 5)));
+template <class Head> VONKK3_INLINE auto headsOfSix(const Head &head) { // of row i
+    const auto p = [&](std::size_t i) VONKK3_INLINED { return head(i) * head(i); };
+    return ((p(0) + p(1)) + (p(2) + p(3))) + (p(4) + p(5));
 }
-VONKK3_INLINE __m128 tailsOfSix(const RowsView<const Real32> &a) {
-    const auto twoRows = [&](std::size_t i)
-                             VONKK3_INLINED { return square(_mm_loadh_pi(load2(a.at(i, 4)), pair(a.at(i + 1, 4)))); };
-    return add(add(twoRows(0), twoRows(2)), twoRows(4));
+template <class Tails> VONKK3_INLINE auto tailsOfSix(const Tails &tails) { // of rows i and i + 1
+    const auto p = [&](std::size_t i) VONKK3_INLINED { return tails(i) * tails(i); };
+    return (p(0) + p(2)) + p(4);
+}
+VONKK3_INLINE __m128 headOfSix(const RowsView<const Real32> &a, std::size_t i) { return load4(a.at(i, 0)); }
+VONKK3_INLINE __m128 twoTailsOfSix(const RowsView<const Real32> &a, std::size_t i) {
+    return _mm_loadh_pi(load2(a.at(i, 4)), pair(a.at(i + 1, 4)));
 }
 
 VONKK3_INLINE __m128 sumOfSquares(const RowsView<const Real32> &a, Fixed<6>) {
-    return _mm_add_ss(sumOfFour(headsOfSix(a)), sumOfFour(tailsOfSix(a)));
+    const __m128 heads = headsOfSix([&](std::size_t i) VONKK3_INLINED { return headOfSix(a, i); });
+    const __m128 tails = tailsOfSix([&](std::size_t i) VONKK3_INLINED { return twoTailsOfSix(a, i); });
+    return _mm_add_ss(sumOfFour(heads), sumOfFour(tails));
 }
 
 // ---- Four objects, one per lane -------------------------------------------------------------------------------------
@@ -101,15 +107,18 @@ template <bool, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &v
     return addNeighbours(low, high);
 }
 
-// The order of one object, four times over.
-template <bool, class ViewOf> VONKK3_INLINE __m128 sumsOfSquares(const ViewOf &view, Fixed<6>) {
-    const auto twoObjects = [&](auto parts, std::size_t k)
-                                VONKK3_INLINED { return addHalves(parts(view(k)), parts(view(k + 1))); };
-    const auto heads = [](const auto &a) VONKK3_INLINED { return headsOfSix(a); };
-    const auto tails = [](const auto &a) VONKK3_INLINED { return tailsOfSix(a); };
-    const __m128 low = twoObjects(heads, 0), lowTails = twoObjects(tails, 0);
-    const __m128 high = twoObjects(heads, 2), highTails = twoObjects(tails, 2);
-    return add(addNeighbours(low, high), addNeighbours(lowTails, highTails));
+// The order of one object, for as many as the register has lanes.
+template <std::size_t width, class ViewOf> VONKK3_INLINE Register<width> sumsOfSquaresOfSix(const ViewOf &view) {
+    const auto ofObjects = [&](std::size_t k, const auto &part) VONKK3_INLINED { // k of every quad
+        return [&view, &part, k](std::size_t i) VONKK3_INLINED {
+            return ofQuads<Register<width>>([&](std::size_t q) VONKK3_INLINED { return part(view(4 * q + k), i); });
+        };
+    };
+    const auto heads = [&](std::size_t k) VONKK3_INLINED { return headsOfSix(ofObjects(k, headOfSix)); };
+    const auto tails = [&](std::size_t k) VONKK3_INLINED { return tailsOfSix(ofObjects(k, twoTailsOfSix)); };
+    const auto low = addHalves(heads(0), heads(1)), lowTails = addHalves(tails(0), tails(1));
+    const auto high = addHalves(heads(2), heads(3)), highTails = addHalves(tails(2), tails(3));
+    return addNeighbours(low, high) + addNeighbours(lowTails, highTails);
 }
 
 } // namespace vonkk3::matrix
