@@ -1,5 +1,5 @@
 #!/bin/sh
-# Which lines of src/ the tests reach: all test programs, the bits, the comparison with the model and the fuzzer's corpus,
+# Which lines of src/ the tests reach: vonkk3_tests, steered_test, the bits, the comparison with the model and the fuzzer's corpus,
 # on the library as Clang builds it with counters; and, where this processor runs it, the library for x86-64-v3 by all of
 # these but the test programs. Prints a table by folder, then every line that nothing reached with its reason out of
 # tests/unreached.txt.

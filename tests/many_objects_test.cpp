@@ -225,8 +225,6 @@ TEST(ManyObjects, AreMultipliedIntoCloserObjectsOfTheSamePositions) {
     }
 }
 
-// The first position of the objects lies on the table: what is copied there is what stands there, but for the last
-// object, which gets another address, or its lower half, for the table's last entry: its last element comes from there.
 // Long arrays are worked in blocks, position by position: far and near objects, and counts at the ends of blocks.
 TEST(ManyObjects, AreAddedInBlocksThatLeaveNoneOut) {
     for (const std::int32_t step : {4, 12, 600})
@@ -246,6 +244,8 @@ TEST(ManyObjects, AreAddedInBlocksThatLeaveNoneOut) {
         }
 }
 
+// The first position of the objects lies on the table: what is copied there is what stands there, but for the last
+// object, which gets another address, or its lower half, for the table's last entry: its last element comes from there.
 TEST(ManyObjects, MayBeCopiedOntoTheTableTheyAreReadThrough) {
     expectSameObjectByObject([](Arena &arena, std::int32_t n, std::uint32_t count) {
         static_assert(sizeof(void *) >= sizeof(float), "an entry is as long as two elements, or one");

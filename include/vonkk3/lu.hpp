@@ -46,92 +46,6 @@ template <class V> constexpr bool is_square() {
     return may_equal(V::fixed_rows, V::fixed_columns);
 }
 
-template <bool Exact, class A, class P, class D> Status lu(const A &a, P &&pivots, const D &d, Size &failed);
-
-// Row i of object n, to or from contiguous elements.
-template <Size Order, class V> void load_row(const V &v, Size n, Size i, float *row) {
-    if constexpr (strided(V::layout) != V::layout) std::memcpy(row, v.at(n, i, 0), Order * sizeof(float));
-    else
-        for (Size j = 0; j < Order; ++j) row[j] = *v.at(n, i, j);
-}
-template <Size Order, class V> void store_row(const V &v, Size n, Size i, const float *row) {
-    if constexpr (strided(V::layout) != V::layout) std::memcpy(v.at(n, i, 0), row, Order * sizeof(float));
-    else
-        for (Size j = 0; j < Order; ++j) *v.at(n, i, j) = row[j];
-}
-
-// Decomposes float matrices of order 3 to 6 many at a time. The call for an array checks the last pivot of object n,
-// which lies in row r, not there but n Order elements further on: of packed objects at
-//
-//     n Order^2 + r Order + (Order - 1) + n Order.
-//
-// From object Order on that is past the object, whatever r: in one that is not written yet, or past them all. There all
-// elements are 1, which passes. The objects before are identities, whose last row is row Order - 1, and it is the same
-// for them. The last pivots themselves are checked here.
-template <Size Order> class LuBlock {
-public:
-    static constexpr Size most = 32, worthwhile = 8; // objects
-
-    LuBlock() {
-        for (Size n = 0; n < ahead; ++n)
-            for (Size i = 0; i < Order; ++i)
-                for (Size j = 0; j < Order; ++j) source_[(n * Order + i) * Order + j] = i == j ? 1.0F : 0.0F;
-    }
-
-    // False if one of them cannot be decomposed.
-    template <class A> bool decompose(const A &a) {
-        for (Size n = 0; n < a.count(); ++n) {
-            if (a[n].data() == nullptr) return false;
-            for (Size i = 0; i < Order; ++i) load_row<Order>(a, n, i, source_ + ((ahead + n) * Order + i) * Order);
-        }
-        for (float &element : factors_) element = 1;
-        const Size count = ahead + a.count();
-        Size ignored = 0;
-        const Status status = lu<true>(Matrices<const float, Order, Order>(source_, count), pivots_,
-                                       Matrices<float, Order, Order>(factors_, count), ignored);
-        bool all_pass = status.ok();
-        for (Size n = 0; n < a.count(); ++n) { // a NaN does not
-            const float last = factors(n)[pivots(n)[Order - 1] * Order + Order - 1];
-            all_pass = all_pass && (last >= 0x1p-23F || last <= -0x1p-23F);
-        }
-        return all_pass;
-    }
-
-    const float *factors(Size n) const { return factors_ + (ahead + n) * area; }
-    const std::uint32_t *pivots(Size n) const { return pivots_ + (ahead + n) * Order; }
-
-private:
-    static constexpr Size area = Order * Order, ahead = Order, objects = ahead + most;
-    float source_[objects * area], factors_[(objects - 1) * (area + Order) + area];
-    std::uint32_t pivots_[objects * Order];
-};
-
-// Objects through tables are decomposed one by one.
-template <class A, class D> constexpr bool in_blocks() {
-    return std::is_same_v<Plain<A>, float> && A::is_fixed && A::fixed_rows >= 3 && A::fixed_rows <= 6 && !A::is_table &&
-           !D::is_table;
-}
-
-// take(block, first, count) for what has been decomposed together, which is false if it cannot be used; else single(n),
-// up to the first that fails.
-template <Size Order, class A, class Take, class Single>
-Status each_in_blocks(const A &a, Size &failed, const Take &take, const Single &single) {
-    using Block = LuBlock<Order>;
-    failed = 0;
-    if (a.count() >= Block::worthwhile) {
-        Block block;
-        while (failed < a.count()) {
-            const Size first = failed, count = a.count() - first < Block::most ? a.count() - first : Block::most;
-            if (block.decompose(a.slice(first, count)) && take(block, first, count)) failed += count;
-            else
-                for (; failed < first + count; ++failed)
-                    if (const Status status = single(failed); !status.ok()) return status;
-        }
-        return {};
-    }
-    return each(a.count(), failed, single);
-}
-
 template <bool Exact, class A, class P, class D>
 VONKK3_INLINE Status lu(const A &a, P &&pivots, const D &d, Size &failed) {
     using Group = exports::LUDecomp<kind_of<A>()>;
@@ -148,24 +62,11 @@ VONKK3_INLINE Status lu(const A &a, P &&pivots, const D &d, Size &failed) {
             return invoke<Call>(a, rows.data, d, open_size<Call>(Number{order}), objects<Call>(d.count()));
         } else {
             if (a.data() == nullptr || d.data() == nullptr || rows.data == nullptr) return vonkErrNullPtr;
-            // The call for an array checks the last pivots at other places.
-            const auto single = [&](Size n) {
+            // The call for an array checks the last pivots at other places, so every object has its own.
+            return each(d.count(), failed, [&](Size n) {
                 Size ignored = 0;
                 return lu<false>(a[n], rows.data + std::size_t(n) * order, d[n], ignored);
-            };
-            if constexpr (in_blocks<A, D>()) {
-                const auto take = [&](const auto &block, Size first, Size count) {
-                    for (Size n = 0; n < count; ++n)
-                        if (d[first + n].data() == nullptr) return false;
-                    for (Size n = 0; n < count; ++n)
-                        for (Size i = 0; i < A::fixed_rows; ++i)
-                            store_row<A::fixed_rows>(d, first + n, i, block.factors(n) + i * A::fixed_rows);
-                    std::memcpy(rows.data + std::size_t(first) * order, block.pivots(0),
-                                std::size_t(count) * order * sizeof(std::uint32_t));
-                    return true;
-                };
-                return each_in_blocks<A::fixed_rows>(a, failed, take, single);
-            } else return each(d.count(), failed, single);
+            });
         }
     } else return vonkErrSize;
 }
@@ -187,6 +88,83 @@ VONKK3_INLINE Status lu_solve(const F &f, P &&pivots, const B &b, const D &d) {
             return invoke<Call>(Shared<F>{f}, rows.data, b, d, length, objects<Call>(d.count()));
         else return invoke<Call>(f, rows.data, b, d, length, objects<Call>(d.count()));
     } else return vonkErrSize;
+}
+
+// Decomposes float matrices of one order many at a time. The call for an array checks for object n not the last pivot,
+// which lies in a row r, but the element n Order columns further on, of packed objects at
+//
+//     n Order^2 + r Order + (Order - 1) + n Order.
+//
+// From object Order on that is past the object, whatever r: in one that is not written yet, or past them all, where all
+// elements are 1 here. Before come as many identities: of the first it is the last pivot, 1, and of the others, where r
+// is Order - 1, it lies past the object, too. The last pivots themselves are checked here.
+template <Size Order> class LuBlock {
+public:
+    static constexpr Size most = 32, worthwhile = 32; // objects
+
+    LuBlock() {
+        for (Size n = 0; n < ahead; ++n)
+            for (Size i = 0; i < Order; ++i)
+                for (Size j = 0; j < Order; ++j) source_[(n * Order + i) * Order + j] = i == j ? 1.0F : 0.0F;
+    }
+
+    // False if one of them cannot be decomposed.
+    template <class A> bool decompose(const A &a) {
+        const Size count = ahead + a.count();
+        for (Size n = 0; n < a.count(); ++n) {
+            if (a[n].data() == nullptr) return false;
+            float *const to = source_ + (ahead + n) * area;
+            for (Size i = 0; i < Order; ++i) // elements lie at any address
+                if constexpr (strided(A::layout) != A::layout)
+                    std::memcpy(to + i * Order, a.at(n, i, 0), Order * sizeof(float));
+                else
+                    for (Size j = 0; j < Order; ++j) std::memcpy(to + i * Order + j, a.at(n, i, j), sizeof(float));
+        }
+        for (Size k = 0; k < (count - 1) * (area + Order) + area; ++k) factors_[k] = 1;
+        Size ignored = 0;
+        if (!lu<true>(Matrices<const float, Order, Order>(source_, count), pivots_,
+                      Matrices<float, Order, Order>(factors_, count), ignored)
+                 .ok())
+            return false;
+        bool all_pass = true;
+        for (Size n = 0; n < a.count(); ++n) { // by bits: 2^-23 to infinity, whatever the compiler thinks of NaNs
+            std::uint32_t bits;
+            std::memcpy(&bits, factors(n) + pivots(n)[Order - 1] * Order + Order - 1, sizeof bits);
+            bits &= 0x7fffffff;
+            all_pass = all_pass && bits >= 0x34000000 && bits <= 0x7f800000;
+        }
+        return all_pass;
+    }
+
+    const float *factors(Size n) const { return factors_ + (ahead + n) * area; }
+    const std::uint32_t *pivots(Size n) const { return pivots_ + (ahead + n) * Order; }
+
+private:
+    static constexpr Size area = Order * Order, ahead = Order, objects = ahead + most;
+    float source_[objects * area], factors_[(objects - 1) * (area + Order) + area];
+    std::uint32_t pivots_[objects * Order];
+};
+
+// Smaller matrices gain nothing.
+template <class A> constexpr bool in_blocks() {
+    return std::is_same_v<Plain<A>, float> && A::is_fixed && A::fixed_rows >= 4 && A::fixed_rows <= 6 && !A::is_table;
+}
+
+// take(block, first, count) for what has been decomposed together, which is false if it cannot be used; else single(n),
+// up to the first that fails.
+template <Size Order, class A, class Take, class Single>
+Status each_in_blocks(const A &a, Size &failed, const Take &take, const Single &single) {
+    using Block = LuBlock<Order>;
+    if (a.count() < Block::worthwhile) return each(a.count(), failed, single);
+    Block block;
+    for (failed = 0; failed < a.count();) {
+        const Size first = failed, count = a.count() - first < Block::most ? a.count() - first : Block::most;
+        if (block.decompose(a.slice(first, count)) && take(block, first, count)) failed += count;
+        else
+            for (; failed < first + count; ++failed)
+                if (const Status status = single(failed); !status.ok()) return status;
+    }
+    return {};
 }
 
 template <class A, class B, class D> VONKK3_INLINE Status solve(const A &a, const B &b, const D &d, Size &failed) {
@@ -215,7 +193,7 @@ template <class A, class B, class D> VONKK3_INLINE Status solve(const A &a, cons
                 if (const Status status = lu<false>(a[n], pivots, f, none); !status.ok()) return status;
                 return lu_solve<false>(f, pivots, nth(b, n), d[n]);
             };
-            if constexpr (in_blocks<A, D>() && B::is_array && !B::is_table && !B::is_list && !D::is_list) {
+            if constexpr (in_blocks<A>() && B::is_array && !B::is_table && !B::is_list && !D::is_list) {
                 const auto take = [&](const auto &block, Size first, Size count) {
                     return lu_solve<false>(Matrices<const float, order, order>(block.factors(0), count),
                                            block.pivots(0), b.slice(first, count), d.slice(first, count))
@@ -264,9 +242,8 @@ template <class A, class D, class X> VONKK3_INLINE Status inverse(const A &a, co
 /// LU factors with partial pivoting: rows are not moved, pivots[k] says in which row of dst logical row k lies, and
 /// vonk::lu_solve wants both as they are. `pivots`: order uint32_t per object, packed, as a pointer or a container.
 ///
-/// Of arrays every last pivot is checked where it lies, and nothing is asked of what dst holds before: float matrices
-/// of order 3 to 6, if they are many, go through a workspace on the stack, 32 at a time, all others are decomposed
-/// object by object. exact::lu is the one call for the array, whose check looks elsewhere.
+/// Arrays are decomposed object by object, so that every last pivot is checked where it lies, and nothing is asked of
+/// what dst holds before; exact::lu is the one call for the array, whose check looks elsewhere.
 ///
 /// Errors: vonkErrSingular if a pivot is below 2^-23 = 1.19e-7, an absolute bound (objects before it are complete,
 /// later ones untouched); vonkErrSize, vonkErrNullPtr. Overlap: dst may be a (in place), with the same strides; pivots
@@ -288,8 +265,9 @@ template <class F, class P, class B, class D> VONKK3_INLINE Status lu_solve(F &&
 }
 
 /// x = the solution of a x = b, by LU decomposition, with the factors on the stack: of fixed sizes up to 32. One
-/// system, one matrix with many right-hand sides, or one matrix for each object, worked as by vonk::lu. Errors as of
-/// vonk::lu. x must not overlap a source.
+/// system, one matrix with many right-hand sides, or one matrix for each object; object by object, but 32 and more
+/// float systems of order 4 to 6, in the standard and strided layouts, 32 at a time with the same results, in up to 13
+/// KiB of stack. Errors as of vonk::lu. x must not overlap a source.
 template <class A, class B, class D> VONKK3_INLINE Status solve(A &&a, B &&b, D &&x) {
     Size failed = 0;
     return detail::solve(detail::operand(a), detail::operand(b), detail::operand(x), failed);

@@ -359,7 +359,7 @@ template <typename T> void det(char **data, const Size *dimensions, const Size *
 // ---- LU decomposition
 //
 // The array forms check the last pivot of an object at another place, so each matrix is decomposed by a single call;
-// but for float matrices of order 3 to 6, which go through a workspace in which that place holds a 1.
+// but for many float systems of order 4 to 6, which go through a workspace in which that place holds a 1.
 
 // The library refuses a pivot below 2^-23. Scaled to 2^luTarget, that is 2^-23 of the largest elements in float32 and
 // 2^-48 in float64, both a little above the rounding errors of an elimination.
@@ -392,14 +392,15 @@ template <typename T> std::int32_t decompose(const View &a, T *factors, std::uin
     return ok;
 }
 
-// Of many at a time. The array form checks the last pivot of object n, in its row r, n * order elements further on: of
-// packed objects at n order^2 + r order + (order - 1) + n order. From object `order` on that is past the object, in one
-// that is not written yet or past them all; and for identities, which are the objects before.
+// Many at a time. The array form checks for object n not the last pivot, which lies in a row r, but the element n order
+// columns further on, of packed objects at n order^2 + r order + (order - 1) + n order. From object `order` on that is
+// past the object, in one that is not written yet or past them all, where all elements are 1 here. Before come as many
+// identities: of the first it is the last pivot, 1, and of the others it lies past the object, too.
 class LuBlock {
 public:
-    static constexpr Size most = 32, least = 8; // matrices
+    static constexpr Size most = 32, least = 32; // matrices
     static constexpr bool takes(const View &a, Size count) {
-        return a.rows >= 3 && a.rows <= 6 && count >= least && count <= most;
+        return a.rows >= 4 && a.rows <= 6 && count >= least && count <= most;
     }
 
     // The factors of `count` matrices and their pivots, packed; false if one of them cannot be decomposed.
@@ -461,24 +462,19 @@ template <typename T> void lu(char **data, const Size *dimensions, const Size *s
     const View pivots = arguments.vector(n, sizeof(std::uint32_t));
     const Status status(arguments.scalar(sizeof(std::int32_t)));
     if (n == 0) return status.succeed(0, arguments.count);
-    const Size block = objectsOfBlock(n * n);
-    Room<T> room(block * n * n);
-    Room<std::uint32_t> places(block * n);
-    std::array<std::int32_t, blockOfObjects> outcome;
-    for (Size start = 0; start < arguments.count; start += block) {
-        const Size run = std::min(block, arguments.count - start);
-        decomposeEach(a.from(start), run, room.data(), places.data(), outcome.data());
-        for (Size k = 0; k < run; ++k) {
-            T *const from = room.data() + k * n * n;
-            std::uint32_t *const rows = places.data() + k * n;
-            status.set(start + k, outcome[static_cast<std::size_t>(k)]);
-            if (outcome[static_cast<std::size_t>(k)] != ok) {
-                std::fill_n(from, n * n, nan<T>);
-                for (Size i = 0; i < n; ++i) rows[i] = u(i);
-            }
-            unpack(from, factors.from(start + k));
-            unpack(rows, pivots.from(start + k));
+    const bool packed = factors.packed();
+    Room<T> room(packed ? 0 : n * n);
+    Room<std::uint32_t> places(n);
+    for (Size k = 0; k < arguments.count; ++k) {
+        T *const to = packed ? p<T>(factors.from(k)) : room.data();
+        const std::int32_t done = decompose(a.from(k), to, places.data());
+        status.set(k, done);
+        if (done != ok) {
+            std::fill_n(to, n * n, nan<T>);
+            for (Size i = 0; i < n; ++i) places.data()[i] = u(i);
         }
+        if (!packed) unpack(to, factors.from(k));
+        unpack(places.data(), pivots.from(k));
     }
 }
 

@@ -410,7 +410,7 @@ inline bool isAnyNegative(Addresses<4> lanes) { return _mm256_movemask_pd(__m256
 #endif
 
 // Whether each of more entries than there are lanes leads so many bytes, or more, beyond the one before it: the
-// distance is then not negative, and neither is what it has more than the least.
+// distance is then not negative, and neither is distance - least.
 template <std::size_t lanes>
 VONKK3_INLINE bool doStepsReach(const std::byte *entries, std::size_t positions, std::uint64_t least) {
     const auto load = [&](std::size_t k) VONKK3_INLINED { // entries k to k + lanes - 1
@@ -426,7 +426,7 @@ VONKK3_INLINE bool doStepsReach(const std::byte *entries, std::size_t positions,
     return !isAnyNegative(negative);
 }
 
-// The same of any number.
+// The same for any number of entries.
 inline bool doStepsReach(const EntriesRead &read, Distance least) {
     const std::size_t positions = read.positions;
     if (sizeof(void *) == sizeof(std::uint64_t) && read.step == sizeof(void *)) {

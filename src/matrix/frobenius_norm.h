@@ -98,6 +98,10 @@ template <class A> VONKK3_INLINE VonkStatus normsOfSix(const A &a, std::byte *re
         !A::isList && disjoint(extentOf(results, count * sizeof(Real32)), extentOfAll(a, 6, 6, count));
     const auto workBlock = [&](auto width, std::size_t first) VONKK3_INLINED {
         const Extent written = extentOf(results + first * sizeof(Real32), width * sizeof(Real32));
+        if constexpr (A::isList) {
+            const Address entries = a.address() + first * sizeof(void *);
+            if (!disjoint(written, {entries, entries + width * sizeof(void *)})) return false;
+        }
         for (std::size_t n = first; !areClear && n < first + width; ++n)
             if (a.listHasNull(n) || !disjoint(written, extentOf(a.view(n), 6, 6))) return false;
         const auto view = [&](std::size_t k) VONKK3_INLINED { return a.view(first + k); };
