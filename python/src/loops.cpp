@@ -359,7 +359,7 @@ template <typename T> void det(char **data, const Size *dimensions, const Size *
 // ---- LU decomposition
 //
 // The array forms check the last pivot of an object at another place, so each matrix is decomposed by a single call;
-// but for many float systems of order 4 to 6, which go through a workspace in which that place holds a 1.
+// but for many float systems of order 5 and 6, which go through a workspace in which that place holds a 1.
 
 // The library refuses a pivot below 2^-23. Scaled to 2^luTarget, that is 2^-23 of the largest elements in float32 and
 // 2^-48 in float64, both a little above the rounding errors of an elimination.
@@ -400,7 +400,7 @@ class LuBlock {
 public:
     static constexpr Size most = 32, least = 32; // matrices
     static constexpr bool takes(const View &a, Size count) {
-        return a.rows >= 4 && a.rows <= 6 && count >= least && count <= most;
+        return a.rows >= 5 && a.rows <= 6 && count >= least && count <= most;
     }
 
     // The factors of `count` matrices and their pivots, packed; false if one of them cannot be decomposed.

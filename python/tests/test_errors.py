@@ -116,6 +116,22 @@ def test_what_is_badly_conditioned_is_solved_and_what_is_singular_is_not():
             assert (function(singular, status=True)[1] == -10).mean() >= 0.95, function
 
 
+@pytest.mark.parametrize("n", [3, 4, 5, 6])
+def test_many_systems_are_solved_like_each_by_itself(n, dtype):
+    """Whatever rows hold the pivots, and beside matrices that are singular, have tiny numbers or none."""
+    rng = np.random.default_rng(n)
+    a = rng.integers(-3, 4, size=(150, n, n)).astype(dtype)
+    a[::7] = np.roll(np.eye(n, dtype=dtype), 1, axis=0)
+    a[40:60] *= dtype(1e-12)
+    a[100], a[101] = 0, np.nan
+    b = rng.normal(size=(150, n)).astype(dtype)
+    together, status = vonkk3.solve(a, b, status=True)
+    each = [vonkk3.solve(a[k], b[k], status=True) for k in range(150)]
+    assert status.tolist() == [int(s) for _, s in each]
+    assert together.tobytes() == np.array([x for x, _ in each]).tobytes()
+    assert status[100] == status[101] == -10 and (status == 0).sum() > 100
+
+
 def test_a_permutation_is_regular_anywhere_in_an_array(dtype):
     """Where the library's array form would look at another element of the destination."""
     a = np.tile(np.eye(3, dtype=dtype), (7, 1, 1))
