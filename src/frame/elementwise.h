@@ -81,6 +81,19 @@ template <class T, class Words> VONKK3_INLINE auto objectsByElement(const Words 
     else return StridedObjects<T>(words);
 }
 
+// An object of fixed size, from one row to the next by a pointer for each operand. It is hidden from the compiler,
+// which would compute an address for every element and run out of registers.
+template <class Operation, std::size_t rows, std::size_t columns, class T, class... Sources>
+VONKK3_INLINE void workRowByRow(const Operation &operation, Fixed<rows>, Fixed<columns>, StridedView<T> d,
+                                StridedView<Sources>... sources) {
+    const auto advance = [](auto &row) VONKK3_INLINED { row.base = opaque(row.base + row.rowStride); };
+    forEachBelow<rows>([&](std::size_t i) VONKK3_INLINED {
+        if (i != 0) advance(d), (advance(sources), ...);
+        forEachBelow<columns>([&](std::size_t j)
+                                  VONKK3_INLINED { d.store(j, elementOf<T>(operation, sources.load(j)...)); });
+    });
+}
+
 // Whether the entries of lists are tested object by object.
 enum class Entries { tested, trusted };
 
@@ -88,19 +101,23 @@ template <class T, Entries entries, class Rows, class Columns, class Operation, 
 VONKK3_SHARED VonkStatus workObjects(const Operation &shared, Rows rows, Columns columns, std::size_t count,
                                      const Destination &dst, const Sources &...src) {
     const Operation operation = shared; // a local copy stays in registers
+    constexpr bool isFixed = Columns::isFixed && Rows::isFixed;
+    constexpr bool anyTable = (areOfTable<Destination> || ... || areOfTable<Sources>);
+    const auto entriesToRow = [&](const auto &words) VONKK3_INLINED {
+        using Words = std::remove_cvref_t<decltype(words)>;
+        if constexpr (isFixed) return areOfTransposedTable<Words> ? Rows::value : Columns::value;
+        else return std::size_t(std::uint32_t(words.elementStride));
+    };
+    const auto work = [&](const auto &d, const auto &...sources) VONKK3_INLINED {
+        if constexpr (isFixed && !anyTable) workRowByRow(operation, rows, columns, d, sources...);
+        else workElements<false>(d, rows, columns, operation, sources...);
+    };
     const auto walk = [&](const auto &d, const auto &...sources) VONKK3_INLINED {
         for (std::size_t n = 0; n < count; ++n) {
             if constexpr (entries == Entries::tested)
                 if ((sources.listHasNull(n) || ...) || d.listHasNull(n)) [[unlikely]]
                     return vonkErrNullPtr;
-            const auto entriesToRow = [&](const auto &words) VONKK3_INLINED {
-                using Words = std::remove_cvref_t<decltype(words)>;
-                if constexpr (Columns::isFixed && Rows::isFixed)
-                    return areOfTransposedTable<Words> ? Rows::value : Columns::value;
-                else return std::size_t(std::uint32_t(words.elementStride));
-            };
-            workElements<false>(d.view(n, entriesToRow(dst)), rows, columns, operation,
-                                sources.view(n, entriesToRow(src))...);
+            work(d.view(n, entriesToRow(dst)), sources.view(n, entriesToRow(src))...);
         }
         return vonkOk;
     };
