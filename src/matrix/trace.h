@@ -56,6 +56,22 @@ VONKK3_INLINE Real32 sumOf(const StridedView<const Real32> &diagonal, Order orde
     return sum;
 }
 
+// The bytes from the first to the last element of a diagonal, as memory has them.
+struct DiagonalSpan {
+    std::uintptr_t lowest; // from element 0
+    Address bytes;
+
+    VONKK3_INLINE DiagonalSpan(std::ptrdiff_t stride, std::size_t order)
+        : lowest(stride < 0 ? std::uintptr_t(strides(order - 1, stride)) : 0),
+          bytes(Address(order - 1) * magnitudeOf(stride) + sizeof(Real32)) {}
+
+    VONKK3_INLINE bool holdsPartOf(const Real32 *result, const std::byte *diagonal) const {
+        constexpr std::uintptr_t others = sizeof(Real32) - 1; // bytes of the result behind its first
+        const auto first = reinterpret_cast<std::uintptr_t>(diagonal) + lowest;
+        return reinterpret_cast<std::uintptr_t>(result) - first + others < bytes + others;
+    }
+};
+
 // ---- Arrays in the pointer layout -----------------------------------------------------------------------------------
 
 // A diagonal is a column of its own.
@@ -85,17 +101,21 @@ VONKK3_INLINE VonkStatus trace(const A &a, Order order, T *results, Count count)
         return forEachObjectFrom(reduceArrays(TraceOfPacks(), reinterpret_cast<std::byte *>(results), order, fixed<1>,
                                               count, a.words(order + 1)), // from one diagonal element to the next
                                  count, one);
-    else if constexpr (sumsInRegister<T, A, Order> || (std::is_same_v<T, Real32> && A::isArray && !A::isList)) {
+    else if constexpr (sumsInRegister<T, A, Order> || (std::is_same_v<T, Real32> && A::isArray)) {
         const std::ptrdiff_t stride = a.rowSpacing() + a.elementSpacing();
         const auto diagonal = [&](std::size_t n)
                                   VONKK3_INLINED { return StridedView<const T>(a.view(n).base, 0, stride); };
-        if constexpr (!sumsInRegister<T, A, Order>) {
+        if constexpr (!sumsInRegister<T, A, Order> && !A::isList) {
             if (count == 0) return vonkOk;
             const Extent all = extentOf(diagonal(0), 1, order).extendedBy(distanceOf(count - 1, a.objectSpacing()));
             if (!disjoint(all, extentOf(results, count)))
                 return sumDiagonalsInMemory(diagonal(0), a.objectSpacing(), order, results, count), vonkOk;
         }
-        const auto inRegister = [&](std::size_t n) VONKK3_INLINED {
+        const DiagonalSpan span(stride, order);
+        const auto inRegister = [&](std::size_t n) VONKK3_INLINED -> VonkStatus {
+            if constexpr (!sumsInRegister<T, A, Order> && A::isList)
+                if (span.holdsPartOf(results + n, diagonal(n).base)) [[unlikely]]
+                    return one(n);
             const T sum = sumOf<!sumsInRegister<T, A, Order>>(diagonal(n), order);
             return storeAt<T>(reinterpret_cast<std::byte *>(results + n), sum), vonkOk;
         };
