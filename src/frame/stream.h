@@ -96,31 +96,36 @@ streamInLanes(const Operation &operation, std::byte *d, std::size_t elements, co
 
 // ---- One position of many objects -----------------------------------------------------------------------------------
 
-// An element of object after object, a stride apart. The second stride is hidden from the compiler, which would take
-// care of a stride of one byte, and else step from element to element, one waiting for the other.
+// An element of object after object, a stride apart, four at a time. The other strides are hidden from the compiler,
+// which would take care of a stride of one byte, and else step from element to element, one waiting for the other.
 template <class Byte> struct StridedElements {
     Byte *first;
-    std::ptrdiff_t stride, twice;
+    std::ptrdiff_t stride, thrice, fourfold;
 
     VONKK3_INLINE StridedElements(Byte *first, std::ptrdiff_t stride)
-        : first(first), stride(stride), twice(2 * stride) {
-        __asm__("" : "+r"(twice));
+        : first(first), stride(stride), thrice(opaque(3 * stride)), fourfold(opaque(4 * stride)) {}
+    template <std::size_t k> VONKK3_INLINE Byte *at() const {
+        return first + (k == 3 ? thrice : std::ptrdiff_t(k) * stride);
     }
-    VONKK3_INLINE Byte *second() const { return first + stride; }
-    VONKK3_INLINE void advanceByTwo() { first += twice; }
+    VONKK3_INLINE void advance() { first += stride; }
+    VONKK3_INLINE void advanceByFour() { first += fourfold; }
 };
 
 template <class Operation, class... Sources>
 VONKK3_INLINE void streamStrided(const Operation &operation, std::size_t objects, StridedElements<std::byte> d,
                                  Sources... sources) {
-    for (; objects >= 2; objects -= 2) {
+    for (; objects >= 4; objects -= 4) {
+        forEachBelow<4>([&](auto k) VONKK3_INLINED {
+            storeAt<Real32>(d.template at<k>(), operation(loadAt<Real32>(sources.template at<k>())...));
+            keepLoopPlain();
+        });
+        d.advanceByFour(), (sources.advanceByFour(), ...);
+    }
+    for (; objects != 0; --objects) {
         storeAt<Real32>(d.first, operation(loadAt<Real32>(sources.first)...));
         keepLoopPlain();
-        storeAt<Real32>(d.second(), operation(loadAt<Real32>(sources.second())...));
-        keepLoopPlain();
-        d.advanceByTwo(), (sources.advanceByTwo(), ...);
+        d.advance(), (sources.advance(), ...);
     }
-    if (objects != 0) storeAt<Real32>(d.first, operation(loadAt<Real32>(sources.first)...));
 }
 
 // A source at the position; contiguous over the objects, or single.
