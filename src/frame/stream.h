@@ -305,7 +305,12 @@ VONKK3_SHARED bool streamVectors(const Operation &shared, std::size_t count, con
                           ContiguousSource{reinterpret_cast<const std::byte *>(sources.position(0, j))}...);
         return true;
     };
-    return stream(Table(dst), Table(src)...);
+    const auto packed = [](const auto &words) VONKK3_INLINED { // which the caller knows, and so the alias test does
+        Table table(words);
+        table.step = sizeof(Real32), table.isArray = true;
+        return table;
+    };
+    return stream(packed(dst), packed(src)...);
 }
 inline constexpr std::size_t worthStreamingTables = 12, worthStreamingStrided = 48; // objects
 
