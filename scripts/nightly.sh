@@ -1,13 +1,15 @@
 #!/bin/sh
 # What takes a night: everything that the tests of a change have no time for. Writes docs/verification.md.
 #
-#     nightly.sh [--comparisons N] [STEP...]      N random comparisons, 100000000 unless told; all steps unless named:
+#     nightly.sh [--comparisons N] [--fuzz MINUTES] [STEP...]
+#
+#     N random comparisons, 100000000 unless told; 60 minutes of search on each build unless told; all steps unless named:
 #
 #     tests         scripts/test.sh
 #     compilers     the bits from GCC and Clang at -O1, -O2 and -O3
 #     levels        the bits and random calls of the library for each instruction set that this processor runs
 #     comparisons   library, for each instruction set, and model, in chunks
-#     fuzz          an hour of the coverage-guided search on each build
+#     fuzz          the coverage-guided search on each build
 #     coverage      scripts/coverage.sh
 #     threads       every export from eight threads on a library with the thread sanitizer
 #     valgrind      memory errors alone: its 80-bit arithmetic has 64 bits, so that results differ
@@ -26,12 +28,13 @@ cd "$(dirname "$0")/.."
 . scripts/levels.sh
 
 comparisons=100000000
+minutes=60
 steps=
 while [ $# -gt 0 ]; do
     case $1 in
-    --comparisons)
-        comparisons=${2:-}
-        case $comparisons in '' | *[!0-9]*) echo "nightly.sh: --comparisons takes a number" >&2; exit 2 ;; esac
+    --comparisons | --fuzz)
+        case ${2:-} in '' | *[!0-9]*) echo "nightly.sh: $1 takes a number" >&2; exit 2 ;; esac
+        case $1 in --fuzz) minutes=$2 ;; *) comparisons=$2 ;; esac
         shift
         ;;
     --help | -h)
@@ -115,7 +118,7 @@ step_comparisons() {
     done
 }
 
-step_fuzz() { for kind in sanitizers optimised; do record "fuzz-$kind" sh scripts/fuzz.sh 60 --build $kind; done; }
+step_fuzz() { for kind in sanitizers optimised; do record "fuzz-$kind" sh scripts/fuzz.sh $minutes --build $kind; done; }
 
 step_coverage() { record coverage sh scripts/coverage.sh; }
 
