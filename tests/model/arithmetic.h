@@ -3,6 +3,7 @@
 // explicit round64. Each operation reports the NaNs that it meets.
 #pragma once
 
+#include "model/grammar.h"
 #include "model/memory.h"
 
 #include <cmath>
@@ -29,6 +30,54 @@ private:
         return result;
     }
 
+    Memory &memory_;
+};
+
+// The operations of one element type on numbers in the extended type, which holds every element as it is.
+class ElementArithmetic {
+public:
+    ElementArithmetic(Element element, Memory &memory) : isReal32_(element == Element::real32), memory_(memory) {}
+
+    Wide add(Wide a, Wide b) const {
+        return inElementType(a, b, [](auto x, auto y) { return x + y; });
+    }
+    Wide subtract(Wide a, Wide b) const {
+        return inElementType(a, b, [](auto x, auto y) { return x - y; });
+    }
+    Wide multiply(Wide a, Wide b) const {
+        return inElementType(a, b, [](auto x, auto y) { return x * y; });
+    }
+    Wide divide(Wide a, Wide b) const {
+        return inElementType(a, b, [](auto x, auto y) { return x / y; });
+    }
+    Wide squareRoot(Wide a) const {
+        return inElementType(a, a, [](auto x, auto) { return std::sqrt(x); });
+    }
+    // Real32 subtracts from 0, which makes +0 of both zeros; Real64 changes the sign.
+    Wide negated(Wide a) const { return isReal32_ ? subtract(0, a) : -a; }
+    Wide squared(Wide a) const { return multiply(a, a); }
+    Wide multiplyAdd(Wide a, Wide b, Wide c) const { return add(multiply(a, b), c); } // never fused
+
+    // What a store leaves of a number, which is all of it in Real32.
+    Wide rounded(Wide number) const {
+        return isReal32_ ? static_cast<Wide>(static_cast<float>(number)) : round64(number);
+    }
+    Wide load(std::uintptr_t address) const {
+        return isReal32_ ? static_cast<Wide>(memory_.load<float>(address)) : memory_.load<double>(address);
+    }
+    void store(std::uintptr_t address, Wide number) const {
+        isReal32_ ? memory_.store(address, static_cast<float>(number)) : memory_.store(address, round64(number));
+    }
+
+private:
+    template <class Operation> Wide inElementType(Wide a, Wide b, Operation operation) const {
+        const Wide result =
+            isReal32_ ? static_cast<Wide>(operation(static_cast<float>(a), static_cast<float>(b))) : operation(a, b);
+        if (std::isnan(a) || std::isnan(b) || std::isnan(result)) memory_.markNan();
+        return result;
+    }
+
+    bool isReal32_;
     Memory &memory_;
 };
 

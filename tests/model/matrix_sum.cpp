@@ -124,8 +124,8 @@ std::uintptr_t MatrixSum::place(const FactorMatrix &source, std::uint64_t n, std
     if (isDifference() && form_.size == 6 && form_.group == "mTmT" && i == 3) return source.element(n, 2, j);
     if (isDifference() && form_.size == 6 && form_.group == "maTmaT") {
         const char *const cell = strayCells[i][j];
-        return source.stored.element(n, static_cast<std::uint64_t>(cell[0] - '0'),
-                                     static_cast<std::uint64_t>(cell[1] - '0'));
+        return source.stored.stored(n, static_cast<std::uint64_t>(cell[0] - '0'),
+                                    static_cast<std::uint64_t>(cell[1] - '0'));
     }
     return source.element(n, i, j);
 }

@@ -102,7 +102,7 @@ Status extract(const Execution &execution) {
     for (std::uint32_t n = 0; n < count; ++n)
         for (std::uint32_t i = 0; i < rows; ++i)
             for (std::uint32_t j = 0; j < columns; ++j, to += form.elementSize())
-                moveElement(execution.memory, form, to, swaps ? src.element(n, j, i) : src.element(n, i, j));
+                moveElement(execution.memory, form, to, swaps ? src.stored(n, j, i) : src.stored(n, i, j));
     return statusOk;
 }
 

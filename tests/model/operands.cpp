@@ -55,9 +55,9 @@ std::uintptr_t Operand::throughSlot(std::uint64_t n, std::uint64_t slot) const {
     return loadEntry(slot) + shift + n * objectStride;
 }
 
-std::uintptr_t Operand::element(std::uint64_t n, std::uint64_t i, std::uint64_t j) const {
-    if (isPointerLayout(layout)) return throughSlot(n, i * columns + j);
-    const std::uint64_t inObject = i * rowStride + j * elementStride;
+std::uintptr_t Operand::stored(std::uint64_t n, std::uint64_t row, std::uint64_t column) const {
+    if (isPointerLayout(layout)) return throughSlot(n, row * columns + column);
+    const std::uint64_t inObject = row * rowStride + column * elementStride;
     if (isList()) return loadEntry(n) + shift + inObject;
     return base + n * objectStride + inObject;
 }

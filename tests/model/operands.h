@@ -45,10 +45,18 @@ struct Operand {
     std::uint64_t rowStride;
     std::uint64_t elementStride;
     std::uint64_t columns; // entries in a row of a table of positions
+    std::uint64_t entries; // of its table that are tested
 
-    // The address of element (i, j) of object n. Reads the table entry that leads there, if one does.
-    std::uintptr_t element(std::uint64_t n, std::uint64_t i, std::uint64_t j) const;
+    bool isArray() const { return shape.isArray; }
+    bool isTransposed() const { return shape.isTransposed; }
+
+    // The address of element (i, j) of object n, in the matrix as it enters the formula: a transposed one is walked
+    // down its columns. Reads the table entry that leads there, if one does.
+    std::uintptr_t element(std::uint64_t n, std::uint64_t i, std::uint64_t j) const {
+        return isTransposed() ? stored(n, j, i) : stored(n, i, j);
+    }
     std::uintptr_t element(std::uint64_t n, std::uint64_t j) const { return element(n, 0, j); }
+    std::uintptr_t stored(std::uint64_t n, std::uint64_t row, std::uint64_t column) const;
 
     // In the layouts with a table of positions: the address to which one slot of the table leads for object n.
     std::uintptr_t throughSlot(std::uint64_t n, std::uint64_t slot) const;
@@ -56,6 +64,12 @@ struct Operand {
     bool isList() const { return isListLayout(layout) && shape.isArray; }
     std::uintptr_t loadEntry(std::uint64_t entry) const { return memory->loadEntry(base + sizeof(void *) * entry); }
     bool entryIsNull(std::uint64_t entry) const { return loadEntry(entry) == 0; }
+    // Of the entry that leads to element (i, j). A table of a transposed matrix is read as if a stored row had as many
+    // entries as the matrix has rows in the formula.
+    bool entryIsNull(std::uint64_t i, std::uint64_t j) const { return entryIsNull(entry(i, j)); }
+    std::uint64_t entry(std::uint64_t i, std::uint64_t j) const {
+        return isTransposed() ? j * columns + i : i * columns + j;
+    }
     bool anyEntryIsNull(std::uint64_t entries) const; // of the first so many
 };
 

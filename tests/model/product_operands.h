@@ -19,9 +19,7 @@ struct FactorMatrix {
 
     bool isArray() const { return stored.shape.isArray; }
     bool isTransposed() const { return stored.shape.isTransposed; }
-    std::uintptr_t element(std::uint64_t n, std::uint64_t i, std::uint64_t j) const {
-        return isTransposed() ? stored.element(n, j, i) : stored.element(n, i, j);
-    }
+    std::uintptr_t element(std::uint64_t n, std::uint64_t i, std::uint64_t j) const { return stored.element(n, i, j); }
     // In the layouts with a table of positions: which entry leads to element (i, j).
     std::uint64_t entry(std::uint64_t i, std::uint64_t j) const {
         return isTransposed() ? j * stored.columns + i : i * stored.columns + j;
