@@ -20,7 +20,6 @@ Status decomposeLu(const Execution &execution);
 Status decomposeQr(const Execution &execution);
 Status extract(const Execution &execution);
 Status loadIdentity(const Execution &execution);
-Status multiplyAndAdd(const Execution &execution);
 Status multiplyMatrices(const Execution &execution);
 Status multiplyMatrixByConstant(const Execution &execution);
 Status multiplyMatrixByVector(const Execution &execution);

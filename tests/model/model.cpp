@@ -52,7 +52,7 @@ const Family families[] = {
     {[](const Form &form) { return form.operation == "FrobNorm"; }, takeFrobeniusNorm},
     {isMatrixProduct, multiplyMatrices},
     {isMatrixByVector, multiplyMatrixByVector},
-    {[](const Form &form) { return form.operation == "Gaxpy"; }, multiplyAndAdd},
+    {[](const Form &form) { return form.operation == "Gaxpy"; }, multiplyMatrixByVector},
     {[](const Form &form) { return form.operation == "Copy"; }, copy},
     {[](const Form &form) { return form.operation == "Extract"; }, extract},
     {[](const Form &form) { return form.operation == "LoadIdentity"; }, loadIdentity},
