@@ -1,114 +1,181 @@
-// Products of matrix by matrix. At run-time size the tests of the dimensions and the scans of the tables look at other
-// words than the loops do; callers with square matrices never notice, and the mismatches stay as they are.
-#include "model/accumulation.h"
+// Products of matrix by matrix: sum over k of a(i, k) b(k, j). At run-time size the tests of the dimensions and the
+// scans of the tables look at other words than the loops do; callers with square matrices never notice, and the
+// mismatches stay as they are.
 #include "model/families.h"
-#include "model/product_kernels.h"
-#include "model/product_operands.h"
+#include "model/overlaps.h"
+#include "model/sums.h"
+
+#include <algorithm>
 
 namespace model {
 
 namespace {
 
-class MatrixProduct {
-public:
-    explicit MatrixProduct(const Execution &execution)
-        : form_(execution.form), memory_(execution.memory), columns1_(execution.dimension("src1Cols")),
-          rows1_(execution.dimension("src1Rows")), columns2_(execution.dimension("src2Cols")),
-          rows2_(execution.dimension("src2Rows")), count_(execution.count()), left_(makeFactor(execution, "src1")),
-          right_(makeFactor(execution, "src2")), dst_(execution.operand("dst", dstColumns())) {}
-
-    Status run();
-
-private:
+struct MatrixProduct : Execution {
+    std::uint64_t columns1 = dimension("src1Cols");
+    std::uint64_t rows1 = dimension("src1Rows");
+    std::uint64_t columns2 = dimension("src2Cols");
+    std::uint64_t rows2 = dimension("src2Rows");
     // The one group whose loops follow the stored shapes of its operands.
-    bool followsStoredShapes() const { return form_.group == "mmT" && form_.layout == Layout::standard; }
-    std::uint64_t dstRows() const { return rows1_; }
-    std::uint64_t dstColumns() const { return followsStoredShapes() ? rows2_ : columns2_; }
-    std::uint64_t terms() const { return followsStoredShapes() ? columns1_ : rows2_; }
+    bool followsStoredShapes = form.group == "mmT" && form.layout == Layout::standard;
+    std::uint64_t dstColumns = followsStoredShapes ? rows2 : columns2;
+    std::uint64_t terms = followsStoredShapes ? columns1 : rows2;
+    Operand left = matrix("src1", rows1, columns1);
+    Operand right = matrix("src2", rows2, columns2);
+    Operand dst = matrix("dst", rows1, dstColumns);
+    Numbers held = Numbers(36); // in rows: the second factor, six elements a row
 
-    bool anyDimensionIsZero() const;
-    bool innerDimensionsAgree() const;
-    bool testsEntries() const;
-    std::uint64_t scannedDstEntries() const;
-    bool anyTableEntryIsNull() const;
-    Status cell(std::uint64_t n, std::uint64_t i, std::uint64_t j);
-    Status objectByCells(std::uint64_t n);
+    // Three of the four dimensions are tested. The fourth mostly falls under the test for agreement, but nothing tests
+    // the columns of a single matrix behind an array.
+    bool anyDimensionIsZero() const {
+        const bool testsColumns2 = !right.isTransposed() && (left.isTransposed() || form.group == "mm");
+        return rows1 == 0 || columns1 == 0 || (testsColumns2 ? columns2 : rows2) == 0;
+    }
+    bool innerDimensionsAgree() const {
+        if (left.isTransposed()) return rows1 == (right.isTransposed() ? columns2 : rows2);
+        if (right.isTransposed()) return columns1 == columns2;
+        // An array on the right is tested as if both were transposed.
+        return right.isArray() ? rows1 == columns2 : columns1 == rows2;
+    }
 
-    const Form &form_;
-    Memory &memory_;
-    std::uint64_t columns1_;
-    std::uint64_t rows1_;
-    std::uint64_t columns2_;
-    std::uint64_t rows2_;
-    std::uint32_t count_;
-    FactorMatrix left_;
-    FactorMatrix right_;
-    Operand dst_;
+    // ---- Cell by cell
+
+    Status cell(std::uint64_t i, std::uint64_t j) {
+        if (testsEntriesAlongTheWay() && dst.entryIsNull(i, j)) return statusNullPointer;
+        CellSum sum(*this, dst.element(object, i, j));
+        for (std::uint64_t k = 0; k < terms; ++k) {
+            if (testsEntriesAlongTheWay() && (left.entryIsNull(i, k) || right.entryIsNull(k, j)))
+                return statusNullPointer;
+            const Wide product = multiply(load(left.element(object, i, k)), load(right.element(object, k, j)));
+            sum.add(dst.element(object, i, j), product);
+        }
+        return statusOk;
+    }
+    Status objectByCells() {
+        for (std::uint64_t i = 0; i < rows1; ++i)
+            for (std::uint64_t j = 0; j < dstColumns; ++j)
+                if (const Status status = cell(i, j); status != statusOk) return status;
+        return statusOk;
+    }
+
+    // ---- In rows: Real32 products of fixed order that hold the second factor, read the first one row by row, and
+    // store a row of dst when all of it is computed. An in-place call is right or wrong by what is held.
+
+    bool isOneOf(std::initializer_list<const char *> groups) const {
+        return std::ranges::any_of(groups, [&](const char *one) { return form.group == one; });
+    }
+    bool worksInRows() const {
+        if (!isReal32() || form.size == 0) return false;
+        if (isAdjacent()) return true;
+        if (form.size == 3 && isOneOf({"mam", "maTm", "mamT"})) return true;
+        if (form.layout == Layout::stridedList) return form.size == 3 && isOneOf({"maTmT"});
+        if (form.layout != Layout::strided) return false;
+        if (form.size == 3) return isOneOf({"mama", "maTmT"});
+        return form.size == 6 ? sumsInPairs() : isOneOf({"mam", "mama"});
+    }
+    // Three forms gather the second factor and take dst rows in pairs; their sums are trees.
+    bool sumsInPairs() const {
+        return form.layout == Layout::strided && form.size == 6 && isOneOf({"mm", "mmT", "mTmT"});
+    }
+    // The fifth column of order 5 runs beside the four lanes. A single second factor that needs no turning round leaves
+    // it in memory and fetches it for every row.
+    bool rereadsColumn(std::uint64_t j) const {
+        return form.size == 5 && j == 4 && !right.isTransposed() && !right.isArray();
+    }
+    // At order 6 the array forms hold all of the second factor from the start; a single product fetches what its second
+    // pass needs when the first has stored.
+    bool fetchesLastColumnsLate() const { return form.size == 6 && !form.isArray() && !sumsInPairs(); }
+
+    void hold(std::uint64_t firstColumn, std::uint64_t endOfColumns) {
+        for (std::uint64_t k = 0; k < form.size; ++k)
+            for (std::uint64_t j = firstColumn; j < endOfColumns; ++j)
+                if (!rereadsColumn(j)) held[6 * k + j] = load(right.element(object, k, j));
+    }
+    // A second factor that is not turned round can have its last columns fetched early as well as late, which shows
+    // where the first pass has stored over them. A transposed one has them in two rows of their own, which no early
+    // load touches.
+    void checkLateFetch() const {
+        Places stored, fetched;
+        for (std::uint64_t i = 0; i < 6; ++i) {
+            for (std::uint64_t j = 0; j < 4; ++j) stored.push_back(dst.element(object, i, j));
+            for (std::uint64_t j = 4; j < 6; ++j) fetched.push_back(right.element(object, i, j));
+        }
+        markOpenIf(!right.isTransposed() && anyOverlap(stored, fetched, form.elementSize()));
+    }
+
+    // Begins with the first product, so that a sum of nothing but -0 stays -0.
+    Wide ascendingSum(std::uint64_t i, std::uint64_t j) const {
+        Wide sum = 0;
+        for (std::uint64_t k = 0; k < form.size; ++k) {
+            const Wide b = rereadsColumn(j) ? load(right.element(object, k, j)) : held[6 * k + j];
+            const Wide product = multiply(load(left.element(object, i, k)), b);
+            sum = k == 0 ? product : add(sum, product);
+        }
+        return sum;
+    }
+    // One step of a kernel: nothing is stored before all of it is computed.
+    void rows(std::uint64_t firstRow, std::uint64_t endOfRows, std::uint64_t firstColumn, std::uint64_t endOfColumns) {
+        Numbers results;
+        for (std::uint64_t i = firstRow; i < endOfRows; ++i)
+            for (std::uint64_t j = firstColumn; j < endOfColumns; ++j) results.push_back(ascendingSum(i, j));
+        auto result = results.begin();
+        for (std::uint64_t i = firstRow; i < endOfRows; ++i)
+            for (std::uint64_t j = firstColumn; j < endOfColumns; ++j) store(dst.element(object, i, j), *result++);
+    }
+    // The first factor is read anew in the second pass: in place it has lost four columns by then.
+    void sixBySixInTwoPasses() {
+        for (std::uint64_t i = 0; i < 6; ++i) rows(i, i + 1, 0, 4);
+        if (fetchesLastColumnsLate()) {
+            checkLateFetch();
+            hold(4, 6);
+        }
+        for (std::uint64_t i = 0; i < 6; i += 2) rows(i, i + 2, 4, 6);
+    }
+
+    // Whether the second row of a pair is read before or after the stores of the first is free.
+    void rowPair(std::uint64_t i) {
+        Places upper, lower, stored;
+        for (std::uint64_t k = 0; k < 6; ++k) {
+            upper.push_back(left.element(object, i, k));
+            lower.push_back(left.element(object, i + 1, k));
+            stored.push_back(dst.element(object, i, k));
+        }
+        markOpenIf(anyOverlap(stored, lower, form.elementSize()));
+        Numbers results;
+        for (const Places &row : {upper, lower})
+            for (std::uint64_t j = 0; j < 6; ++j) {
+                Numbers products;
+                for (std::uint64_t k = 0; k < 6; ++k) products.push_back(multiply(load(row[k]), held[6 * k + j]));
+                results.push_back(sumAs("(0+1)+(2+3)+(4+5)", *this, products));
+            }
+        for (std::uint64_t j = 0; j < 6; ++j) store(stored[j], results[j]);
+        for (const std::uint64_t j : {4, 5, 0, 1, 2, 3}) store(dst.element(object, i + 1, j), results[6 + j]);
+    }
+    Status objectInRows() {
+        if (object == 0 || right.isArray()) hold(0, fetchesLastColumnsLate() ? 4 : form.size);
+        if (sumsInPairs()) {
+            for (std::uint64_t i = 0; i < 6; i += 2) rowPair(i);
+        } else if (form.size == 6) {
+            sixBySixInTwoPasses();
+        } else {
+            for (std::uint64_t i = 0; i < form.size; ++i) rows(i, i + 1, 0, form.size);
+        }
+        return statusOk;
+    }
+
+    Status run() {
+        if (anyDimensionIsZero() || !innerDimensionsAgree()) return statusSize;
+        // The kernels in the pointer and strided list layouts trust their tables and lists.
+        const bool testsEntries = !worksInRows() || form.layout == Layout::list;
+        dst.entries = (left.isTransposed() ? rows1 : columns1) * (right.isTransposed() ? columns2 : rows2);
+        const Operands tested = testsEntries ? Operands{&left, &right, &dst} : Operands{};
+        if (form.isArray() && hasTables() && anyTableEntryIsNull(tested)) return statusNullPointer;
+        return overObjects(tested, [&] { return worksInRows() ? objectInRows() : objectByCells(); });
+    }
 };
-
-// Three of the four dimensions are tested. The fourth mostly falls under the test for agreement, but nothing tests the
-// columns of a single matrix behind an array.
-bool MatrixProduct::anyDimensionIsZero() const {
-    const bool testsColumns2 = !right_.isTransposed() && (left_.isTransposed() || form_.group == "mm");
-    return rows1_ == 0 || columns1_ == 0 || (testsColumns2 ? columns2_ : rows2_) == 0;
-}
-
-bool MatrixProduct::innerDimensionsAgree() const {
-    if (left_.isTransposed()) return rows1_ == (right_.isTransposed() ? columns2_ : rows2_);
-    if (right_.isTransposed()) return columns1_ == columns2_;
-    // An array on the right is tested as if both were transposed.
-    return right_.isArray() ? rows1_ == columns2_ : columns1_ == rows2_;
-}
-
-// The kernels in the pointer and strided list layouts trust their tables.
-bool MatrixProduct::testsEntries() const { return !ProductKernel::serves(form_) || form_.layout == Layout::list; }
-
-std::uint64_t MatrixProduct::scannedDstEntries() const {
-    return (left_.isTransposed() ? rows1_ : columns1_) * (right_.isTransposed() ? columns2_ : rows2_);
-}
-
-bool MatrixProduct::anyTableEntryIsNull() const {
-    return left_.stored.anyEntryIsNull(columns1_ * rows1_) || right_.stored.anyEntryIsNull(columns2_ * rows2_) ||
-           dst_.anyEntryIsNull(scannedDstEntries());
-}
-
-Status MatrixProduct::cell(std::uint64_t n, std::uint64_t i, std::uint64_t j) {
-    const bool testsHere = testsEntriesAlongTheWay(form_);
-    if (testsHere && dst_.entryIsNull(i * dstColumns() + j)) return statusNullPointer;
-    CellSum sum(form_, memory_);
-    sum.clear(dst_.element(n, i, j));
-    for (std::uint64_t k = 0; k < terms(); ++k) {
-        if (testsHere && (left_.entryIsNull(i, k) || right_.entryIsNull(k, j))) return statusNullPointer;
-        sum.addProduct(dst_.element(n, i, j), left_.element(n, i, k), right_.element(n, k, j));
-    }
-    return statusOk;
-}
-
-Status MatrixProduct::objectByCells(std::uint64_t n) {
-    for (std::uint64_t i = 0; i < dstRows(); ++i)
-        for (std::uint64_t j = 0; j < dstColumns(); ++j)
-            if (const Status status = cell(n, i, j); status != statusOk) return status;
-    return statusOk;
-}
-
-Status MatrixProduct::run() {
-    if (anyDimensionIsZero() || !innerDimensionsAgree()) return statusSize;
-    const bool scansTables = form_.isArray() && isPointerLayout(form_.layout) && testsEntries();
-    if (scansTables && anyTableEntryIsNull()) return statusNullPointer;
-    ProductKernel kernel(form_, memory_, left_, right_, dst_);
-    for (std::uint64_t n = 0; n < count_; ++n) {
-        if (testsEntries() && anyListEntryIsNull({&left_.stored, &right_.stored, &dst_}, n)) return statusNullPointer;
-        if (ProductKernel::serves(form_)) kernel.object(n);
-        else if (const Status status = objectByCells(n); status != statusOk) return status;
-    }
-    return statusOk;
-}
 
 } // namespace
 
-Status multiplyMatrices(const Execution &execution) {
-    if (execution.arguments.hasNullPointer()) return statusNullPointer;
-    return MatrixProduct(execution).run();
-}
+Status multiplyMatrices(const Execution &execution) { return MatrixProduct{execution}.run(); }
 
 } // namespace model
