@@ -7,10 +7,14 @@
 #include "model/memory.h"
 
 #include <cmath>
+#include <cstdint>
+#include <vector>
 
 namespace model {
 
 using Wide = long double;
+using Numbers = std::vector<Wide>;
+using Places = std::vector<std::uintptr_t>; // addresses of elements
 
 inline double round64(Wide value) { return static_cast<double>(value); }
 
@@ -64,6 +68,11 @@ public:
     }
     Wide load(std::uintptr_t address) const {
         return isReal32_ ? static_cast<Wide>(memory_.load<float>(address)) : memory_.load<double>(address);
+    }
+    Numbers load(const Places &places) const {
+        Numbers numbers;
+        for (const std::uintptr_t place : places) numbers.push_back(load(place));
+        return numbers;
     }
     void store(std::uintptr_t address, Wide number) const {
         isReal32_ ? memory_.store(address, static_cast<float>(number)) : memory_.store(address, round64(number));

@@ -69,18 +69,13 @@ struct MatrixWalk : Execution {
             }
         return places;
     }
-    Numbers loadAll(const Operand &source, std::uint64_t n) const {
-        Numbers elements;
-        for (const std::uintptr_t place : sourcePlaces(source, n)) elements.push_back(load(place));
-        return elements;
-    }
     void holdSingle() {
         for (const Operand &source : sources)
-            if (isHeld(source)) held = loadAll(source, 0);
+            if (isHeld(source)) held = load(sourcePlaces(source, 0));
     }
     Numbers resultsInLanes(std::uint64_t n) const {
         std::vector<Numbers> loaded;
-        for (const Operand &source : sources) loaded.push_back(isHeld(source) ? held : loadAll(source, n));
+        for (const Operand &source : sources) loaded.push_back(isHeld(source) ? held : load(sourcePlaces(source, n)));
         Numbers results;
         for (std::size_t k = 0; k < rows * columns; ++k) {
             Numbers elements;

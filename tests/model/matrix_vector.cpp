@@ -85,13 +85,8 @@ struct MatrixByVector : Execution {
     // A single operand of an array form is fetched for the first object and then held.
     Status objectInLanes() {
         checkOverlaps();
-        const auto fetch = [&](const Operand &source, std::uint64_t height, Numbers &into) {
-            if (object != 0 && !source.isArray()) return;
-            into.clear();
-            for (const std::uintptr_t place : placesOf(source, object, height, columns)) into.push_back(load(place));
-        };
-        fetch(factor, rows, matrixInLanes);
-        fetch(right, 1, vectorInLanes);
+        if (object == 0 || factor.isArray()) matrixInLanes = load(placesOf(factor, object, rows, columns));
+        if (object == 0 || right.isArray()) vectorInLanes = load(placesOf(right, object, 1, columns));
         Numbers results;
         for (std::uint64_t i = 0; i < rows; ++i) results.push_back(elementInLanes(i));
         for (std::uint64_t i = 0; i < rows; ++i) store(dst.element(object, i), results[i]);

@@ -5,11 +5,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 namespace model {
-
-using Places = std::vector<std::uintptr_t>; // addresses of elements
 
 // Those of an object by the rows of the formula; of a vector, its row 0.
 Places placesOf(const Operand &operand, std::uint64_t n, std::uint64_t rows, std::uint64_t columns);

@@ -41,8 +41,6 @@ inline bool anyListEntryIsNull(std::initializer_list<const Operand *> operands, 
 // Null tests that accompany the work, entry by entry, instead of standing ahead of it.
 inline bool testsEntriesAlongTheWay(const Form &form) { return isPointerLayout(form.layout) && !form.isArray(); }
 
-using Places = std::vector<std::uintptr_t>; // addresses of Real32 elements
-
 inline bool anyOverlap(const Places &some, const Places &others) {
     for (const std::uintptr_t one : some)
         for (const std::uintptr_t other : others)

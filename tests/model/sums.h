@@ -5,11 +5,8 @@
 
 #include <cstdint>
 #include <string_view>
-#include <vector>
 
 namespace model {
-
-using Numbers = std::vector<Wide>;
 
 // The sum in the order that a formula of the indices tells: "(0+1)+(2+3)+4" is ((x0 + x1) + (x2 + x3)) + x4.
 Wide sumAs(std::string_view formula, const ElementArithmetic &arithmetic, const Numbers &x);
