@@ -3,118 +3,62 @@
 #include "model/elimination.h"
 #include "model/estimate.h"
 #include "model/families.h"
+#include "model/overlaps.h"
+#include "model/sums.h"
 
 namespace model {
 
 namespace {
 
-class Determinant {
-public:
-    explicit Determinant(const Execution &execution)
-        : form_(execution.form), memory_(execution.memory), arithmetic_(execution.memory),
-          order_(execution.dimension("order")), count_(execution.count()), src_(execution.operand("src", order_)),
-          dst_(execution.arguments.pointer("dst")) {}
+struct Determinant : Execution {
+    std::uint64_t order = dimension("order");
+    Operand src = matrix("src", order, order);
 
-    Status run();
+    // The result cell holds the product while it grows. A pivot that fails ends a single form; array forms go on and
+    // may come to -0 or NaN.
+    Wide byElimination() const {
+        return productOfPivots(*this, order, load(placesOf(src, object, order, order)),
+                               {.roundsProduct = true, .goesOnAfterBadPivot = form.isArray()})
+            .value_or(0);
+    }
 
-private:
-    bool isSingle() const { return form_.element == Element::real32; }
     // Fixed sizes whose elements are adjacent have kernels that compute in extended precision, for Real32 as well.
-    bool isKernel() const { return form_.layout == Layout::standard || form_.layout == Layout::list; }
-
-    template <class Real> Real element(std::uint64_t i, std::uint64_t j) const {
-        return memory_.load<Real>(src_.element(object_, i, j));
-    }
-    template <class Real> Real byElimination();
-    template <class Number> Number difference(Number a, Number b, Number c, Number d);
-    template <class Real, class Number> Real ofThree();
-    Estimate byMinors();
-    template <class Real> void computeObject();
-
-    const Form &form_;
-    Memory &memory_;
-    Arithmetic arithmetic_;
-    std::uint64_t order_;
-    std::uint64_t count_;
-    Operand src_;
-    std::uintptr_t dst_;
-    std::uint64_t object_ = 0;
-};
-
-// The result cell holds the product while it grows, so it is rounded at every column. A pivot that fails ends a single
-// form; array forms go on to the last step, with what stands in its place by then, and may come to -0 or NaN.
-template <class Real> Real Determinant::byElimination() {
-    std::vector<Real> rows;
-    for (std::uint64_t i = 0; i < order_; ++i)
-        for (std::uint64_t j = 0; j < order_; ++j) rows.push_back(element<Real>(i, j));
-    Elimination<Real> elimination(memory_, order_, std::move(rows));
-    const auto store = [](Register<Real> product) -> Register<Real> { return static_cast<Real>(product); };
-    if (!elimination.eliminate(store)) {
-        if (!form_.isArray()) return 0;
-        elimination.clearProduct();
-    }
-    return elimination.takeLastPivot() ? static_cast<Real>(elimination.product()) : 0;
-}
-
-template <class Number> Number Determinant::difference(Number a, Number b, Number c, Number d) {
-    return arithmetic_.subtract(arithmetic_.multiply(a, b), arithmetic_.multiply(c, d));
-}
-
-// Three associations: the kernels of the two types expand along another row or column, with other signs inside.
-template <class Real, class Number> Real Determinant::ofThree() {
-    const auto a = [&](int i, int j) { return static_cast<Number>(element<Real>(i, j)); };
-    const auto term = [&](Number minor, Number factor) { return arithmetic_.multiply(minor, factor); };
-    Number first, second, third;
-    if (!isKernel()) {
-        first = term(difference(a(1, 1), a(2, 2), a(2, 1), a(1, 2)), a(0, 0));
-        second = term(difference(a(1, 2), a(2, 0), a(2, 2), a(1, 0)), a(0, 1));
-        third = term(difference(a(1, 0), a(2, 1), a(2, 0), a(1, 1)), a(0, 2));
-    } else if (isSingle()) {
-        first = term(difference(a(2, 0), a(1, 2), a(1, 0), a(2, 2)), a(0, 1));
-        second = term(difference(a(2, 1), a(1, 0), a(2, 0), a(1, 1)), a(0, 2));
-        third = term(difference(a(1, 1), a(2, 2), a(1, 2), a(2, 1)), a(0, 0));
-    } else {
-        first = term(difference(a(1, 2), a(0, 1), a(1, 1), a(0, 2)), a(2, 0));
-        second = term(difference(a(1, 1), a(2, 2), a(1, 2), a(2, 1)), a(0, 0));
-        third = term(difference(a(2, 1), a(0, 2), a(0, 1), a(2, 2)), a(1, 0));
-    }
-    return static_cast<Real>(arithmetic_.add(arithmetic_.add(first, second), third));
-}
-
-Estimate Determinant::byMinors() {
-    const bool isNarrow = isSingle() && !isKernel();
-    const Estimator estimator(isNarrow ? Estimator::Arithmetic::single : Estimator::Arithmetic::extended);
-    Grid grid(order_);
-    for (std::uint64_t i = 0; i < order_; ++i)
-        for (std::uint64_t j = 0; j < order_; ++j) {
-            if (memory_.holdsApproximation(src_.element(object_, i, j), form_.elementSize())) memory_.markOpen();
-            grid[i].push_back(Estimator::of(isSingle() ? element<float>(i, j) : element<double>(i, j)));
+    // Three associations: the kernels of the two types expand along another row or column, with other signs inside.
+    Wide ofThree() const {
+        constexpr const char *const general[] = {"(11*22-21*12)*00", "(12*20-22*10)*01", "(10*21-20*11)*02"};
+        constexpr const char *const kernel32[] = {"(20*12-10*22)*01", "(21*10-20*11)*02", "(11*22-12*21)*00"};
+        constexpr const char *const kernel64[] = {"(12*01-11*02)*20", "(11*22-12*21)*00", "(21*02-01*22)*10"};
+        const ElementArithmetic extended(Element::real64, memory);
+        const ElementArithmetic &arithmetic = isAdjacent() ? extended : *this;
+        Numbers terms;
+        for (const std::string_view term : !isAdjacent() ? general : isReal32() ? kernel32 : kernel64) {
+            const Numbers a = load(placesOf(src, object, 3, 3));
+            const Wide minor = minorOfThree(term.substr(1, 11), arithmetic, a);
+            terms.push_back(arithmetic.multiply(minor, elementOfThree(term.substr(14), a)));
         }
-    return estimator.rounded(estimator.determinant(grid), isSingle());
-}
-
-template <class Real> void Determinant::computeObject() {
-    const std::uintptr_t result = dst_ + object_ * sizeof(Real);
-    if (form_.size > 3) return storeEstimate<Real>(memory_, result, byMinors());
-    if (form_.size == 0) return memory_.store(result, byElimination<Real>());
-    memory_.store(result, isKernel() ? ofThree<Real, Wide>() : ofThree<Real, Register<Real>>());
-}
-
-Status Determinant::run() {
-    if (order_ == 0) return statusSize;
-    if (isPointerLayout(form_.layout) && src_.anyEntryIsNull(order_ * order_)) return statusNullPointer;
-    for (object_ = 0; object_ < count_; ++object_) {
-        if (src_.isList() && src_.entryIsNull(object_)) return statusNullPointer;
-        isSingle() ? computeObject<float>() : computeObject<double>();
+        return sumAs("0+1+2", arithmetic, terms);
     }
-    return statusOk;
-}
+
+    void byMinors() const {
+        const bool isNarrow = isReal32() && !isAdjacent();
+        const Estimator estimator(isNarrow ? Estimator::Arithmetic::single : Estimator::Arithmetic::extended);
+        const Grid grid = Estimator::of(numbersOf(*this, src, order));
+        storeEstimate(*this, result(), estimator.rounded(estimator.determinant(grid), isReal32()));
+    }
+
+    Status run() {
+        if (order == 0) return statusSize;
+        if (hasTables() && anyTableEntryIsNull({&src})) return statusNullPointer;
+        return overObjects({&src}, [&] {
+            if (form.size > 3) byMinors();
+            else store(result(), form.size == 0 ? byElimination() : ofThree());
+            return statusOk;
+        });
+    }
+};
 
 } // namespace
 
-Status computeDeterminant(const Execution &execution) {
-    if (execution.arguments.hasNullPointer()) return statusNullPointer;
-    return Determinant(execution).run();
-}
+Status computeDeterminant(const Execution &execution) { return Determinant{execution}.run(); }
 
 } // namespace model

@@ -5,6 +5,7 @@
 #include <cfenv>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 
 namespace model {
 
@@ -125,6 +126,15 @@ Estimate Estimator::of(double element) {
     estimate.size = magnitude(estimate.value);
     estimate.grain = grainOf(element);
     return estimate;
+}
+
+Grid Estimator::of(const std::vector<std::vector<double>> &elements) {
+    Grid grid;
+    for (const std::vector<double> &row : elements) {
+        std::vector<Estimate> &made = grid.emplace_back();
+        for (const double element : row) made.push_back(of(element));
+    }
+    return grid;
 }
 
 Estimate Estimator::multiply(const Estimate &a, const Estimate &b) const {
@@ -276,6 +286,34 @@ Estimate Estimator::rounded(const Estimate &estimate, bool toSingle) const {
     Estimate stored = settled(estimate);
     if (format_.largest > element.largest) charge(stored, element, 1, estimate.isExact());
     return stored;
+}
+
+std::vector<std::vector<double>> numbersOf(const Execution &execution, const Operand &operand, std::uint64_t order) {
+    std::vector<std::vector<double>> rows(order);
+    for (std::uint64_t i = 0; i < order; ++i)
+        for (std::uint64_t j = 0; j < order; ++j) {
+            const std::uintptr_t place = operand.element(execution.object, i, j);
+            execution.markOpenIf(execution.memory.holdsApproximation(place, execution.form.elementSize()));
+            rows[i].push_back(static_cast<double>(execution.load(place)));
+        }
+    return rows;
+}
+
+void storeEstimate(const Execution &execution, std::uintptr_t address, const Estimate &estimate) {
+    constexpr long double infinity = std::numeric_limits<long double>::infinity();
+    const auto approximate = [&](long double exact, long double error) {
+        execution.store(address, exact);
+        execution.memory.approximate({address, execution.form.elementSize(), exact, error});
+    };
+    if (estimate.certainty != Certainty::number) execution.memory.markNan();
+    const auto value = static_cast<long double>(estimate.value);
+    switch (estimate.certainty) {
+    case Certainty::number: // with room for what the bound and its own roundings add to each other
+        return approximate(value, static_cast<long double>(estimate.error * 1.001L) + std::fabs(value) * 0x1p-62L);
+    case Certainty::unknown: return approximate(0, infinity);
+    case Certainty::notFinite: return approximate(infinity, 0);
+    case Certainty::nan: return approximate(std::numeric_limits<long double>::quiet_NaN(), 0);
+    }
 }
 
 } // namespace model

@@ -5,11 +5,9 @@
 // n, for one, gets a bound of about (n (n + 1) / 2 - 1) u per(|A|), with the permanent of its magnitudes.
 #pragma once
 
-#include "model/memory.h"
+#include "model/execution.h"
 
-#include <cmath>
 #include <cstdint>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -60,6 +58,7 @@ public:
     bool roundsToNearest() const { return toNearest_; }
 
     static Estimate of(double element); // exact
+    static Grid of(const std::vector<std::vector<double>> &elements);
     Estimate multiply(const Estimate &a, const Estimate &b) const;
     Estimate sum(const std::vector<Estimate> &terms) const;
     Estimate reciprocal(const Estimate &divisor) const;
@@ -98,19 +97,10 @@ private:
     Format format_;
 };
 
+// The elements of an object. One that is held to accuracy itself leaves all that is made of it open.
+std::vector<std::vector<double>> numbersOf(const Execution &execution, const Operand &operand, std::uint64_t order);
+
 // Stores an element that was rounded to its type, with the bound that it keeps.
-template <class Real> void storeEstimate(Memory &memory, std::uintptr_t address, const Estimate &estimate) {
-    constexpr long double infinity = std::numeric_limits<long double>::infinity();
-    if (estimate.certainty != Certainty::number) memory.markNan();
-    const auto value = static_cast<long double>(estimate.value);
-    switch (estimate.certainty) {
-    case Certainty::number: // with room for what the bound and its own roundings add to each other
-        return memory.storeApproximation<Real>(
-            address, value, static_cast<long double>(estimate.error * 1.001L) + std::fabs(value) * 0x1p-62L);
-    case Certainty::unknown: return memory.storeApproximation<Real>(address, 0, infinity);
-    case Certainty::notFinite: return memory.storeApproximation<Real>(address, infinity, 0);
-    case Certainty::nan: return memory.storeApproximation<Real>(address, std::numeric_limits<Real>::quiet_NaN(), 0);
-    }
-}
+void storeEstimate(const Execution &execution, std::uintptr_t address, const Estimate &estimate);
 
 } // namespace model

@@ -30,11 +30,8 @@ public:
         std::memcpy(reinterpret_cast<void *>(address), &value, sizeof value);
     }
 
-    // Stores an element that is held to accuracy; see Approximation.
-    template <class Value> void storeApproximation(std::uintptr_t address, long double exact, long double error) {
-        store(address, static_cast<Value>(exact));
-        outcome_.approximations.push_back({address, sizeof(Value), exact, error});
-    }
+    // Of an element that was just stored.
+    void approximate(const Approximation &approximation) { outcome_.approximations.push_back(approximation); }
 
     // Whether such an element is found in these bytes: then what is read there is known roughly at best.
     bool holdsApproximation(std::uintptr_t address, std::size_t size) const;

@@ -41,6 +41,11 @@ Wide sumAs(std::string_view formula, const ElementArithmetic &arithmetic, const 
     return FormulaReader{formula, arithmetic, x}.sum();
 }
 
+Wide minorOfThree(std::string_view formula, const ElementArithmetic &arithmetic, const Numbers &a) {
+    const auto factor = [&](std::size_t k) { return elementOfThree(formula.substr(3 * k), a); };
+    return arithmetic.subtract(arithmetic.multiply(factor(0), factor(1)), arithmetic.multiply(factor(2), factor(3)));
+}
+
 Wide sumInLanes(const ElementArithmetic &arithmetic, std::uintptr_t address, const Numbers &terms) {
     Numbers lanes(8); // two registers
     std::size_t j = 0;

@@ -11,6 +11,13 @@ namespace model {
 // The sum in the order that a formula of the indices tells: "(0+1)+(2+3)+4" is ((x0 + x1) + (x2 + x3)) + x4.
 Wide sumAs(std::string_view formula, const ElementArithmetic &arithmetic, const Numbers &x);
 
+// Of a 3x3 matrix by rows: the element that its row and column name, and the minor that such a formula tells, as
+// "11*22-21*12".
+inline Wide elementOfThree(std::string_view name, const Numbers &a) {
+    return a[static_cast<std::size_t>(3 * (name[0] - '0') + name[1] - '0')];
+}
+Wide minorOfThree(std::string_view formula, const ElementArithmetic &arithmetic, const Numbers &a);
+
 // The sum of a long row as two registers of four lanes make it: the terms up to a 16-byte boundary go one by one into
 // the first lane, then eight at a time lane by lane, and what is left one by one to the sum of lanes. The boundary is
 // looked for from `address` on, the place of term 0. Fewer than 11 terms, and terms off any multiple of 4 bytes, are
