@@ -62,7 +62,8 @@ public:
     Wide squared(Wide a) const { return multiply(a, a); }
     Wide multiplyAdd(Wide a, Wide b, Wide c) const { return add(multiply(a, b), c); } // never fused
 
-    // What a store leaves of a number, which is all of it in Real32.
+    // What a register keeps of a number that was made in extended precision, and what a store leaves of it.
+    Wide kept(Wide number) const { return isReal32_ ? rounded(number) : number; }
     Wide rounded(Wide number) const {
         return isReal32_ ? static_cast<Wide>(static_cast<float>(number)) : round64(number);
     }

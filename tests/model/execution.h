@@ -60,6 +60,13 @@ struct Execution : ElementArithmetic {
     Operand matrix(const std::string &name, std::uint64_t rows, std::uint64_t columns) const;
     Operand vector(const std::string &name, std::uint64_t length) const;
 
+    // Copies the object element by element, bit by bit.
+    void moveObject(const Operand &to, const Operand &from, std::uint64_t rows, std::uint64_t columns) const {
+        for (std::uint64_t i = 0; i < rows; ++i)
+            for (std::uint64_t j = 0; j < columns; ++j)
+                memory.move(to.element(object, i, j), from.element(object, i, j), form.elementSize());
+    }
+
     // One table after the other.
     static bool anyTableEntryIsNull(const Operands &operands);
     // Along the way. At order 4 the tests of a transposed matrix miss one entry of its table.
