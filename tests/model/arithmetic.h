@@ -1,6 +1,7 @@
-// The operations of the two element types. Real32 computes in float, each operation rounded on its own; Real64 in the
-// extended type under whatever precision and rounding the calling thread has set, with every rounding to 64 bits an
-// explicit round64. Each operation reports the NaNs that it meets.
+// The operations of one element type, on numbers that stand in the extended type, which holds every element as it is.
+// Real32 computes in float, each operation rounded on its own; Real64 in the extended type under whatever precision and
+// rounding the calling thread has set, and only what is stored or `rounded` is a double. Each operation reports the
+// NaNs that it meets.
 #pragma once
 
 #include "model/grammar.h"
@@ -16,28 +17,6 @@ using Wide = long double;
 using Numbers = std::vector<Wide>;
 using Places = std::vector<std::uintptr_t>; // addresses of elements
 
-inline double round64(Wide value) { return static_cast<double>(value); }
-
-class Arithmetic {
-public:
-    explicit Arithmetic(Memory &memory) : memory_(memory) {}
-
-    template <class Real> Real add(Real a, Real b) { return seen(a, b, a + b); }
-    template <class Real> Real subtract(Real a, Real b) { return seen(a, b, a - b); }
-    template <class Real> Real multiply(Real a, Real b) { return seen(a, b, a * b); }
-    template <class Real> Real divide(Real a, Real b) { return seen(a, b, a / b); }
-    template <class Real> Real squareRoot(Real a) { return seen(a, a, std::sqrt(a)); }
-
-private:
-    template <class Real> Real seen(Real a, Real b, Real result) {
-        if (std::isnan(a) || std::isnan(b) || std::isnan(result)) memory_.markNan();
-        return result;
-    }
-
-    Memory &memory_;
-};
-
-// The operations of one element type on numbers in the extended type, which holds every element as it is.
 class ElementArithmetic {
 public:
     ElementArithmetic(Element element, Memory &memory) : isReal32_(element == Element::real32), memory_(memory) {}
@@ -65,7 +44,7 @@ public:
     // What a register keeps of a number that was made in extended precision, and what a store leaves of it.
     Wide kept(Wide number) const { return isReal32_ ? rounded(number) : number; }
     Wide rounded(Wide number) const {
-        return isReal32_ ? static_cast<Wide>(static_cast<float>(number)) : round64(number);
+        return isReal32_ ? static_cast<Wide>(static_cast<float>(number)) : static_cast<double>(number);
     }
     Wide load(std::uintptr_t address) const {
         return isReal32_ ? static_cast<Wide>(memory_.load<float>(address)) : memory_.load<double>(address);
@@ -76,7 +55,8 @@ public:
         return numbers;
     }
     void store(std::uintptr_t address, Wide number) const {
-        isReal32_ ? memory_.store(address, static_cast<float>(number)) : memory_.store(address, round64(number));
+        isReal32_ ? memory_.store(address, static_cast<float>(number))
+                  : memory_.store(address, static_cast<double>(number));
     }
 
 private:

@@ -28,7 +28,7 @@ struct DotProduct : Execution {
             src1.base | src2.base | arguments.pointer("dst") | src1.objectStride | src2.objectStride;
         return together % 16 == 0;
     }
-    // Real64 at run-time size: the sum is a double between the pairs of terms and the odd one.
+    // Of Real64 at run-time size: the sum is a double between the pairs of terms and the odd one.
     std::uint64_t endOfPairs() const {
         const bool passesThroughDouble = form.size == 0 && (!form.isArray() || form.layout == Layout::list);
         return passesThroughDouble ? length - length % 2 : length;

@@ -5,10 +5,6 @@
 
 namespace model {
 
-Wide Execution::constant(const std::string &name) const {
-    return isReal32() ? static_cast<Wide>(arguments.real32(name)) : arguments.real64(name);
-}
-
 Operand Execution::matrix(const std::string &name, std::uint64_t rows, std::uint64_t columns) const {
     Operand made = operand(name, form.slot(name).isTransposed ? rows : columns);
     made.entries = rows * columns;
@@ -22,7 +18,7 @@ Operand Execution::vector(const std::string &name, std::uint64_t length) const {
 }
 
 bool Execution::anyTableEntryIsNull(const Operands &operands) {
-    return std::ranges::any_of(operands, [](const Operand *one) { return one->anyEntryIsNull(one->entries); });
+    return std::ranges::any_of(operands, [](const Operand *one) { return one->anyEntryIsNull(); });
 }
 
 bool Execution::anyListEntryIsNull(const Operands &operands, std::uint64_t n) {

@@ -49,7 +49,8 @@ struct Execution : ElementArithmetic {
     // A form without arrays works on one object.
     std::uint32_t count() const { return form.isArray() ? arguments.size("count") : 1; }
     bool isInBlockOfFour(std::uint64_t n) const { return n < count() - count() % 4; } // the rest are left over
-    Wide constant(const std::string &name) const;                                     // of the element type
+    // Of the element type.
+    Wide constant(const std::string &name) const { return arguments.real(name, form.element); }
     // The place of the object's number in a dense destination.
     std::uintptr_t result() const { return arguments.pointer("dst") + object * form.elementSize(); }
     Operand operand(const std::string &name, std::uint64_t columns = 0) const {

@@ -6,6 +6,9 @@
 
 namespace model {
 
+// Five forms of one family. The others make no step if one of their pointers is null.
+bool trustsPointers(const Form &form);
+
 Status addOrSubtractMatrices(const Execution &execution);
 Status addOrSubtractVectors(const Execution &execution);
 Status addScaledVector(const Execution &execution);

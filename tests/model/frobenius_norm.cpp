@@ -41,6 +41,7 @@ struct FrobeniusNorm : Execution {
         markOpenIf(anyOverlap(places, {result()}, form.elementSize()));
         Wide sum = 0;
         for (const std::uintptr_t place : places) sum = add(sum, squared(load(place)));
+        // Of Real64; Real32 rounds all along.
         const bool roundsSum = form.size == 0 && !hasTables();
         store(result(), squareRoot(roundsSum ? rounded(sum) : sum));
     }

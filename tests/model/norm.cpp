@@ -12,13 +12,18 @@ struct Norm : Execution {
     std::uint64_t length = dimension("len");
     Operand src = vector("src", length);
 
+    const char *tree() const {
+        switch (length) {
+        case 3: return "0+1+2";
+        case 4: return "(0+1)+(2+3)";
+        case 5: return "(0+1)+(2+3)+4";
+        default: return "(0+1)+(2+3)+(4+5)";
+        }
+    }
     Wide norm() const {
         Numbers squares;
         for (std::uint64_t j = 0; j < length; ++j) squares.push_back(squared(load(src.element(object, j))));
-        if (hasLanes()) {
-            const char *const trees[] = {"0+1+2", "(0+1)+(2+3)", "(0+1)+(2+3)+4", "(0+1)+(2+3)+(4+5)"};
-            return rootByEstimate(*this, sumAs(trees[length - 3], *this, squares));
-        }
+        if (hasLanes()) return rootByEstimate(*this, sumAs(tree(), *this, squares));
         if (form.name == "vonkL2Norm_v_32f") return squareRoot(sumInLanes(*this, src.base, squares));
         Wide sum = 0; // squares of doubles do not leave the range of the extended type
         for (const Wide square : squares) sum = add(sum, square);

@@ -2,7 +2,7 @@
 #include "model/operands.h"
 
 #include <algorithm>
-#include <cstring>
+#include <bit>
 #include <stdexcept>
 
 namespace model {
@@ -23,18 +23,10 @@ std::uint64_t Arguments::bytes(const std::string &name) const {
     return static_cast<std::uint64_t>(static_cast<std::int64_t>(narrow));
 }
 
-float Arguments::real32(const std::string &name) const {
-    const auto bits = static_cast<std::uint32_t>(word(name));
-    float value;
-    std::memcpy(&value, &bits, sizeof value);
-    return value;
-}
-
-double Arguments::real64(const std::string &name) const {
+long double Arguments::real(const std::string &name, Element element) const {
     const std::uint64_t bits = word(name);
-    double value;
-    std::memcpy(&value, &bits, sizeof value);
-    return value;
+    return element == Element::real32 ? static_cast<long double>(std::bit_cast<float>(static_cast<std::uint32_t>(bits)))
+                                      : std::bit_cast<double>(bits);
 }
 
 std::uint32_t Arguments::times(const std::string &name) const {
@@ -62,7 +54,7 @@ std::uintptr_t Operand::stored(std::uint64_t n, std::uint64_t row, std::uint64_t
     return base + n * objectStride + inObject;
 }
 
-bool Operand::anyEntryIsNull(std::uint64_t entries) const {
+bool Operand::anyEntryIsNull() const {
     for (std::uint64_t entry = 0; entry < entries; ++entry)
         if (entryIsNull(entry)) return true;
     return false;

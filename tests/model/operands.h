@@ -21,8 +21,7 @@ public:
     std::uint64_t bytes(const std::string &name) const; // sign-extended, to be added with wrapping
     std::uint32_t size(const std::string &name) const { return static_cast<std::uint32_t>(word(name)); }
     std::int32_t signedSize(const std::string &name) const { return static_cast<std::int32_t>(size(name)); }
-    float real32(const std::string &name) const;
-    double real64(const std::string &name) const;
+    long double real(const std::string &name, Element element) const;
     // How often a loop up to this size runs: not once where the size is compared as a signed number and is negative.
     std::uint32_t times(const std::string &name) const;
     // Of any of the pointers, plain ones included.
@@ -70,11 +69,11 @@ struct Operand {
     std::uint64_t entry(std::uint64_t i, std::uint64_t j) const {
         return isTransposed() ? j * columns + i : i * columns + j;
     }
-    bool anyEntryIsNull(std::uint64_t entries) const; // of the first so many
+    bool anyEntryIsNull() const; // of those that are tested
 };
 
 // The operand that a slot's words describe; columns is wanted of matrices only.
 Operand makeOperand(const Form &form, const Arguments &arguments, Memory &memory, const std::string &name,
-                    std::uint64_t columns = 0);
+                    std::uint64_t columns);
 
 } // namespace model

@@ -1,6 +1,6 @@
-// Least squares with the factors of a QR decomposition: the reflectors are replayed on a copy of the right-hand side,
-// then the triangle is solved from the bottom up. The scale of each reflector is worked out anew. Of Real64 numbers
-// only what is stored is rounded.
+// Least squares with the factors of a QR decomposition: the reflections b + beta v (v^T b) are replayed on a copy of
+// the right-hand side, with beta = -2 / (v^T v) worked out anew, then x(i) = (b(i) - sum of r(i, j) x(j)) / r(i, i)
+// from the bottom up. Of Real64 numbers only what is stored is rounded.
 #include "model/families.h"
 #include "model/overlaps.h"
 

@@ -1,5 +1,6 @@
-// QR decomposition by Householder reflections, column by column: the upper factor on and above the diagonal, the
-// reflectors below it with a leading 1 that is not stored.
+// QR decomposition by Householder reflections a + beta v (v^T a), column by column: v is the column from the diagonal
+// on, divided by alpha = a(k, k) +- its norm, with a leading 1, and beta = -2 / (v^T v). The upper factor stands on and
+// above the diagonal, the reflectors below it without their leading 1.
 #include "model/families.h"
 #include "model/overlaps.h"
 

@@ -22,7 +22,7 @@ struct VectorWalk : Execution {
     std::vector<std::string> names;
     Formula formula;
     LoadsAhead ahead;
-    std::uint32_t length = dimension("len");
+    std::uint64_t length = dimension("len");
     std::vector<Operand> sources = {};
     Operand dst = vector("dst", length);
     std::vector<Wide> held = {};
