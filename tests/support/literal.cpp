@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <numeric>
 #include <span>
 #include <stdexcept>
 #include <unordered_map>
@@ -149,6 +150,43 @@ bool hasColumnsFourBytesApart(const Function &function) {
 std::vector<std::uint32_t> sizesOf(const Function &function, std::vector<std::uint32_t> runTimeSizes) {
     if (function.order == 0) return runTimeSizes;
     return {static_cast<std::uint32_t>(function.order)};
+}
+
+std::vector<Sized> sized(std::string_view section, const std::vector<std::uint32_t> &runTimeSizes,
+                         const Wanted &wanted) {
+    std::vector<Sized> list;
+    for (const Function *member : members(section, wanted))
+        for (const std::uint32_t size : sizesOf(*member, runTimeSizes)) list.push_back({member, size});
+    return list;
+}
+
+std::vector<Sized> ofSize(std::string_view section, std::uint32_t size, const Wanted &wanted) {
+    std::vector<Sized> list = sized(section, {size}, wanted);
+    std::erase_if(list, [size](const Sized &member) { return member.size != size; });
+    return list;
+}
+
+std::vector<double> diagonal(const std::vector<double> &elements) {
+    std::vector<double> matrix(elements.size() * elements.size());
+    for (std::size_t i = 0; i < elements.size(); ++i) matrix[i * (elements.size() + 1)] = elements[i];
+    return matrix;
+}
+
+std::vector<double> diagonal(std::uint32_t order, double value) { return diagonal(std::vector<double>(order, value)); }
+
+std::vector<double> zeros(std::uint32_t order) { return diagonal(order, 0); }
+
+std::vector<std::uint32_t> identityPermutation(std::uint32_t order) {
+    std::vector<std::uint32_t> rows(order);
+    std::iota(rows.begin(), rows.end(), 0U);
+    return rows;
+}
+
+std::vector<double> unroundNumbers(std::uint32_t count, std::uint32_t variant) {
+    std::vector<double> numbers;
+    for (std::uint32_t k = 0; k < count; ++k)
+        numbers.push_back(static_cast<double>(static_cast<float>(((k * k * 5 + k * 7 + variant * 3) % 23 - 10.7) / 3)));
+    return numbers;
 }
 
 bool Place::tabled() const { return catalogue::isTable(operand->layout) || isList(*this); }
@@ -302,6 +340,10 @@ void Call::set(std::string_view operand, std::uint32_t n, const std::vector<doub
     const Place &place = (*this)[operand];
     if (values.size() != std::size_t{place.rows} * place.cols) throw std::length_error("values of an object");
     for (std::uint32_t k = 0; k < values.size(); ++k) set(operand, n, k / place.cols, k % place.cols, values[k]);
+}
+
+void Call::set(std::string_view operand, const std::vector<double> &values) {
+    for (std::uint32_t n = 0; n < objectsOf(operand); ++n) set(operand, n, values);
 }
 
 double Call::get(std::string_view operand, std::uint32_t n, std::uint32_t i, std::uint32_t j) {

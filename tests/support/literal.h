@@ -42,6 +42,30 @@ bool hasColumnsFourBytesApart(const catalogue::Function &function);
 // Sizes at which a function is worth calling: its own if that is fixed.
 std::vector<std::uint32_t> sizesOf(const catalogue::Function &function, std::vector<std::uint32_t> runTimeSizes);
 
+struct Sized {
+    const catalogue::Function *function;
+    std::uint32_t size;
+};
+
+using Wanted = std::function<bool(const catalogue::Function &)>;
+
+inline bool isWanted(const catalogue::Function &) { return true; }
+
+// The members of a section at the sizes at which they are worth calling, and those that can have this size.
+std::vector<Sized> sized(std::string_view section, const std::vector<std::uint32_t> &runTimeSizes,
+                         const Wanted &wanted = isWanted);
+std::vector<Sized> ofSize(std::string_view section, std::uint32_t size, const Wanted &wanted = isWanted);
+
+// Square matrices, row by row.
+std::vector<double> diagonal(const std::vector<double> &elements);
+std::vector<double> diagonal(std::uint32_t order, double value);
+std::vector<double> zeros(std::uint32_t order);
+
+std::vector<std::uint32_t> identityPermutation(std::uint32_t order);
+
+// Floats between -4 and 4 of which nothing is round, also not in the last place.
+std::vector<double> unroundNumbers(std::uint32_t count, std::uint32_t variant);
+
 // How elements, rows and objects follow one another.
 struct Geometry {
     int direction = 1;  // of all strides that a layout leaves free
@@ -110,6 +134,7 @@ public:
 
     void set(std::string_view operand, std::uint32_t n, std::uint32_t i, std::uint32_t j, double value);
     void set(std::string_view operand, std::uint32_t n, const std::vector<double> &values); // row by row
+    void set(std::string_view operand, const std::vector<double> &values);                  // of all objects
     double get(std::string_view operand, std::uint32_t n, std::uint32_t i, std::uint32_t j);
     std::vector<double> get(std::string_view operand, std::uint32_t n);
     void setAt(std::byte *address, double value) const; // an element of the call's type anywhere
