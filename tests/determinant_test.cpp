@@ -3,50 +3,38 @@
 #include "support/accuracy.h"
 #include "support/family_test.h"
 
-#include <initializer_list>
 #include <iostream>
 #include <xmmintrin.h>
 
 namespace {
 
 using namespace literal::names;
+using literal::diagonal;
 
+constexpr const char *section = "determinant";
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 using Matrix = std::vector<double>;
 
-std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
-    return literal::members("determinant", wanted);
-}
+std::vector<const Function *> runTime() { return literal::members(section, isRunTime); }
 
-std::vector<const Function *> ofOrder(int order) {
-    return literal::members("determinant", [order](const Function &function) { return function.order == order; });
-}
+bool hasClosedForm(const Function &function) { return function.order != 0; }
 
 // Fixed sizes of adjacent elements compute in extended precision, floats too.
 bool isKernel(const Function &function) {
     return function.order != 0 && (function.layout.empty() || function.layout == "L");
 }
 
-double tolerance(const Function &function) { return function.type == Type::real32 ? 0x1p-23 : 0x1p-52; }
+double tolerance(const Function &function) { return isFloat(function) ? 0x1p-23 : 0x1p-52; }
 
-double below(const Function &function, double value) {
-    return function.type == Type::real32 ? std::nextafter(static_cast<float>(value), 0.0F) : std::nextafter(value, 0.0);
-}
-
-double above(const Function &function, double value) {
-    return function.type == Type::real32 ? std::nextafter(static_cast<float>(value), 1.0F) : std::nextafter(value, 1.0);
-}
-
-Matrix diagonal(const std::vector<double> &elements) {
-    Matrix matrix(elements.size() * elements.size());
-    for (std::size_t i = 0; i < elements.size(); ++i) matrix[i * (elements.size() + 1)] = elements[i];
-    return matrix;
+double next(const Function &function, double value, double direction) {
+    return isFloat(function) ? std::nextafter(static_cast<float>(value), static_cast<float>(direction))
+                             : std::nextafter(value, direction);
 }
 
 // The matrix in the upper left corner of an identity.
 Matrix bordered(const Matrix &corner, std::uint32_t cornerOrder, std::uint32_t order) {
-    Matrix matrix = diagonal(std::vector<double>(order, 1));
+    Matrix matrix = diagonal(order, 1);
     for (std::uint32_t k = 0; k < corner.size(); ++k) matrix[k / cornerOrder * order + k % cornerOrder] = corner[k];
     return matrix;
 }
@@ -104,31 +92,29 @@ void expectDone(Call &call, std::uint32_t n) {
 }
 
 const literal::Example example{fill, expectDone};
-const std::vector<std::uint32_t> orders{1, 2, 3, 4, 5, 6, 7};
 
 TEST(Determinant, IsWorkedOutInEveryFormAndGeometry) {
-    for (const Function *function : all()) literal::expectResults(*function, example, orders);
+    for (const Function *function : literal::members(section))
+        literal::expectResults(*function, example, {1, 2, 3, 4, 5, 6, 7});
 }
 
 // Its results are packed, and may lie in the source: that is read before an object's cell is written.
 TEST(Determinant, MayBeWrittenIntoItsSource) {
-    for (const Function *function : all())
-        for (const std::uint32_t order : literal::sizesOf(*function, {2, 5})) {
-            Call call(function->name, order);
-            fill(call);
-            std::byte *const cell = call["src"].address(0, 0, order - 1);
-            call.pass("dst", reinterpret_cast<std::uintptr_t>(cell));
-            EXPECT_EQ(call.run(), vonkOk);
-            EXPECT_EQ(call.getAt(cell), determinantOfExample(*function, order, 0));
-        }
+    for (const auto &[function, order] : literal::sized(section, {2, 5})) {
+        Call call(function->name, order);
+        fill(call);
+        std::byte *const cell = call["src"].address(0, 0, order - 1);
+        call.pass("dst", reinterpret_cast<std::uintptr_t>(cell));
+        EXPECT_EQ(call.run(), vonkOk);
+        EXPECT_EQ(call.getAt(cell), determinantOfExample(*function, order, 0));
+    }
 }
 
 TEST(Determinant, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTheRestAlone) {
-    for (const Function *function : ofOrder(0)) {
+    for (const Function *function : runTime()) {
         Call call(function->name, 5, 3);
         fill(call);
-        literal::Block &scratch = call.block("scratch");
-        scratch.address += function->type == Type::real32 ? 4 : 8;
+        call.block("scratch").address += isFloat(*function) ? 4 : 8;
         EXPECT_EQ(call.run(), vonkOk);
         literal::expectAllDone(call, example);
     }
@@ -137,25 +123,23 @@ TEST(Determinant, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTheRestAlon
 // ---- Pivots of run-time size
 
 TEST(DeterminantPivots, PassAtTheToleranceButTheLastOneAboveIt) {
-    for (const Function *function : ofOrder(0)) {
-        const double limit = tolerance(*function);
-        for (const std::uint32_t order : {1U, 2U, 4U})
-            for (std::uint32_t k = 0; k < order; ++k)
-                for (const double pivot : {limit, -limit, below(*function, limit), above(*function, limit), 0.0, nan}) {
-                    SCOPED_TRACE(function->name + ", pivot " + std::to_string(k) + " is " + std::to_string(pivot));
-                    if (std::isnan(pivot) && function->type == Type::real64 && k + 1 < order) continue; // any search
-                    Matrix matrix = diagonal(std::vector<double>(order, 1));
-                    matrix[std::size_t{k} * (order + 1)] = pivot;
-                    const bool isLast = k + 1 == order;
-                    const bool counts = isLast ? std::fabs(pivot) > limit : std::fabs(pivot) >= limit;
-                    literal::expectSame(counts ? pivot : 0.0, determinantOf(*function, order, matrix), "determinant");
-                }
+    for (const auto &[function, order] : literal::sized(section, {1, 2, 4}, isRunTime)) {
+        const double limit = tolerance(*function), below = next(*function, limit, 0), above = next(*function, limit, 1);
+        for (std::uint32_t k = 0; k < order; ++k)
+            for (const double pivot : {limit, -limit, below, above, 0.0, nan}) {
+                SCOPED_TRACE(function->name + ", pivot " + std::to_string(k) + " is " + std::to_string(pivot));
+                const bool isLast = k + 1 == order;
+                if (std::isnan(pivot) && isDouble(*function) && !isLast) continue; // any search
+                Matrix matrix = diagonal(order, 1);
+                matrix[std::size_t{k} * (order + 1)] = pivot;
+                const bool counts = isLast ? std::fabs(pivot) > limit : std::fabs(pivot) >= limit;
+                literal::expectSame(counts ? pivot : 0.0, determinantOf(*function, order, matrix), "determinant");
+            }
     }
 }
 
 TEST(DeterminantPivots, ChangeTheSignWithEachExchange) {
-    for (const Function *function : all()) {
-        const auto order = function->order == 0 ? 3U : static_cast<std::uint32_t>(function->order);
+    for (const auto &[function, order] : literal::sized(section, {3})) {
         SCOPED_TRACE(function->name);
         EXPECT_EQ(determinantOf(*function, order, bordered({0, 1, 0, 0, 0, 1, 1, 0, 0}, 3, order)), 1); // two
         EXPECT_EQ(determinantOf(*function, order, bordered({0, 1, 1, 0}, 2, order)), -1);               // one
@@ -164,17 +148,15 @@ TEST(DeterminantPivots, ChangeTheSignWithEachExchange) {
 }
 
 TEST(DeterminantPivots, TooSmallForRunTimeSizeAreNoMatterToClosedForms) {
-    for (const Function *function : all(isDouble)) {
-        const auto order = function->order == 0 ? 3U : static_cast<std::uint32_t>(function->order);
-        SCOPED_TRACE(function->name);
-        const double result = determinantOf(*function, order, bordered({1e-20, 0, 0, 4}, 2, order));
-        EXPECT_EQ(result, function->order == 0 ? 0 : 4 * 1e-20);
-    }
+    for (const auto &[function, order] : literal::sized(section, {3}, isDouble))
+        EXPECT_EQ(determinantOf(*function, order, bordered({1e-20, 0, 0, 4}, 2, order)),
+                  hasClosedForm(*function) ? 4 * 1e-20 : 0)
+            << function->name;
 }
 
 // The first column fails. What counts is the element in the last row of the last column, as it stood.
 TEST(DeterminantPivots, ThatFailLeaveZerosOfEitherSignOrNaNsInArrays) {
-    for (const Function *function : ofOrder(0))
+    for (const Function *function : runTime())
         for (const double last : {5.0, -5.0, infinity, -infinity, tolerance(*function), nan}) {
             SCOPED_TRACE(function->name + ", last element " + std::to_string(last));
             const double failed = !(std::fabs(last) > tolerance(*function)) ? 0.0 : 0 * last;
@@ -184,7 +166,7 @@ TEST(DeterminantPivots, ThatFailLeaveZerosOfEitherSignOrNaNsInArrays) {
 }
 
 TEST(DeterminantPivots, ThatFailLeaveTheOtherObjectsAlone) {
-    for (const Function *function : ofOrder(0)) {
+    for (const Function *function : runTime()) {
         if (!function->array()) continue;
         Call call(function->name, 4, 3);
         fill(call);
@@ -199,23 +181,16 @@ TEST(DeterminantPivots, ThatFailLeaveTheOtherObjectsAlone) {
 // 1 + 2^-30 becomes 1 as the best candidate, which 1 + 2^-40 beats. That leaves -2^-52 (1 + 2^-30) of the second
 // column, and the determinant is as large; with the first row for a pivot 2^-52 would be left, which does not count. In
 // floats all of this is 1, and the second column as it stands.
+// Of two that are both 1 as floats, the second loses if it is no larger than that. A candidate beyond the floats is an
+// infinite best, which nothing beats: the first row stays.
 TEST(DeterminantSearch, OfDoublesRemembersTheBestCandidateAsAFloat) {
-    for (const Function *function : ofOrder(0)) {
-        if (function->type != Type::real64) continue;
+    for (const Function *function : runTime()) {
+        if (isFloat(*function)) continue;
         SCOPED_TRACE(function->name);
         const double result = determinantOf(*function, 2, {1 + 0x1p-30, 0, 1 + 0x1p-40, 0x1p-52});
         EXPECT_NEAR(result * 0x1p52, 1 + 0x1p-30, 0x1p-51);
-        // Of two that are both 1 as floats, the second loses if it is no larger than that.
         EXPECT_EQ(determinantOf(*function, 2, {1 - 0x1p-40, 0, 1, 0x1p-52}), 0.0);
-    }
-}
-
-// A candidate beyond the floats is an infinite best, which nothing beats.
-TEST(DeterminantSearch, OfDoublesTakesLargeOnesForInfinite) {
-    for (const Function *function : ofOrder(0)) {
-        if (function->type != Type::real64) continue;
-        SCOPED_TRACE(function->name);
-        EXPECT_EQ(determinantOf(*function, 2, {0x1p200, 0, 0x1p300, 0x1p-52}), 0.0) << "the first row stays";
+        EXPECT_EQ(determinantOf(*function, 2, {0x1p200, 0, 0x1p300, 0x1p-52}), 0.0);
         EXPECT_EQ(determinantOf(*function, 2, {0x1p300, 0, 0x1p200, 1}), 0x1p300);
     }
 }
@@ -229,53 +204,39 @@ TEST(DeterminantOfThree, AddsItsTermsInTheOrderOfTheForm) {
     constexpr double large = 0x1p70;
     const Matrix alongRow{1, -large, large, 1, 1, 0, 1, 0, 1};
     const Matrix alongColumn{large, -1, large, 1, 1, 0, 1, 0, 1};
-    for (const Function *function : ofOrder(3)) {
+    for (const auto &[function, order] : literal::ofSize(section, 3, hasClosedForm)) {
         SCOPED_TRACE(function->name);
-        const bool narrow = function->type == Type::real32;
-        EXPECT_EQ(determinantOf(*function, 3, alongRow), isKernel(*function) && narrow ? 1 : 0);
-        EXPECT_EQ(determinantOf(*function, 3, alongColumn), isKernel(*function) && !narrow ? 1 : 0);
+        EXPECT_EQ(determinantOf(*function, order, alongRow), isKernel(*function) && isFloat(*function) ? 1 : 0);
+        EXPECT_EQ(determinantOf(*function, order, alongColumn), isKernel(*function) && isDouble(*function) ? 1 : 0);
     }
 }
 
 // (1 + 2^-12)^2 = 1 + 2^-11 + 2^-24 is no float, and the minor with it comes to 2^-24 or to 0.
 TEST(DeterminantOfThree, OfFloatsKeepsItsProductsInKernelsOnly) {
     const Matrix matrix{1, 0, 0, 0, 1 + 0x1p-12, 1 + 0x1p-11, 0, 1, 1 + 0x1p-12};
-    for (const Function *function : ofOrder(3)) {
-        SCOPED_TRACE(function->name);
-        const bool exact = isKernel(*function) || function->type == Type::real64;
-        EXPECT_EQ(determinantOf(*function, 3, matrix), exact ? 0x1p-24 : 0);
-    }
+    for (const auto &[function, order] : literal::ofSize(section, 3, hasClosedForm))
+        EXPECT_EQ(determinantOf(*function, order, matrix), isKernel(*function) || isDouble(*function) ? 0x1p-24 : 0)
+            << function->name;
 }
 
-// The minor of the last two rows is 2^140: too large for a float, and nothing to the extended range.
-TEST(DeterminantAboveThree, HasTheExtendedRangeInKernels) {
-    for (const Function *function : all()) {
-        if (function->order < 4) continue;
-        SCOPED_TRACE(function->name);
-        std::vector<double> elements(static_cast<std::size_t>(function->order), 1);
-        elements[0] = elements[1] = 0x1p-70;
-        elements.end()[-1] = elements.end()[-2] = 0x1p70;
-        const double result = determinantOf(*function, 0, diagonal(elements));
-        if (isKernel(*function) || function->type == Type::real64) EXPECT_EQ(result, 1);
-        else EXPECT_FALSE(std::isfinite(result));
-    }
-}
-
-TEST(DeterminantAboveThree, OfDoublesLeavesTheirRange) {
-    for (const Function *function : all()) {
-        if (function->order < 4 || function->type != Type::real64) continue;
-        SCOPED_TRACE(function->name);
-        std::vector<double> elements(static_cast<std::size_t>(function->order), 1);
-        elements[0] = elements[1] = 0x1p-600;
-        elements.end()[-1] = elements.end()[-2] = 0x1p600;
-        EXPECT_EQ(determinantOf(*function, 0, diagonal(elements)), 1);
-    }
+// The minor of the last two rows is 2^140, too large for a float, or 2^1200, too large for a double, and nothing to the
+// extended range.
+TEST(DeterminantAboveThree, HasTheExtendedRangeButForFloatsOutsideKernels) {
+    for (const auto &[function, order] : literal::sized(section, {}))
+        for (const double large : {0x1p70, 0x1p600}) {
+            if (order < 4 || (isFloat(*function) && large > 0x1p70)) continue;
+            SCOPED_TRACE(function->name);
+            std::vector<double> elements(order, 1);
+            elements[0] = elements[1] = 1 / large;
+            elements.end()[-1] = elements.end()[-2] = large;
+            const double result = determinantOf(*function, order, diagonal(elements));
+            if (isKernel(*function) || isDouble(*function)) EXPECT_EQ(result, 1);
+            else EXPECT_FALSE(std::isfinite(result));
+        }
 }
 
 TEST(DeterminantOfClosedForms, LetsNaNsAndInfinitiesThrough) {
-    for (const Function *function : all()) {
-        if (function->order == 0) continue;
-        const auto order = static_cast<std::uint32_t>(function->order);
+    for (const auto &[function, order] : literal::sized(section, {}))
         for (std::uint32_t k = 0; k < order * order; ++k) {
             SCOPED_TRACE(function->name + ", element " + std::to_string(k));
             Matrix matrix = wholeNumbers(order, 0);
@@ -284,22 +245,19 @@ TEST(DeterminantOfClosedForms, LetsNaNsAndInfinitiesThrough) {
             matrix[k] = infinity;
             EXPECT_FALSE(std::isfinite(determinantOf(*function, order, matrix)));
         }
-    }
 }
 
 // A tenth times a tenth, rounded up and down.
 TEST(DeterminantOfClosedForms, FollowsTheCallersRounding) {
-    for (const Function *function : all()) {
-        if (function->order == 0) continue;
+    for (const auto &[function, order] : literal::sized(section, {})) {
         SCOPED_TRACE(function->name);
-        std::vector<double> elements(static_cast<std::size_t>(function->order), 1);
-        elements[0] = elements[1] = function->type == Type::real32 ? static_cast<double>(0.1F) : 0.1;
-        const Matrix matrix = diagonal(elements);
-        const auto at = [&](Rounding rounding) {
+        std::vector<double> elements(order, 1);
+        elements[0] = elements[1] = isFloat(*function) ? static_cast<double>(0.1F) : 0.1;
+        const auto at = [&, &function = *function](Rounding rounding) {
             const SettingScope scope({Precision::bits64, rounding});
-            return determinantOf(*function, 0, matrix);
+            return determinantOf(function, 0, diagonal(elements));
         };
-        EXPECT_EQ(above(*function, at(Rounding::down)), at(Rounding::up));
+        EXPECT_EQ(next(*function, at(Rounding::down), 1), at(Rounding::up));
     }
 }
 
@@ -318,8 +276,9 @@ TEST(DeterminantAccuracy, KeepsTheBoundOfAnyOrderOfTheSums) {
             }
 }
 
-// Many objects of adjacent elements, whose determinants are those of their last two rows, x y - s t with a one on the
-// rest of the diagonal.
+// ---- Many floats of adjacent elements
+
+// The determinant of an object is that of its last two rows, x y - s t, with a one on the rest of the diagonal.
 struct Block {
     float x, y, s, t;
 };
@@ -330,42 +289,30 @@ float roundedOnce(const Block &block) {
     return static_cast<float>(difference);
 }
 
-using OfOne = VonkStatus (*)(const float *, int32_t, float *);
-using OfArray = VonkStatus (*)(const float *, int32_t, int32_t, float *, uint32_t);
-using OfList = VonkStatus (*)(const float *const *, int32_t, int32_t, float *, uint32_t);
-
-// The sign of a zero is that of one object.
-void expectRoundedOnce(const std::vector<Block> &blocks, std::size_t order, OfOne ofOne, OfArray ofArray,
-                       OfList ofList) {
-    const std::size_t elements = order * order;
-    std::vector<float> matrices(blocks.size() * elements), results(blocks.size()), listed(blocks.size());
-    std::vector<const float *> list;
-    for (std::size_t n = 0; n < blocks.size(); ++n) {
-        float *const matrix = &matrices[n * elements];
-        for (std::size_t i = 0; i + 2 < order; ++i) matrix[i * (order + 1)] = 1;
-        float *const last = matrix + (order - 2) * (order + 1);
-        last[0] = blocks[n].x, last[1] = blocks[n].s, last[order] = blocks[n].t, last[order + 1] = blocks[n].y;
-        list.push_back(matrix);
-    }
-    const auto row = static_cast<int32_t>(order * sizeof(float));
-    const auto count = static_cast<uint32_t>(blocks.size());
-    EXPECT_EQ(ofArray(matrices.data(), row * static_cast<int32_t>(order), row, results.data(), count), vonkOk);
-    EXPECT_EQ(ofList(list.data(), 0, row, listed.data(), count), vonkOk);
-    for (std::size_t n = 0; n < blocks.size(); ++n) {
-        const float expected = roundedOnce(blocks[n]);
-        EXPECT_EQ(results[n], expected) << "order " << order << ", object " << n;
-        float alone = 0;
-        EXPECT_EQ(ofOne(list[n], row, &alone), vonkOk);
-        EXPECT_EQ(std::memcmp(&results[n], &alone, sizeof alone), 0) << "order " << order << ", object " << n;
-        EXPECT_EQ(std::memcmp(&listed[n], &alone, sizeof alone), 0) << "order " << order << ", object " << n;
-    }
+Matrix matrixOf(const Block &block, std::uint32_t order) {
+    Matrix matrix = diagonal(order, 1);
+    matrix.end()[-1] = block.y;
+    matrix.end()[-2] = block.t;
+    matrix.end()[-1 - static_cast<int>(order)] = block.s;
+    matrix.end()[-2 - static_cast<int>(order)] = block.x;
+    return matrix;
 }
 
+// The sign of a zero is that of one object.
 void expectRoundedOnce(const std::vector<Block> &blocks) {
-    expectRoundedOnce(blocks, 3, vonkDet_m_32f_3x3, vonkDet_ma_32f_3x3, vonkDet_ma_32f_3x3_L);
-    expectRoundedOnce(blocks, 4, vonkDet_m_32f_4x4, vonkDet_ma_32f_4x4, vonkDet_ma_32f_4x4_L);
-    expectRoundedOnce(blocks, 5, vonkDet_m_32f_5x5, vonkDet_ma_32f_5x5, vonkDet_ma_32f_5x5_L);
-    expectRoundedOnce(blocks, 6, vonkDet_m_32f_6x6, vonkDet_ma_32f_6x6, vonkDet_ma_32f_6x6_L);
+    for (const auto &[function, order] : literal::sized(section, {}, hasLanes)) {
+        if (!function->array()) continue;
+        const std::string ofOne = "vonkDet_m_32f_" + std::to_string(order) + "x" + std::to_string(order);
+        Call call(function->name, order, static_cast<std::uint32_t>(blocks.size()));
+        for (std::uint32_t n = 0; n < call.count(); ++n) call.set("src", n, matrixOf(blocks[n], order));
+        EXPECT_EQ(call.run(), vonkOk);
+        const std::vector<double> results = call.results();
+        for (std::uint32_t n = 0; n < call.count(); ++n) {
+            EXPECT_EQ(results[n], roundedOnce(blocks[n])) << "object " << n;
+            literal::expectSame(determinantOf(literal::function(ofOne), order, matrixOf(blocks[n], order)), results[n],
+                                "object " + std::to_string(n));
+        }
+    }
 }
 
 // (1 + j 2^-12) (1 + 2^-12) = 1 + (j + 1) 2^-12 + j 2^-24 is halfway between two floats where j is odd. A term of 2^-50
@@ -390,19 +337,17 @@ TEST(DeterminantOfManyFloats, IsRoundedOnceNearTheMidpointsOfFloats) {
 
 TEST(DeterminantOfManyFloats, KeepsZerosOfEitherSignAndWhatLeavesTheRangeOfFloats) {
     const float large = 0x1p100F, small = 0x1p-100F;
-    std::vector<Block> blocks;
-    for (int k = 0; k < 3; ++k)
-        for (const Block &block : std::initializer_list<Block>{{0, 1, 0, 1},
-                                                               {-0.0F, 1, 0, 1},
-                                                               {1, 1, 1, 1},
-                                                               {large, large, 0, 0},
-                                                               {-large, large, 0, 0},
-                                                               {small, small, 0, 0},
-                                                               {-small, small, 0, 0},
-                                                               {0x1p-75F, 0x1p-74F, 0, 0},
-                                                               {0x1p-75F, 0x1p-75F, 0, 0},
-                                                               {1, 1, 0x1p-140F, 0x1p125F}})
-            blocks.push_back(block);
+    std::vector<Block> blocks{{0, 1, 0, 1},
+                              {-0.0F, 1, 0, 1},
+                              {1, 1, 1, 1},
+                              {large, large, 0, 0},
+                              {-large, large, 0, 0},
+                              {small, small, 0, 0},
+                              {-small, small, 0, 0},
+                              {0x1p-75F, 0x1p-74F, 0, 0},
+                              {0x1p-75F, 0x1p-75F, 0, 0},
+                              {1, 1, 0x1p-140F, 0x1p125F}};
+    for (int twice = 0; twice < 20; ++twice) blocks.push_back(blocks[static_cast<std::size_t>(twice)]);
     for (const Precision precision : {Precision::bits53, Precision::bits64}) {
         const SettingScope scope({precision, Rounding::nearest});
         expectRoundedOnce(blocks);
@@ -411,19 +356,14 @@ TEST(DeterminantOfManyFloats, KeepsZerosOfEitherSignAndWhatLeavesTheRangeOfFloat
 
 // The 80-bit unit knows no such mode: an array is worked like an object.
 TEST(DeterminantOfManyFloats, KeepsSubnormalsWhateverTheSimdUnitDoesWithThem) {
+    Call call("vonkDet_ma_32f_4x4", 4, 20);
+    call.set("src", matrixOf({1, 1, 0x1p-140F, 0x1p125F}, 4));
     const unsigned before = _mm_getcsr();
     _mm_setcsr(before | 0x8040U);
-    std::vector<float> matrices(20 * 16), results(20);
-    for (std::size_t n = 0; n < 20; ++n) {
-        for (std::size_t i = 0; i < 4; ++i) matrices[16 * n + 5 * i] = 1;
-        const std::uint32_t subnormal = 1U << 9; // 2^-140
-        std::memcpy(&matrices[16 * n + 11], &subnormal, sizeof subnormal);
-        matrices[16 * n + 14] = 0x1p125F;
-    }
-    const VonkStatus status = vonkDet_ma_32f_4x4(matrices.data(), 64, 16, results.data(), 20);
+    const std::int32_t status = call.run();
     _mm_setcsr(before);
     EXPECT_EQ(status, vonkOk);
-    for (const float result : results) EXPECT_EQ(result, 1 - 0x1p-15F);
+    EXPECT_EQ(call.results(), std::vector<double>(20, 1 - 0x1p-15));
 }
 
 } // namespace
