@@ -75,34 +75,6 @@ TEST(CholeskyBackSubstitution, TakesItsWordsInTheOrderOfTheHeader) {
     EXPECT_EQ(std::vector<float>(solved, solved + 4), (std::vector<float>{1.25F, 1.5F, 0, 1.5F}));
 }
 
-// In lists of right-hand sides the shared matrix is no list, and has neither a shift nor a word that nobody reads.
-TEST(CholeskyBackSubstitution, TakesTheSharedMatrixOfListsByAPlainPointer) {
-    const double factor[4] = {0.5, nan, 1, 0.25};
-    const double sides[4] = {8, 28, 4, 2}; // the second: y = 2 0, x = 1 0
-    const double *const sideList[2] = {sides, sides + 2};
-    double solved[4] = {};
-    double *const solutionList[2] = {solved + 2, solved};
-    EXPECT_EQ(callWith("vonkCholeskyBackSubst_mva_64f_L",
-                       {wordOf(factor), 16, wordOf(sideList), 0, wordOf(solutionList), 0, 2, 2}),
-              vonkOk);
-    EXPECT_EQ(std::vector<double>(solved, solved + 4), (std::vector<double>{1, 0, 1.25, 1.5}));
-}
-
-// 4 2 / 2 10 has the factor 2 . / 1 3, of which 1/3 is not to be had exactly: at 53 bits all of it is plain.
-TEST(CholeskyBackSubstitution, SolvesWithWhatADecompositionLeaves) {
-    const double matrix[4] = {4, nan, 2, 10};
-    const double side[2] = {8, 22};
-    double factor[4] = {};
-    double solved[2] = {};
-    const SettingScope scope({Precision::bits53, Rounding::nearest});
-    ASSERT_EQ(callWith("vonkCholeskyDecomp_m_64f", {wordOf(matrix), 16, wordOf(factor), 16, 2}), vonkOk);
-    ASSERT_EQ(callWith("vonkCholeskyBackSubst_mv_64f", {wordOf(factor), 16, wordOf(side), wordOf(solved), 2}), vonkOk);
-    const double third = 1.0 / 3;
-    const double second = (22 - 1.0 * 4) * third * third;
-    EXPECT_EQ(solved[1], second);
-    EXPECT_EQ(solved[0], (4 - second) * 0.5);
-}
-
 TEST(CholeskyBackSubstitution, FollowsNoPointerAboveTheDiagonal) {
     for (const auto &[function, order] : literal::sized(section, {2, 5}, isTabled))
         for (const std::uintptr_t garbage : {std::uintptr_t{0}, ~std::uintptr_t{0}}) {

@@ -17,22 +17,13 @@ bool takesBlocks(const Function &function) { return isException(function, "frobe
 
 // ---- Calls
 
-void placeResults(Call &call, std::ptrdiff_t offset = 0) {
-    call.pass("dst", reinterpret_cast<std::uintptr_t>(call.spareCell(1) + offset));
-}
-
-double resultOf(Call &call, std::uint32_t n, std::ptrdiff_t offset = 0) {
-    return call.getAt(call.spareCell(1) + offset + static_cast<std::ptrdiff_t>(n) * call["src"].elementSize);
-}
+double resultOf(Call &call, std::uint32_t n) { return call.get("dst", n, 0, 0); }
 
 double element(std::uint32_t n, std::uint32_t i, std::uint32_t j) {
     return static_cast<int>((3 * i + 5 * j + i * j + n) % 9) - 4;
 }
 
-void fill(Call &call) {
-    literal::setElements(call, "src", call.size(), call.size(), element);
-    placeResults(call);
-}
+void fill(Call &call) { literal::setElements(call, "src", call.size(), call.size(), element); }
 
 // ---- The three roots
 
@@ -55,11 +46,13 @@ double rootOf(const Function &function, long double sum) {
     return hasLanes(function) ? rootByEstimate(narrow) : std::sqrt(narrow);
 }
 
-void expectDone(Call &call, std::uint32_t n, std::ptrdiff_t offset = 0) {
+void expectDone(Call &call, std::uint32_t n) {
     double sum = 0;
     for (const double one : call.get("src", n)) sum += one * one;
-    EXPECT_EQ(resultOf(call, n, offset), rootOf(call.function(), sum)) << "object " << n;
+    EXPECT_EQ(resultOf(call, n), rootOf(call.function(), sum)) << "object " << n;
 }
+
+const literal::Example example{fill, expectDone};
 
 // Whole numbers, so that no sum rounds.
 TEST(FrobeniusNorm, TakesTheRootOfTheSumOfSquaresInEveryFormAndGeometry) {
@@ -68,10 +61,8 @@ TEST(FrobeniusNorm, TakesTheRootOfTheSumOfSquaresInEveryFormAndGeometry) {
             for (std::uint32_t count = 1; count <= (function->array() ? 9 : 1); ++count) {
                 Call call(function->name, order, count, geometry);
                 fill(call);
-                const double beside = resultOf(call, count);
                 ASSERT_EQ(call.run(), vonkOk);
-                for (std::uint32_t n = 0; n < count; ++n) expectDone(call, n);
-                EXPECT_EQ(resultOf(call, count), beside);
+                literal::expectAllDone(call, example);
             }
 }
 
@@ -83,7 +74,6 @@ TEST(FrobeniusNorm, MeasuresRowsAndColumns) {
             call.set("src", std::vector<double>(25, 77));
             literal::makeRectangular(call, rows, cols);
             literal::setElements(call, "src", rows, cols, element);
-            placeResults(call);
             ASSERT_EQ(call.run(), vonkOk);
             for (std::uint32_t n = 0; n < call.count(); ++n) expectDone(call, n);
         }
@@ -96,7 +86,6 @@ TEST(FrobeniusNorm, FindsThreeAndFourToBeFive) {
         matrix[order - 1] = -3;
         matrix[(order - 1) * order + 1] = 4;
         call.set("src", matrix);
-        placeResults(call);
         ASSERT_EQ(call.run(), vonkOk);
         for (std::uint32_t n = 0; n < call.count(); ++n)
             EXPECT_NEAR(resultOf(call, n), 5, hasLanes(*function) ? 5 * 0x1p-20 : 0);
@@ -109,7 +98,6 @@ TEST(FrobeniusNorm, OfZerosIsANanInLanesAndZeroOtherwise) {
         Call call(function->name, order, 6);
         literal::setAll(call, "src", -0.0);
         if (call.count() > 1) call.set("src", 1, 0, 0, 2);
-        placeResults(call);
         ASSERT_EQ(call.run(), vonkOk);
         for (std::uint32_t n = 0; n < call.count(); ++n)
             if (n == 1) EXPECT_NEAR(resultOf(call, n), 2, 2 * 0x1p-20);
@@ -135,7 +123,6 @@ TEST(FrobeniusNorm, OfDoublesReachesAsFarAsItsSumIsRounded) {
             Call call(function->name, order);
             literal::setAll(call, "src", 0);
             call.set("src", 0, 2, 1, one);
-            placeResults(call);
             ASSERT_EQ(call.run(), vonkOk);
             EXPECT_EQ(resultOf(call, 0), roundsSum(*function) ? lost : one);
         }
@@ -176,7 +163,6 @@ TEST(FrobeniusNormOrder, IsFixedForEveryThreesome) {
     for (const auto &[function, order] : literal::sized(section, {3})) {
         Call call(function->name, order, takesBlocks(*function) ? 6 : 2);
         literal::setAll(call, "src", 0);
-        placeResults(call);
         const double large = largeFor(*function);
         const std::uint32_t terms = order * order;
         for (std::uint32_t a = 0; a < terms; ++a)
@@ -258,7 +244,6 @@ const std::array joinings = std::to_array<Joining>({
 TEST(FrobeniusNormOrder, IsThatOfItsForm) {
     for (const auto &[function, order] : literal::sized(section, {3})) {
         Call call(function->name, order, 6);
-        placeResults(call);
         const double large = largeFor(*function);
         for (std::size_t k = 0; k < joinings.size(); ++k) {
             const Joining &joining = joinings[k];
@@ -308,9 +293,9 @@ TEST(FrobeniusNormAlignment, ChangesNoResult) {
                     Call call(function->name, 0, 5);
                     literal::alignAllBut(call, offender, offence);
                     fill(call);
-                    placeResults(call, offset);
+                    call["dst"].moveTo(call["dst"].origin + offset);
                     ASSERT_EQ(call.run(), vonkOk);
-                    for (std::uint32_t n = 0; n < call.count(); ++n) expectDone(call, n, offset);
+                    literal::expectAllDone(call, example);
                 }
 }
 

@@ -13,70 +13,44 @@ constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 bool isShared(const Function &function) { return function.group == "mva"; } // one matrix for all right-hand sides
 
+// Where columns lie 4 bytes apart, matrices with neighbours of one's choice do not exist.
+bool hasFreeMatrix(const Function &function) { return !hasColumnsFourBytesApart(function); }
+bool isDoubleWithFreeMatrix(const Function &function) { return isDouble(function) && hasFreeMatrix(function); }
+
 // ---- Solutions
 
-// Where columns lie 4 bytes apart, neighbours share 4 bytes: the high half of one is the low half of the next. So rows
-// of such matrices have numbers at every other place, their diagonal among them, with low halves of zero. In between,
-// the high halves of numbers are the low halves of denormals: below 2^-1042 and lost beside any whole number.
-bool isPresent(const Function &function, std::uint32_t i, std::uint32_t j) {
-    return !hasColumnsFourBytesApart(function) || (i + j) % 2 == 0;
+// The factors of the matrix that goes with right-hand side n.
+Factors factorsOf(const Function &function, std::uint32_t order, std::uint32_t n) {
+    return {order, isShared(function) ? 0 : n};
 }
 
-struct System {
-    std::vector<std::uint32_t> permutation;
-    std::vector<double> factors; // by logical row: L below the diagonal, U from it on
-    std::vector<double> solution = {};
-    std::vector<double> rightHandSide = {};
+// L U x with its rows permuted, all multiples of 1/4.
+std::vector<double> rightHandSide(const Factors &factors, const std::vector<double> &x) {
+    std::vector<double> between(factors.order), side(factors.order);
+    for (std::uint32_t i = 0; i < factors.order; ++i)
+        for (std::uint32_t j = i; j < factors.order; ++j) between[i] += factors.upper(i, j) * x[j];
+    for (std::uint32_t i = 0; i < factors.order; ++i)
+        for (std::uint32_t j = 0; j <= i; ++j) side[factors.permutation[i]] += factors.lower(i, j) * between[j];
+    return side;
+}
 
-    std::uint32_t order() const { return static_cast<std::uint32_t>(permutation.size()); }
-    double at(std::uint32_t i, std::uint32_t j) const { return factors[i * order() + j]; }
-};
-
-// Object n has the right-hand side n, of the matrix n or of the only one.
-System systemOf(const Function &function, std::uint32_t order, std::uint32_t n) {
-    const Factors factors(order, isShared(function) ? 0 : n);
-    System system{factors.permutation, std::vector<double>(std::size_t{order} * order), Factors(order, n).solution(),
-                  std::vector<double>(order)};
-    for (std::uint32_t i = 0; i < order; ++i)
-        for (std::uint32_t j = 0; j < order; ++j)
-            if (isPresent(function, i, j))
-                system.factors[i * order + j] = j < i ? factors.lower(i, j) : factors.upper(i, j);
-    std::vector<double> between(order); // y = U x, and then b = L y, all multiples of 1/4
-    for (std::uint32_t i = 0; i < order; ++i)
-        for (std::uint32_t j = i; j < order; ++j) between[i] += system.at(i, j) * system.solution[j];
-    for (std::uint32_t i = 0; i < order; ++i) {
-        double &b = system.rightHandSide[system.permutation[i]];
-        b = between[i];
-        for (std::uint32_t j = 0; j < i; ++j) b += system.at(i, j) * between[j];
+void setSystem(Call &call, std::uint32_t n, const Factors &factors) {
+    if (n < call.objectsOf("src1")) {
+        call.set("src1", n, factors.factored());
+        call.setPivots(n, factors.permutation);
     }
-    return system;
+    call.set("src2", n, rightHandSide(factors, Factors(call.size(), n).solution()));
 }
 
-// Object n has this matrix, unless the only one is another object's.
-void setMatrix(Call &call, std::uint32_t n, const System &system) {
-    if (n >= call.objectsOf("src1")) return;
-    call.setPivots(n, system.permutation);
-    const bool overlapping = hasColumnsFourBytesApart(call.function());
-    for (std::uint32_t i = 0; i < system.order(); ++i) {
-        const std::uint32_t row = system.permutation[i];
-        std::byte *const start = call["src1"].address(n, row, 0);
-        if (overlapping) std::memset(start, 0, std::size_t{4} * (system.order() + 1));
-        for (std::uint32_t j = 0; j < system.order(); ++j)
-            if (!overlapping) call.set("src1", n, row, j, system.at(i, j));
-            else if (isPresent(call.function(), i, j)) call.setAt(start + std::size_t{4} * j, system.at(i, j));
-    }
-}
-
+// Where columns lie 4 bytes apart, run() compares what comes of bytes that nobody has worked out.
 void fill(Call &call) {
-    for (std::uint32_t n = 0; n < call.count(); ++n) {
-        const System system = systemOf(call.function(), call.size(), n);
-        setMatrix(call, n, system);
-        call.set("src2", n, system.rightHandSide);
-    }
+    for (std::uint32_t n = 0; n < call.count(); ++n) setSystem(call, n, factorsOf(call.function(), call.size(), n));
+    if (hasColumnsFourBytesApart(call.function())) literal::fillWithOrdinaryBytes(call, "src1");
 }
 
 void expectDone(Call &call, std::uint32_t n) {
-    EXPECT_EQ(call.get("dst", n), systemOf(call.function(), call.size(), n).solution);
+    if (hasColumnsFourBytesApart(call.function())) return;
+    EXPECT_EQ(call.get("dst", n), Factors(call.size(), n).solution());
 }
 
 const literal::Example example{fill, expectDone};
@@ -98,34 +72,6 @@ TEST(LuBackSubstitution, TakesItsWordsInTheOrderOfTheHeader) {
         vonkLUBackSubst_mava_32f_S2(factors, 1 << 20, 12, 4, pivots, side, 1 << 20, 4, solution, 1 << 20, 8, 2, 1),
         vonkOk);
     EXPECT_EQ(std::vector<float>(solution, solution + 3), (std::vector<float>{2.125F, 1.75F, 1.75F}));
-}
-
-// In lists of right-hand sides the shared matrix is no list.
-TEST(LuBackSubstitution, TakesTheSharedMatrixOfListsByAPlainPointer) {
-    const double factors[4] = {4, 2, 0.5, 8};
-    const std::uint32_t pivots[2] = {0, 1};
-    const double sides[4] = {12, 20, 8, 12}; // the second: y = 8, 8; x = (8 - 2)/4, 1
-    const double *const sideList[2] = {sides, sides + 2};
-    double solutions[4] = {};
-    double *const solutionList[2] = {solutions + 2, solutions};
-    EXPECT_EQ(vonkLUBackSubst_mva_64f_LS2(factors, 12345, 16, 8, pivots, sideList, 0, 8, solutionList, 0, 8, 2, 2),
-              vonkOk);
-    EXPECT_EQ(std::vector<double>(solutions, solutions + 4), (std::vector<double>{1.5, 1, 2.125, 1.75}));
-}
-
-// What a decomposition has left with rows of its own, whatever the rows of the matrix: 1 2 1 / 4 4 8 / 2 6 2 times
-// 1 2 3 is 8 36 20.
-TEST(LuBackSubstitution, SolvesWithWhatADecompositionLeaves) {
-    const double matrix[9] = {1, 2, 1, 4, 4, 8, 2, 6, 2};
-    const double side[3] = {8, 36, 20};
-    for (const std::int32_t rowStride : {24, 32, 72}) {
-        std::array<double, 21> factors{};
-        std::uint32_t pivots[3] = {};
-        double solution[3] = {};
-        ASSERT_EQ(vonkLUDecomp_m_64f_3x3(matrix, 24, pivots, factors.data(), rowStride), vonkOk);
-        ASSERT_EQ(vonkLUBackSubst_mv_64f_3x3(factors.data(), rowStride, pivots, side, solution), vonkOk);
-        EXPECT_EQ(std::vector<double>(solution, solution + 3), (std::vector<double>{1, 2, 3})) << rowStride;
-    }
 }
 
 // Nobody tests the pivots: with p = 2 the only row is row 2 and the right-hand side is the third.
@@ -160,10 +106,6 @@ TEST(LuBackSubstitution, TakesTheSharedMatrixOfListsOfDoublesWithColumnsFourByte
 // The fixed sizes of arrays, but for lists, keep a sum wide from its first term to its use. All others are loops over
 // pairs of terms and an odd last one, and store the sum as a double after the pairs and after the odd term.
 bool keepsSums(const Function &function) { return isException(function, "lu-solve-wide-sums"); }
-
-// Where columns lie 4 bytes apart, matrices with neighbours of one's choice do not exist.
-bool hasFreeMatrix(const Function &function) { return !hasColumnsFourBytesApart(function); }
-bool isDoubleWithFreeMatrix(const Function &function) { return isDouble(function) && hasFreeMatrix(function); }
 
 struct Sum {
     std::vector<std::pair<double, double>> terms; // coefficient and element of x
@@ -287,9 +229,10 @@ TEST(LuBackSubstitutionSums, StartFromZero) {
 // 5/3 is 13981013.33 * 2^-23; 5 times the float nearest 1/3 is 13981013.75 * 2^-23. For doubles it is
 // 7505999378950826.67 and 826.25 * 2^-52. A reciprocal would show in the last place.
 TEST(LuBackSubstitution, DividesTruly) {
-    for (const auto &[function, order] : literal::sized(section, {1, 3})) {
+    for (const auto &[function, order] : literal::sized(section, {1, 3}, hasFreeMatrix)) {
         Call call(function->name, order);
-        setMatrix(call, 0, {literal::identityPermutation(order), literal::diagonal(order, 3)});
+        call.set("src1", literal::diagonal(order, 3));
+        call.setPivots(0, literal::identityPermutation(order));
         call.set("src2", std::vector<double>(order, 5));
         ASSERT_EQ(call.run({Precision::bits53, Rounding::nearest}), vonkOk);
         const double expected = isFloat(*function) ? 13981013 * 0x1p-23 : 7505999378950827 * 0x1p-52;
@@ -299,14 +242,13 @@ TEST(LuBackSubstitution, DividesTruly) {
 
 // The top pivot, on which no other element depends.
 TEST(LuBackSubstitution, DividesByZeroPivotsWithoutAWord) {
-    for (const auto &[function, order] : literal::sized(section, {1, 2, 5}))
+    for (const auto &[function, order] : literal::sized(section, {1, 2, 5}, hasFreeMatrix))
         for (const auto &[side, expected] : {std::pair{5.0, infinity}, {-5.0, -infinity}, {0.0, nan}}) {
             Call call(function->name, order);
             fill(call);
-            System system = systemOf(*function, order, 0);
-            std::fill_n(system.factors.begin(), order, 0.0);
-            setMatrix(call, 0, system);
-            call.set("src2", 0, 0, system.permutation[0], side);
+            const std::uint32_t top = call.pivots(0)[0];
+            for (std::uint32_t j = 0; j < order; ++j) call.set("src1", 0, top, j, 0);
+            call.set("src2", 0, 0, top, side);
             EXPECT_EQ(call.run(), vonkOk);
             literal::expectSame(expected, call.get("dst", 0, 0, 0), "the quotient");
         }
@@ -317,28 +259,25 @@ TEST(LuBackSubstitution, DividesByZeroPivotsWithoutAWord) {
 TEST(LuBackSubstitutionInPlace, SolvesWhereTheRowsAreInTheirPlaces) {
     const auto fillUnpermuted = [](Call &call) {
         for (std::uint32_t n = 0; n < call.count(); ++n) {
-            System system = systemOf(call.function(), call.size(), n);
-            std::vector<double> side;
-            for (const std::uint32_t row : system.permutation) side.push_back(system.rightHandSide[row]);
-            system.permutation = literal::identityPermutation(call.size());
-            setMatrix(call, n, system);
-            call.set("src2", n, side);
+            Factors factors = factorsOf(call.function(), call.size(), n);
+            factors.permutation = literal::identityPermutation(call.size());
+            setSystem(call, n, factors);
         }
     };
-    for (const Function *function : literal::members(section))
+    for (const Function *function : literal::members(section, hasFreeMatrix))
         literal::expectInPlaceResults(*function, {fillUnpermuted, expectDone}, "src2", {1, 2, 5, 6});
 }
 
 // U = diag(2, 4, 1) and L(2, 0) = 1/2, the first two rows exchanged, b = 10 20 30. Apart, y0 = b1 = 20, y1 = b0 = 10
 // and y2 = b2 - 20/2 = 20, so that x = 10 2.5 20. In place y0 = 20 is written over b0, and y1 reads it there: y = 20 20
-// 20 and x = 10 5 20. All elements stand at even distances from the diagonal and so serve every form.
+// 20 and x = 10 5 20.
 TEST(LuBackSubstitutionInPlace, ReadsWhatItHasWrittenWhereRowsAreExchanged) {
-    for (const auto &[function, order] : literal::ofSize(section, 3))
+    for (const auto &[function, order] : literal::ofSize(section, 3, hasFreeMatrix))
         for (const bool inPlace : {false, true}) {
             Call call(function->name, order, 2);
             if (inPlace) call.layOver("src2");
-            for (std::uint32_t n = 0; n < call.count(); ++n)
-                setMatrix(call, n, {{1, 0, 2}, {2, 0, 0, 0, 4, 0, 0.5, 0, 1}});
+            call.set("src1", {0, 4, 0, 2, 0, 0, 0.5, 0, 1});
+            for (std::uint32_t n = 0; n < call.count(); ++n) call.setPivots(n, {1, 0, 2});
             call.set("src2", {10, 20, 30});
             ASSERT_EQ(call.run(), vonkOk);
             for (std::uint32_t n = 0; n < call.count(); ++n)

@@ -182,6 +182,11 @@ std::vector<std::uint32_t> identityPermutation(std::uint32_t order) {
     return rows;
 }
 
+double nextElement(const Function &function, double element, double direction) {
+    if (function.type == Type::real64) return std::nextafter(element, direction);
+    return std::nextafter(static_cast<float>(element), static_cast<float>(direction));
+}
+
 std::vector<double> unroundNumbers(std::uint32_t count, std::uint32_t variant) {
     std::vector<double> numbers;
     for (std::uint32_t k = 0; k < count; ++k)
@@ -533,6 +538,17 @@ Stray Call::strayWrites() {
     if (expected.pivots != after_.pivots) return {"a word of or beside the pivots was written"};
     if (expected.memory != after_.memory) return {"a byte outside the elements of dst was written"};
     return {};
+}
+
+void fillWithOrdinaryBytes(Call &call, std::string_view operand) {
+    const Place &place = call[operand];
+    std::uint32_t state = 1;
+    for (std::uint32_t n = 0; n < call.objectsOf(operand); ++n)
+        for (std::uint32_t i = 0; i < place.rows; ++i)
+            for (int k = 0; k < place.elementSize * static_cast<int>(place.cols); ++k) {
+                state = state * 1664525 + 1013904223;
+                place.address(n, i, 0)[k] = std::byte{0x3e} | static_cast<std::byte>(state >> 31);
+            }
 }
 
 bool same(double left, double right) {

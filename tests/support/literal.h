@@ -63,6 +63,9 @@ std::vector<double> zeros(std::uint32_t order);
 
 std::vector<std::uint32_t> identityPermutation(std::uint32_t order);
 
+// The next element of the function's type in this direction.
+double nextElement(const catalogue::Function &function, double element, double direction);
+
 // Floats between -4 and 4 of which nothing is round, also not in the last place.
 std::vector<double> unroundNumbers(std::uint32_t count, std::uint32_t variant);
 
@@ -207,6 +210,9 @@ private:
     Picture after_;
     testing::ScopedTrace trace_;
 };
+
+// Fills the rows of an operand with bytes of which any that follow one another are an ordinary float or double.
+void fillWithOrdinaryBytes(Call &call, std::string_view operand);
 
 // Equal, and of one sign if zero; one NaN is as good as another.
 bool same(double left, double right);
