@@ -1,6 +1,5 @@
 // Cholesky back substitution: solutions by hand in every form, the order in which products are taken away, where sums
-// are rounded, and what goes its own way: objects that lead to null are passed over, a count of zero is refused, and
-// sizes may be negative.
+// are rounded, and what goes its own way: objects that lead to null are passed over.
 #include "support/family_test.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // Cholesky decomposition: factors by hand in every form, the test of the pivots and what a failure leaves, where the
 // wide arithmetic is rounded, and the members that go their own way: the first pivot that may be a NaN, strides of
-// whole elements, the count that is a dimension and may be negative.
+// whole elements, the count that is never negative in tables.
 #include "support/family_test.h"
 
 namespace {

@@ -235,7 +235,6 @@ const std::array joinings = std::to_array<Joining>({
     {Way::inLanes, 6, 4, 14, 34, true},
     {Way::inLanes, 6, 4, 24, 44, false},
     {Way::inLanes, 6, 44, 4, 24, true},
-    {Way::inLanes, 6, 4, 34, 54, true},
     {Way::inLanes, 6, 0, 1, 3, true},
     {Way::inLanes, 6, 0, 4, 5, true},
 });

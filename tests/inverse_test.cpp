@@ -1,5 +1,5 @@
 // Inverses: values by hand in every form, what each form takes for singular and what it has written by then, the
-// columns that it looks at, entries that it tests or trusts, and how far its results lie from the truth.
+// columns that it looks at, and how far its results lie from the truth.
 #include "support/accuracy.h"
 #include "support/family_test.h"
 
@@ -53,6 +53,26 @@ void expectNear(const std::vector<double> &expected, const std::vector<double> &
         EXPECT_NEAR(expected[k], actual[k], std::fabs(expected[k]) * relative) << "element " << k;
 }
 
+struct Inverted {
+    std::int32_t status;
+    Matrix inverse;
+    bool changedNothing;
+};
+
+Inverted inverted(const Function &function, const Matrix &matrix) {
+    Call call(function.name, static_cast<std::uint32_t>(std::sqrt(matrix.size()) + 0.5));
+    call.set("src", matrix);
+    const std::int32_t status = call.run();
+    EXPECT_FALSE(call.strayWrites());
+    return {status, call.get("dst", 0), call.changedNothing()};
+}
+
+Matrix inverseOf(const Function &function, const Matrix &matrix) {
+    const Inverted got = inverted(function, matrix);
+    EXPECT_EQ(got.status, vonkOk) << function.name;
+    return got.inverse;
+}
+
 // Floats of fixed size with adjacent elements estimate the reciprocal and take one Newton step: they are some units
 // off. All others are exact here.
 void expectDone(Call &call, std::uint32_t n) {
@@ -69,22 +89,16 @@ TEST(Inverse, IsWorkedOutInEveryFormAndGeometry) {
 // 1 2 3 / 0 1 4 / 5 6 0 has the determinant 1. At run-time size the pivots are rounded; the closed forms have whole
 // numbers only.
 TEST(Inverse, IsTheTransposedAdjugate) {
-    for (const auto &[function, order] : literal::ofSize(section, 3)) {
-        Call call(function->name, order);
-        call.set("src", {1, 2, 3, 0, 1, 4, 5, 6, 0});
-        EXPECT_EQ(call.run(), vonkOk);
-        expectNear({-24, 18, 5, 20, -15, -4, -5, 4, 1}, call.get("dst", 0),
+    for (const auto &[function, order] : literal::ofSize(section, 3))
+        expectNear({-24, 18, 5, 20, -15, -4, -5, 4, 1}, inverseOf(*function, {1, 2, 3, 0, 1, 4, 5, 6, 0}),
                    isRunTime(*function) || hasLanes(*function) ? 1e-5 : 0);
-    }
 }
 
 TEST(Inverse, TimesItsMatrixIsTheIdentity) {
     for (const auto &[function, order] : literal::sized(section, {5})) {
+        SCOPED_TRACE(function->name);
         const Matrix matrix = literal::wellConditioned(order, 3);
-        Call call(function->name, order);
-        call.set("src", matrix);
-        ASSERT_EQ(call.run(), vonkOk);
-        const Matrix inverse = call.get("dst", 0);
+        const Matrix inverse = inverseOf(*function, matrix);
         for (std::uint32_t i = 0; i < order; ++i)
             for (std::uint32_t j = 0; j < order; ++j) {
                 double sum = 0;
@@ -97,29 +111,21 @@ TEST(Inverse, TimesItsMatrixIsTheIdentity) {
 // 4 7 / 2 6 has the determinant 10; a tenth is rounded to the element type before it is used.
 TEST(InverseOfRunTimeSize, ScalesMinorsWithARoundedReciprocal) {
     for (const Function *function : literal::members(section, isRunTime)) {
-        Call call(function->name, 2);
-        call.set("src", {4, 7, 2, 6});
-        EXPECT_EQ(call.run(), vonkOk);
         Matrix expected;
         for (const double minor : {6.0, -7.0, -2.0, 4.0})
             expected.push_back(isFloat(*function) ? static_cast<float>(minor) * 0.1F : minor * 0.1);
-        EXPECT_EQ(call.get("dst", 0), expected);
-        EXPECT_FALSE(call.strayWrites());
+        EXPECT_EQ(inverseOf(*function, {4, 7, 2, 6}), expected) << function->name;
     }
 }
 
 // A minor that is singular counts as 0, and an odd place changes its sign. The last pivot of a minor has to be above
 // the tolerance; the smallest of the second matrix is at it, of which the determinant is -1.
 TEST(InverseOfRunTimeSize, TakesMinorsAtTheToleranceForZeroAndHasNegativeZerosInOddPlaces) {
-    for (const Function *function : literal::members(section, isRunTime))
-        for (const auto &[matrix, inverse] :
-             {std::pair{diagonal(3, 1), Matrix{1, -0.0, 0, -0.0, 1, -0.0, 0, -0.0, 1}},
-              std::pair{Matrix{tolerance(*function), 1, 1, 0}, Matrix{-0.0, 1, 1, -0.0}}}) {
-            Call call(function->name, matrix.size() == 4 ? 2 : 3);
-            call.set("src", matrix);
-            EXPECT_EQ(call.run(), vonkOk);
-            literal::expectSame(inverse, call.get("dst", 0), "dst");
-        }
+    for (const Function *function : literal::members(section, isRunTime)) {
+        literal::expectSame({1, -0.0, 0, -0.0, 1, -0.0, 0, -0.0, 1}, inverseOf(*function, diagonal(3, 1)),
+                            function->name);
+        literal::expectSame({-0.0, 1, 1, -0.0}, inverseOf(*function, {tolerance(*function), 1, 1, 0}), function->name);
+    }
 }
 
 TEST(InverseOfRunTimeSize, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTheRestAlone) {
@@ -134,16 +140,10 @@ TEST(InverseOfRunTimeSize, TakesScratchMemoryAtAnyMultipleOfAnElementAndLeavesTh
 
 // ---- Singular matrices
 
-std::int32_t statusOf(const Function &function, const Matrix &matrix) {
-    Call call(function.name, static_cast<std::uint32_t>(std::sqrt(matrix.size()) + 0.5));
-    call.set("src", matrix);
-    return call.run();
-}
-
 // One case per line: the matrix, and whether it is singular.
 void expectSingular(const Function &function, const std::vector<std::pair<Matrix, bool>> &cases) {
     for (std::size_t k = 0; k < cases.size(); ++k)
-        EXPECT_EQ(statusOf(function, cases[k].first), cases[k].second ? vonkErrSingular : vonkOk)
+        EXPECT_EQ(inverted(function, cases[k].first).status, cases[k].second ? vonkErrSingular : vonkOk)
             << function.name << ", case " << k;
 }
 
@@ -193,12 +193,9 @@ TEST(InverseSingularity, OfTheFastFormOfFourStandsOnTheCofactorsOfRowZero) {
 
 // The step of the fast form of 4 squares the estimate, 2^80 here, which no float holds.
 TEST(InverseSingularity, LeavesTheFastFormOfFourNoResultsWhereTheSquareOverflows) {
-    for (const auto &[function, order] : literal::ofSize(section, 4, hasLanes)) {
-        Call call(function->name, order);
-        call.set("src", diagonal(4, 0x1p-20));
-        EXPECT_EQ(call.run(), vonkOk);
-        for (std::uint32_t i = 0; i < 4; ++i) EXPECT_FALSE(std::isfinite(call.get("dst", 0, i, i)));
-    }
+    for (const auto &[function, order] : literal::ofSize(section, 4, hasLanes))
+        for (std::uint32_t i = 0; i < order; ++i)
+            EXPECT_FALSE(std::isfinite(inverseOf(*function, diagonal(order, 0x1p-20))[i * (order + 1)]));
 }
 
 // Of 1e-8 in the first pivots alone nothing follows for the others: the determinant of the whole is 1.
@@ -220,12 +217,11 @@ TEST(InverseSingularity, OfBlocksIsThatOfTheLeadingOneOrOfTheRest) {
 
 TEST(InverseSingularity, IsNoNaN) {
     for (const auto &[function, order] : literal::sized(section, {3})) {
-        Call call(function->name, order);
         const bool choosesFreely = hasLanes(*function) && order == 6; // and may leave out a single one
-        call.set("src", choosesFreely ? Matrix(36, nan) : diagonalOf(order, {nan}));
-        EXPECT_EQ(call.run(), isRunTime(*function) ? vonkErrSingular : vonkOk);
+        const Inverted got = inverted(*function, choosesFreely ? Matrix(36, nan) : diagonalOf(order, {nan}));
+        EXPECT_EQ(got.status, isRunTime(*function) ? vonkErrSingular : vonkOk);
         if (isRunTime(*function)) continue;
-        literal::expectSame(Matrix(std::size_t{order} * order, nan), call.get("dst", 0), "dst");
+        literal::expectSame(Matrix(std::size_t{order} * order, nan), got.inverse, function->name);
     }
 }
 
@@ -268,13 +264,12 @@ TEST(InverseOfBlocks, PutsRegularColumnsInFrontOfWhichSixHasFiveButInTheFastForm
             Matrix exchange = diagonal(order, 1);
             for (std::uint32_t i = 0; i < exchanged; ++i)
                 for (std::uint32_t j = 0; j < exchanged; ++j) exchange[i * order + j] = i + j + 1 == exchanged ? 1 : 0;
-            Call call(function->name, order);
-            call.set("src", exchange);
+            const Inverted got = inverted(*function, exchange);
             const bool isSingular = exchanged == 6 && isExact(*function);
-            EXPECT_EQ(call.run(), isSingular ? vonkErrSingular : vonkOk);
-            EXPECT_EQ(call.changedNothing(), isSingular);
+            EXPECT_EQ(got.status, isSingular ? vonkErrSingular : vonkOk);
+            EXPECT_EQ(got.changedNothing, isSingular);
             for (std::uint32_t k = 0; !isSingular && k < order * order; ++k)
-                EXPECT_NEAR(call.get("dst", 0)[k], exchange[k], isExact(*function) ? 0 : 0x1p-19) << "element " << k;
+                EXPECT_NEAR(got.inverse[k], exchange[k], isExact(*function) ? 0 : 0x1p-19) << "element " << k;
         }
 }
 
@@ -284,10 +279,8 @@ TEST(InverseOfBlocks, PutsRegularColumnsInFrontOfWhichSixHasFiveButInTheFastForm
 TEST(InverseRounding, IsTheCallers) {
     for (const auto &[function, order] : literal::sized(section, {3}, isExact)) {
         const auto at = [&function = *function, order = order](Rounding rounding) {
-            Call call(function.name, order);
-            call.set("src", diagonalOf(order, {3}));
-            EXPECT_EQ(call.run({Precision::bits64, rounding}), vonkOk);
-            return call.get("dst", 0, 0, 0);
+            const SettingScope scope({Precision::bits64, rounding});
+            return inverseOf(function, diagonalOf(order, {3})).front();
         };
         EXPECT_EQ(at(Rounding::down), literal::nextElement(*function, at(Rounding::up), 0)) << function->name;
     }
@@ -296,12 +289,8 @@ TEST(InverseRounding, IsTheCallers) {
 // Cofactors, determinant and reciprocal of doubles stay in the extended type: the determinant is 2^-1200 or 2^1200, and
 // the results are numbers all the same.
 TEST(InverseOfDoubles, HasTheExtendedRange) {
-    for (const auto &[function, order] : literal::sized(section, {}, isDouble)) {
-        Call call(function->name, order);
-        call.set("src", diagonal(order, 0x1p400));
-        EXPECT_EQ(call.run(), vonkOk);
-        EXPECT_EQ(call.get("dst", 0), diagonal(order, 0x1p-400));
-    }
+    for (const auto &[function, order] : literal::sized(section, {}, isDouble))
+        EXPECT_EQ(inverseOf(*function, diagonal(order, 0x1p400)), diagonal(order, 0x1p-400)) << function->name;
 }
 
 TEST(InverseAccuracy, KeepsTheBoundOfAnyOrderOfTheSums) {
