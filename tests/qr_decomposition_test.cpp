@@ -328,8 +328,8 @@ TEST(QrDecompositionRounding, OfDoublesMeetsLengthAndBetaAndNeitherElementsNorTh
     for (const auto &[function, order] : literal::sized(section, {2, 3, 4, 5, 6, 7}, isDouble))
         for (const RoundingCase &rounding : cases) {
             SCOPED_TRACE(function->name + ", order " + std::to_string(order) + ": " + rounding.what);
-            const auto at = [&](Precision precision) {
-                return reflected(*function, order, precision, rounding.first, rounding.last).firstOfLastColumn;
+            const auto at = [&rounding, &function = *function, order = order](Precision precision) {
+                return reflected(function, order, precision, rounding.first, rounding.last).firstOfLastColumn;
             };
             EXPECT_EQ(at(Precision::bits64), rounding.at64);
             EXPECT_EQ(at(Precision::bits53), rounding.at53);
