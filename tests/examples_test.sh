@@ -60,12 +60,12 @@ refused() {
     check "solve: $1" "$2" - "$3" "$solve"
 }
 
-# solved <name> <expected output, but for the line with the residual>: the text on standard input
+# solved <name> <expected output, but for the line with the residual; \n ends a line>: the text on standard input
 solved() {
     cat >"$work/in"
     check "solve: $1" 0 'largest residual |A x - b|: ' - "$solve"
     sed '$d' "$work/out" >"$work/solutions"
-    printf '%s\n' "$2" >"$work/expected"
+    printf '%b\n' "$2" >"$work/expected"
     problem=
     cmp -s "$work/expected" "$work/solutions" || problem="other solutions than expected"
     passed_or_failed "solve: $1: solutions" "$problem" ||
@@ -220,9 +220,7 @@ done
 
 # ---- solve: what has a solution
 
-solved 'sample' 'system 1:   1   2   3
-system 2:   1   1   1
-system 3:   2  -3   8' <"$examples/systems.txt"
+solved 'sample' 'system 1:   1   2   3\nsystem 2:   1   1   1\nsystem 3:   2  -3   8' <"$examples/systems.txt"
 cp "$work/out" "$work/sample"
 : >"$work/in"
 check 'solve: sample as a file' 0 "=$work/sample" - "$solve" "$examples/systems.txt"
@@ -231,51 +229,18 @@ check 'solve: sample as -' 0 "=$work/sample" - "$solve" -
 awk '{ printf "%s\r\n", $0 }' "$examples/systems.txt" | solved 'lines that end in CR LF' "$(sed '$d' "$work/sample")"
 printf '1 1\n4 2' | solved 'order 1, no end of the last line' 'system 1:  0.5'
 printf '\t2 2 # head\n\n  # note\n0 2 4\n4 0 4# note\n1 0 -1e1\n\n0 1 0.5\n\n# end' |
-    solved 'blank lines and comments' 'system 1:    1    2
-system 2:  -10  0.5'
+    solved 'blank lines and comments' 'system 1:    1    2\nsystem 2:  -10  0.5'
 
 # The library's test of an array's later last pivots looks elsewhere: zeros there are no reason to refuse.
-solved 'identity matrices' 'system 1:  1  2
-system 2:  3  4
-system 3:  5  6
-system 4:  7  8' <<'END'
-2 4
-1 0 1
-0 1 2
-1 0 3
-0 1 4
-1 0 5
-0 1 6
-1 0 7
-0 1 8
-END
-solved 'zeros in the last columns, rows exchanged' 'system 1:  1  2  3
-system 2:  3  1  2
-system 3:  2  3  1' <<'END'
-3 3
-1 0 0 1
-0 1 0 2
-0 0 1 3
-0 1 0 1
-0 0 1 2
-1 0 0 3
-0 0 1 1
-1 0 0 2
-0 1 0 3
-END
+printf '2 4\n1 0 1\n0 1 2\n1 0 3\n0 1 4\n1 0 5\n0 1 6\n1 0 7\n0 1 8\n' |
+    solved 'identity matrices' 'system 1:  1  2\nsystem 2:  3  4\nsystem 3:  5  6\nsystem 4:  7  8'
+printf '3 3\n1 0 0 1\n0 1 0 2\n0 0 1 3\n0 1 0 1\n0 0 1 2\n1 0 0 3\n0 0 1 1\n1 0 0 2\n0 1 0 3\n' |
+    solved 'zeros in the last columns, rows exchanged' 'system 1:  1  2  3\nsystem 2:  3  1  2\nsystem 3:  2  3  1'
 
 # 2^-23 itself is large enough to be a pivot, here as the first, a middle and the last one.
-solved 'pivots at the tolerance' 'system 1:  8388608  8388608
-system 2:  8388608        1
-system 3:        1  8388608' <<'END'
-2 3
-1.1920928955078125e-7 0 1
-0 1.1920928955078125e-7 1
-1.1920928955078125e-7 0 1
-0 1 1
-1 0 1
-0 1.1920928955078125e-7 1
-END
+t=1.1920928955078125e-7
+printf "2 3\n$t 0 1\n0 $t 1\n$t 0 1\n0 1 1\n1 0 1\n0 $t 1\n" |
+    solved 'pivots at the tolerance' 'system 1:  8388608  8388608\nsystem 2:  8388608        1\nsystem 3:        1  8388608'
 
 # The identity of order 300, with so much space that a line has about 6000 characters.
 awk 'BEGIN { n = 300; print n, 1; for (i = 1; i <= n; ++i) { line = "";
@@ -331,80 +296,22 @@ check 'solve: --help' 0 'usage: solve [file | -]' - "$solve" --help
 printf '1 1\n0 1\n' | refused 'singular, order 1' 2 'system 1 is singular'
 printf '1 3\n1 1\n0 1\n1 1\n' | refused 'singular, order 1, the second of three' 2 'system 2 is singular'
 printf '2 1\n0 0 1\n0 0 1\n' | refused 'a zero matrix' 2 'system 1 is singular'
-refused 'a zero first column, the second of three' 2 'system 2 is singular' <<'END'
-2 3
-2 1 3
-1 2 3
-0 1 1
-0 2 2
-0 0 0
-0 0 0
-END
-refused 'only the last pivot is zero, the first of three' 2 'system 1 is singular' <<'END'
-2 3
-1 2 3
-2 4 6
-2 1 3
-1 2 3
-2 1 3
-1 2 3
-END
-refused 'only the last pivot is zero, the second of three' 2 'system 2 is singular' <<'END'
-2 3
-2 1 3
-1 2 3
-1 2 3
-2 4 6
-2 1 3
-1 2 3
-END
-refused 'only the last pivot is zero, the last of three' 2 'system 3 is singular' <<'END'
-2 3
-2 1 3
-1 2 3
-2 1 3
-1 2 3
-1 2 3
-2 4 6
-END
-refused 'the last pivot of the second, then the first pivot of the third' 2 'system 2 is singular' <<'END'
-3 4
-1 0 0 1
-0 1 0 1
-0 0 1 1
-0 1 0 1
-1 0 0 1
-1 1 0 2
-0 1 1 1
-0 1 1 1
-0 1 1 1
-1 0 0 1
-0 1 0 1
-0 0 1 1
-END
-refused 'the first pivot of the last' 2 'system 3 is singular' <<'END'
-2 3
-2 1 3
-1 2 3
-2 1 3
-1 2 3
-0 1 1
-0 1 1
-END
-refused 'last pivot below the tolerance, the second of three' 2 'system 2 is singular: a pivot is below 2^-23' <<'END'
-2 3
-1 0 1
-0 1 1
-1 0 1
-0 1.1920928955078123e-7 1
-1 0 1
-0 1 1
-END
-refused 'first pivot below the tolerance' 2 'system 1 is singular: a pivot is below 2^-23' <<'END'
-2 1
-1e-10 0 1
-0 1 1
-END
+printf '2 3\n2 1 3\n1 2 3\n0 1 1\n0 2 2\n0 0 0\n0 0 0\n' |
+    refused 'a zero first column, the second of three' 2 'system 2 is singular'
+printf '2 3\n1 2 3\n2 4 6\n2 1 3\n1 2 3\n2 1 3\n1 2 3\n' |
+    refused 'only the last pivot is zero, the first of three' 2 'system 1 is singular'
+printf '2 3\n2 1 3\n1 2 3\n1 2 3\n2 4 6\n2 1 3\n1 2 3\n' |
+    refused 'only the last pivot is zero, the second of three' 2 'system 2 is singular'
+printf '2 3\n2 1 3\n1 2 3\n2 1 3\n1 2 3\n1 2 3\n2 4 6\n' |
+    refused 'only the last pivot is zero, the last of three' 2 'system 3 is singular'
+printf '3 4\n1 0 0 1\n0 1 0 1\n0 0 1 1\n0 1 0 1\n1 0 0 1\n1 1 0 2\n0 1 1 1\n0 1 1 1\n0 1 1 1\n1 0 0 1\n0 1 0 1\n0 0 1 1\n' |
+    refused 'the last pivot of the second, then the first pivot of the third' 2 'system 2 is singular'
+printf '2 3\n2 1 3\n1 2 3\n2 1 3\n1 2 3\n0 1 1\n0 1 1\n' |
+    refused 'the first pivot of the last' 2 'system 3 is singular'
+printf '2 3\n1 0 1\n0 1 1\n1 0 1\n0 1.1920928955078123e-7 1\n1 0 1\n0 1 1\n' |
+    refused 'last pivot below the tolerance, the second of three' 2 'system 2 is singular: a pivot is below 2^-23'
+printf '2 1\n1e-10 0 1\n0 1 1\n' |
+    refused 'first pivot below the tolerance' 2 'system 1 is singular: a pivot is below 2^-23'
 printf '2 2\n1 0 1\n0 1 1\n1 0 1e300\n0 1e-5 1e305\n' |
     refused 'a solution that overflows' 3 'the solution of system 2 overflows'
 
