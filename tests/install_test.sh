@@ -9,8 +9,7 @@ build=$1
 tests=$2
 cc=$3
 cxx=$4
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
+. "$(dirname "$0")/checks.sh"
 
 cmake --install "$build" --prefix "$scratch/first" >/dev/null
 mv "$scratch/first" "$scratch/moved" # nothing installed may remember where it was put
@@ -63,7 +62,7 @@ expected=$(readlink -f "$libraries${best:+/glibc-hwcaps/$best}/vonkk3.so")
 resolved() { sed -n 's/.*libvonkk3\.so\.4 => \(.*\) (0x.*/\1/p' | xargs readlink -f; } # of what the loader lists
 loads() { # WHAT FILE EXPECTED
     if [ "$2" = "$3" ]; then echo "  $1: ${2#"$prefix"/}"
-    else echo "FAILED: $1 loads $2, not $3"; exit 1; fi
+    else fail "$1 loads $2, not $3"; fi
 }
 loads "along LD_LIBRARY_PATH" "$(LD_TRACE_LOADED_OBJECTS=1 "$scratch/c_program" | resolved)" "$expected"
 "$cc" -std=c99 "$tests/install/program.c" $flags -Wl,--enable-new-dtags,-rpath,"$libraries" -o "$scratch/with_runpath"
@@ -80,4 +79,4 @@ else echo "  left out: there is no qemu-x86_64 to stand for a processor without 
 echo "as data"
 cmake -DJSON="$prefix/share/vonkk3/functions.json" -DEXPORTS="$build/src/generated/exports.txt" \
     -P "$tests/install/functions.cmake"
-echo "installed library works"
+[ "$failures" -eq 0 ] && echo "installed library works"

@@ -6,17 +6,7 @@
 folder=$1
 exports=$2
 library=$folder/vonkk3.so
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-failures=0
-
-expect() { # WHAT CONDITION...
-    what=$1
-    shift
-    if "$@"; then echo "ok: $what"; else echo "FAILED: $what"; failures=$((failures + 1)); fi
-}
-same() { diff "$1" "$2" >"$scratch/difference" || { head -n 20 "$scratch/difference"; return 1; }; }
-empty() { [ ! -s "$1" ] || { head -n 20 "$1"; return 1; }; }
+. "$(dirname "$0")/checks.sh"
 
 nm -D --defined-only "$library" | awk '{ print $3 }' | LC_ALL=C sort >"$scratch/defined"
 LC_ALL=C sort "$exports" >"$scratch/expected"

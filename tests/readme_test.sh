@@ -7,8 +7,7 @@ source=$1
 build=$2
 cc=$3
 cxx=$4
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
+. "$(dirname "$0")/checks.sh"
 
 awk '/^```c$/ { inside = 1; next } /^```$/ { inside = 0 } inside' "$source/README.md" >"$scratch/example.c"
 "$cc" -std=c99 -pedantic -Wall -Wextra -Werror -I"$source/include" "$scratch/example.c" -L"$build" -lvonkk3 \

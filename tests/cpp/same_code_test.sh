@@ -6,10 +6,8 @@ set -eu
 include=$1
 source=$2
 shift 2
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
+. "$(dirname "$0")/../checks.sh"
 
-failures=0
 for cxx in "$@"; do
     command -v "$cxx" >/dev/null || { echo "left out: there is no $cxx"; continue; }
     # Sections apart, so that every function begins alike.
@@ -23,15 +21,14 @@ for cxx in "$@"; do
     for direct in "$scratch"/c_*; do
         name=${direct#"$scratch"/c_}
         pairs=$((pairs + 1))
-        grep -q vonk "$direct" || { echo "FAILED: $cxx: $name calls nothing"; failures=$((failures + 1)); }
+        grep -q vonk "$direct" || fail "$cxx: $name calls nothing"
         cmp -s "$direct" "$scratch/cpp_$name" || {
-            echo "FAILED: $cxx: $name has other instructions"
+            fail "$cxx: $name has other instructions"
             diff "$direct" "$scratch/cpp_$name" | head -n 30
-            failures=$((failures + 1))
         }
     done
     echo "$cxx: $pairs calls compared with the C functions"
-    [ "$pairs" -ge 24 ] || { echo "FAILED: $cxx: too few pairs"; failures=$((failures + 1)); }
+    [ "$pairs" -ge 24 ] || fail "$cxx: too few pairs"
     rm -f "$scratch"/c_* "$scratch"/cpp_*
 done
 [ "$failures" -eq 0 ]

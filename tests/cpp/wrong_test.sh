@@ -6,8 +6,7 @@ set -eu
 include=$1
 calls=$2
 cxx=$3
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
+. "$(dirname "$0")/../checks.sh"
 
 cat >"$scratch/operands.h" <<'END'
 #include <vector>
@@ -39,7 +38,6 @@ END
 # Parsed once for all calls.
 "$cxx" -std=c++17 -w -I"$include" -x c++-header "$scratch/operands.h" -o "$scratch/operands.h.gch"
 
-failures=0
 number=0
 while IFS='|' read -r sentence call; do
     case $sentence in '' | '#'*) continue ;; esac
@@ -49,16 +47,16 @@ while IFS='|' read -r sentence call; do
     "$cxx" -std=c++17 -w -fsyntax-only -I"$include" -include "$scratch/operands.h" "$scratch/call.cpp" >"$scratch/out" 2>&1 &&
         status=0 || status=1
     if [ "$sentence" = ok ]; then
-        [ "$status" -eq 0 ] || { echo "FAILED:$call does not compile"; cat "$scratch/out"; failures=$((failures + 1)); }
+        [ "$status" -eq 0 ] || { fail "$call does not compile"; cat "$scratch/out"; }
         continue
     fi
     errors=$(grep -c ' error: ' "$scratch/out" || true)
     if [ "$status" -eq 0 ]; then
-        echo "FAILED:$call compiles"; failures=$((failures + 1))
+        fail "$call compiles"
     elif ! grep ' error: .*vonkk3: ' "$scratch/out" | grep -q -F "$sentence"; then
-        echo "FAILED:$call does not say: $sentence"; grep ' error: ' "$scratch/out"; failures=$((failures + 1))
+        fail "$call does not say: $sentence"; grep ' error: ' "$scratch/out"
     elif [ "$errors" -ne 1 ]; then
-        echo "FAILED:$call says $errors errors"; grep ' error: ' "$scratch/out"; failures=$((failures + 1))
+        fail "$call says $errors errors"; grep ' error: ' "$scratch/out"
     fi
 done <"$calls"
 echo "$number calls, $failures failures"

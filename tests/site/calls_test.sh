@@ -8,15 +8,13 @@ source=$1
 catalogue=$2
 library=$3
 cc=$4
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
+. "$(dirname "$0")/../checks.sh"
 
 node "$source/tests/site/calls.js" "$source/docs/site/finder" "$catalogue" "$scratch" ${5:-}
-failed=0
 for program in "$scratch"/*.c; do
     # The sanitizer watches what the calls' own declarations leave to the fill and to the loop.
     "$cc" -std=c99 -O0 -Wall -Werror -fsanitize=address -I"$source/include" "$program" -L"$library" -lvonkk3 \
         -Wl,-rpath,"$library" -lm -o "$scratch/program"
-    "$scratch/program" || failed=1
+    "$scratch/program" || fail "$program"
 done
-exit $failed
+[ "$failures" -eq 0 ]

@@ -9,17 +9,7 @@ exports=$2
 def=$3
 library=$folder/vonkk3.dll
 tools=x86_64-w64-mingw32
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-failures=0
-
-expect() { # WHAT CONDITION...
-    what=$1
-    shift
-    if "$@"; then echo "ok: $what"; else echo "FAILED: $what"; failures=$((failures + 1)); fi
-}
-same() { diff "$1" "$2" >"$scratch/difference" || { head -n 20 "$scratch/difference"; return 1; }; }
-empty() { [ ! -s "$1" ] || { head -n 20 "$1"; return 1; }; }
+. "$(dirname "$0")/../checks.sh"
 zero() { [ -n "$1" ] && [ "$(printf '%s' "$1" | tr -d 0)" = "" ] || { echo "$1"; return 1; }; }
 
 $tools-objdump -p "$library" >"$scratch/headers"
