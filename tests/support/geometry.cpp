@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <limits>
+#include <stdexcept>
 
 namespace support {
 namespace {
@@ -186,6 +186,16 @@ std::vector<std::uintptr_t> Placement::elements() const {
         for (std::uint32_t i = 0; i < shape.rows; ++i)
             for (std::uint32_t j = 0; j < shape.cols; ++j) all.push_back(address(n, i, j));
     return all;
+}
+
+std::int64_t Placement::bytesFor(catalogue::Kind kind) const {
+    switch (kind) {
+    case catalogue::Kind::shift: return shift;
+    case catalogue::Kind::objectStride: return objectStride;
+    case catalogue::Kind::rowStride: return rowStride;
+    case catalogue::Kind::elementStride: return elementStride;
+    default: throw std::logic_error("a parameter that is no stride");
+    }
 }
 
 Placement layOut(const catalogue::Function &function, int operand, const Sizes &sizes, Style style, Random &random) {

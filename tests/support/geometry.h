@@ -56,7 +56,8 @@ struct Placement {
     std::int32_t shift = 0;
 
     std::uintptr_t address(std::uint32_t n, std::uint32_t i, std::uint32_t j) const;
-    std::vector<std::uintptr_t> elements() const; // all of them, objects outermost
+    std::vector<std::uintptr_t> elements() const;      // all of them, objects outermost
+    std::int64_t bytesFor(catalogue::Kind kind) const; // the shift or stride that a parameter of this kind passes
 };
 
 // Places of operands that an alias test has to tell from others; `any` leaves everything to chance. What a function has

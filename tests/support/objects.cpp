@@ -36,8 +36,6 @@ private:
     std::uintptr_t next, end;
 };
 
-std::uint64_t low32(std::int64_t value) { return static_cast<std::uint64_t>(value) & 0xffffffff; }
-
 Sizes sizesFor(const Function &function, std::uint32_t mostObjects, Random &random) {
     Sizes sizes;
     const std::string_view section = function.section->id;
@@ -118,16 +116,12 @@ std::uint64_t Laid::word(const Parameter &parameter, const Objects &objects) con
     case Kind::table:
     case Kind::list: return operand().table;
     case Kind::dense: return std::ranges::find(blocks, parameter.name, &Block::parameter)->address;
-    case Kind::shift: return low32(operand().shift);
-    case Kind::objectStride: return low32(operand().objectStride);
-    case Kind::rowStride: return low32(operand().rowStride);
-    case Kind::elementStride: return low32(operand().elementStride);
     case Kind::ignored: return 0;
     case Kind::size: return objects.sizes[parameter.name];
     case Kind::count: return objects.sizes.count;
-    case Kind::constant: break;
+    case Kind::constant: return objects.constants.at(parameter.name);
+    default: return static_cast<std::uint32_t>(operand().bytesFor(parameter.kind));
     }
-    return objects.constants.at(parameter.name);
 }
 
 std::vector<std::uint64_t> Laid::words(const Objects &objects) const {
@@ -150,11 +144,8 @@ Objects drawObjects(const Function &function, std::uint32_t mostObjects, std::sp
         families::fillBlock(function, block.parameter, {at(block.address), block.bytes}, objects.sizes, random);
     laid.get(objects);
     for (const Parameter &parameter : function.parameters)
-        if (parameter.kind == Kind::constant) {
-            std::uint64_t bits = 0;
-            storeElement(reinterpret_cast<std::uintptr_t>(&bits), function.type, values.next(random));
-            objects.constants[parameter.name] = bits;
-        }
+        if (parameter.kind == Kind::constant)
+            objects.constants[parameter.name] = elementBits(function.type, values.next(random));
     return objects;
 }
 
@@ -162,11 +153,8 @@ std::vector<std::uint64_t> resultsOf(const Function &function, const Objects &af
     std::vector<std::uint64_t> results{static_cast<std::uint32_t>(status)};
     const std::size_t size = function.type == catalogue::Type::real32 ? 4 : 8;
     for (std::size_t k = 0; k < function.operands.size(); ++k)
-        for (const double value : function.operands[k].written ? after.elements[k] : std::vector<double>()) {
-            std::uint64_t bits = 0; // a NaN is stored as the one that all are unified to
-            storeElement(reinterpret_cast<std::uintptr_t>(&bits), function.type, value);
-            results.push_back(bits);
-        }
+        for (const double value : function.operands[k].written ? after.elements[k] : std::vector<double>())
+            results.push_back(elementBits(function.type, value)); // a NaN is stored as the one that all are unified to
     for (const auto &[name, bytes] : after.blocks) {
         if (families::isUnspecifiedAfterCall(function, name)) continue;
         const bool elements = families::holdsElements(name);

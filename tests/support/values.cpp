@@ -124,6 +124,12 @@ void storeElement(std::uintptr_t address, Type type, double value) {
     }
 }
 
+std::uint64_t elementBits(Type type, double value) {
+    std::uint64_t bits = 0;
+    storeElement(reinterpret_cast<std::uintptr_t>(&bits), type, value);
+    return bits;
+}
+
 double loadElement(std::uintptr_t address, Type type) {
     const void *const place = reinterpret_cast<const void *>(address);
     if (type == Type::real32) {

@@ -49,6 +49,7 @@ private:
 inline constexpr std::uint32_t quietNan32 = 0x7fc00000;
 inline constexpr std::uint64_t quietNan64 = 0x7ff8000000000000;
 
+std::uint64_t elementBits(catalogue::Type type, double value); // as it is stored, with zeros above a float
 void storeElement(std::uintptr_t address, catalogue::Type type, double value);
 double loadElement(std::uintptr_t address, catalogue::Type type);
 bool isNanElement(const void *bytes, catalogue::Type type);
