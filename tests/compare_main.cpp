@@ -9,12 +9,11 @@
 #include "support/report.h"
 #include "support/selection.h"
 #include "support/tally.h"
+#include "support/watch.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <array>
-#include <csignal>
 #include <cstdio>
 #include <iostream>
 #include <memory>
@@ -37,35 +36,6 @@ struct Options {
     bool stop = false;
 };
 
-// --- what to print when a call never comes back
-
-constexpr unsigned patienceInSeconds = 60;
-std::array<char, 256> currentCall{};
-
-void dieInCall(int signal) {
-    const char *const what = signal == SIGALRM ? "\nA call does not come back: " : "\nA call crashed: ";
-    for (const char *text : {what, static_cast<const char *>(currentCall.data()), "\n0 passed, 1 failed\n"})
-        if (write(STDOUT_FILENO, text, std::char_traits<char>::length(text)) < 0) break;
-    _exit(1);
-}
-
-void watchCalls() {
-    for (const int signal : {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGALRM}) std::signal(signal, dieInCall);
-}
-
-void announce(const support::Call &call) {
-    std::snprintf(currentCall.data(), currentCall.size(), "compare --seed %llu --replay %s:%llu",
-                  static_cast<unsigned long long>(call.seed), call.function->name.c_str(),
-                  static_cast<unsigned long long>(call.index));
-    alarm(patienceInSeconds);
-}
-
-// Real64 arithmetic follows the precision control, so its functions are called at both of its settings.
-std::vector<support::Setting> settingsFor(const support::Call &call) {
-    if (call.function->type == catalogue::Type::real32) return {call.setting};
-    return {{support::Precision::bits53, call.setting.rounding}, {support::Precision::bits64, call.setting.rounding}};
-}
-
 // One of the libraries that are compared with the model.
 struct Contestant {
     std::string path;
@@ -81,17 +51,133 @@ public:
     explicit Comparing(const Options &options) : options(options), comparison(arena, open(options), model::run) {}
 
     // Whether all went well.
-    bool compareAll();
-    bool replay();
+    bool compareAll() {
+        const std::vector<Function> functions = support::functionsNamed(options.only);
+        std::size_t done = 0;
+        for (const Function &function : functions) {
+            showProgress(done++, functions.size(), function.name);
+            if (prepare(function)) compareExport(function);
+            else ++shortOf;
+            if (options.stop && total.failed + shortOf != 0) break;
+        }
+        showProgress(functions.size(), functions.size(), "");
+        return conclude();
+    }
+
+    bool replay() {
+        const std::size_t colon = options.replay.find(':');
+        if (colon == std::string::npos) throw std::runtime_error("--replay takes NAME:INDEX");
+        if (contestants.size() != 1) throw std::runtime_error("--replay takes one library");
+        const std::string name = options.replay.substr(0, colon);
+        const std::vector<Function> functions = catalogue::expand();
+        const auto function = std::ranges::find(functions, name, &Function::name);
+        if (function == functions.end()) throw std::runtime_error("no export is called " + name);
+        if (!prepare(*function)) return false;
+
+        const support::Call call =
+            support::makeCall(*function, arena, options.seed, std::stoull(options.replay.substr(colon + 1)));
+        support::announce("compare " + support::replayOptions(call));
+        std::cout << name << ", call " << call.index << " of seed " << call.seed << "\n"
+                  << support::describeWords(call);
+        bool passed = true;
+        for (const support::Setting setting : support::settingsFor(call)) {
+            support::Image before;
+            arena.save(before);
+            std::cout << "at " << support::describe(setting) << "\nbefore\n"
+                      << support::describeOperands(call, before) << std::flush;
+            const support::Verdict verdict = comparison.compare(call, setting);
+            std::cout << "after, by the library\n"
+                      << support::describeOperands(call, comparison.imageByLibrary()) << "after, by the model\n"
+                      << support::describeOperands(call, comparison.imageByModel()) << "status " << verdict.status
+                      << (verdict.passed ? ", passed\n" : ", FAILED\n") << verdict.complaint;
+            passed &= verdict.passed;
+        }
+        std::cout << (passed ? "1 passed, 0 failed" : "0 passed, 1 failed") << std::endl;
+        return passed;
+    }
 
 private:
-    std::vector<support::LibraryCall> open(const Options &options);
-    bool prepare(const Function &function);
-    void compareExport(const Function &function);
+    std::vector<support::LibraryCall> open(const Options &options) {
+        std::vector<support::LibraryCall> calls;
+        for (const std::string &path : options.libraries) {
+            const Contestant &opened = *contestants.emplace_back(std::make_unique<Contestant>(path));
+            calls.emplace_back([&opened](const support::Call &call) {
+                return support::invoke(opened.address, *call.function, call.words);
+            });
+        }
+        return calls;
+    }
+
+    bool prepare(const Function &function) {
+        bool prepared = model::knows(function.name);
+        if (!prepared) std::cout << function.name << ": the model does not know it\n";
+        for (const auto &contestant : contestants) {
+            contestant->tally = {};
+            contestant->address = contestant->library.find(function.name);
+            if (contestant->address != nullptr) continue;
+            std::cout << function.name << ": no such export in " << contestant->path << "\n";
+            prepared = false;
+        }
+        return prepared;
+    }
+
     void reportFailure(const support::Call &call, support::Setting setting, const Contestant &contestant,
-                       const support::Verdict &verdict);
-    void showProgress(std::size_t done, std::size_t all, const std::string &name) const;
-    bool conclude() const;
+                       const support::Verdict &verdict) {
+        std::cout << "\nseed " << call.seed << ", " << call.function->name << ", call " << call.index << ", "
+                  << support::describe(setting) << "\n"
+                  << support::describeWords(call) << verdict.complaint << "  again: compare --library "
+                  << contestant.path << " " << support::replayOptions(call) << "\n";
+    }
+
+    void compareExport(const Function &function) {
+        constexpr std::uint64_t shownFailures = 3;
+        const auto allStatusesSeen = [&] {
+            return std::ranges::all_of(contestants, [&](const auto &contestant) {
+                return support::missingStatuses(contestant->tally, function).empty();
+            });
+        };
+        // A status that random calls return seldom may take more of them, but not for ever.
+        const auto mayGoOn = [&](std::uint64_t index) {
+            return index < options.calls || (index < 10 * options.calls && !allStatusesSeen());
+        };
+        for (std::uint64_t index = 0; mayGoOn(index); ++index) {
+            const support::Call call = support::makeCall(function, arena, options.seed, index);
+            support::announce("compare " + support::replayOptions(call));
+            for (const support::Setting setting : support::settingsFor(call)) {
+                const std::vector<support::Verdict> verdicts = comparison.compareEach(call, setting);
+                for (std::size_t k = 0; k < verdicts.size(); ++k) {
+                    support::Tally &tally = contestants[k]->tally;
+                    tally.add(call, verdicts[k]);
+                    if (!verdicts[k].passed && tally.failed <= shownFailures)
+                        reportFailure(call, setting, *contestants[k], verdicts[k]);
+                }
+            }
+        }
+        for (const auto &contestant : contestants) {
+            const support::Tally &tally = contestant->tally;
+            if (tally.failed > shownFailures)
+                std::cout << function.name << ": " << tally.failed << " calls failed, of which " << shownFailures
+                          << " are shown\n";
+            const std::vector<std::string> missing = support::shortcomings(tally, function);
+            for (const std::string &sentence : missing) std::cout << function.name << ": " << sentence << "\n";
+            if (!missing.empty()) ++shortOf;
+            total.add(tally);
+        }
+    }
+
+    void showProgress(std::size_t done, std::size_t all, const std::string &name) const {
+        if (!isatty(STDERR_FILENO)) return;
+        std::fprintf(stderr, "\r\033[K%zu/%zu %s", done, all, name.c_str());
+        if (done == all) std::fprintf(stderr, "\r\033[K");
+    }
+
+    bool conclude() const {
+        std::cout << support::summary(total);
+        if (shortOf != 0) std::cout << shortOf << " exports are missing or were not compared well enough\n";
+        const std::uint64_t failed = total.failed + shortOf;
+        std::cout << total.calls - total.failed << " passed, " << failed << " failed" << std::endl;
+        return failed == 0 && total.calls != 0;
+    }
 
     const Options &options;
     std::vector<std::unique_ptr<Contestant>> contestants;
@@ -100,136 +186,6 @@ private:
     support::Tally total;
     std::uint64_t shortOf = 0; // exports that are missing, or whose calls do not add up to enough
 };
-
-std::vector<support::LibraryCall> Comparing::open(const Options &options) {
-    std::vector<support::LibraryCall> calls;
-    for (const std::string &path : options.libraries) {
-        const Contestant &opened = *contestants.emplace_back(std::make_unique<Contestant>(path));
-        calls.emplace_back([&opened](const support::Call &call) {
-            return support::invoke(opened.address, *call.function, call.words);
-        });
-    }
-    return calls;
-}
-
-bool Comparing::prepare(const Function &function) {
-    bool prepared = model::knows(function.name);
-    if (!prepared) std::cout << function.name << ": the model does not know it\n";
-    for (const auto &contestant : contestants) {
-        contestant->tally = {};
-        contestant->address = contestant->library.find(function.name);
-        if (contestant->address != nullptr) continue;
-        std::cout << function.name << ": no such export in " << contestant->path << "\n";
-        prepared = false;
-    }
-    return prepared;
-}
-
-void Comparing::reportFailure(const support::Call &call, support::Setting setting, const Contestant &contestant,
-                              const support::Verdict &verdict) {
-    std::cout << "\nseed " << call.seed << ", " << call.function->name << ", call " << call.index << ", "
-              << support::describe(setting) << "\n"
-              << support::describeWords(call) << verdict.complaint << "  again: compare --library " << contestant.path
-              << " " << support::replayOptions(call) << "\n";
-}
-
-void Comparing::compareExport(const Function &function) {
-    constexpr std::uint64_t shownFailures = 3;
-    const auto allStatusesSeen = [&] {
-        return std::ranges::all_of(contestants, [&](const auto &contestant) {
-            return support::missingStatuses(contestant->tally, function).empty();
-        });
-    };
-    // A status that random calls return seldom may take more of them, but not for ever.
-    const auto mayGoOn = [&](std::uint64_t index) {
-        return index < options.calls || (index < 10 * options.calls && !allStatusesSeen());
-    };
-    for (std::uint64_t index = 0; mayGoOn(index); ++index) {
-        const support::Call call = support::makeCall(function, arena, options.seed, index);
-        announce(call);
-        for (const support::Setting setting : settingsFor(call)) {
-            const std::vector<support::Verdict> verdicts = comparison.compareEach(call, setting);
-            for (std::size_t k = 0; k < verdicts.size(); ++k) {
-                support::Tally &tally = contestants[k]->tally;
-                tally.add(call, verdicts[k]);
-                if (!verdicts[k].passed && tally.failed <= shownFailures)
-                    reportFailure(call, setting, *contestants[k], verdicts[k]);
-            }
-        }
-    }
-    for (const auto &contestant : contestants) {
-        const support::Tally &tally = contestant->tally;
-        if (tally.failed > shownFailures)
-            std::cout << function.name << ": " << tally.failed << " calls failed, of which " << shownFailures
-                      << " are shown\n";
-        const std::vector<std::string> missing = support::shortcomings(tally, function);
-        for (const std::string &sentence : missing) std::cout << function.name << ": " << sentence << "\n";
-        if (!missing.empty()) ++shortOf;
-        total.add(tally);
-    }
-}
-
-void Comparing::showProgress(std::size_t done, std::size_t all, const std::string &name) const {
-    if (!isatty(STDERR_FILENO)) return;
-    std::fprintf(stderr, "\r\033[K%zu/%zu %s", done, all, name.c_str());
-    if (done == all) std::fprintf(stderr, "\r\033[K");
-}
-
-bool Comparing::conclude() const {
-    std::cout << support::summary(total);
-    if (shortOf != 0) std::cout << shortOf << " exports are missing or were not compared well enough\n";
-    const std::uint64_t failed = total.failed + shortOf;
-    std::cout << total.calls - total.failed << " passed, " << failed << " failed" << std::endl;
-    return failed == 0 && total.calls != 0;
-}
-
-bool Comparing::compareAll() {
-    const std::vector<Function> functions = support::functionsNamed(options.only);
-    std::size_t done = 0;
-    for (const Function &function : functions) {
-        showProgress(done++, functions.size(), function.name);
-        if (prepare(function)) compareExport(function);
-        else ++shortOf;
-        if (options.stop && total.failed + shortOf != 0) break;
-    }
-    showProgress(functions.size(), functions.size(), "");
-    return conclude();
-}
-
-bool Comparing::replay() {
-    const std::size_t colon = options.replay.find(':');
-    if (colon == std::string::npos) throw std::runtime_error("--replay takes NAME:INDEX");
-    if (contestants.size() != 1) throw std::runtime_error("--replay takes one library");
-    const std::string name = options.replay.substr(0, colon);
-    const std::vector<Function> functions = catalogue::expand();
-    const auto function = std::ranges::find(functions, name, &Function::name);
-    if (function == functions.end()) throw std::runtime_error("no export is called " + name);
-    if (!prepare(*function)) return false;
-
-    const support::Call call =
-        support::makeCall(*function, arena, options.seed, std::stoull(options.replay.substr(colon + 1)));
-    announce(call);
-    std::cout << name << ", call " << call.index << " of seed " << call.seed << "\n" << support::describeWords(call);
-    bool passed = true;
-    for (const support::Setting setting : settingsFor(call)) {
-        support::Image before;
-        arena.save(before);
-        std::cout << "at " << support::describe(setting) << "\nbefore\n"
-                  << support::describeOperands(call, before) << std::flush;
-        const support::Verdict verdict = comparison.compare(call, setting);
-        std::cout << "after, by the library\n"
-                  << support::describeOperands(call, comparison.imageByLibrary()) << "after, by the model\n"
-                  << support::describeOperands(call, comparison.imageByModel()) << "status " << verdict.status
-                  << (verdict.passed ? ", passed\n" : ", FAILED\n") << verdict.complaint;
-        passed &= verdict.passed;
-    }
-    std::cout << (passed ? "1 passed, 0 failed" : "0 passed, 1 failed") << std::endl;
-    return passed;
-}
-
-void listFunctions(const Options &options) {
-    for (const Function &function : support::functionsNamed(options.only)) std::cout << function.name << "\n";
-}
 
 } // namespace
 
@@ -247,9 +203,12 @@ int main(int argc, char **argv) {
     app.add_flag("--list", options.list, "Print the names of the exports and stop");
     CLI11_PARSE(app, argc, argv);
     try {
-        if (options.list) return listFunctions(options), 0;
+        if (options.list) {
+            for (const Function &function : support::functionsNamed(options.only)) std::cout << function.name << "\n";
+            return 0;
+        }
         if (options.libraries.empty()) options.libraries = {support::defaultLibrary()};
-        watchCalls();
+        support::watchCalls();
         Comparing comparing(options);
         return (options.replay.empty() ? comparing.compareAll() : comparing.replay()) ? 0 : 1;
     } catch (const std::exception &problem) {

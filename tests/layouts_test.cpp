@@ -2,10 +2,11 @@
 //
 // Objects are drawn once and laid out for every member of a function's layouts in turn, disjoint, with strides and
 // tables of their own; status, results and blocks have to agree within each group of layouts that is promised to agree.
-#include "exceptions.h"
 #include "support/arena.h"
 #include "support/control.h"
+#include "support/exceptional.h"
 #include "support/invoke.h"
+#include "support/literal.h"
 #include "support/objects.h"
 
 #include <gtest/gtest.h>
@@ -18,15 +19,7 @@ namespace {
 using catalogue::Function;
 using catalogue::Type;
 
-const std::vector<Function> &all() {
-    static const std::vector<Function> functions = catalogue::expand();
-    return functions;
-}
-
-const catalogue::ExceptionIndex &exceptions() {
-    static const catalogue::ExceptionIndex index(catalogue::exceptions(), all());
-    return index;
-}
+using literal::allMembers;
 
 // --- which layouts agree
 
@@ -53,7 +46,7 @@ std::string ruleFor(const Function &function) {
 std::string classOf(const Function &function) {
     using enum catalogue::ExceptionClass;
     std::string words = ruleFor(function);
-    for (const catalogue::Exception *exception : exceptions().exceptionsOf(function))
+    for (const catalogue::Exception *exception : literal::exceptionIndex().exceptionsOf(function))
         if (exception->what == arithmetic || exception->what == result || exception->what == status)
             words += " " + std::string(exception->id);
     return words;
@@ -62,15 +55,11 @@ std::string classOf(const Function &function) {
 using Group = std::vector<const Function *>; // members that agree
 
 // Walks the single matrix with the row stride of the array, so that it reads another matrix where these differ.
-bool borrowsStride(const Function &function) {
-    return std::ranges::any_of(exceptions().exceptionsOf(function), [](const catalogue::Exception *exception) {
-        return exception->id == "sum-ignored-stride";
-    });
-}
+bool borrowsStride(const Function &function) { return literal::isException(function, "sum-ignored-stride"); }
 
 std::vector<Group> groupsOf(std::string_view section) {
     std::map<std::string, Group> groups;
-    for (const Function &function : all()) {
+    for (const Function &function : allMembers()) {
         if (function.section->id != section || borrowsStride(function)) continue;
         std::string name = function.name;
         if (!function.layout.empty()) name.resize(name.size() - function.layout.size() - 1);

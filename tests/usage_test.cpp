@@ -1,4 +1,5 @@
 // What callers look for and get: every function has a usage, every usage a function, and all that they name is there.
+#include "support/literal.h"
 #include "usage.h"
 
 #include <gtest/gtest.h>
@@ -10,10 +11,7 @@
 
 namespace {
 
-const std::vector<catalogue::Function> &all() {
-    static const std::vector<catalogue::Function> functions = catalogue::expand();
-    return functions;
-}
+using literal::allMembers;
 
 bool hasParameter(const catalogue::Function &function, std::string_view name) {
     return std::ranges::find(function.parameters, name, &catalogue::Parameter::name) != function.parameters.end();
@@ -26,13 +24,13 @@ bool isSize(const catalogue::Function &function, const std::string &size) {
 
 TEST(Usage, EveryFunctionHasOneAndEveryOneAFunction) {
     std::set<const catalogue::Usage *> used;
-    for (const catalogue::Function &function : all()) used.insert(&usageOf(function));
+    for (const catalogue::Function &function : allMembers()) used.insert(&usageOf(function));
     EXPECT_EQ(used.size(), catalogue::usages().size());
 }
 
 TEST(Usage, FormulasNameOperandsOfTheirFunctions) {
     const std::regex access(R"(\b(src\d?|dst|val\d?)\b)");
-    for (const catalogue::Function &function : all()) {
+    for (const catalogue::Function &function : allMembers()) {
         const catalogue::Usage &usage = usageOf(function);
         const std::string formula = std::string(usage.term) + " " + std::string(usage.assign);
         for (std::sregex_iterator at(formula.begin(), formula.end(), access), end; at != end; ++at)
@@ -50,7 +48,7 @@ TEST(Usage, WhatIsCalledNextExists) {
 
 TEST(Usage, WordsOfGroupsBelongToGroups) {
     for (const catalogue::GroupWords &row : catalogue::groupWords())
-        EXPECT_TRUE(std::ranges::any_of(all(),
+        EXPECT_TRUE(std::ranges::any_of(allMembers(),
                                         [&](const catalogue::Function &function) {
                                             return function.section->id == row.section && function.group == row.groups;
                                         }))
@@ -58,7 +56,7 @@ TEST(Usage, WordsOfGroupsBelongToGroups) {
 }
 
 TEST(Usage, ShapesAreNumbersOrSizesOfTheCall) {
-    for (const catalogue::Function &function : all())
+    for (const catalogue::Function &function : allMembers())
         for (const catalogue::Operand &operand : function.operands) {
             const catalogue::Shape shape = shapeOf(function, operand);
             EXPECT_TRUE(isSize(function, shape.rows)) << function.name << " " << operand.name << ": " << shape.rows;
@@ -69,7 +67,7 @@ TEST(Usage, ShapesAreNumbersOrSizesOfTheCall) {
 
 TEST(Usage, BlocksAreAsLongAsTheFamiliesSay) {
     const auto length = [](std::string_view name, std::string_view parameter) {
-        const auto function = std::ranges::find(all(), name, &catalogue::Function::name);
+        const auto function = std::ranges::find(allMembers(), name, &catalogue::Function::name);
         return lengthOf(*function, *std::ranges::find(function->parameters, parameter, &catalogue::Parameter::name));
     };
     EXPECT_EQ(length("vonkLUDecomp_ma_32f_4x4_L", "pivots"), "count * 4");

@@ -3,33 +3,20 @@
 // A line of the corpus is a call (steered.h); what begins with # is none. A call that crashes or does not come back is
 // named. Exit code 1: a call failed; 2: a file or line that is none.
 #include "steered.h"
+#include "support/watch.h"
 
 #include <CLI/CLI.hpp>
 
-#include <array>
-#include <csignal>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <map>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr unsigned patienceInSeconds = 60;
-std::array<char, 2048> currentCall{};
-
-void dieInCall(int signal) {
-    const char *const what = signal == SIGALRM ? "\nA call does not come back: " : "\nA call crashed: ";
-    for (const char *text : {what, static_cast<const char *>(currentCall.data()), "\n"})
-        if (write(STDOUT_FILENO, text, std::char_traits<char>::length(text)) < 0) break;
-    _exit(1);
-}
 
 fuzz::Steered fromFile(const fs::path &path) {
     std::ifstream file(path, std::ios::binary);
@@ -70,8 +57,7 @@ public:
 
 private:
     std::string run(const fuzz::Steered &steered) {
-        std::snprintf(currentCall.data(), currentCall.size(), "%s", runner.toLine(steered).c_str());
-        alarm(patienceInSeconds);
+        support::announce(runner.toLine(steered));
         return runner.run(steered);
     }
 
@@ -91,7 +77,7 @@ int main(int argc, char **argv) {
     CLI11_PARSE(app, argc, argv);
     try {
         Corpus corpus(library);
-        for (const int signal : {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGALRM}) std::signal(signal, dieInCall);
+        support::watchCalls();
         if (!check.empty()) return corpus.check(check) ? 0 : 1;
         return (line.empty() ? corpus.replay(fromFile(file)) : corpus.replayLine(line)) ? 0 : 1;
     } catch (const std::exception &problem) {

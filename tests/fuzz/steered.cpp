@@ -55,12 +55,6 @@ void *addressOf(const Call &call, const std::vector<catalogue::Function> &all, c
     return addresses[static_cast<std::size_t>(call.function - all.data())];
 }
 
-// Real64 arithmetic follows the precision control, so its functions are called at both of its settings.
-std::vector<Setting> settingsFor(const Call &call) {
-    if (call.function->type == catalogue::Type::real32) return {call.setting};
-    return {{support::Precision::bits53, call.setting.rounding}, {support::Precision::bits64, call.setting.rounding}};
-}
-
 support::Geometry geometryNamed(const std::string &name) {
     for (std::size_t k = 0; k < support::geometries; ++k)
         if (support::name(static_cast<support::Geometry>(k)) == name) return static_cast<support::Geometry>(k);
@@ -141,7 +135,7 @@ Call Runner::make(const Steered &steered) const {
 std::string Runner::run(const Steered &steered) {
     const Call call = make(steered);
     std::string complaint;
-    for (const Setting setting : settingsFor(call)) {
+    for (const Setting setting : support::settingsFor(call)) {
         const support::Verdict verdict = comparison.compare(call, setting);
         ++compared;
         status = verdict.status;

@@ -55,8 +55,6 @@ bool agrees(const Write &write, std::uint64_t byModel, const model::Outcome &out
     return outcome.nanSeen && isNanElement(&byLibrary, function.type) && isNanElement(&byModel, function.type);
 }
 
-bool dependsOnNumbers(std::int32_t status) { return status == 0 || status == -10 || status == -179; }
-
 [[noreturn]] void disagree(const catalogue::Function &function, const std::string &what, std::uint64_t byLibrary,
                            std::uint64_t byModel) {
     std::ostringstream text;

@@ -80,9 +80,6 @@ std::vector<std::size_t> differences(const Image &first, const Image &second) {
     return offsets;
 }
 
-// Statuses that come out of the numbers, not of the words of a call.
-bool dependsOnNumbers(std::int32_t status) { return status == 0 || status == -10 || status == -179; }
-
 // Where objects are reached by a list, numbers decide whether a call ends at them or at a null entry further on.
 bool endsAtNumbersOrEntry(const Call &call, std::int32_t a, std::int32_t b) {
     constexpr std::int32_t nullPointer = -8;
@@ -136,6 +133,13 @@ std::string outOfBound(double result, const model::Approximation &bound) {
 }
 
 } // namespace
+
+bool dependsOnNumbers(std::int32_t status) { return status == 0 || status == -10 || status == -179; }
+
+std::vector<Setting> settingsFor(const Call &call) {
+    if (call.function->type == catalogue::Type::real32) return {call.setting};
+    return {{Precision::bits53, call.setting.rounding}, {Precision::bits64, call.setting.rounding}};
+}
 
 bool isWithinBound(double result, const model::Approximation &bound) {
     if (std::isinf(bound.error)) return true;

@@ -37,6 +37,9 @@ struct Accuracy {
     void include(const Accuracy &other);
 };
 
+// Whether a status comes out of the numbers, not of the words of a call.
+bool dependsOnNumbers(std::int32_t status);
+
 bool isWithinBound(double result, const model::Approximation &bound);
 
 // Of a result within its bound.
@@ -53,6 +56,9 @@ struct Verdict {
 
 using Addresses = std::unordered_set<std::uintptr_t>;
 
+// Real64 arithmetic follows the precision control, so its functions are called at both of its settings.
+std::vector<Setting> settingsFor(const Call &call);
+
 class Comparison {
 public:
     Comparison(const Arena &arena, std::vector<LibraryCall> libraries, ModelRun run)
@@ -64,7 +70,6 @@ public:
     std::vector<Verdict> compareEach(const Call &call, Setting setting);
     Verdict compare(const Call &call, Setting setting) { return compareEach(call, setting).front(); }
 
-    const Image &imageBefore() const { return before; }
     const Image &imageByLibrary() const { return byLibrary; } // the last one
     const Image &imageByModel() const { return byModel; }
 

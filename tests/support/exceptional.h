@@ -8,6 +8,9 @@
 
 namespace literal {
 
+// Of all functions.
+const catalogue::ExceptionIndex &exceptionIndex();
+
 // Throws std::out_of_range where the table has no such row.
 bool isException(const catalogue::Function &function, std::string_view id);
 

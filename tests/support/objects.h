@@ -33,8 +33,6 @@ public:
     void get(Objects &objects) const; // elements and blocks as they stand
     std::vector<std::uint64_t> words(const Objects &objects) const;
 
-    const std::vector<Placement> &placements() const { return operands; }
-
 private:
     friend Objects drawObjects(const catalogue::Function &function, std::uint32_t mostObjects,
                                std::span<std::byte> memory, Random &random);

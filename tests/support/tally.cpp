@@ -36,25 +36,19 @@ const char *nameOf(std::int32_t status) {
 
 void Tally::add(const Call &call, const Verdict &verdict) {
     ++calls;
-    failed += verdict.passed ? 0 : 1;
-    full += verdict.extent == Extent::full ? 1 : 0;
-    nanTolerated += verdict.extent == Extent::nanTolerated ? 1 : 0;
-    withinBounds += verdict.extent == Extent::withinBounds ? 1 : 0;
-    statusOnly += verdict.extent == Extent::statusOnly ? 1 : 0;
+    failed += !verdict.passed;
+    ++extents.at(static_cast<std::size_t>(verdict.extent));
     accuracy.include(verdict.accuracy);
-    worked += verdict.status == 0 && verdict.worked ? 1 : 0;
-    inPlace += call.traits.overlap == Overlap::inPlace ? 1 : 0;
-    partialOverlap += call.traits.overlap == Overlap::partial ? 1 : 0;
+    worked += verdict.status == 0 && verdict.worked;
+    inPlace += call.traits.overlap == Overlap::inPlace;
+    partialOverlap += call.traits.overlap == Overlap::partial;
     ++perStatus[verdict.status];
 }
 
 void Tally::add(const Tally &other) {
     calls += other.calls;
     failed += other.failed;
-    full += other.full;
-    nanTolerated += other.nanTolerated;
-    withinBounds += other.withinBounds;
-    statusOnly += other.statusOnly;
+    for (std::size_t k = 0; k < extents.size(); ++k) extents[k] += other.extents[k];
     accuracy.include(other.accuracy);
     worked += other.worked;
     inPlace += other.inPlace;
@@ -66,7 +60,7 @@ std::vector<std::string> shortcomings(const Tally &tally, const catalogue::Funct
     std::vector<std::string> found;
     const auto percentage = [&](std::uint64_t part) { return part * 100 / tally.calls; };
     if (tally.calls >= enoughForShares) {
-        const std::uint64_t inFull = tally.full + tally.withinBounds;
+        const std::uint64_t inFull = tally.of(Extent::full) + tally.of(Extent::withinBounds);
         if (fallsShort(inFull, tally.calls, leastFull))
             found.push_back("only " + std::to_string(percentage(inFull)) + " % of the calls were compared in full");
         if (fallsShort(tally.worked, tally.calls, leastWorked))
@@ -87,12 +81,13 @@ std::vector<std::int32_t> missingStatuses(const Tally &tally, const catalogue::F
 
 std::string summary(const Tally &tally) {
     std::ostringstream text;
-    text << tally.calls << " calls: " << tally.full << " compared in full, " << tally.nanTolerated
-         << " but for the payload of NaNs, " << tally.statusOnly << " by status alone\n"
+    text << tally.calls << " calls: " << tally.of(Extent::full) << " compared in full, "
+         << tally.of(Extent::nanTolerated) << " but for the payload of NaNs, " << tally.of(Extent::statusOnly)
+         << " by status alone\n"
          << tally.worked << " did their work, " << tally.inPlace << " in place, " << tally.partialOverlap
          << " with partial overlap\n";
     if (tally.accuracy.elements != 0)
-        text << tally.withinBounds << " compared within bounds: " << tally.accuracy.elements
+        text << tally.of(Extent::withinBounds) << " compared within bounds: " << tally.accuracy.elements
              << " elements, the largest error " << tally.accuracy.underTightBound
              << " units in the last place where the bound is at most " << Accuracy::tightBound << ", "
              << tally.accuracy.elsewhere << " elsewhere, " << tally.accuracy.shareOfBound << " of its bound\n";

@@ -4,6 +4,7 @@
 #include "calls.h"
 #include "comparison.h"
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -14,16 +15,14 @@ namespace support {
 struct Tally {
     std::uint64_t calls = 0;
     std::uint64_t failed = 0;
-    std::uint64_t full = 0;
-    std::uint64_t nanTolerated = 0;
-    std::uint64_t withinBounds = 0;
-    std::uint64_t statusOnly = 0;
+    std::array<std::uint64_t, 4> extents{};
     std::uint64_t worked = 0; // returned vonkOk and wrote something
     std::uint64_t inPlace = 0;
     std::uint64_t partialOverlap = 0;
     Accuracy accuracy;
     std::map<std::int32_t, std::uint64_t> perStatus;
 
+    std::uint64_t of(Extent extent) const { return extents.at(static_cast<std::size_t>(extent)); }
     void add(const Call &call, const Verdict &verdict);
     void add(const Tally &other);
 };

@@ -30,9 +30,6 @@ public:
     // Chooses the kind for a whole call.
     ValueSource(catalogue::Type type, const ValueMixture &mixture, Random &random);
 
-    ValueKind kind() const { return kind_; }
-    bool hasSpecials() const { return specials_ != 0; }
-
     double next(Random &random) const; // exact in the element type
 
 private:
