@@ -7,6 +7,7 @@
 #include "support/control.h"
 #include "support/families.h"
 #include "support/invoke.h"
+#include "support/literal.h"
 #include "support/report.h"
 #include "support/tally.h"
 #include "support/values.h"
@@ -14,7 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
+#include <bit>
 #include <cmath>
 #include <cstring>
 #include <functional>
@@ -31,14 +32,9 @@ using support::Call;
 using support::Extent;
 using support::Verdict;
 
+using literal::allMembers;
+
 const Arena &arena() { return support::sharedArena(); }
-
-const std::vector<Function> &allFunctions() {
-    static const std::vector<Function> all = catalogue::expand();
-    return all;
-}
-
-const Function &named(const std::string &name) { return *std::ranges::find(allFunctions(), name, &Function::name); }
 
 std::int32_t faultless(const Call &call) { return model::run({call.function->name, call.words}).status; }
 
@@ -46,23 +42,23 @@ std::byte *inArena(std::size_t offset) { return arena().bytes().data() + offset;
 
 void spoil(std::byte *byte) { *byte ^= std::byte{0x01}; }
 
-// Compares one call, with the fault happening behind the faultless work.
+Verdict compare(const Call &call, support::LibraryCall library, support::ModelRun model = model::run) {
+    return support::Comparison(arena(), std::move(library), std::move(model)).compare(call, call.setting);
+}
+
+// With the fault happening behind the faultless work.
 Verdict compareWith(const Call &call, const std::function<void()> &fault) {
-    support::Comparison comparison(
-        arena(),
-        [&](const Call &made) {
-            const std::int32_t status = faultless(made);
-            fault();
-            return status;
-        },
-        model::run);
-    return comparison.compare(call, call.setting);
+    return compare(call, [&](const Call &made) {
+        const std::int32_t status = faultless(made);
+        fault();
+        return status;
+    });
 }
 
 // The first call of the function that meets the condition, with the arena made ready for it.
 Call findCall(const std::string &name, const std::function<bool(const Call &)> &wanted) {
     for (std::uint64_t index = 0; index < 2000; ++index) {
-        Call call = support::makeCall(named(name), arena(), 7, index);
+        Call call = support::makeCall(literal::function(name), arena(), 7, index);
         if (wanted(call)) return call;
     }
     throw std::runtime_error("no call of " + name + " meets the condition");
@@ -81,7 +77,7 @@ Call plainCall(const std::string &name) {
 // --- the comparison
 
 TEST(Comparison, PassesTheFaultless) {
-    for (const Function &function : allFunctions())
+    for (const Function &function : allMembers())
         for (std::uint64_t index = 0; index < 4; ++index) {
             const Call call = support::makeCall(function, arena(), 3, index);
             const Verdict verdict = compareWith(call, [] {});
@@ -124,9 +120,7 @@ TEST(Comparison, ReportsAChangedSourceTableOrPivot) {
 
 TEST(Comparison, ReportsAWrongStatus) {
     const Call call = plainCall("vonkLUDecomp_m_64f_3x3");
-    support::Comparison comparison(
-        arena(), [](const Call &made) { return faultless(made) == 0 ? -10 : 0; }, model::run);
-    const Verdict verdict = comparison.compare(call, call.setting);
+    const Verdict verdict = compare(call, [](const Call &made) { return faultless(made) == 0 ? -10 : 0; });
     EXPECT_FALSE(verdict.passed);
     EXPECT_NE(verdict.complaint.find("status"), std::string::npos);
 }
@@ -136,127 +130,97 @@ TEST(Comparison, ReportsASpoiledControlState) {
     const support::MachineState before = support::MachineState::now();
     EXPECT_FALSE(compareWith(call, [] { __asm__ volatile("fld1"); }).passed) << "an entry left on the register stack";
     EXPECT_FALSE(compareWith(call, [] { __asm__ volatile("fincstp"); }).passed) << "the stack pointer moved";
-    EXPECT_FALSE(compareWith(call,
-                             [] {
-                                 const std::uint16_t word = 0x007f; // 24 bits, to nearest
-                                 __asm__ volatile("fldcw %0" : : "m"(word));
-                             })
-                     .passed)
-        << "the precision control";
-    EXPECT_FALSE(compareWith(call,
-                             [] {
-                                 const std::uint32_t word = 0xffc0; // flush to zero, rounding toward zero
-                                 __asm__ volatile("ldmxcsr %0" : : "m"(word));
-                             })
-                     .passed)
-        << "the lanes' control word";
+    const auto narrow = [] {
+        const std::uint16_t word = 0x007f; // 24 bits, to nearest
+        __asm__ volatile("fldcw %0" : : "m"(word));
+    };
+    EXPECT_FALSE(compareWith(call, narrow).passed) << "the precision control";
+    const auto flush = [] {
+        const std::uint32_t word = 0xffc0; // flush to zero, rounding toward zero
+        __asm__ volatile("ldmxcsr %0" : : "m"(word));
+    };
+    EXPECT_FALSE(compareWith(call, flush).passed) << "the lanes' control word";
     EXPECT_EQ(before, support::MachineState::now()) << "the comparison takes the damage back";
 }
 
 TEST(Comparison, ReportsASetDirectionFlag) {
     const Call call = plainCall("vonkAdd_vv_64f");
     // With the flag set hardly any code may run, so neither side does anything else.
-    support::Comparison comparison(
-        arena(),
-        [](const Call &) {
-            __asm__ volatile("std");
-            return 0;
-        },
-        [](const model::Call &) {
-            return model::Outcome{0, {}, false, false};
-        });
-    const Verdict verdict = comparison.compare(call, call.setting);
+    const auto setFlag = [](const Call &) {
+        __asm__ volatile("std");
+        return 0;
+    };
+    const Verdict verdict = compare(call, setFlag, [](const model::Call &) { return model::Outcome{}; });
     EXPECT_FALSE(verdict.passed);
     EXPECT_NE(verdict.complaint.find("direction"), std::string::npos);
 }
 
-// One element of the destination is a NaN of other signs on the two sides.
-Verdict compareNans(const Call &call, bool nanSeen, bool open, std::size_t strayOffset) {
+// Library and model store these as the first element of a destination of floats; a stray byte is spoiled unless it is
+// 0.
+Verdict compareElements(std::uint32_t byLibrary, std::uint32_t byModel, model::Outcome outcome, std::size_t stray = 0) {
+    const Call call = plainCall("vonkAdd_vv_32f_4x1");
     const std::uintptr_t place = call.operands.back().address(0, 0, 0);
+    outcome.writes = {{place, 4}};
+    for (model::Approximation &bound : outcome.approximations) bound.address = place;
     const auto put = [=](std::uint32_t bits) { std::memcpy(reinterpret_cast<void *>(place), &bits, sizeof bits); };
-    support::Comparison comparison(
-        arena(),
-        [=](const Call &) {
-            put(0xffc00000);
-            if (strayOffset != 0) spoil(inArena(strayOffset));
-            return 0;
-        },
-        [=](const model::Call &) {
-            put(0x7fc00000);
-            return model::Outcome{0, {{place, 4}}, nanSeen, open};
-        });
-    return comparison.compare(call, call.setting);
+    const auto library = [&](const Call &) {
+        put(byLibrary);
+        if (stray != 0) spoil(inArena(stray));
+        return 0;
+    };
+    return compare(call, library, [&](const model::Call &) {
+        put(byModel);
+        return outcome;
+    });
 }
 
+constexpr std::uint32_t positiveNan = 0x7fc00000, negativeNan = 0xffc00000;
+const model::Outcome settled{0, {}, false, false}, withNan{0, {}, true, false}, open{0, {}, false, true};
+
 TEST(Comparison, ToleratesTheSignOfANanOnlyWhereTheModelMetOne) {
-    const Call call = plainCall("vonkAdd_vv_32f_4x1");
-    const Verdict met = compareNans(call, true, false, 0);
+    const Verdict met = compareElements(negativeNan, positiveNan, withNan);
     EXPECT_TRUE(met.passed);
     EXPECT_EQ(met.extent, Extent::nanTolerated);
-    EXPECT_FALSE(compareNans(call, false, false, 0).passed);
-    EXPECT_FALSE(compareNans(call, true, false, 1).passed) << "a stray store beside the NaN";
+    EXPECT_FALSE(compareElements(negativeNan, positiveNan, settled).passed);
+    EXPECT_FALSE(compareElements(negativeNan, positiveNan, withNan, 1).passed) << "beside the NaN";
+    const auto one = std::bit_cast<std::uint32_t>(1.0F);
+    EXPECT_FALSE(compareElements(one, positiveNan, withNan).passed) << "a number in the NaN's place";
 }
 
 TEST(Comparison, FindsStrayStoresInOpenCalls) {
-    const Call call = plainCall("vonkAdd_vv_32f_4x1");
-    const Verdict open = compareNans(call, false, true, 0);
-    EXPECT_TRUE(open.passed);
-    EXPECT_EQ(open.extent, Extent::statusOnly);
-    EXPECT_FALSE(compareNans(call, false, true, 1).passed);
+    const Verdict verdict = compareElements(negativeNan, positiveNan, open);
+    EXPECT_TRUE(verdict.passed);
+    EXPECT_EQ(verdict.extent, Extent::statusOnly);
+    EXPECT_FALSE(compareElements(negativeNan, positiveNan, open, 1).passed);
 }
 
-// One element of the destination, of which the model promises 1 within 2^-20.
-Verdict compareBounded(const Call &call, float result, long double exact, long double error) {
-    const std::uintptr_t place = call.operands.back().address(0, 0, 0);
-    support::Comparison comparison(
-        arena(),
-        [=](const Call &) {
-            std::memcpy(reinterpret_cast<void *>(place), &result, sizeof result);
-            return 0;
-        },
-        [=](const model::Call &) {
-            const auto rounded = static_cast<float>(exact);
-            std::memcpy(reinterpret_cast<void *>(place), &rounded, sizeof rounded);
-            return model::Outcome{0, {{place, 4}}, false, false, {{place, 4, exact, error}}};
-        });
-    return comparison.compare(call, call.setting);
+// The model promises `exact` within the error.
+Verdict compareBounded(float result, long double exact, long double error) {
+    return compareElements(std::bit_cast<std::uint32_t>(result),
+                           std::bit_cast<std::uint32_t>(static_cast<float>(exact)),
+                           {0, {}, false, false, {{0, 4, exact, error}}});
 }
 
 TEST(Comparison, HoldsAnElementToItsBoundAndTellsItsError) {
-    const Call call = plainCall("vonkAdd_vv_32f_4x1");
-    const Verdict within = compareBounded(call, 1 + 0x1p-21F, 1, 0x1p-20L);
+    const Verdict within = compareBounded(1 + 0x1p-21F, 1, 0x1p-20L);
     EXPECT_TRUE(within.passed) << within.complaint;
     EXPECT_EQ(within.extent, Extent::withinBounds);
     EXPECT_EQ(within.accuracy.elements, 1U);
     EXPECT_EQ(within.accuracy.underTightBound, 4.0); // units of 2^-23
     EXPECT_EQ(within.accuracy.shareOfBound, 0.5);
-    const Verdict beyond = compareBounded(call, 1 + 0x1.8p-20F, 1, 0x1p-20L);
+    const Verdict beyond = compareBounded(1 + 0x1.8p-20F, 1, 0x1p-20L);
     EXPECT_FALSE(beyond.passed);
     EXPECT_NE(beyond.complaint.find("with a bound of"), std::string::npos);
-    EXPECT_FALSE(compareBounded(call, std::nanf(""), 1, 0x1p-20L).passed);
+    EXPECT_FALSE(compareBounded(std::nanf(""), 1, 0x1p-20L).passed);
 }
 
 TEST(Comparison, TakesBoundsThatAreNoNumbersForWhatTheySay) {
     constexpr long double infinity = std::numeric_limits<long double>::infinity();
-    const Call call = plainCall("vonkAdd_vv_32f_4x1");
-    EXPECT_TRUE(compareBounded(call, std::nanf(""), 0, infinity).passed) << "anything";
-    EXPECT_EQ(compareBounded(call, 5, 0, infinity).extent, Extent::statusOnly);
-    EXPECT_TRUE(compareBounded(call, std::nanf(""), infinity, 0).passed) << "not finite";
-    EXPECT_FALSE(compareBounded(call, 3e38F, infinity, 0).passed);
-    EXPECT_FALSE(compareBounded(call, std::numeric_limits<float>::infinity(), std::nanl(""), 0).passed) << "a NaN";
-}
-
-TEST(Comparison, DoesNotTolerateANumberInTheNansPlace) {
-    const Call call = plainCall("vonkAdd_vv_32f_4x1");
-    const std::uintptr_t place = call.operands.back().address(0, 0, 0);
-    support::storeElement(place, catalogue::Type::real32, 1.0);
-    support::Comparison comparison(
-        arena(), [](const Call &) { return 0; },
-        [=](const model::Call &) {
-            std::memcpy(reinterpret_cast<void *>(place), &support::quietNan32, 4);
-            return model::Outcome{0, {{place, 4}}, true, false};
-        });
-    EXPECT_FALSE(comparison.compare(call, call.setting).passed);
+    EXPECT_TRUE(compareBounded(std::nanf(""), 0, infinity).passed) << "anything";
+    EXPECT_EQ(compareBounded(5, 0, infinity).extent, Extent::statusOnly);
+    EXPECT_TRUE(compareBounded(std::nanf(""), infinity, 0).passed) << "not finite";
+    EXPECT_FALSE(compareBounded(3e38F, infinity, 0).passed);
+    EXPECT_FALSE(compareBounded(std::numeric_limits<float>::infinity(), std::nanl(""), 0).passed) << "a NaN";
 }
 
 // --- settings
@@ -284,11 +248,7 @@ TEST(Control, SetsBothUnitsForAScope) {
 
 std::vector<std::uint64_t> received;
 
-std::uint64_t bitsOf(double value) {
-    std::uint64_t bits;
-    std::memcpy(&bits, &value, sizeof bits);
-    return bits;
-}
+std::uint64_t bitsOf(double value) { return std::bit_cast<std::uint64_t>(value); }
 
 extern "C" std::int32_t takeLinearCombination(const double *src1, std::int32_t src1Shift, std::int32_t src1Stride,
                                               double val1, const double *src2, std::int32_t src2Shift,
@@ -303,7 +263,7 @@ extern "C" std::int32_t takeLinearCombination(const double *src1, std::int32_t s
 }
 
 TEST(Invoke, PassesEveryWordInItsPlace) {
-    const Function &function = named("vonkLComb_vava_64f_LS2");
+    const Function &function = literal::function("vonkLComb_vava_64f_LS2");
     const std::vector<std::uint64_t> expected{1u << 20,      0xfffffff0, 3,  bitsOf(1.5), 5u << 20, 6, 7,
                                               bitsOf(-2.25), 9u << 20,   10, 0x80000000,  12,       13};
     std::vector<std::uint64_t> words = expected;
@@ -319,7 +279,7 @@ extern "C" std::int32_t takeMultiple(const float *src, float val, float *dst, st
 
 TEST(Invoke, PassesSingleConstants) {
     const std::uint32_t bits = 0x3f400000;
-    EXPECT_EQ(support::invoke(reinterpret_cast<void *>(&takeMultiple), named("vonkMul_vc_32f"),
+    EXPECT_EQ(support::invoke(reinterpret_cast<void *>(&takeMultiple), literal::function("vonkMul_vc_32f"),
                               std::vector<std::uint64_t>{64, bits, 64, 0xffffffff00000004}),
               1);
 }
@@ -328,7 +288,7 @@ TEST(Invoke, PassesSingleConstants) {
 
 TEST(Calls, AreAFunctionOfSeedNameAndIndex) {
     support::Image first, second;
-    for (const Function &function : allFunctions()) {
+    for (const Function &function : allMembers()) {
         const Call once = support::makeCall(function, arena(), 11, 5);
         arena().save(first);
         support::makeCall(function, arena(), 12, 6);
@@ -341,7 +301,7 @@ TEST(Calls, AreAFunctionOfSeedNameAndIndex) {
 
 // Of every function of the catalogue: the operands fit and lie inside.
 TEST(Calls, KeepEveryOperandInTheArena) {
-    for (const Function &function : allFunctions())
+    for (const Function &function : allMembers())
         for (std::uint64_t index = 0; index < 6; ++index) {
             const Call call = support::makeCall(function, arena(), 5, index);
             ASSERT_EQ(call.words.size(), function.parameters.size());
@@ -362,7 +322,7 @@ TEST(Calls, ReachEveryKindOfCase) {
     std::uint64_t calls = 0;
     int troubles = 0;
     int couldBeTroubled = 0;
-    for (const Function &function : allFunctions())
+    for (const Function &function : allMembers())
         for (std::uint64_t index = 0; index < support::faultRound; ++index, ++calls) {
             const Call call = support::makeCall(function, arena(), 9, index);
             const support::Traits &traits = call.traits;
@@ -389,12 +349,10 @@ TEST(Calls, ReachEveryKindOfCase) {
 }
 
 TEST(Calls, ReachEveryStatusOfEveryExport) {
-    for (const Function &function : allFunctions()) {
+    for (const Function &function : allMembers()) {
         std::set<std::int32_t> statuses;
-        for (std::uint64_t index = 0; index < 4 * support::faultRound; ++index) {
-            const Call call = support::makeCall(function, arena(), 13, index);
-            statuses.insert(faultless(call));
-        }
+        for (std::uint64_t index = 0; index < 4 * support::faultRound; ++index)
+            statuses.insert(faultless(support::makeCall(function, arena(), 13, index)));
         for (const std::int32_t status : support::families::relevantStatuses(function))
             EXPECT_TRUE(statuses.contains(status)) << function.name << " never returned " << status;
     }
@@ -404,7 +362,7 @@ TEST(Calls, ReachEveryStatusOfEveryExport) {
 TEST(Calls, CrossTheBlockLengthAtEveryAlignment) {
     std::map<std::pair<std::uintptr_t, bool>, std::set<bool>> seen;
     for (std::uint64_t index = 0; index < 2000; ++index) {
-        const Call call = support::makeCall(named("vonkAdd_vv_32f"), arena(), 17, index);
+        const Call call = support::makeCall(literal::function("vonkAdd_vv_32f"), arena(), 17, index);
         if (hasFault(call) || call.traits.overlap != support::Overlap::none) continue;
         const bool long_ = call.operands[0].shape.cols >= 11;
         seen[{call.operands[2].origin % 16, call.operands[1].origin % 16 == 0}].insert(long_);
@@ -429,7 +387,7 @@ bool isAlignedThroughout(const Call &call) {
 
 TEST(Calls, TakeBothWaysWhereAlignmentChooses) {
     std::size_t choosing = 0;
-    for (const Function &function : allFunctions()) {
+    for (const Function &function : allMembers()) {
         if (!support::families::looksAtAlignment(function) || !function.layout.empty()) continue;
         ++choosing;
         constexpr std::size_t made = 200;
@@ -461,10 +419,10 @@ TEST(Tally, IsContentWithTheRandomCalls) {
          {"vonkAdd_vv_32f", "vonkSub_vava_64f_PS2", "vonkLUDecomp_ma_64f_LS2", "vonkLUBackSubst_mv_32f_P"}) {
         support::Tally tally;
         for (std::uint64_t index = 0; index < 300; ++index) {
-            const Call call = support::makeCall(named(name), arena(), 19, index);
+            const Call call = support::makeCall(literal::function(name), arena(), 19, index);
             tally.add(call, compareWith(call, [] {}));
         }
-        EXPECT_EQ(support::shortcomings(tally, named(name)), std::vector<std::string>{}) << name;
+        EXPECT_EQ(support::shortcomings(tally, literal::function(name)), std::vector<std::string>{}) << name;
     }
 }
 
@@ -476,7 +434,7 @@ std::uint64_t resultsOf(const std::string &name, const std::function<void(const 
         fault(call);
         return status;
     };
-    return support::hashStream(named(name), arena(), {library}).results.front();
+    return support::hashStream(literal::function(name), arena(), {library}).results.front();
 }
 
 TEST(Bitstream, ShowsOneChangedBitAndNoSignOfANan) {
@@ -500,7 +458,7 @@ TEST(Bitstream, ShowsOneChangedBitAndNoSignOfANan) {
 
 TEST(Bitstream, HoldsNoCallWhoseOutcomeIsOpen) {
     int inPlace = 0;
-    for (const Function &function : allFunctions())
+    for (const Function &function : allMembers())
         for (std::uint64_t index = 0; index < support::bitstreamCalls; ++index) {
             const Call call =
                 support::makeCall(function, arena(), support::bitstreamSeed, index, support::bitstreamMixture());
