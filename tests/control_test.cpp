@@ -135,68 +135,58 @@ TEST(Control, IsLeftAsFoundByTheVersion) {
 
 // ---- What the comparison above would tell
 
-TEST(ControlItself, TellsAChangeOfPrecision) {
-    EXPECT_NE(changesOf({}, 0,
-                        [] {
-                            const std::uint16_t word = 0x027f;
-                            __asm__ volatile("fldcw %0" : : "m"(word));
-                        }),
-              "");
-}
-
-TEST(ControlItself, TellsANumberLeftInTheRegisters) {
-    EXPECT_NE(changesOf({}, 0, [] { __asm__ volatile("fld1"); }), "");
-}
-
-TEST(ControlItself, TellsAChangeOfTheLaneUnit) {
+TEST(ControlItself, TellsWhatHasChangedButForTheFlags) {
+    const auto narrow = [] {
+        const std::uint16_t word = 0x027f;
+        __asm__ volatile("fldcw %0" : : "m"(word));
+    };
+    EXPECT_NE(changesOf({}, 0, narrow), "");
+    EXPECT_NE(changesOf({}, 0, [] { __asm__ volatile("fld1"); }), "") << "a number left in the registers";
     EXPECT_NE(changesOf({}, flushToZero, [] { _mm_setcsr(_mm_getcsr() & ~flushToZero); }), "");
     EXPECT_NE(changesOf({}, 0, [] { _mm_setcsr(_mm_getcsr() | denormalsAreZero); }), "");
     EXPECT_NE(changesOf({}, 0, [] { _mm_setcsr(_mm_getcsr() | 0x6000); }), "");
-}
-
-// The flags of exceptions come and go with the arithmetic.
-TEST(ControlItself, DoesNotMindTheFlags) {
-    EXPECT_EQ(changesOf({}, 0,
-                        [] {
-                            volatile float third = 1.0F;
-                            third = third / 3;
-                            volatile long double wide = 1;
-                            wide = wide / 3;
-                        }),
-              "");
+    const auto inexact = [] {
+        volatile float third = 1.0F;
+        third = third / 3;
+        volatile long double wide = 1;
+        wide = wide / 3;
+    };
+    EXPECT_EQ(changesOf({}, 0, inexact), "");
 }
 
 // ---- What settings do
 
-// 2^-126 is the smallest normal float. Its difference to 3/2 of it is a denormal, which flushing makes a zero with its
-// sign; and denormals taken as zeros leave of 2^-126 and 2^-127 only the first.
 struct Flush {
+    Type type;
     double left;
     double right; // of which the sum is taken
     std::uint32_t denormals;
     double expected;
 };
 
+// 2^-126 is the smallest normal float. Its difference to 3/2 of it is a denormal, which flushing makes a zero with its
+// sign; and denormals taken as zeros leave of 2^-126 and 2^-127 only the first. The 80-bit unit has no such bits.
 TEST(Control, DecidesWhatBecomesOfDenormalFloats) {
     constexpr double least = 0x1p-126;
     constexpr std::array cases = std::to_array<Flush>({
-        {1.5 * least, -least, 0, least / 2},
-        {1.5 * least, -least, flushToZero, 0.0},
-        {1.5 * least, -least, denormalsAreZero, least / 2},
-        {-1.5 * least, least, flushToZero, -0.0},
-        {least, least / 2, 0, 1.5 * least},
-        {least, least / 2, flushToZero, 1.5 * least},
-        {least, least / 2, denormalsAreZero, least},
-        {least / 2, least / 2, denormalsAreZero, 0.0},
-        {least / 2, least / 2, denormalsAreZero | flushToZero, 0.0},
+        {Type::real32, 1.5 * least, -least, 0, least / 2},
+        {Type::real32, 1.5 * least, -least, flushToZero, 0.0},
+        {Type::real32, 1.5 * least, -least, denormalsAreZero, least / 2},
+        {Type::real32, -1.5 * least, least, flushToZero, -0.0},
+        {Type::real32, least, least / 2, 0, 1.5 * least},
+        {Type::real32, least, least / 2, flushToZero, 1.5 * least},
+        {Type::real32, least, least / 2, denormalsAreZero, least},
+        {Type::real32, least / 2, least / 2, denormalsAreZero, 0.0},
+        {Type::real32, least / 2, least / 2, denormalsAreZero | flushToZero, 0.0},
+        {Type::real64, 0x1p-1030, 0x1p-1040, denormalsAreZero | flushToZero, 0x1p-1030 + 0x1p-1040},
     });
-    for (const Function *function : literal::members("vector-vector")) {
-        if (function->type != Type::real32) continue;
-        const double sign = function->family->operation == "Sub" ? -1 : 1;
+    for (const Function *function : literal::members("vector-vector"))
         for (const Flush &flush : cases)
             for (const std::uint32_t size : literal::sizesOf(*function, {21})) {
-                SCOPED_TRACE(function->name + ", denormals " + std::to_string(flush.denormals));
+                if (function->type != flush.type) continue;
+                SCOPED_TRACE("denormals " + std::to_string(flush.denormals));
                 Call call(function->name, size, 2);
+                const double sign = function->family->operation == "Sub" ? -1 : 1;
                 for (std::uint32_t n = 0; n < call.objectsOf("src1"); ++n)
                     call.set("src1", n, std::vector<double>(size, flush.left));
                 for (std::uint32_t n = 0; n < call.objectsOf("src2"); ++n)
@@ -205,126 +195,84 @@ TEST(Control, DecidesWhatBecomesOfDenormalFloats) {
                 for (std::uint32_t n = 0; n < call.count(); ++n)
                     literal::expectSame(std::vector<double>(size, flush.expected), call.get("dst", n), "dst");
             }
-    }
 }
-
-// The 80-bit unit has no such bits.
-TEST(Control, OfDenormalFloatsIsNothingToDoubles) {
-    for (const Function *function : literal::members("vector-vector")) {
-        if (function->type != Type::real64) continue;
-        const double sign = function->family->operation == "Sub" ? -1 : 1;
-        for (const std::uint32_t size : literal::sizesOf(*function, {5})) {
-            Call call(function->name, size);
-            call.set("src1", 0, std::vector<double>(size, 0x1p-1030));
-            call.set("src2", 0, std::vector<double>(size, sign * 0x1p-1040));
-            EXPECT_EQ(changesOf({}, denormalsAreZero | flushToZero, [&] { call.run(); }), "");
-            EXPECT_EQ(call.get("dst", 0), std::vector<double>(size, 0x1p-1030 + 0x1p-1040));
-        }
-    }
-}
-
-struct Quotient {
-    Setting setting;
-    double narrow; // 32f
-    double wide;   // 64f
-};
 
 // 1/3 is 11184810.67 * 2^-25 and 6004799503160661.33 * 2^-54. The precision does not matter to a single quotient.
-const std::vector<Quotient> &thirds() {
-    constexpr double floatBelow = 11184810 * 0x1p-25;
-    constexpr double floatAbove = 11184811 * 0x1p-25;
-    constexpr double doubleBelow = 6004799503160661 * 0x1p-54;
-    constexpr double doubleAbove = 6004799503160662 * 0x1p-54;
-    static const std::vector<Quotient> list{
-        {{Precision::bits53, Rounding::nearest}, floatAbove, doubleBelow},
-        {{Precision::bits64, Rounding::nearest}, floatAbove, doubleBelow},
-        {{Precision::bits53, Rounding::up}, floatAbove, doubleAbove},
-        {{Precision::bits64, Rounding::up}, floatAbove, doubleAbove},
-        {{Precision::bits53, Rounding::down}, floatBelow, doubleBelow},
-        {{Precision::bits64, Rounding::down}, floatBelow, doubleBelow},
-        {{Precision::bits53, Rounding::towardZero}, floatBelow, doubleBelow},
-        {{Precision::bits64, Rounding::towardZero}, floatBelow, doubleBelow},
-    };
-    return list;
+double third(Type type, Rounding rounding) {
+    if (type == Type::real64) return (rounding == Rounding::up ? 6004799503160662 : 6004799503160661) * 0x1p-54;
+    return (rounding == Rounding::up || rounding == Rounding::nearest ? 11184811 : 11184810) * 0x1p-25;
 }
 
-// A diagonal of threes.
-void setThrees(Call &call, const char *matrix) {
-    const std::uint32_t order = call.size();
-    call.set(matrix, 0, std::vector<double>(std::size_t{order} * order, 0));
-    for (std::uint32_t i = 0; i < order; ++i) call.set(matrix, 0, i, i, 3);
+std::vector<double> diagonal(std::uint32_t order, double element) {
+    std::vector<double> matrix(std::size_t{order} * order);
+    for (std::uint32_t i = 0; i < order; ++i) matrix[i * order + i] = element;
+    return matrix;
 }
+
+// Each of these results is a third.
+void expectThirds(const Function &function, const std::vector<std::uint32_t> &orders,
+                  const std::function<void(Call &)> &fill, const std::function<std::vector<double>(Call &)> &results) {
+    for (const Precision precision : {Precision::bits53, Precision::bits64})
+        for (const Rounding rounding : roundings)
+            for (const std::uint32_t order : literal::sizesOf(function, orders)) {
+                SCOPED_TRACE(support::describe({precision, rounding}));
+                Call call(function.name, order);
+                fill(call);
+                EXPECT_EQ(changesOf({precision, rounding}, 0, [&] { EXPECT_EQ(call.run(), vonkOk); }), "");
+                for (const double result : results(call)) EXPECT_EQ(result, third(function.type, rounding));
+            }
+}
+
+std::vector<double> solution(Call &call) { return call.get("dst", 0); }
 
 // The multiplier of the second row, under a pivot of 3.
-double multiplier(const Function &function, std::uint32_t order, Setting setting) {
-    Call call(function.name, order);
-    setThrees(call, "src");
-    call.set("src", 0, 1, 0, 1);
-    EXPECT_EQ(changesOf(setting, 0, [&] { EXPECT_EQ(call.run(), vonkOk); }), "");
-    return call.get("dst", 0, 1, 0);
+TEST(Control, DecidesHowQuotientsOfLuDecompositionAreRounded) {
+    const auto fill = [](Call &call) {
+        call.set("src", 0, diagonal(call.size(), 3));
+        call.set("src", 0, 1, 0, 1);
+    };
+    const auto multiplier = [](Call &call) { return std::vector<double>{call.get("dst", 0, 1, 0)}; };
+    for (const Function *function : literal::members("lu-decomposition"))
+        expectThirds(*function, {2}, fill, multiplier);
 }
 
-// The solution for a diagonal of threes and a right-hand side of ones.
-double solution(const Function &function, std::uint32_t order, Setting setting) {
-    Call call(function.name, order);
-    setThrees(call, "src1");
-    std::vector<std::uint32_t> rows;
-    for (std::uint32_t i = 0; i < order; ++i) rows.push_back(i);
-    call.setPivots(0, rows);
-    call.set("src2", 0, std::vector<double>(order, 1));
-    EXPECT_EQ(changesOf(setting, 0, [&] { EXPECT_EQ(call.run(), vonkOk); }), "");
-    EXPECT_EQ(call.get("dst", 0), std::vector<double>(order, call.get("dst", 0, 0, 0)));
-    return call.get("dst", 0, 0, 0);
-}
-
-TEST(Control, DecidesHowQuotientsOfTheLuFamilyAreRounded) {
-    for (const Quotient &third : thirds())
-        for (const char *section : {"lu-decomposition", "lu-back-substitution"})
-            for (const Function *function : literal::members(section)) {
-                // Its threes would have neighbours a hair off 0, which directed roundings notice.
-                if (literal::hasColumnsFourBytesApart(*function)) continue;
-                for (const std::uint32_t order : literal::sizesOf(*function, {2})) {
-                    SCOPED_TRACE(function->name + ", " + support::describe(third.setting));
-                    const bool decomposition = function->family->operation == "LUDecomp";
-                    EXPECT_EQ(decomposition ? multiplier(*function, order, third.setting)
-                                            : solution(*function, order, third.setting),
-                              function->type == Type::real32 ? third.narrow : third.wide);
-                }
-            }
+TEST(Control, DecidesHowQuotientsOfLuBackSubstitutionAreRounded) {
+    const auto fill = [](Call &call) {
+        call.set("src1", 0, diagonal(call.size(), 3));
+        std::vector<std::uint32_t> rows(call.size());
+        std::iota(rows.begin(), rows.end(), 0);
+        call.setPivots(0, rows);
+        call.set("src2", 0, std::vector<double>(call.size(), 1));
+    };
+    // With columns four bytes apart its threes would have neighbours a hair off 0, which directed roundings notice.
+    for (const Function *function : literal::members("lu-back-substitution"))
+        if (!literal::hasColumnsFourBytesApart(*function)) expectThirds(*function, {2}, fill, solution);
 }
 
 // A diagonal of nines, whose roots are threes, and of which the reciprocals are left.
 TEST(Control, DecidesHowReciprocalsOfCholeskyDecompositionAreRounded) {
-    for (const Quotient &third : thirds())
-        for (const Function *function : literal::members("cholesky-decomposition"))
-            for (const std::uint32_t order : literal::sizesOf(*function, {1, 3, 7})) {
-                SCOPED_TRACE(function->name + ", " + support::describe(third.setting));
-                Call call(function->name, order);
-                for (std::uint32_t i = 0; i < order; ++i)
-                    for (std::uint32_t j = 0; j <= i; ++j) call.set("src", 0, i, j, i == j ? 9 : 0);
-                EXPECT_EQ(changesOf(third.setting, 0, [&] { EXPECT_EQ(call.run(), vonkOk); }), "");
-                for (std::uint32_t i = 0; i < order; ++i)
-                    EXPECT_EQ(call.get("dst", 0, i, i), function->type == Type::real32 ? third.narrow : third.wide);
-            }
+    const auto fill = [](Call &call) { call.set("src", 0, diagonal(call.size(), 9)); };
+    const auto reciprocals = [](Call &call) {
+        std::vector<double> found;
+        for (std::uint32_t i = 0; i < call.size(); ++i) found.push_back(call.get("dst", 0, i, i));
+        return found;
+    };
+    for (const Function *function : literal::members("cholesky-decomposition"))
+        expectThirds(*function, {1, 3, 7}, fill, reciprocals);
 }
 
 // Reflectors of zeros turn the signs of all elements but the last: -1 over -3.
 TEST(Control, DecidesHowQuotientsOfQrBackSubstitutionAreRounded) {
-    for (const Quotient &third : thirds())
-        for (const Function *function : literal::members("qr-back-substitution")) {
-            if (function->type == Type::real64 && function->layout == "L") continue; // looks for its matrix elsewhere
-            for (const std::uint32_t order : literal::sizesOf(*function, {1, 3, 7})) {
-                SCOPED_TRACE(function->name + ", " + support::describe(third.setting));
-                Call call(function->name, order);
-                for (std::uint32_t i = 0; i < order; ++i)
-                    for (std::uint32_t j = 0; j < order; ++j)
-                        call.set("src1", 0, i, j, i != j ? 0 : i + 1 == order ? 3 : -3);
-                call.set("src2", 0, std::vector<double>(order, 1));
-                EXPECT_EQ(changesOf(third.setting, 0, [&] { EXPECT_EQ(call.run(), vonkOk); }), "");
-                const double expected = function->type == Type::real32 ? third.narrow : third.wide;
-                EXPECT_EQ(call.get("dst", 0), std::vector<double>(order, expected));
-            }
-        }
+    const auto fill = [](Call &call) {
+        const std::uint32_t last = call.size() - 1;
+        call.set("src1", 0, diagonal(call.size(), -3));
+        call.set("src1", 0, last, last, 3);
+        call.set("src2", 0, std::vector<double>(call.size(), 1));
+    };
+    for (const Function *function : literal::members("qr-back-substitution")) {
+        if (isDouble(*function) && function->layout == "L") continue; // looks for its matrix elsewhere
+        expectThirds(*function, {1, 3, 7}, fill, solution);
+    }
 }
 
 // What is flushed to zero is no pivot.
@@ -333,10 +281,9 @@ TEST(Control, DecidesWhetherADenormalPivotOfFloatsPasses) {
         if (function->type != Type::real32) continue;
         for (const std::uint32_t denormals : {0U, flushToZero}) {
             for (const std::uint32_t order : literal::sizesOf(*function, {2, 3, 7})) {
-                SCOPED_TRACE(function->name + ", denormals " + std::to_string(denormals));
+                SCOPED_TRACE("denormals " + std::to_string(denormals));
                 Call call(function->name, order);
-                for (std::uint32_t i = 0; i < order; ++i)
-                    for (std::uint32_t j = 0; j <= i; ++j) call.set("src", 0, i, j, i == j ? 1 : 0);
+                call.set("src", 0, diagonal(order, 1));
                 // 3/2 of the least normal number less that number.
                 call.set("src", 0, 1, 0, 0x1p-63);
                 call.set("src", 0, 1, 1, 1.5 * 0x1p-126);
