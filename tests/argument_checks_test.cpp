@@ -2,11 +2,13 @@
 // its section. Who deviates is taken from the table of exceptions. Null pointers come first, then sizes, then entries
 // of tables, then `count`; entries of lists are checked when the object's turn comes.
 #include "support/family_test.h"
+#include "support/fill.h"
 
 namespace {
 
 using namespace literal::names;
 using literal::allMembers;
+using literal::fill;
 
 // ---- The rules of the sections
 
@@ -51,24 +53,6 @@ bool hasTable(const Operand &operand) { return catalogue::isTable(operand.layout
 // ---- Calls that succeed
 
 constexpr std::uint32_t runTimeSize = 5;
-
-// Symmetric matrices with a large diagonal, which all families accept, and other numbers in each object.
-void fill(Call &call) {
-    for (const Operand &operand : call.function().operands) {
-        if (operand.written) continue;
-        const std::uint32_t rows = call[operand.name].rows, cols = call[operand.name].cols;
-        const std::uint32_t variant = operand.name == "src2" ? 1 : 0;
-        for (std::uint32_t n = 0; n < call.objectsOf(operand.name); ++n)
-            for (std::uint32_t i = 0; i < rows; ++i)
-                for (std::uint32_t j = 0; j < cols; ++j)
-                    call.set(operand.name, n, i, j,
-                             rows > 1 && i == j ? 16 + n : 1 + (i + j + 2 * n + variant) % 3 + (rows == 1 ? n : 0));
-    }
-    std::vector<std::uint32_t> unpermuted;
-    for (std::uint32_t i = 0; i < call.size(); ++i) unpermuted.push_back(i);
-    if (call.function().family->operation == "LUBackSubst")
-        for (std::uint32_t n = 0; n < call.count(); ++n) call.setPivots(n, unpermuted);
-}
 
 struct Objects {
     std::vector<std::vector<double>> elements;

@@ -1,12 +1,14 @@
 // The floating-point control state is the caller's: every call works under the setting that it finds and leaves both
 // units as they were, whether it succeeds, fails or meets numbers that raise exceptions.
 #include "support/family_test.h"
+#include "support/fill.h"
 
 #include <immintrin.h>
 
 namespace {
 
 using namespace literal::names;
+using literal::fill;
 using support::MachineState;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
@@ -38,21 +40,6 @@ std::string changesOf(Setting setting, std::uint32_t denormals, const std::funct
         after = MachineState::now();
     }
     return support::difference(before, after);
-}
-
-void fill(Call &call) {
-    for (const catalogue::Operand &operand : call.function().operands)
-        for (std::uint32_t n = 0; !operand.written && n < call.objectsOf(operand.name); ++n) {
-            const Factors factors(call.size(), n);
-            if (!operand.matrix) call.set(operand.name, n, factors.solution());
-            else call.set(operand.name, n, operand.name == "src" ? factors.matrix() : factors.factored());
-            if (call.function().family->operation != "CholeskyDecomp") continue;
-            for (std::uint32_t i = 0; i < call.size(); ++i) // positive definite
-                for (std::uint32_t j = 0; j < call.size(); ++j) call.set(operand.name, n, i, j, i == j ? 20 : 1);
-        }
-    for (std::uint32_t n = 0; n < call.count(); ++n) call.setPivots(n, Factors(call.size(), n).permutation);
-    for (const catalogue::Parameter &parameter : call.function().parameters)
-        if (parameter.kind == catalogue::Kind::constant) call.setConstant(parameter.name, 3);
 }
 
 void fillWith(Call &call, double value) {

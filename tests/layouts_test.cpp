@@ -76,13 +76,7 @@ protected:
     std::vector<std::uint64_t> call(const Function &function, const support::Objects &objects,
                                     support::Random &random) {
         arena.fill(1);
-        const support::Laid laid(function, objects.sizes, arena.bytes(), random);
-        laid.put(objects);
-        const support::SettingScope scope({});
-        const std::int32_t status = support::invoke(library.find(function.name), function, laid.words(objects));
-        support::Objects after;
-        laid.get(after);
-        return support::resultsOf(function, after, status);
+        return support::resultsOf(function, library.find(function.name), objects, arena.bytes(), random);
     }
 
     // Rows of a table are as long as the call says, not as the room that a rectangular operand gets.

@@ -53,13 +53,7 @@ private:
         support::Random random(7, function.name, index);
         std::memset(memory.data(), 0x3f, memory.size());
         const support::Objects objects = support::drawObjects(function, mostObjects, memory, random);
-        const support::Laid laid(function, objects.sizes, memory, random);
-        laid.put(objects);
-        const support::SettingScope scope({});
-        const std::int32_t status = support::invoke(address, function, laid.words(objects));
-        support::Objects after;
-        laid.get(after);
-        return support::resultsOf(function, after, status);
+        return support::resultsOf(function, address, objects, memory, random);
     }
 
     const std::vector<Function> functions = catalogue::expand();

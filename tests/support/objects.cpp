@@ -1,7 +1,9 @@
 // Drawing and laying out objects. See objects.h.
 #include "objects.h"
 
+#include "control.h"
 #include "families.h"
+#include "invoke.h"
 #include "values.h"
 
 #include <algorithm>
@@ -149,7 +151,14 @@ Objects drawObjects(const Function &function, std::uint32_t mostObjects, std::sp
     return objects;
 }
 
-std::vector<std::uint64_t> resultsOf(const Function &function, const Objects &after, std::int32_t status) {
+std::vector<std::uint64_t> resultsOf(const Function &function, void *address, const Objects &objects,
+                                     std::span<std::byte> memory, Random &random) {
+    const Laid laid(function, objects.sizes, memory, random);
+    laid.put(objects);
+    const SettingScope scope({});
+    const std::int32_t status = invoke(address, function, laid.words(objects));
+    Objects after;
+    laid.get(after);
     std::vector<std::uint64_t> results{static_cast<std::uint32_t>(status)};
     const std::size_t size = function.type == catalogue::Type::real32 ? 4 : 8;
     for (std::size_t k = 0; k < function.operands.size(); ++k)

@@ -48,7 +48,9 @@ private:
 Objects drawObjects(const catalogue::Function &function, std::uint32_t mostObjects, std::span<std::byte> memory,
                     Random &random);
 
-// Status, then destinations and blocks, bit by bit but for the payloads of NaNs.
-std::vector<std::uint64_t> resultsOf(const catalogue::Function &function, const Objects &after, std::int32_t status);
+// Lays the objects out, calls the export and gives status, then destinations and blocks, bit by bit but for the
+// payloads of NaNs.
+std::vector<std::uint64_t> resultsOf(const catalogue::Function &function, void *address, const Objects &objects,
+                                     std::span<std::byte> memory, Random &random);
 
 } // namespace support
