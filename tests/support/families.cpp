@@ -51,67 +51,10 @@ bool refusesZeroDimension(const Function &function) {
     return testsPointers(function);
 }
 
-} // namespace
-
-std::vector<std::int32_t> relevantStatuses(const Function &function) {
-    std::vector<std::int32_t> statuses{ok};
-    if (testsPointers(function)) statuses.push_back(nullPointer);
-    if (refusesZeroDimension(function) || refusesZeroCount(function)) statuses.push_back(badSize);
-    if (in(function, {"lu-decomposition", "inverse", "qr-decomposition"})) statuses.push_back(singular);
-    if (in(function, {"cholesky-decomposition"})) statuses.push_back(notPositiveDefinite);
-    return statuses;
-}
-
-namespace {
-
 // The sizes of an identity are signed: a negative one counts as none, and none has room for one.
 std::uint32_t extentOf(const Sizes &sizes, std::string_view name) {
     return static_cast<std::uint32_t>(std::max(1, static_cast<std::int32_t>(sizes[name])));
 }
-
-} // namespace
-
-// Where rows and columns trade places the operand gets a square that holds either.
-Shape shapeOf(const Function &function, const Operand &operand, const Sizes &sizes) {
-    if (in(function, {"identity"})) return {extentOf(sizes, "rows"), extentOf(sizes, "cols")};
-    const std::uint32_t side = orderOf(function, sizes);
-    const bool square = function.order != 0 || sizes["order"] != 0 ||
-                        in(function, {"matrix-product", "matrix-vector", "transpose", "extract"});
-    if (!operand.matrix && in(function, {"qr-back-substitution"}) && function.order == 0)
-        return {1, sizes[operand.written ? "cols" : "rows"]};
-    if (!operand.matrix) {
-        const std::uint32_t length = std::max(sizes["len"], square ? side : std::max(sizes["rows"], sizes["cols"]));
-        return {1, length};
-    }
-    if (square) return {side, side};
-    if (operand.transposed) return {sizes["cols"], sizes["rows"]};
-    return {sizes["rows"], sizes["cols"]};
-}
-
-// One vector or two on adjacent elements; vonkAdd_vv_32f and its like get there without.
-bool turnsAtEleven(const Function &function) {
-    return in(function, {"vector-constant", "saxpy", "linear-combination", "dot-product", "norm"}) &&
-           function.order == 0 && function.type == catalogue::Type::real32 && function.layout.empty() &&
-           !function.array();
-}
-
-bool turnsAtEightObjects(const Function &function) {
-    return in(function, {"matrix-product", "matrix-vector", "gaxpy"}) && function.array() && function.layout == "P" &&
-           function.type == catalogue::Type::real32 && function.order != 0;
-}
-
-// The two words of a product that are compared; the others are free.
-std::pair<std::string_view, std::string_view> comparedWords(const Function &function) {
-    const bool first = function.operands[0].transposed;
-    if (in(function, {"matrix-vector"})) return {first ? "src1Rows" : "src1Cols", "src2Len"};
-    const bool second = function.operands[1].transposed;
-    if (first) return {"src1Rows", second ? "src2Cols" : "src2Rows"};
-    if (second) return {"src1Cols", "src2Cols"};
-    if (function.operands[1].array) return {"src1Rows", "src2Cols"};
-    return {"src1Cols", "src2Rows"};
-}
-
-namespace {
 
 // Mostly higher than wide: a wider matrix is always singular, and nothing solves with one. A single right-hand side may
 // be long enough to be copied in blocks.
@@ -139,49 +82,6 @@ void makeSizesNegative(Sizes &sizes, Random &random) {
 void avoidOrderOne(Sizes &sizes) {
     for (Sizes::Named &dimension : sizes.dimensions) dimension.value = std::max(dimension.value, 2U);
 }
-
-} // namespace
-
-void relateDimensions(const Function &function, Sizes &sizes, Random &random) {
-    if (in(function, {"qr-decomposition", "qr-back-substitution"}) && !sizes.dimensions.empty())
-        return relateHeightToWidth(function, sizes, random);
-    if (in(function, {"identity"})) return makeSizesNegative(sizes, random);
-    if (in(function, {"inverse"})) return avoidOrderOne(sizes);
-    if (!in(function, {"matrix-product", "matrix-vector"}) || sizes.dimensions.empty() || random.percent(10)) return;
-    const auto [model, follower] = comparedWords(function);
-    const bool square = random.percent(40);
-    for (Sizes::Named &dimension : sizes.dimensions)
-        if (square || dimension.name == follower) dimension.value = sizes[model];
-}
-
-std::uint32_t blockBytes(const Function &function, std::string_view parameter, const Sizes &sizes) {
-    const std::uint32_t order = orderOf(function, sizes);
-    if (parameter == "pivots") return sizes.count * order * 4;
-    if (parameter == "scratch") return order * order * elementSize(function) + order * 4;
-    if (parameter == "work") return order * elementSize(function);
-    if (!in(function, {"extract"})) return sizes.count * elementSize(function);
-    std::uint32_t elements = sizes.count;
-    for (const Sizes::Named &dimension : sizes.dimensions) elements *= dimension.value;
-    return elements * elementSize(function);
-}
-
-bool holdsElements(std::string_view parameter) { return parameter == "dst" || parameter == "work"; }
-
-bool isUnspecifiedAfterCall(const Function &, std::string_view parameter) { return parameter == "scratch"; }
-
-// The last pivot of object n is looked for in the table n rows further on; the ones of an identity run on along the
-// table over all objects.
-std::uint32_t extraEntries(const Function &function, const Operand &operand, const Sizes &sizes) {
-    if (in(function, {"identity"}) && isTable(operand.layout)) {
-        const std::uint32_t ones = sizes.count * extentOf(sizes, "rows");
-        return ones - std::min(ones, extentOf(sizes, "cols"));
-    }
-    const bool displaced =
-        in(function, {"lu-decomposition"}) && operand.written && operand.array && isTable(operand.layout);
-    return displaced ? sizes.count * orderOf(function, sizes) : 0;
-}
-
-namespace {
 
 // Row i of the triangle is looked for i + 1 bytes behind where a row ahead of the matrix would be.
 bool displacesTriangle(const Function &function, const Operand &operand) {
@@ -235,26 +135,6 @@ Reach ofIdentities(const Function &function, const Operand &operand, const Sizes
     return reach;
 }
 
-} // namespace
-
-Reach extraReach(const Function &function, const Operand &operand, const Sizes &sizes, const Placement &placement) {
-    if (in(function, {"identity"})) return ofIdentities(function, operand, sizes, placement);
-    if (in(function, {"lu-decomposition"}) && operand.written && operand.array && !isTable(operand.layout))
-        return withDisplacedPivots(placement);
-    if (displacesTriangle(function, operand)) return withDisplacedTriangle(placement);
-    return placement.reach;
-}
-
-bool readsThroughDestination(const Function &function) {
-    return function.name == "vonkCopy_va_32f_PP" || function.name == "vonkCopy_va_64f_PP";
-}
-
-bool addsShift(const Function &function) {
-    return function.name != "vonkExtract_mT_32f_P" && function.name != "vonkExtract_mT_64f_P";
-}
-
-namespace {
-
 bool hasLanes(const Function &function) {
     return function.order != 0 && function.type == catalogue::Type::real32 &&
            (function.layout.empty() || function.layout == "L");
@@ -265,42 +145,6 @@ bool runsAhead(const Function &function) {
     return in(function, {"matrix-matrix"}) && hasLanes(function) && function.order == 3 &&
            (function.group == "mam" || function.group == "mamT");
 }
-
-} // namespace
-
-// With the single matrix transposed those walk its rows with the stride of the array's.
-Reach borrowedReach(const Function &function, const Operand &operand, std::span<const Placement> operands) {
-    if (!runsAhead(function) || !operand.transposed) return {};
-    const std::int64_t last = 2 * operands.front().rowStride;
-    return {std::min<std::int64_t>(last, 0), std::max<std::int64_t>(last, 0) + 12};
-}
-
-bool looksAtAlignment(const Function &function) {
-    return in(function, {"vector-constant", "saxpy", "linear-combination", "dot-product", "norm", "matrix-matrix",
-                         "matrix-constant", "frobenius-norm"}) &&
-           hasLanes(function);
-}
-
-bool mayLieInSource(const Function &function) {
-    return in(function, {"dot-product", "norm", "trace", "frobenius-norm", "determinant"});
-}
-
-// Aligned where all the others are, whatever the stride of the second source, which nobody looks at.
-bool mustKeepOffBoundary(const Function &function, std::span<const Placement> operands) {
-    const bool trusts = in(function, {"saxpy"}) && function.type == catalogue::Type::real32 &&
-                        function.group == "vava" && function.layout.empty() &&
-                        (function.order == 4 || function.order == 6);
-    return trusts && operands[1].objects > 1 && operands[1].objectStride % 16 != 0;
-}
-
-bool testsPointers(const Function &function) {
-    static constexpr std::array<std::string_view, 5> untested{"vonkExtract_m_32f_P", "vonkExtract_m_64f_P",
-                                                              "vonkExtract_mT_32f_P", "vonkExtract_mT_64f_P",
-                                                              "vonkExtract_v_64f_P"};
-    return std::ranges::find(untested, function.name) == untested.end();
-}
-
-namespace {
 
 // How many entries of its table a product of run-time size looks at before it begins: not always those that it uses.
 std::uint32_t scannedEntries(const Function &function, const Operand &operand, const Sizes &sizes) {
@@ -356,93 +200,6 @@ bool trustsEntries(const Function &function) {
     return std::ranges::find(trusting, function.name) != trusting.end();
 }
 
-} // namespace
-
-// Single forms that leave out tests are added here, by name.
-bool testsEntry(const Function &function, const Operand &operand, const Sizes &sizes, std::uint32_t entry) {
-    if (in(function, {"copy", "extract", "identity"})) return false;
-    if (in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return isList(operand.layout);
-    if (in(function, {"qr-back-substitution"}) && operand.name == "src2" && isTable(operand.layout))
-        return entry < (function.order != 0 ? orderOf(function, sizes) : sizes["cols"]);
-    if (trustsEntries(function)) return false;
-    if (isFixedInverse(function) && function.type == catalogue::Type::real32 && function.layout == "L") return false;
-    if (isList(operand.layout)) return testsListEntry(function, operand, sizes, entry);
-    if (in(function, {"trace"})) return traceMayMeetNull(operand, orderOf(function, sizes), entry);
-    if (in(function, {"transpose"}) && function.order == 0) return testsExchangedEntry(operand, sizes, entry);
-    if (in(function, {"matrix-matrix", "matrix-constant"}) && !function.array() && operand.transposed &&
-        function.order == 4 && entry == 8)
-        return false;
-    if (function.group == "mTv" && function.order == 4 && operand.name == "src1" && entry == 8) return false;
-    const bool scansShape = in(function, {"matrix-product", "matrix-vector", "gaxpy"}) && function.order == 0;
-    if (scansShape && isTable(operand.layout)) return entry < scannedEntries(function, operand, sizes);
-    return true;
-}
-
-// What these test is the sum of entry and shift.
-std::uint64_t nullEntry(const Function &function, std::int32_t shift) {
-    if (!in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return 0;
-    return static_cast<std::uint64_t>(-std::int64_t{shift});
-}
-
-// The factor is a lower triangle.
-bool followsEntry(const Function &function, const Placement &placement, std::uint32_t entry) {
-    if (!in(function, {"cholesky-decomposition", "cholesky-back-substitution"}) || !isTable(placement.layout))
-        return true;
-    const Shape shape = placement.shape;
-    return shape.rows != shape.cols || entry % shape.cols <= entry / shape.cols;
-}
-
-// Decompositions of these orders are straight lines of code that count strides in elements.
-bool dropsPartOfElementStride(const Function &function, const Sizes &sizes) {
-    const std::uint32_t order = orderOf(function, sizes);
-    return in(function, {"cholesky-decomposition"}) && order >= 3 && order <= 6 &&
-           (function.layout == "S2" || function.layout == "LS2");
-}
-
-bool isSignedSize(const Function &function, std::string_view parameter) {
-    const bool inTable = function.layout == "P" || function.layout == "PS2";
-    if (in(function, {"cholesky-decomposition"})) return parameter == "count" && !inTable;
-    if (!in(function, {"cholesky-back-substitution"})) return false;
-    return parameter == "count" || (parameter == "order" && (function.layout == "S2" || function.layout == "LS2"));
-}
-
-// Some forms of these run ahead of the object whose entries they test, or pass over it.
-bool stopsAtNullEntry(const Function &function, const Operand &operand) {
-    if (in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return false;
-    if (isFixedInverse(function) && isList(operand.layout)) return false;
-    return isTable(operand.layout) ? !in(function, {"trace"}) : !in(function, {"matrix-matrix", "matrix-product"});
-}
-
-bool isFixedInPlace(const Function &function, const Operand &source) {
-    if (source.transposed) return false;
-    if (in(function, {"cross-product"})) return function.group == "vv" && function.layout.empty();
-    if (in(function, {"cholesky-back-substitution", "qr-back-substitution"})) return source.name == "src2";
-    return in(function, {"vector-constant", "vector-vector", "saxpy", "linear-combination", "matrix-matrix",
-                         "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition", "copy"});
-}
-
-// Rows and columns change places in registers, in an order that is free; an inverse promises next to nothing.
-unsigned overlapShare(const Function &function) {
-    if (isFixedInverse(function)) return 12;
-    const bool turnsInRegisters =
-        in(function, {"transpose"}) || (in(function, {"matrix-matrix", "matrix-constant"}) &&
-                                        std::ranges::any_of(function.operands, &Operand::transposed));
-    return hasLanes(function) && turnsInRegisters ? 50 : 100;
-}
-
-// Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.
-ValueMixture usualValues(const Function &function) {
-    if (isFixedInverse(function))
-        return {.smallIntegers = 20, .wideExponents = 3, .ties = 5, .nearTies = 8, .specials = 10};
-    if (in(function, {"lu-decomposition", "determinant", "inverse", "qr-decomposition"}))
-        return {.smallIntegers = 15, .wideExponents = 4, .ties = 5, .nearTies = 8, .specials = 15};
-    if (in(function, {"cholesky-decomposition"}))
-        return {.smallIntegers = 15, .wideExponents = 8, .ties = 8, .nearTies = 8, .specials = 12};
-    return {};
-}
-
-namespace {
-
 void fillPivots(std::span<std::byte> block, std::uint32_t order, Random &random) {
     std::vector<std::uint32_t> rows(order);
     for (std::size_t at = 0; at < block.size(); at += std::size_t{4} * order) {
@@ -451,21 +208,6 @@ void fillPivots(std::span<std::byte> block, std::uint32_t order, Random &random)
         std::memcpy(block.data() + at, rows.data(), rows.size() * 4);
     }
 }
-
-} // namespace
-
-void fillBlock(const Function &function, std::string_view parameter, std::span<std::byte> block, const Sizes &sizes,
-               Random &random) {
-    if (parameter == "pivots" && in(function, {"lu-back-substitution"}))
-        fillPivots(block, orderOf(function, sizes), random);
-}
-
-bool hasTrouble(const Function &function) {
-    return in(function, {"norm", "frobenius-norm", "lu-decomposition", "determinant", "inverse",
-                         "cholesky-decomposition", "qr-decomposition"});
-}
-
-namespace {
 
 // One object of a matrix operand, by rows and columns.
 struct MatrixObject {
@@ -493,13 +235,16 @@ void clearColumn(const MatrixObject &matrix, Random &random) {
     for (std::uint32_t i = 0; i < matrix.rows(); ++i) matrix.set(i, column, 0.0);
 }
 
+double nextTo(double value, double side, catalogue::Type type) {
+    return type == catalogue::Type::real32
+               ? static_cast<double>(std::nextafterf(static_cast<float>(value), static_cast<float>(side)))
+               : std::nextafter(value, side);
+}
+
 double besideTolerance(const Function &function, Random &random) {
     const double side = random.percent(50) ? 0.0 : 1.0;
     double value = toleranceOf(function);
-    if (random.percent(67))
-        value = function.type == catalogue::Type::real32
-                    ? static_cast<double>(std::nextafterf(static_cast<float>(value), static_cast<float>(side)))
-                    : std::nextafter(value, side);
+    if (random.percent(67)) value = nextTo(value, side, function.type);
     return random.percent(50) ? -value : value;
 }
 
@@ -535,12 +280,6 @@ void moveSquaresToTheEdge(const MatrixObject &matrix, Random &random) {
             const auto size = static_cast<double>(random.between(4, 8)) / 8;
             matrix.set(i, j, kind == 1 ? 0.0 : std::ldexp(size, exponent + step));
         }
-}
-
-double nextTo(double value, double side, catalogue::Type type) {
-    return type == catalogue::Type::real32
-               ? static_cast<double>(std::nextafterf(static_cast<float>(value), static_cast<float>(side)))
-               : std::nextafter(value, side);
 }
 
 // --- positive definite matrices and others
@@ -637,6 +376,236 @@ void makeQrTrouble(const MatrixObject &matrix, Random &random) {
 }
 
 } // namespace
+
+std::vector<std::int32_t> relevantStatuses(const Function &function) {
+    std::vector<std::int32_t> statuses{ok};
+    if (testsPointers(function)) statuses.push_back(nullPointer);
+    if (refusesZeroDimension(function) || refusesZeroCount(function)) statuses.push_back(badSize);
+    if (in(function, {"lu-decomposition", "inverse", "qr-decomposition"})) statuses.push_back(singular);
+    if (in(function, {"cholesky-decomposition"})) statuses.push_back(notPositiveDefinite);
+    return statuses;
+}
+
+// Where rows and columns trade places the operand gets a square that holds either.
+Shape shapeOf(const Function &function, const Operand &operand, const Sizes &sizes) {
+    if (in(function, {"identity"})) return {extentOf(sizes, "rows"), extentOf(sizes, "cols")};
+    const std::uint32_t side = orderOf(function, sizes);
+    const bool square = function.order != 0 || sizes["order"] != 0 ||
+                        in(function, {"matrix-product", "matrix-vector", "transpose", "extract"});
+    if (!operand.matrix && in(function, {"qr-back-substitution"}) && function.order == 0)
+        return {1, sizes[operand.written ? "cols" : "rows"]};
+    if (!operand.matrix) {
+        const std::uint32_t length = std::max(sizes["len"], square ? side : std::max(sizes["rows"], sizes["cols"]));
+        return {1, length};
+    }
+    if (square) return {side, side};
+    if (operand.transposed) return {sizes["cols"], sizes["rows"]};
+    return {sizes["rows"], sizes["cols"]};
+}
+
+// One vector or two on adjacent elements; vonkAdd_vv_32f and its like get there without.
+bool turnsAtEleven(const Function &function) {
+    return in(function, {"vector-constant", "saxpy", "linear-combination", "dot-product", "norm"}) &&
+           function.order == 0 && function.type == catalogue::Type::real32 && function.layout.empty() &&
+           !function.array();
+}
+
+bool turnsAtEightObjects(const Function &function) {
+    return in(function, {"matrix-product", "matrix-vector", "gaxpy"}) && function.array() && function.layout == "P" &&
+           function.type == catalogue::Type::real32 && function.order != 0;
+}
+
+// The two words of a product that are compared; the others are free.
+std::pair<std::string_view, std::string_view> comparedWords(const Function &function) {
+    const bool first = function.operands[0].transposed;
+    if (in(function, {"matrix-vector"})) return {first ? "src1Rows" : "src1Cols", "src2Len"};
+    const bool second = function.operands[1].transposed;
+    if (first) return {"src1Rows", second ? "src2Cols" : "src2Rows"};
+    if (second) return {"src1Cols", "src2Cols"};
+    if (function.operands[1].array) return {"src1Rows", "src2Cols"};
+    return {"src1Cols", "src2Rows"};
+}
+
+void relateDimensions(const Function &function, Sizes &sizes, Random &random) {
+    if (in(function, {"qr-decomposition", "qr-back-substitution"}) && !sizes.dimensions.empty())
+        return relateHeightToWidth(function, sizes, random);
+    if (in(function, {"identity"})) return makeSizesNegative(sizes, random);
+    if (in(function, {"inverse"})) return avoidOrderOne(sizes);
+    if (!in(function, {"matrix-product", "matrix-vector"}) || sizes.dimensions.empty() || random.percent(10)) return;
+    const auto [model, follower] = comparedWords(function);
+    const bool square = random.percent(40);
+    for (Sizes::Named &dimension : sizes.dimensions)
+        if (square || dimension.name == follower) dimension.value = sizes[model];
+}
+
+std::uint32_t blockBytes(const Function &function, std::string_view parameter, const Sizes &sizes) {
+    const std::uint32_t order = orderOf(function, sizes);
+    if (parameter == "pivots") return sizes.count * order * 4;
+    if (parameter == "scratch") return order * order * elementSize(function) + order * 4;
+    if (parameter == "work") return order * elementSize(function);
+    if (!in(function, {"extract"})) return sizes.count * elementSize(function);
+    std::uint32_t elements = sizes.count;
+    for (const Sizes::Named &dimension : sizes.dimensions) elements *= dimension.value;
+    return elements * elementSize(function);
+}
+
+bool holdsElements(std::string_view parameter) { return parameter == "dst" || parameter == "work"; }
+
+bool isUnspecifiedAfterCall(const Function &, std::string_view parameter) { return parameter == "scratch"; }
+
+// The last pivot of object n is looked for in the table n rows further on; the ones of an identity run on along the
+// table over all objects.
+std::uint32_t extraEntries(const Function &function, const Operand &operand, const Sizes &sizes) {
+    if (in(function, {"identity"}) && isTable(operand.layout)) {
+        const std::uint32_t ones = sizes.count * extentOf(sizes, "rows");
+        return ones - std::min(ones, extentOf(sizes, "cols"));
+    }
+    const bool displaced =
+        in(function, {"lu-decomposition"}) && operand.written && operand.array && isTable(operand.layout);
+    return displaced ? sizes.count * orderOf(function, sizes) : 0;
+}
+
+Reach extraReach(const Function &function, const Operand &operand, const Sizes &sizes, const Placement &placement) {
+    if (in(function, {"identity"})) return ofIdentities(function, operand, sizes, placement);
+    if (in(function, {"lu-decomposition"}) && operand.written && operand.array && !isTable(operand.layout))
+        return withDisplacedPivots(placement);
+    if (displacesTriangle(function, operand)) return withDisplacedTriangle(placement);
+    return placement.reach;
+}
+
+bool readsThroughDestination(const Function &function) {
+    return function.name == "vonkCopy_va_32f_PP" || function.name == "vonkCopy_va_64f_PP";
+}
+
+bool addsShift(const Function &function) {
+    return function.name != "vonkExtract_mT_32f_P" && function.name != "vonkExtract_mT_64f_P";
+}
+
+// With the single matrix transposed those walk its rows with the stride of the array's.
+Reach borrowedReach(const Function &function, const Operand &operand, std::span<const Placement> operands) {
+    if (!runsAhead(function) || !operand.transposed) return {};
+    const std::int64_t last = 2 * operands.front().rowStride;
+    return {std::min<std::int64_t>(last, 0), std::max<std::int64_t>(last, 0) + 12};
+}
+
+bool looksAtAlignment(const Function &function) {
+    return in(function, {"vector-constant", "saxpy", "linear-combination", "dot-product", "norm", "matrix-matrix",
+                         "matrix-constant", "frobenius-norm"}) &&
+           hasLanes(function);
+}
+
+bool mayLieInSource(const Function &function) {
+    return in(function, {"dot-product", "norm", "trace", "frobenius-norm", "determinant"});
+}
+
+// Aligned where all the others are, whatever the stride of the second source, which nobody looks at.
+bool mustKeepOffBoundary(const Function &function, std::span<const Placement> operands) {
+    const bool trusts = in(function, {"saxpy"}) && function.type == catalogue::Type::real32 &&
+                        function.group == "vava" && function.layout.empty() &&
+                        (function.order == 4 || function.order == 6);
+    return trusts && operands[1].objects > 1 && operands[1].objectStride % 16 != 0;
+}
+
+bool testsPointers(const Function &function) {
+    static constexpr std::array<std::string_view, 5> untested{"vonkExtract_m_32f_P", "vonkExtract_m_64f_P",
+                                                              "vonkExtract_mT_32f_P", "vonkExtract_mT_64f_P",
+                                                              "vonkExtract_v_64f_P"};
+    return std::ranges::find(untested, function.name) == untested.end();
+}
+
+// Single forms that leave out tests are added here, by name.
+bool testsEntry(const Function &function, const Operand &operand, const Sizes &sizes, std::uint32_t entry) {
+    if (in(function, {"copy", "extract", "identity"})) return false;
+    if (in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return isList(operand.layout);
+    if (in(function, {"qr-back-substitution"}) && operand.name == "src2" && isTable(operand.layout))
+        return entry < (function.order != 0 ? orderOf(function, sizes) : sizes["cols"]);
+    if (trustsEntries(function)) return false;
+    if (isFixedInverse(function) && function.type == catalogue::Type::real32 && function.layout == "L") return false;
+    if (isList(operand.layout)) return testsListEntry(function, operand, sizes, entry);
+    if (in(function, {"trace"})) return traceMayMeetNull(operand, orderOf(function, sizes), entry);
+    if (in(function, {"transpose"}) && function.order == 0) return testsExchangedEntry(operand, sizes, entry);
+    if (in(function, {"matrix-matrix", "matrix-constant"}) && !function.array() && operand.transposed &&
+        function.order == 4 && entry == 8)
+        return false;
+    if (function.group == "mTv" && function.order == 4 && operand.name == "src1" && entry == 8) return false;
+    const bool scansShape = in(function, {"matrix-product", "matrix-vector", "gaxpy"}) && function.order == 0;
+    if (scansShape && isTable(operand.layout)) return entry < scannedEntries(function, operand, sizes);
+    return true;
+}
+
+// What these test is the sum of entry and shift.
+std::uint64_t nullEntry(const Function &function, std::int32_t shift) {
+    if (!in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return 0;
+    return static_cast<std::uint64_t>(-std::int64_t{shift});
+}
+
+// The factor is a lower triangle.
+bool followsEntry(const Function &function, const Placement &placement, std::uint32_t entry) {
+    if (!in(function, {"cholesky-decomposition", "cholesky-back-substitution"}) || !isTable(placement.layout))
+        return true;
+    const Shape shape = placement.shape;
+    return shape.rows != shape.cols || entry % shape.cols <= entry / shape.cols;
+}
+
+// Decompositions of these orders are straight lines of code that count strides in elements.
+bool dropsPartOfElementStride(const Function &function, const Sizes &sizes) {
+    const std::uint32_t order = orderOf(function, sizes);
+    return in(function, {"cholesky-decomposition"}) && order >= 3 && order <= 6 &&
+           (function.layout == "S2" || function.layout == "LS2");
+}
+
+bool isSignedSize(const Function &function, std::string_view parameter) {
+    const bool inTable = function.layout == "P" || function.layout == "PS2";
+    if (in(function, {"cholesky-decomposition"})) return parameter == "count" && !inTable;
+    if (!in(function, {"cholesky-back-substitution"})) return false;
+    return parameter == "count" || (parameter == "order" && (function.layout == "S2" || function.layout == "LS2"));
+}
+
+// Some forms of these run ahead of the object whose entries they test, or pass over it.
+bool stopsAtNullEntry(const Function &function, const Operand &operand) {
+    if (in(function, {"cholesky-decomposition", "cholesky-back-substitution"})) return false;
+    if (isFixedInverse(function) && isList(operand.layout)) return false;
+    return isTable(operand.layout) ? !in(function, {"trace"}) : !in(function, {"matrix-matrix", "matrix-product"});
+}
+
+bool isFixedInPlace(const Function &function, const Operand &source) {
+    if (source.transposed) return false;
+    if (in(function, {"cross-product"})) return function.group == "vv" && function.layout.empty();
+    if (in(function, {"cholesky-back-substitution", "qr-back-substitution"})) return source.name == "src2";
+    return in(function, {"vector-constant", "vector-vector", "saxpy", "linear-combination", "matrix-matrix",
+                         "matrix-constant", "lu-decomposition", "cholesky-decomposition", "qr-decomposition", "copy"});
+}
+
+// Rows and columns change places in registers, in an order that is free; an inverse promises next to nothing.
+unsigned overlapShare(const Function &function) {
+    if (isFixedInverse(function)) return 12;
+    const bool turnsInRegisters =
+        in(function, {"transpose"}) || (in(function, {"matrix-matrix", "matrix-constant"}) &&
+                                        std::ranges::any_of(function.operands, &Operand::transposed));
+    return hasLanes(function) && turnsInRegisters ? 50 : 100;
+}
+
+// Decomposing has a tolerance: numbers spread widely would make nearly all matrices singular.
+ValueMixture usualValues(const Function &function) {
+    if (isFixedInverse(function))
+        return {.smallIntegers = 20, .wideExponents = 3, .ties = 5, .nearTies = 8, .specials = 10};
+    if (in(function, {"lu-decomposition", "determinant", "inverse", "qr-decomposition"}))
+        return {.smallIntegers = 15, .wideExponents = 4, .ties = 5, .nearTies = 8, .specials = 15};
+    if (in(function, {"cholesky-decomposition"}))
+        return {.smallIntegers = 15, .wideExponents = 8, .ties = 8, .nearTies = 8, .specials = 12};
+    return {};
+}
+
+void fillBlock(const Function &function, std::string_view parameter, std::span<std::byte> block, const Sizes &sizes,
+               Random &random) {
+    if (parameter == "pivots" && in(function, {"lu-back-substitution"}))
+        fillPivots(block, orderOf(function, sizes), random);
+}
+
+bool hasTrouble(const Function &function) {
+    return in(function, {"norm", "frobenius-norm", "lu-decomposition", "determinant", "inverse",
+                         "cholesky-decomposition", "qr-decomposition"});
+}
 
 void shapeValues(const Function &function, std::span<const Placement> operands, Random &random) {
     if (!in(function, {"cholesky-decomposition"}) || random.percent(10)) return;
