@@ -134,13 +134,6 @@ Kept readFile(const std::string &path) {
     return all;
 }
 
-// What is to be said about an export whose line is kept, or nothing.
-std::string compareLines(const Line &now, const Line &kept) {
-    if (now.calls != kept.calls) return "makes other calls than those in the file, which tells nothing about results";
-    if (now.results != kept.results) return now.results + " now, " + kept.results + " in the file";
-    return "";
-}
-
 // Every difference, in the order of the exports; then the lines whose export is not there any more.
 std::vector<std::string> findDifferences(const std::vector<Function> &functions, const Hashes &now, Hashes kept,
                                          bool comparesEstimates) {
@@ -151,10 +144,13 @@ std::vector<std::string> findDifferences(const std::vector<Function> &functions,
             found.push_back(function.name + ": the file has no line for it");
             continue;
         }
-        Line line = now.at(function.name);
-        if (!comparesEstimates && standsOnEstimate(function)) line.results = keptLine->second.results;
-        const std::string sentence = compareLines(line, keptLine->second);
-        if (!sentence.empty()) found.push_back(function.name + ": " + sentence);
+        const Line &line = now.at(function.name), &wanted = keptLine->second;
+        const bool isCompared = comparesEstimates || !standsOnEstimate(function);
+        if (line.calls != wanted.calls)
+            found.push_back(function.name +
+                            ": makes other calls than those in the file, which tells nothing about results");
+        else if (isCompared && line.results != wanted.results)
+            found.push_back(function.name + ": " + line.results + " now, " + wanted.results + " in the file");
         kept.erase(keptLine);
     }
     for (const auto &line : kept) found.push_back(line.first + ": a line without an export");

@@ -81,32 +81,13 @@ inside sh -c 'apt-get install -q -y --no-install-recommends /tmp/debs/*.deb' >"$
 [ -z "$(inside dpkg --verify libvonkk3-4 libvonkk3-dev libvonkk3-doc python3-vonkk3)" ] || fail "an installed file is not the package's"
 
 echo "C, C++, Fortran, by pkg-config and by CMake"
-cat >"$root/tmp/user/use.sh" <<'END'
-set -eu
-cd /tmp/user
-install=/tmp/install
-flags=$(pkg-config --cflags --libs vonkk3)
-gcc -std=c99 -pedantic -Wall -Wextra -Werror $install/program.c $flags -o c_program
-g++ -std=c++20 -Wall -Wextra -Werror $install/program.cpp $flags -o cpp_program
-g++ -std=c++17 -Wall -Wextra -Werror $install/door.cpp $flags -o door_program
-test "$(./c_program)" = v4.1
-./cpp_program
-./door_program
-gfortran -c $(pkg-config --variable=fortran_sources vonkk3)
-gfortran -std=f2018 $install/program.f90 vonkk3*.o $flags -o fortran_program
-./fortran_program
-gcc -std=c99 $install/opens.c -ldl -o opens
-./opens vonkk3.so libvonkk3.so libvonkk3.so.4 >/dev/null
-for project in "$install" $install/fortran; do
-    cmake -S $project -B cmake >/dev/null && cmake --build cmake >/dev/null
-    for program in cmake/*program; do $program >/dev/null; done
-    rm -rf cmake
-done
-gcc -std=c99 /usr/share/doc/libvonkk3-doc/examples/iris.c $flags -lm -o iris
-./iris /usr/share/doc/libvonkk3-doc/examples/iris.csv >/dev/null
-test -s /usr/share/doc/libvonkk3-doc/html/finder.html
-END
-inside sh -x /tmp/user/use.sh 2>"$scratch/log" || { tail -n 5 "$scratch/log"; fail "a program in the root"; }
+inside sh -ec 'cd /tmp/user
+    sh -x /tmp/install/use.sh
+    gcc -std=c99 /usr/share/doc/libvonkk3-doc/examples/iris.c $(pkg-config --cflags --libs vonkk3) -lm -o iris
+    ./iris /usr/share/doc/libvonkk3-doc/examples/iris.csv
+    test -x fortran_program
+    test -s /usr/share/doc/libvonkk3-doc/html/finder.html' >/dev/null 2>"$scratch/log" ||
+    { tail -n 5 "$scratch/log"; fail "a program in the root"; }
 
 while read -r name; do [ -e "$root/usr/share/man/man3/$name.3.gz" ] || fail "no man page of $name"; done <"$scratch/exported"
 

@@ -196,22 +196,11 @@ def dark(driver):
 
 
 def main():
-    desktop = browser(1280, 1000)
-    try:
-        for part in (choosing, exceptions, searching, keyboard, pages):
-            part(desktop)
-    finally:
-        desktop.quit()
-    night = browser(1280, 1000)
-    try:
-        dark(night)
-    finally:
-        night.quit()
-    small = browser(390, 844)
-    try:
-        phone(small)
-    finally:
-        small.quit()
+    for width, height, parts in ((1280, 1000, (choosing, exceptions, searching, keyboard, pages)), (1280, 1000, (dark,)),
+                                 (390, 844, (phone,))):
+        with browser(width, height) as driver:  # and quits
+            for part in parts:
+                part(driver)
     print(f"{results['passed']} passed, {results['failed']} failed")
     sys.exit(1 if results["failed"] else 0)
 
