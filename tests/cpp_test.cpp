@@ -26,6 +26,13 @@ template <class T> Numbers<T> numbers(std::size_t count, unsigned seed = 1) {
     return values;
 }
 
+// So many pointers, spread evenly over the numbers.
+template <class T> std::vector<T *> pointers(Numbers<T> &values, std::size_t count) {
+    std::vector<T *> list;
+    for (std::size_t n = 0; n < count; ++n) list.push_back(&values[n * (values.size() / count)]);
+    return list;
+}
+
 // ---- Views
 
 TEST(CppViews, ArePackedFromPointersWithSizesInTheTypeOrAtRunTime) {
@@ -358,8 +365,8 @@ TYPED_TEST(CppOperations, ProductsOfAllShapes) {
 TYPED_TEST(CppOperations, ProductsInListsAndByColumns) {
     using T = TypeParam;
     auto a = numbers<T>(4 * 6, 5), b = numbers<T>(4 * 12, 6), d = numbers<T>(4 * 8, 7);
-    std::vector<T *> la, lb, ld;
-    for (int n = 0; n < 4; ++n) la.push_back(&a[6 * n]), lb.push_back(&b[12 * (3 - n)]), ld.push_back(&d[8 * n]);
+    auto la = pointers(a, 4), lb = pointers(b, 4), ld = pointers(d, 4);
+    std::reverse(lb.begin(), lb.end());
     using vonk::transposed;
     const auto A = vonk::matrices<2, 3>(la);
     const auto At = vonk::matrices<3, 2>(la).element_stride(sizeof(T));
@@ -379,9 +386,7 @@ TYPED_TEST(CppOperations, ProductsInListsAndByColumns) {
 TYPED_TEST(CppOperations, ProductsBehindTables) {
     using T = TypeParam;
     auto a = numbers<T>(4 * 10, 5), d = numbers<T>(2 * 10, 6);
-    std::vector<T *> from, to;
-    for (int j = 0; j < 4; ++j) from.push_back(a.data() + 10 * j);
-    for (int j = 0; j < 2; ++j) to.push_back(d.data() + 10 * j);
+    const auto from = pointers(a, 4), to = pointers(d, 2);
     const auto A = vonk::soa_matrices<2, 2>(from.data(), 10);
     const auto x = vonk::soa_vectors<2>(from.data(), 10);
     const auto y = vonk::soa_vectors<2>(to.data(), 10);
@@ -418,8 +423,7 @@ TYPED_TEST(CppOperations, MovingData) {
     EXPECT_EQ(vonk::extract(A, Numbers<T>(23)), vonkErrSize);
     EXPECT_EQ(vonk::extract(vonk::matrices<2, 3>(a.data(), 0), d), vonkOk);
     // Vectors from table to table: the C function for it reads no source table.
-    std::vector<T *> from, to;
-    for (int j = 0; j < 3; ++j) from.push_back(a.data() + 8 * j), to.push_back(d.data() + 8 * j);
+    const auto from = pointers(a, 3), to = pointers(d, 3);
     std::fill(d.begin(), d.end(), T(77));
     ASSERT_EQ(vonk::copy(vonk::soa_vectors<3>(from.data(), 8), vonk::soa_vectors<3>(to.data(), 8)), vonkOk);
     EXPECT_EQ(d, a);
@@ -505,10 +509,8 @@ TYPED_TEST(CppOperations, LuInListsTablesAndInPlace) {
     ASSERT_EQ((vonk::solve(vonk::matrices<3, 3>(a), vonk::vectors<3>(b), vonk::vectors<3>(wanted))), vonkOk);
     std::uint32_t pivots[6][3];
     // Lists
-    std::vector<T *> la, lf, lb, lx;
     auto right = b;
-    for (std::size_t n = 0; n < count; ++n)
-        la.push_back(&a[9 * n]), lf.push_back(&f[9 * n]), lb.push_back(&right[3 * n]), lx.push_back(&x[3 * n]);
+    auto la = pointers(a, count), lf = pointers(f, count), lb = pointers(right, count), lx = pointers(x, count);
     ASSERT_EQ((vonk::lu(vonk::matrices<3, 3>(la), pivots, vonk::matrices<3, 3>(lf))), vonkOk);
     ASSERT_EQ((vonk::lu_solve(vonk::matrices<3, 3>(lf), pivots, vonk::vectors<3>(lb), vonk::vectors<3>(lx))), vonkOk);
     EXPECT_EQ(x, wanted);
@@ -521,9 +523,7 @@ TYPED_TEST(CppOperations, LuInListsTablesAndInPlace) {
     EXPECT_EQ(x[4], wanted[4]);
     // Tables
     Numbers<T> as(count * 9), fs(count * 9), bs(count * 3), xs(count * 3);
-    std::vector<T *> ta, tf, tb, tx;
-    for (std::size_t k = 0; k < 9; ++k) ta.push_back(&as[count * k]), tf.push_back(&fs[count * k]);
-    for (std::size_t k = 0; k < 3; ++k) tb.push_back(&bs[count * k]), tx.push_back(&xs[count * k]);
+    const auto ta = pointers(as, 9), tf = pointers(fs, 9), tb = pointers(bs, 3), tx = pointers(xs, 3);
     const auto A = vonk::soa_matrices<3, 3>(ta.data(), count), F = vonk::soa_matrices<3, 3>(tf.data(), count);
     const auto B = vonk::soa_vectors<3>(tb.data(), count), X = vonk::soa_vectors<3>(tx.data(), count);
     ASSERT_EQ((vonk::copy(vonk::matrices<3, 3>(a), A)), vonkOk);
@@ -618,11 +618,7 @@ TYPED_TEST(CppSystems, AreSolvedLikeEachByItself) {
         ASSERT_EQ(vonk::solve(C, B, X), vonkOk);
         expectSame("by columns");
         // Lists
-        std::vector<float *> la, lf, lb, lx;
-        for (std::size_t n = 0; n < count; ++n) {
-            la.push_back(&a[n * order * order]), lf.push_back(&f[n * order * order]);
-            lb.push_back(&b[n * order]), lx.push_back(&x[n * order]);
-        }
+        auto la = pointers(a, count), lf = pointers(f, count), lb = pointers(b, count), lx = pointers(x, count);
         ASSERT_EQ((vonk::lu(vonk::matrices<order, order>(la), pivots, vonk::matrices<order, order>(lf))), vonkOk);
         ASSERT_EQ((vonk::solve(vonk::matrices<order, order>(la), vonk::vectors<order>(lb), vonk::vectors<order>(lx))),
                   vonkOk);
@@ -726,9 +722,7 @@ template <class T, vonk::Size N> void sums_are_right() {
     Numbers<T> d(4 * N * N);
     const auto A = vonk::matrices<N, N>(a.data(), 4), B = vonk::matrices<N, N>(b.data(), 4);
     const auto D = vonk::matrices<N, N>(d.data(), 4);
-    std::vector<T *> la, lb, ld;
-    for (std::size_t n = 0; n < 4; ++n)
-        la.push_back(&a[n * N * N]), lb.push_back(&b[n * N * N]), ld.push_back(&d[n * N * N]);
+    auto la = pointers(a, 4), lb = pointers(b, 4), ld = pointers(d, 4);
     const auto LA = vonk::matrices<N, N>(la), LB = vonk::matrices<N, N>(lb), LD = vonk::matrices<N, N>(ld);
     const auto check = [&](vonk::Status status, auto value, const char *what) {
         ASSERT_EQ(status, vonkOk) << what;
