@@ -7,23 +7,11 @@
 
 #include <CLI/CLI.hpp>
 
-#include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <map>
 #include <stdexcept>
 
 namespace {
-
-namespace fs = std::filesystem;
-
-fuzz::Steered fromFile(const fs::path &path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) throw std::runtime_error("cannot read " + path.string());
-    const std::vector<char> content{std::istreambuf_iterator<char>(file), {}};
-    return fuzz::fromBytes({reinterpret_cast<const std::uint8_t *>(content.data()), content.size()});
-}
 
 class Corpus {
 public:
@@ -79,7 +67,7 @@ int main(int argc, char **argv) {
         Corpus corpus(library);
         support::watchCalls();
         if (!check.empty()) return corpus.check(check) ? 0 : 1;
-        return (line.empty() ? corpus.replay(fromFile(file)) : corpus.replayLine(line)) ? 0 : 1;
+        return (line.empty() ? corpus.replay(fuzz::fromFile(file)) : corpus.replayLine(line)) ? 0 : 1;
     } catch (const std::exception &problem) {
         std::cerr << "fuzz_corpus: " << problem.what() << "\n";
         return 2;

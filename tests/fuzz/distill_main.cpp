@@ -16,7 +16,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <map>
 #include <queue>
 #include <set>
@@ -66,12 +65,8 @@ void runAll(fuzz::Runner &runner, std::vector<Input> &inputs) {
 std::vector<Input> readInputs(std::span<char *const> folders) {
     std::vector<Input> inputs;
     for (const char *const folder : folders)
-        for (const fs::directory_entry &entry : fs::directory_iterator(folder)) {
-            std::ifstream file(entry.path(), std::ios::binary);
-            const std::vector<char> content{std::istreambuf_iterator<char>(file), {}};
-            inputs.push_back(
-                {fuzz::fromBytes({reinterpret_cast<const std::uint8_t *>(content.data()), content.size()}), {}});
-        }
+        for (const fs::directory_entry &entry : fs::directory_iterator(folder))
+            inputs.push_back({fuzz::fromFile(entry.path().string()), {}});
     return inputs;
 }
 

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdio>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <stdexcept>
 
@@ -38,6 +39,13 @@ std::vector<std::uint8_t> toBytes(const Steered &steered) {
     std::ranges::copy(header, input.begin());
     std::ranges::copy(steered.bytes, input.begin() + headerSize);
     return input;
+}
+
+Steered fromFile(const std::string &path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw std::runtime_error("cannot read " + path);
+    const std::vector<char> content{std::istreambuf_iterator<char>(file), {}};
+    return fromBytes({reinterpret_cast<const std::uint8_t *>(content.data()), content.size()});
 }
 
 std::vector<std::string> linesOf(const std::string &path) {

@@ -32,6 +32,7 @@ inline constexpr std::size_t functionCount = catalogue::exportCount - 1; // all 
 // Any bytes make a call; what a short input lacks is zero.
 Steered fromBytes(std::span<const std::uint8_t> input);
 std::vector<std::uint8_t> toBytes(const Steered &steered);
+Steered fromFile(const std::string &path); // of such bytes; throws std::runtime_error
 
 // The calls of a corpus: its lines that are not empty and do not begin with #. Throws std::runtime_error.
 std::vector<std::string> linesOf(const std::string &path);

@@ -57,24 +57,25 @@ void describeElements(std::ostream &text, const Call &call, const Placement &pla
     }
 }
 
-void describeTable(std::ostream &text, const Placement &placement, const Image &image) {
-    text << "    entries:" << std::hex;
-    for (std::size_t k = 0; k < placement.slots.size(); ++k) {
-        std::uintptr_t entry;
-        std::memcpy(&entry, image.data() + (placement.table + sizeof entry * k - Arena::address), sizeof entry);
-        text << " " << entry;
+template <class Word>
+void describeAll(std::ostream &text, const Image &image, std::uintptr_t address, std::size_t words) {
+    text << std::hex;
+    for (std::size_t k = 0; k < words; ++k) {
+        Word word;
+        std::memcpy(&word, image.data() + (address + sizeof word * k - Arena::address), sizeof word);
+        text << " " << word;
     }
     text << std::dec << "\n";
 }
 
+void describeTable(std::ostream &text, const Placement &placement, const Image &image) {
+    text << "    entries:";
+    describeAll<std::uintptr_t>(text, image, placement.table, placement.slots.size());
+}
+
 void describeBlock(std::ostream &text, const Block &block, const Image &image) {
-    text << "  " << block.parameter << ", " << block.bytes << " bytes at " << where(block.address) << ":" << std::hex;
-    for (std::uint32_t at = 0; at + 4 <= block.bytes; at += 4) {
-        std::uint32_t word;
-        std::memcpy(&word, image.data() + (block.address + at - Arena::address), sizeof word);
-        text << " " << word;
-    }
-    text << std::dec << "\n";
+    text << "  " << block.parameter << ", " << block.bytes << " bytes at " << where(block.address) << ":";
+    describeAll<std::uint32_t>(text, image, block.address, block.bytes / 4);
 }
 
 } // namespace
