@@ -321,6 +321,7 @@ std::optional<std::uint32_t> completeBefore(const Function &function, const Oper
     return entry;
 }
 
+// check(call, operand, entry, whole) for calls that are filled, and what they leave without a fault.
 template <class Check> void forEachListEntry(Check check) {
     for (const Function &function : allMembers())
         for (const std::uint32_t count : counts) {
@@ -329,39 +330,34 @@ template <class Check> void forEachListEntry(Check check) {
             for (const Operand &operand : function.operands)
                 for (std::uint32_t entry = 0; entry < count; ++entry) {
                     if (!hasList(operand)) continue;
-                    SCOPED_TRACE(function.name + ", " + operand.name + "[" + std::to_string(entry) + "] of " +
-                                 std::to_string(count) + " null");
-                    check(function, operand, count, entry, whole);
+                    SCOPED_TRACE(operand.name + "[" + std::to_string(entry) + "] null");
+                    Call call(function.name, runTimeSize, count);
+                    fill(call);
+                    check(call, operand, entry, whole);
                 }
         }
 }
 
 TEST(ArgumentChecks, CatchNullEntriesOfListsWhenTheObjectsTurnComes) {
-    forEachListEntry([](const Function &function, const Operand &operand, std::uint32_t count, std::uint32_t entry,
-                        const Objects &whole) {
-        Call call(function.name, runTimeSize, count);
-        fill(call);
-        const std::optional<std::uint32_t> done = completeBefore(function, operand, entry, count);
+    forEachListEntry([](Call &call, const Operand &operand, std::uint32_t entry, const Objects &whole) {
+        const std::optional<std::uint32_t> done = completeBefore(call.function(), operand, entry, call.count());
         EXPECT_EQ(literal::runThroughNull(call, operand.name, entry), done ? vonkErrNullPtr : vonkOk);
-        expectDone(call, whole, done.value_or(count));
+        expectDone(call, whole, done.value_or(call.count()));
     });
 }
 
 TEST(ArgumentChecks, StopAtOrPassOverAnObjectWhoseAddressIsNullInTheCholeskyFamilies) {
-    forEachListEntry([](const Function &function, const Operand &operand, std::uint32_t count, std::uint32_t entry,
-                        const Objects &whole) {
-        const OfEntries rule = ruleOf(function).entries;
+    forEachListEntry([](Call &call, const Operand &operand, std::uint32_t entry, const Objects &whole) {
+        const OfEntries rule = ruleOf(call.function()).entries;
         const bool stops = rule == OfEntries::addressStops;
         if (!stops && rule != OfEntries::addressPassesOver) return;
-        Call call(function.name, runTimeSize, count);
-        fill(call);
         literal::Place &place = call[operand.name];
         std::byte *const kept = place.entries[entry];
         place.entries[entry] = reinterpret_cast<std::byte *>(-std::intptr_t{place.shift});
         EXPECT_EQ(call.run(), stops ? vonkErrNullPtr : vonkOk);
         place.entries[entry] = kept;
         const Objects found = objectsOf(call);
-        for (std::uint32_t n = 0; n < count; ++n)
+        for (std::uint32_t n = 0; n < call.count(); ++n)
             if (n == entry || (stops && n > entry)) EXPECT_FALSE(call.changedObject(n)) << "object " << n;
             else expectObject(whole, found, n);
     });

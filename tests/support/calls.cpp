@@ -112,9 +112,11 @@ public:
         arena.fill(random.next());
         allAligned = random.percent(families::looksAtAlignment(function) ? 60 : 30);
         chooseSizes();
-        layOutOperands();
+        for (int k = 0; k < operandCount(); ++k)
+            call.operands.push_back(layOut(function, k, sizes, chooseStyle(described(k)), random));
         chooseRelations();
-        borrowStrides();
+        for (int k = 0; k < operandCount(); ++k) // room for an operand that is walked with the strides of another
+            operand(k).reach.include(families::borrowedReach(function, described(k), call.operands));
         place();
         writeValues();
         injectFaults();
@@ -259,11 +261,6 @@ private:
         return random.percent(75) ? delta / elementSize * elementSize : delta;
     }
 
-    void layOutOperands() {
-        for (int k = 0; k < operandCount(); ++k)
-            call.operands.push_back(layOut(function, k, sizes, chooseStyle(described(k)), random));
-    }
-
     void layDestinationOn(int source, Overlap overlap) {
         const int written = operandCount() - 1;
         relate(source, written, overlap);
@@ -297,12 +294,6 @@ private:
     }
 
     // --- places
-
-    // Makes room for an operand that is walked with the strides of another.
-    void borrowStrides() {
-        for (int k = 0; k < operandCount(); ++k)
-            operand(k).reach.include(families::borrowedReach(function, described(k), call.operands));
-    }
 
     // Where nothing keeps a plain result out of its source. It may run beyond that, but not into a table.
     void layResultOnSource() {
@@ -560,16 +551,6 @@ private:
         }
     }
 
-    void makeZeroDimension() {
-        setSize(Kind::size, 0);
-        call.traits.zeroDimension = !sizes.dimensions.empty();
-    }
-
-    void makeZeroCount() {
-        setSize(Kind::count, 0);
-        call.traits.zeroCount = function.array();
-    }
-
     // Of a size that is compared as a signed number.
     void makeNegativeSize() {
         const auto possible = parametersWhere(
@@ -582,8 +563,14 @@ private:
     // A size that a null entry made harmless is made zero at most, never the other way round.
     void injectFaults() {
         if (meets(Fault::nullEntry)) makeNullEntry();
-        if (meets(Fault::zeroDimension)) makeZeroDimension();
-        if (meets(Fault::zeroCount)) makeZeroCount();
+        if (meets(Fault::zeroDimension)) {
+            setSize(Kind::size, 0);
+            call.traits.zeroDimension = !sizes.dimensions.empty();
+        }
+        if (meets(Fault::zeroCount)) {
+            setSize(Kind::count, 0);
+            call.traits.zeroCount = function.array();
+        }
         makeNegativeSize();
         if (meets(Fault::nullPointer)) makeNullPointer();
     }
