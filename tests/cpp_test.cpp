@@ -330,8 +330,10 @@ template <class T, vonk::Size M, vonk::Size K, vonk::Size N, bool Open> void mul
         } else return view;
     };
     using vonk::transposed;
-    const auto A = size(vonk::matrices<M, K>(a)), At = transposed(size(vonk::matrices<K, M>(a)));
-    const auto B = size(vonk::matrices<K, N>(b)), Bt = transposed(size(vonk::matrices<N, K>(b)));
+    const auto A = size(vonk::matrices<M, K>(a));
+    const auto B = size(vonk::matrices<K, N>(b));
+    const auto At = transposed(size(vonk::matrices<K, M>(a)));
+    const auto Bt = transposed(size(vonk::matrices<N, K>(b)));
     const auto D = size(vonk::matrices<M, N>(d));
     const auto X = vonk::vectors<K>(x);
     const auto Y = vonk::vectors<M>(y);
