@@ -204,8 +204,7 @@ bool isChecked(const Function &function, const Operand &operand, std::uint32_t e
     if (isException(function, "trace-checked-entries")) return entry < order;
     const bool ofEight = isException(function, "sum-position-8") || isException(function, "scale-position-8") ||
                          isException(function, "product-vector-position-8");
-    if (ofEight && operand.transposed && entry == 8) return false;
-    return true;
+    return !(ofEight && operand.transposed && entry == 8);
 }
 
 bool isRead(const Function &function, std::uint32_t entry, std::uint32_t order) {
