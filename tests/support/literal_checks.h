@@ -59,6 +59,17 @@ inline void expectResults(const catalogue::Function &function, const Example &ex
             }
 }
 
+// Blocks of objects and what is left over.
+inline void expectResultsOfAnyCount(const catalogue::Function &function, const Example &example, std::uint32_t size) {
+    for (std::uint32_t count = 1; count <= 13; ++count)
+        for (const Geometry geometry : {packed, Geometry{1, 4, false}, spread, backward}) {
+            Call call(function.name, size, count, geometry);
+            example.fill(call);
+            ASSERT_EQ(call.run(), vonkOk);
+            expectAllDone(call, example);
+        }
+}
+
 inline void expectInPlaceResults(const catalogue::Function &function, const Example &example, const std::string &source,
                                  const std::vector<std::uint32_t> &runTimeSizes,
                                  const std::vector<Geometry> &geometries = {packed, spread, backward}) {

@@ -1,6 +1,5 @@
-// What the tests of matrices element by element share: elements as they enter the operation whatever way an operand is
-// stored, shapes that are not square, strides that open the aligned routes, and single tables that are looked at along
-// the way.
+// What the tests of operations element by element share: elements as they enter the operation whatever way an operand
+// is stored, shapes that are not square, and strides that open the aligned routes.
 #pragma once
 
 #include "literal_checks.h"
@@ -13,10 +12,6 @@
 #include <vector>
 
 namespace literal {
-
-inline bool hasTransposed(const catalogue::Function &function) {
-    return std::ranges::any_of(function.operands, &catalogue::Operand::transposed);
-}
 
 // Element (i, j) of an operand as the operation sees it.
 inline void setElement(Call &call, std::string_view operand, std::uint32_t n, std::uint32_t i, std::uint32_t j,
@@ -35,7 +30,8 @@ inline void setElements(Call &call, std::string_view operand, std::uint32_t rows
 }
 
 inline void setAll(Call &call, std::string_view operand, double value) {
-    setElements(call, operand, call.size(), call.size(), [value](auto, auto, auto) { return value; });
+    for (std::uint32_t n = 0; n < call.objectsOf(operand); ++n)
+        call.set(operand, n, std::vector<double>(std::size_t{call[operand].rows} * call[operand].cols, value));
 }
 
 // So many rows and columns of the result, in memory for a square of the call's size. Tables keep just the entries that
@@ -71,22 +67,6 @@ inline void alignAllBut(Call &call, std::string_view offender, Offence offence) 
             place.entries[n] = place.origin + place.objectStride * static_cast<std::ptrdiff_t>(n) - place.shift;
         place.moveTo(place.origin + own.pointer);
     }
-}
-
-// Single tables are looked at element by element: with this entry null the elements ahead of the one in place `stop`
-// are done, and none from it on. `results` are those of a whole call.
-inline void expectNullEntryStops(Call &call, std::string_view operand, std::size_t entry, std::size_t stop,
-                                 const std::vector<double> &results) {
-    SCOPED_TRACE(call.function().name + ", " + std::string(operand) + "[" + std::to_string(entry) + "] null");
-    const std::vector<double> before = call.get("dst", 0);
-    std::byte *&slot = call[operand].entries[entry];
-    std::byte *const kept = slot;
-    slot = nullptr;
-    EXPECT_EQ(call.run(), vonkErrNullPtr);
-    slot = kept;
-    const std::vector<double> after = call.get("dst", 0);
-    ASSERT_EQ(after.size(), results.size());
-    for (std::size_t k = 0; k < after.size(); ++k) EXPECT_EQ(after[k], k < stop ? results[k] : before[k]) << k;
 }
 
 } // namespace literal
