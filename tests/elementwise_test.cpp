@@ -235,11 +235,6 @@ constexpr std::array adjacentForms{"vonkAdd_vv_32f", "vonkSub_vv_32f", "vonkAdd_
                                    "vonkSub_cv_32f", "vonkMul_vc_32f", "vonkSaxpy_vv_32f", "vonkLComb_vv_32f",
                                    "vonkAdd_vv_64f", "vonkSub_vv_64f"};
 
-void moveBy(Call &call, const Operand &operand, std::ptrdiff_t bytes) {
-    literal::Place &place = call[operand.name];
-    place.moveTo(place.origin + bytes);
-}
-
 // On numbers whose sums and products round. The model walks forward.
 void runAsForwardWalk(Call &call) {
     for (std::uint32_t j = 0; j < call.size(); ++j)
@@ -258,7 +253,7 @@ TEST(ElementwiseLong, IsTheForwardWalkAtEveryAlignmentAndLength) {
         const auto runAt = [&](std::uint32_t length, const std::vector<std::ptrdiff_t> &offsets) {
             Call call(name, length);
             for (std::size_t k = 0; k < call.function().operands.size(); ++k)
-                moveBy(call, call.function().operands[k], offsets[k]);
+                literal::moveBy(call, call.function().operands[k].name, offsets[k]);
             runAsForwardWalk(call);
         };
         const bool hasTwo = hasTwoSources(literal::function(name));
@@ -376,8 +371,8 @@ TEST(ElementwiseSingle, IsHeldBySaxpyOfFourAndSixFloatsIfAllOfThemAreAligned) {
             SCOPED_TRACE("off by " + std::to_string(off.src1) + " " + std::to_string(off.src2AndDst) + " " +
                          std::to_string(off.src1Stride) + " " + std::to_string(off.dstStride));
             Call call(function->name, 0, 3, literal::roomy); // with room for wider strides
-            call["src1"].moveTo(call["src1"].origin + off.src1);
-            call["src2"].moveTo(call["src2"].origin + off.src2AndDst);
+            literal::moveBy(call, "src1", off.src1);
+            literal::moveBy(call, "src2", off.src2AndDst);
             call.layOver("src2");
             call["src1"].objectStride = 32 + off.src1Stride;
             call["dst"].objectStride = 32 + off.dstStride;
@@ -415,10 +410,9 @@ void expectUniform(const Function &function, Setting setting, const std::map<std
         for (const auto &[name, value] : values)
             if (name.starts_with("val")) call.setConstant(name, value);
             else literal::setAll(call, name, value);
-        ASSERT_EQ(call.run(setting), vonkOk);
-        for (std::uint32_t n = 0; n < call.count(); ++n)
-            literal::expectSame(std::vector<double>(call.get("dst", n).size(), expected), call.get("dst", n),
-                                support::describe(setting) + ", object " + std::to_string(n));
+        const SettingScope scope(setting);
+        SCOPED_TRACE(support::describe(setting));
+        literal::expectEverywhere(call, expected);
     }
 }
 

@@ -38,12 +38,10 @@ bool runsThroughCells(const Function &function) { return !worksInLanes(function)
 
 // 1 2 / 3 4 times 5 6 / 7 8 or 5 6, plus 100 200.
 void fillByHand(Call &call) {
-    for (const Operand &source : sourcesOf(call.function()))
-        for (std::uint32_t n = 0; n < call.objectsOf(source.name); ++n) {
-            if (source.name == "src1") call.set("src1", n, {1, 2, 3, 4});
-            else if (source.name == "src3") call.set("src3", n, {100, 200});
-            else call.set("src2", n, source.matrix ? std::vector<double>{5, 6, 7, 8} : std::vector<double>{5, 6});
-        }
+    literal::setObjects(call, "src1", {1, 2, 3, 4});
+    if (isMatrixProduct(call.function())) literal::setObjects(call, "src2", {5, 6, 7, 8});
+    else literal::setObjects(call, "src2", {5, 6});
+    if (isGaxpy(call.function())) literal::setObjects(call, "src3", {100, 200});
 }
 
 // By group, of arrays and single operands alike.
@@ -387,12 +385,6 @@ void setRowOfSecond(Call &call, std::uint32_t row, double value) {
 
 std::uint32_t termsOf(const Function &function, std::uint32_t order) { return isGaxpy(function) ? order + 1 : order; }
 
-void expectEverywhere(Call &call, double expected) {
-    ASSERT_EQ(call.run(), vonkOk);
-    for (std::uint32_t n = 0; n < call.count(); ++n)
-        literal::expectSame(std::vector<double>(call.get("dst", n).size(), expected), call.get("dst", n), "dst");
-}
-
 std::string treeOfProducts(const Function &function, std::uint32_t order, std::uint32_t element) {
     if (addsInPairs(function)) return "(((01)(23))(45))";
     if (isMatrixProduct(function) || !hasLanes(function) || order == 3) return literal::runningTree(order);
@@ -454,7 +446,7 @@ TEST(ProductSums, OfMatricesRoundEveryFloatAdditionAndThreeFormsAddPairs) {
             terms[0] = 1;
             terms[order - 1] = terms[order - 2] = 0x1p-24;
             setTerms(call, terms);
-            expectEverywhere(call, addsInPairs(*function) ? 1 + 0x1p-23 : 1);
+            literal::expectEverywhere(call, addsInPairs(*function) ? 1 + 0x1p-23 : 1);
         }
     }
     EXPECT_EQ(pairs, 3U);
@@ -471,7 +463,7 @@ TEST(ProductSums, RoundEveryFloatProduct) {
                 terms[place] = 1 + 0x1p-12;
                 setTerms(call, terms);
                 setRowOfSecond(call, place, 1 + 0x1p-12);
-                expectEverywhere(call, 0);
+                literal::expectEverywhere(call, 0);
             }
 }
 
@@ -480,7 +472,7 @@ TEST(ProductSums, BeginAtPlusZeroInCellsAndAtTheFirstProductElsewhere) {
         for (const std::uint32_t order : literal::sizesOf(*function, {1, 4})) {
             Call call(function->name, order, 2);
             setTerms(call, std::vector<double>(termsOf(*function, order), -0.0));
-            expectEverywhere(call, runsThroughCells(*function) ? 0.0 : -0.0);
+            literal::expectEverywhere(call, runsThroughCells(*function) ? 0.0 : -0.0);
         }
 }
 
@@ -498,8 +490,8 @@ TEST(ProductSums, OfDoublesAreRoundedOnceOrAtEveryStepByLayout) {
                 terms[0] = 1;
                 terms[1] = terms.back() = 0x1p-53;
                 setTerms(call, terms);
-                expectEverywhere(call,
-                                 precision == Precision::bits64 && keepsExtendedSums(*function) ? 1 + 0x1p-52 : 1);
+                literal::expectEverywhere(
+                    call, precision == Precision::bits64 && keepsExtendedSums(*function) ? 1 + 0x1p-52 : 1);
             }
 }
 
@@ -520,7 +512,7 @@ TEST(ProductSums, TakeProductsOfDoublesExtended) {
                     setRowOfSecond(call, place, 1 + 0x1p-30);
                     const bool survives =
                         precision == Precision::bits64 && (place == 1 || keepsExtendedSums(*function));
-                    expectEverywhere(call, survives ? 0x1p-60 : 0);
+                    literal::expectEverywhere(call, survives ? 0x1p-60 : 0);
                 }
 }
 

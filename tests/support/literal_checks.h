@@ -42,6 +42,26 @@ inline void expectAllDone(Call &call, const Example &example) {
     if (const Stray stray = call.strayWrites()) ADD_FAILURE() << stray.what;
 }
 
+// Every object of an operand.
+inline void setObjects(Call &call, std::string_view operand, const std::vector<double> &values) {
+    for (std::uint32_t n = 0; n < call.objectsOf(operand); ++n) call.set(operand, n, values);
+}
+
+// Off its origin at a multiple of 16, or off where it has been moved.
+inline void moveBy(Call &call, std::string_view operand, std::ptrdiff_t bytes) {
+    Place &place = call[operand];
+    place.moveTo(place.origin + bytes);
+}
+
+// Runs the call, which makes the same of every element of every object.
+inline void expectEverywhere(Call &call, double expected) {
+    ASSERT_EQ(call.run(), vonkOk);
+    for (std::uint32_t n = 0; n < call.count(); ++n) {
+        const std::vector<double> found = call.get("dst", n);
+        expectSame(std::vector<double>(found.size(), expected), found, "object " + std::to_string(n));
+    }
+}
+
 inline void expectResults(const catalogue::Function &function, const Example &example,
                           const std::vector<std::uint32_t> &runTimeSizes,
                           const std::vector<Geometry> &geometries = {packed, spread, backward}) {

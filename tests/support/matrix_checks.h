@@ -30,8 +30,7 @@ inline void setElements(Call &call, std::string_view operand, std::uint32_t rows
 }
 
 inline void setAll(Call &call, std::string_view operand, double value) {
-    for (std::uint32_t n = 0; n < call.objectsOf(operand); ++n)
-        call.set(operand, n, std::vector<double>(std::size_t{call[operand].rows} * call[operand].cols, value));
+    setObjects(call, operand, std::vector<double>(std::size_t{call[operand].rows} * call[operand].cols, value));
 }
 
 // So many rows and columns of the result, in memory for a square of the call's size. Tables keep just the entries that
