@@ -160,14 +160,14 @@ TEST(Elementwise, TakesAnyNumberOfThreeVectorsWhateverTheBlocks) {
 TEST(Elementwise, GivesTheSameOfMatricesInLanesAtEveryAlignment) {
     for (const Function *function : all(hasLanes)) {
         if (!isMatrix(*function)) continue;
-        for (const char *offender : {"", "src", "src1", "src2", "dst"})
+        for (const Operand &offender : function->operands)
             for (const literal::Offence &offence : literal::offences)
                 for (const std::uint32_t count : {1U, 4U}) {
-                    SCOPED_TRACE(function->name + ", " + offender + " is off by " + std::to_string(offence.pointer) +
-                                 ", rows by " + std::to_string(offence.rowStride) + ", objects by " +
+                    SCOPED_TRACE(offender.name + " is off by " + std::to_string(offence.pointer) + ", rows by " +
+                                 std::to_string(offence.rowStride) + ", objects by " +
                                  std::to_string(offence.objectStride));
                     Call call(function->name, 0, count);
-                    literal::alignAllBut(call, offender, offence);
+                    literal::alignAllBut(call, offender.name, offence);
                     if (isException(*function, "sum-ignored-stride")) // has one stride for both
                         call["src2"].rowStride = call["src1"].rowStride;
                     fill(call);
@@ -273,7 +273,8 @@ TEST(ElementwiseLong, IsTheForwardWalkAtEveryAlignmentAndLength) {
 }
 
 // Distances from a source to the destination: in place, a few bytes apart, a block apart, just in touch at either end.
-std::vector<std::ptrdiff_t> distances(std::ptrdiff_t bytes) {
+std::vector<std::ptrdiff_t> distances(const Function &function, std::uint32_t length) {
+    const std::ptrdiff_t bytes = std::ptrdiff_t{length} * (isFloat(function) ? 4 : 8);
     std::vector<std::ptrdiff_t> list{64, bytes / 2, bytes - 4, bytes - 1, bytes, bytes + 4};
     for (std::size_t k = 0; k < 6; ++k) list.push_back(-list[k]);
     for (std::ptrdiff_t distance = -36; distance <= 36; ++distance) list.push_back(distance);
@@ -285,7 +286,7 @@ TEST(ElementwiseLong, IsTheForwardWalkWhereItOverlaps) {
     for (const char *name : adjacentForms) {
         const Function &function = literal::function(name);
         for (const std::uint32_t length : {3U, 10U, 11U, 24U, 100U})
-            for (const std::ptrdiff_t distance : distances(length * (isFloat(function) ? 4 : 8))) {
+            for (const std::ptrdiff_t distance : distances(function, length)) {
                 SCOPED_TRACE("dst " + std::to_string(distance) + " bytes behind");
                 for (const Operand &source : sourcesOf(function)) {
                     Call call(name, length);

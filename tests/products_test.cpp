@@ -287,7 +287,7 @@ TEST(ProductShapes, OfATransposedMatrixByAVectorMakeAsManyResultsAsItHasRows) {
 
 // ---- Tables of positions whose extents are not what the loops use
 
-std::size_t scanned(const Function &function, const Words &words, std::string_view operand) {
+std::uint32_t scanned(const Function &function, const Words &words, std::string_view operand) {
     if (isGaxpy(function)) {
         if (operand == "src1") return words.at("cols") * words.at("rows");
         return words.at(operand == "src2" ? "cols" : "rows");

@@ -55,7 +55,6 @@ inline bool isRunTime(const Function &function) { return function.order == 0; }
 inline bool isFloat(const Function &function) { return function.type == Type::real32; }
 inline bool isDouble(const Function &function) { return function.type == Type::real64; }
 inline bool isArray(const Function &function) { return function.array(); }
-inline bool isSingleTable(const Function &function) { return !function.array() && function.layout == "P"; }
 inline bool isTabled(const Function &function) { return catalogue::isTable(function.operands.front().layout); }
 
 // Floats of fixed size and adjacent elements, which are worked in SIMD lanes.

@@ -51,7 +51,7 @@ struct Offence {
     std::int32_t objectStride = 0;
 };
 
-inline constexpr Offence offences[] = {{4, 0, 0}, {8, 0, 0}, {2, 0, 0}, {0, 4, 0}, {0, 8, 0}, {0, 0, 4}, {0, 0, 8}};
+inline constexpr Offence offences[] = {{}, {4, 0, 0}, {8, 0, 0}, {2, 0, 0}, {0, 4, 0}, {0, 8, 0}, {0, 0, 4}, {0, 0, 8}};
 
 // Lays all rows and objects of standard or list operands at multiples of 16, but for those of one operand. Without one
 // all pointers and strides fit.
