@@ -19,10 +19,6 @@ std::vector<const Function *> all(bool (*wanted)(const Function &) = isAny) {
 bool isMatrix(const Function &function) { return function.operands.back().matrix; }
 bool hasTwoSources(const Function &function) { return function.operands.size() == 3; }
 
-std::span<const Operand> sourcesOf(const Function &function) {
-    return std::span(function.operands).first(function.operands.size() - 1);
-}
-
 // The names of what is added, subtracted or multiplied, in this order: `cv` begins with the constant.
 std::pair<std::string, std::string> operandsOf(const Function &function) {
     if (hasTwoSources(function)) return {"src1", "src2"};

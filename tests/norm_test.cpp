@@ -67,13 +67,14 @@ void expectNormOf(double value, const Function &function, std::uint32_t size, do
     literal::expectEverywhere(call, expected);
 }
 
+double unlessEstimated(const Function &function, double norm) { return isEstimated(function) ? nan : norm; }
+
 TEST(NormOfZero, IsNanByEstimateAndZeroEverywhereElse) {
     std::size_t estimated = 0;
     for (const Function *function : all()) {
         estimated += isEstimated(*function) ? 1 : 0;
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 10, 11, 20}))
-            for (const double zero : {0.0, -0.0})
-                expectNormOf(zero, *function, size, isEstimated(*function) ? nan : 0.0);
+            for (const double zero : {0.0, -0.0}) expectNormOf(zero, *function, size, unlessEstimated(*function, 0.0));
     }
     EXPECT_EQ(estimated, 3U * 4U); // v, va and va in L, of four sizes
 }
@@ -82,7 +83,7 @@ TEST(NormOfZero, IsNanByEstimateAndZeroEverywhereElse) {
 TEST(NormOfInfinity, IsNanByEstimateAndInfinityEverywhereElse) {
     for (const Function *function : all())
         for (const std::uint32_t size : literal::sizesOf(*function, {1, 10, 11, 20})) {
-            expectNormOf(-infinity, *function, size, isEstimated(*function) ? nan : infinity);
+            expectNormOf(-infinity, *function, size, unlessEstimated(*function, infinity));
             expectNormOf(nan, *function, size, nan);
         }
 }
@@ -93,8 +94,8 @@ TEST(NormRange, IsLeftBySquaresOfFloatsAndNotOfDoubles) {
     for (const Function *function : all())
         for (const std::uint32_t size : literal::sizesOf(*function, {4, 16})) {
             if (isFloat(*function)) {
-                expectNormOf(0x1p-100, *function, size, isEstimated(*function) ? nan : 0.0);
-                expectNormOf(0x1p100, *function, size, isEstimated(*function) ? nan : infinity);
+                expectNormOf(0x1p-100, *function, size, unlessEstimated(*function, 0.0));
+                expectNormOf(0x1p100, *function, size, unlessEstimated(*function, infinity));
             } else if (size == 4 || size == 16) { // whose roots are whole
                 const double root = size == 4 ? 2 : 4;
                 expectNormOf(0x1p-1000, *function, size, root * 0x1p-1000);

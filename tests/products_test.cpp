@@ -24,10 +24,6 @@ bool isArrayOfTables(const Function &function) {
 const Operand &first(const Function &function) { return function.operands[0]; }
 const Operand &second(const Function &function) { return function.operands[1]; }
 
-std::span<const Operand> sourcesOf(const Function &function) {
-    return std::span(function.operands).first(function.operands.size() - 1);
-}
-
 bool addsInPairs(const Function &function) { return isException(function, "product-pairs"); }
 
 // Works rows in lanes and stores each element once; all others but those that add in pairs run sums through the cells.

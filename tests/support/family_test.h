@@ -62,4 +62,9 @@ inline bool hasLanes(const Function &function) {
     return isFloat(function) && function.order != 0 && (function.layout.empty() || function.layout == "L");
 }
 
+// All operands but `dst`, of families that have one with a layout.
+inline std::span<const Operand> sourcesOf(const Function &function) {
+    return std::span(function.operands).first(function.operands.size() - 1);
+}
+
 } // namespace literal::names
