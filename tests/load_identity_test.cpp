@@ -75,7 +75,7 @@ TEST(LoadIdentityStrides, AreReplacedWhereTheyAreTooSmall) {
             SCOPED_TRACE(name);
             Call call(name, 3);
             call.pass("dstElemStride", small);
-            call.pass("dstRowStride", 2 * small);
+            call.pass("dstRowStride", std::uint64_t{2} * small);
             EXPECT_EQ(call.run(), vonkOk);
             EXPECT_EQ(call.get("dst", 0), identity(3)); // packed, as this call is laid out
             EXPECT_FALSE(call.strayWrites());
