@@ -270,7 +270,7 @@ TEST(ElementwiseLong, IsTheForwardWalkAtEveryAlignmentAndLength) {
 
 // Distances from a source to the destination: in place, a few bytes apart, a block apart, just in touch at either end.
 std::vector<std::ptrdiff_t> distances(const Function &function, std::uint32_t length) {
-    const std::ptrdiff_t bytes = std::ptrdiff_t{length} * (isFloat(function) ? 4 : 8);
+    const std::ptrdiff_t bytes = static_cast<std::ptrdiff_t>(length) * (isFloat(function) ? 4 : 8);
     std::vector<std::ptrdiff_t> list{64, bytes / 2, bytes - 4, bytes - 1, bytes, bytes + 4};
     for (std::size_t k = 0; k < 6; ++k) list.push_back(-list[k]);
     for (std::ptrdiff_t distance = -36; distance <= 36; ++distance) list.push_back(distance);
