@@ -4,13 +4,7 @@
 #     man_test.sh MAN3_FOLDER EXPORTS
 pages=$1
 exports=$2
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-failures=0
-fail() {
-    echo "FAILED: $*"
-    failures=$((failures + 1))
-}
+. "$(dirname "$0")/checks.sh"
 
 mkdir -p "$scratch/man/man3"
 cp "$pages"/*.3 "$scratch/man/man3"
