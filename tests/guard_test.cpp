@@ -546,8 +546,8 @@ TEST(Guards, FindNoTallMatrixOutsideItsOperands) {
     }
 }
 
-// Families that work four objects or eight side by side, and what is left over. Three elements that a block loads as
-// four lie on a boundary of 16, so that the fourth is never on another page.
+// Families that work batches of four or eight objects, and the remainder. A batch loads three elements as four; these
+// are aligned to 16 bytes, so that the fourth is never on another page.
 TEST(Guards, FindNoBlockOfObjectsOutsideItsOperands) {
     static const std::set<std::string_view> ofVectors{"dot-product", "norm", "cross-product"};
     static const std::regex ofMatrices("frobenius-norm|matrix-product|matrix-vector|gaxpy|cholesky-.*|qr-.*");

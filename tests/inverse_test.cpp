@@ -1,5 +1,5 @@
-// Inverses: values by hand in every form, what each form takes for singular and what it has written by then, the
-// columns that it looks at, and how far its results lie from the truth.
+// Inverses: values by hand in every form, what is below each form's singularity tolerance and what it has written by
+// then, the columns that it reads, and bounds of the error of its results.
 #include "support/accuracy.h"
 #include "support/family_test.h"
 

@@ -139,8 +139,8 @@ TEST(LoadIdentity, LeavesObjectsWithoutRowsUntouched) {
         }
 }
 
-// The ones are written without any zeros: on the diagonal of rows and columns that lie apart, and in a table in entry i
-// of row i.
+// With no columns the ones are written, and no zeros: on the diagonal by the strides of rows and elements, and in a
+// table through entry i of row i.
 TEST(LoadIdentity, WritesTheOnesWithoutColumns) {
     for (const Function *function : all()) {
         Call call(function->name, 3, 1, literal::spread);

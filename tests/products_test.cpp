@@ -170,7 +170,7 @@ bool fits(const Function &function, const Words &words) {
     return !compared || words.at(compared->first) == words.at(compared->second);
 }
 
-// Calls `visit(call, words)` with room for three by three, told of sizes from 1 to 3; 0 is in ArgumentChecks.
+// Calls `visit(call, words)` for all sizes from 1 to 3, on 3x3 operands. Sizes of 0 are in ArgumentChecks.
 template <class Visit> void forEachShape(const Function &function, Visit visit) {
     std::vector<Words> shapes{{}};
     for (const catalogue::Parameter &parameter : function.parameters) {
@@ -339,7 +339,7 @@ TEST(ProductTables, OfResultsAreScannedByOtherWordsThanTheyAreWritten) {
     }
 }
 
-// A table of two rows told of three columns is indexed by rows where it is read transposed: 1 2 / 3 4 / 5 6 by 1 1 10.
+// A 2x3 table that is read transposed is indexed by its rows, as 3x2: 1 2 / 3 4 / 5 6 by 1 1 10.
 // The third entry of the vector is beyond the two that are scanned.
 TEST(ProductTables, OfTransposedMatricesByVectorsAreIndexedByTheRows) {
     for (const Function *function : all(isRunTime)) {

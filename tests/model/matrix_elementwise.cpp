@@ -101,9 +101,9 @@ struct MatrixWalk : Execution {
         return statusOk;
     }
 
-    // The next object is loaded whole before this one is stored. The loop has an object in hand when it begins, so it
-    // does its work even where there are none; in lists that one goes through the entry that stands before the
-    // destination's first, since the last entry is looked up ahead of all.
+    // Software-pipelined: the next object is loaded whole before this one is stored, and the first before the loop. So
+    // at `count` 0 one object is worked; in lists it is stored through the entry before the destination's first, since
+    // the last entry, `count` - 1, is read before all others.
     Status runAhead() {
         const Operand &left = sources[0];
         const std::uint64_t last = left.isList() || count() != 0 ? std::uint64_t{count()} - 1 : 0;

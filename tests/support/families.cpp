@@ -498,7 +498,7 @@ bool mayLieInSource(const Function &function) {
     return in(function, {"dot-product", "norm", "trace", "frobenius-norm", "determinant"});
 }
 
-// Aligned where all the others are, whatever the stride of the second source, which nobody looks at.
+// Where all other words are multiples of 16, the stride of the second source is taken for one without a test.
 bool mustKeepOffBoundary(const Function &function, std::span<const Placement> operands) {
     const bool trusts = in(function, {"saxpy"}) && function.type == catalogue::Type::real32 &&
                         function.group == "vava" && function.layout.empty() &&
