@@ -68,6 +68,12 @@ template <class Batch>
 requires requires { Batch::gathersMost; }
 inline constexpr bool gathersMost<Batch> = Batch::gathersMost;
 
+// Kernels that gain by several registers where elements are contiguous alone say so.
+template <class Batch> inline constexpr std::size_t chainsOfAny = Batch::chains;
+template <class Batch>
+requires requires { Batch::chainsOfAny; }
+inline constexpr std::size_t chainsOfAny<Batch> = Batch::chainsOfAny;
+
 // Batches from object n on, as long as they can be had; the first object that they leave.
 template <Access access, std::size_t packs, BatchKernel Batch, std::size_t operands>
 VONKK3_INLINE std::size_t workWhileAllowed(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
@@ -86,8 +92,8 @@ VONKK3_NOINLINE std::size_t workBatches(Batch &batch, const Aliasing<operands> &
     batch.template hoist<access>(); // again after every plain object, which may have written there
     constexpr bool takesPacksSingly = objectsOfChain<Batch> == 1 || (access == Access::any && gathersMost<Batch>);
     constexpr std::size_t toRegister = takesPacksSingly ? 1 : packsToRegister;
-    if constexpr (Batch::chains > 1)
-        n = workWhileAllowed<access, Batch::chains * toRegister>(batch, aliasing, n, count);
+    constexpr std::size_t chains = access == Access::any ? chainsOfAny<Batch> : Batch::chains;
+    if constexpr (chains > 1) n = workWhileAllowed<access, chains * toRegister>(batch, aliasing, n, count);
     if constexpr (toRegister > 1) n = workWhileAllowed<access, toRegister>(batch, aliasing, n, count);
     return workWhileAllowed<access, 1>(batch, aliasing, n, count);
 }

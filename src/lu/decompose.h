@@ -166,7 +166,8 @@ struct DecomposeWords : MatrixWords {
 
 template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
     using MatrixBatch<order>::src, MatrixBatch<order>::dst;
-    static constexpr std::size_t chains = 1;
+    // A pivot waits for the column before it; with masks two matrices fit in registers.
+    static constexpr std::size_t chains = hasMasks && order <= 4 ? 2 : 1, chainsOfAny = 1;
     ObjectsView pivots;
     LastPivots<order> lastPivots;
 

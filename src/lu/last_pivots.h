@@ -36,9 +36,10 @@ public:
         const auto passesAt = [&](std::uintptr_t address) VONKK3_INLINED {
             return passes(loadAt<Real32>(reinterpret_cast<const std::byte *>(address)));
         };
-        const auto allPass = [&](const Extent &stored, const auto &addressOf) VONKK3_INLINED {
+        const auto allPass = [&](Extent stored, const auto &addressOf) VONKK3_INLINED { // of object n, or of all
             for (std::size_t k = 0; k < objects; ++k) {
                 const std::uintptr_t address = addressOf(k);
+                if (k != 0 && !view.isTable()) stored = stored.joinedWith(factors.ofObject(n + k));
                 if (overlaps(address, stored) || overlaps(address, pivots.whole) || !passesAt(address)) return false;
             }
             return true;
@@ -52,10 +53,9 @@ public:
             });
         }
         if (view.isList()) {
-            Extent stored = factors.ofObject(n);
-            for (std::size_t k = 1; k < objects; ++k) stored = stored.joinedWith(factors.ofObject(n + k));
             // Addresses one by one: some compilers vectorize them and leave the upper half of a register in use.
-            return allPass(stored, [&](std::size_t k) VONKK3_INLINED { return opaque(view.object(n + k) + inRow(k)); });
+            return allPass(factors.ofObject(n), [&](std::size_t k)
+                                                    VONKK3_INLINED { return opaque(view.object(n + k) + inRow(k)); });
         }
         if (column < Distance(factors.object.bytes())) return false; // the farther, the greater n
         const std::uintptr_t first = view.object(n);
