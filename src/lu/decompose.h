@@ -184,6 +184,12 @@ template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
             scatterRowsInOrder(
                 dst.view, n, [&](std::size_t k, std::size_t i) VONKK3_INLINED { return loadPivot(pivotsOf(n + k), i); },
                 rows.elements);
+        } else if constexpr (access == Access::positions && order <= 4) {
+            RowsOfBatch<chains, order, true> rows;
+            src.template gather<access>(n, rows.elements);
+            if (!factor(n, rows)) return false;
+            rows.takeBackExchanges();
+            dst.template scatter<access>(n, rows.elements);
         } else {
             Packs<chains> elements[order][order];
             src.template gather<access>(n, elements);
