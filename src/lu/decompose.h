@@ -7,6 +7,8 @@
 #include "lu/last_pivots.h"
 #include "lu/rows.h"
 
+#include <bit>
+
 namespace vonkk3::lu {
 
 // The singularity tolerance of pivots: an absolute number, and the same for both element types.
@@ -42,6 +44,14 @@ template <class Order> inline constexpr bool updatesWithRoundedMultiplier = !isS
 template <class W> inline bool passesAsPivot(W value) { return magnitude(value) >= W(pivotTolerance); }
 template <std::size_t chains> VONKK3_INLINE bool passesAsPivot(const Packs<chains> &value) {
     return inAllLanes(magnitude(value), [](auto a) VONKK3_INLINED { return a >= decltype(a)(pivotTolerance); });
+}
+
+// The same of the bits of a Real32, which is quicker where they are in memory: twice a number without its sign ascends
+// with the magnitude, up to infinity.
+inline bool passesAsPivot(std::uint32_t bits) {
+    constexpr std::uint32_t least = 2 * std::bit_cast<std::uint32_t>(pivotTolerance);
+    constexpr std::uint32_t infinity = 2 * std::bit_cast<std::uint32_t>(__builtin_inff());
+    return 2 * bits - least <= infinity - least;
 }
 
 // The position from k on of the row whose element in column k is largest in magnitude; the first of equals. Candidates
@@ -210,8 +220,8 @@ private:
         std::uint32_t lastRow[chains * packWidth];
         storePacks(reinterpret_cast<std::byte *>(lastRow), rows.rows[0][order - 1]);
         if (!lastPivots.passClear(n, lastRow, passesLast)) [[unlikely]] {
-            const auto copy = rows; // whose address may be known
-            if (!lastPivotsPass(n, copy)) return false;
+            auto copy = rows; // whose address may be known
+            if (!lastPivotsPass(n, lastRow, copy)) return false;
         }
         scatterPacked(pivotsOf(n), rows.rows);
         return true;
@@ -227,14 +237,14 @@ private:
         return true;
     }
 
-    static bool passesLast(Real32 last) { return passesAsPivot(last); }
+    static constexpr auto passesLast = [](auto numberOrBits) VONKK3_INLINED { return passesAsPivot(numberOrBits); };
     template <std::size_t chains, bool rowsReturn>
-    VONKK3_NOINLINE bool lastPivotsPass(std::size_t n, const RowsOfBatch<chains, order, rowsReturn> &rows) const {
-        std::uint32_t physical[chains * packWidth][order];
-        scatterPacked(reinterpret_cast<std::byte *>(physical), rows.rows);
-        const auto own = [&](std::size_t k, std::size_t i, std::size_t j)
-                             VONKK3_INLINED { return rows.element(k, i, j); };
-        return lastPivots.pass(n, physical, own, passesLast);
+    VONKK3_NOINLINE bool lastPivotsPass(std::size_t n, const std::uint32_t (&lastRow)[chains * packWidth],
+                                        RowsOfBatch<chains, order, rowsReturn> &rows) const {
+        if constexpr (rowsReturn) rows.takeBackExchanges();
+        return lastPivots.pass(
+            n, lastRow, [&](std::size_t k, std::size_t i, std::size_t j) VONKK3_INLINED { return rows.bits(k, i, j); },
+            passesLast);
     }
 };
 

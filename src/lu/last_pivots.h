@@ -23,8 +23,8 @@ public:
         mayPassClear = factors.isTable() ? !mayOverwriteEntries : factors.isList() || areTestedAhead();
     }
 
-    // The usual case: whether they pass, and nothing of what is looked at is stored by the batch. lastRow[k] is the row
-    // of the last pivot of object n + k. False also tells nothing.
+    // The usual case: whether they pass, and nothing of what is read is stored by the batch. lastRow[k] is the row of
+    // the last pivot of object n + k, and passes(number or its bits) the test. False also tells nothing.
     template <std::size_t objects, class Passes>
     VONKK3_INLINE bool passClear(std::size_t n, const std::uint32_t (&lastRow)[objects], const Passes &passes) const {
         const ObjectsView &view = factors.view;
@@ -33,14 +33,12 @@ public:
         const auto inRow = [&](std::size_t k) VONKK3_INLINED {
             return std::uintptr_t(distanceOf(lastRow[k], view.rowStride) + column + Distance(k) * nextColumn);
         };
-        const auto passesAt = [&](std::uintptr_t address) VONKK3_INLINED {
-            return passes(loadAt<Real32>(reinterpret_cast<const std::byte *>(address)));
-        };
         const auto allPass = [&](Extent stored, const auto &addressOf) VONKK3_INLINED { // of object n, or of all
             for (std::size_t k = 0; k < objects; ++k) {
                 const std::uintptr_t address = addressOf(k);
                 if (k != 0 && !view.isTable()) stored = stored.joinedWith(factors.ofObject(n + k));
-                if (overlaps(address, stored) || overlaps(address, pivots.whole) || !passesAt(address)) return false;
+                if (overlaps(address, stored) || overlaps(address, pivots.whole) || !passes(at<Real32>(address)))
+                    return false;
             }
             return true;
         };
@@ -54,37 +52,42 @@ public:
         }
         if (view.isList()) {
             // Addresses one by one: some compilers vectorize them and leave the upper half of a register in use.
-            return allPass(factors.ofObject(n), [&](std::size_t k)
-                                                    VONKK3_INLINED { return opaque(view.object(n + k) + inRow(k)); });
+            return allPass(factors.ofObject(n),
+                           [&](std::size_t k) VONKK3_INLINED { return opaque(view.object(n + k) + inRow(k)); });
         }
         if (column < Distance(factors.object.bytes())) return false; // the farther, the greater n
-        const std::uintptr_t first = view.object(n);
+        // As numbers they wait for the units that eliminate, which has been slower where registers take several packs.
+        using Tested = std::conditional_t<(packsToRegister > 1), std::uint32_t, Real32>;
+        const std::uintptr_t first = view.object(n) + std::uintptr_t(column);
+        const std::ptrdiff_t step = view.objectStride + std::ptrdiff_t(nextColumn);
         for (std::size_t k = 0; k < objects; ++k)
-            if (!passesAt(first + std::uintptr_t(strides(k, view.objectStride)) + inRow(k))) return false;
+            if (const auto offset = std::uintptr_t(strides(lastRow[k], view.rowStride) + strides(k, step));
+                !passes(at<Tested>(first + offset)))
+                return false;
         return true;
     }
 
-    // The same in any case, in ascending order: after one that does not, none is looked at. physical[k] are the rows of
-    // object n + k, own(k, i, j) is element (i, j) of its factors, by logical row. Also false if a look meets something
-    // else that is about to be stored.
+    // The same in any case, in ascending order: after one that does not, none is read. own(k, i, j) are the bits of an
+    // element of the factors of object n + k as they will be stored. Also false where a read meets something else that
+    // is about to be stored.
     template <std::size_t objects, class Own, class Passes>
-    VONKK3_INLINE bool pass(std::size_t n, const std::uint32_t (&physical)[objects][order], const Own &own,
+    VONKK3_INLINE bool pass(std::size_t n, const std::uint32_t (&lastRow)[objects], const Own &own,
                             const Passes &passes) const {
         const Extent ofPivots = pivots.ofObject(n).joinedWith(pivots.ofObject(n + objects - 1));
         Extent stored = factors.ofObject(n);
         for (std::size_t k = 0; k < objects; ++k) {
             std::uintptr_t address;
-            if (!findTested(n + k, physical[k][order - 1], address)) return false;
+            if (!findTested(n + k, lastRow[k], address)) return false;
             if (k != 0) stored = stored.joinedWith(factors.ofObject(n + k));
             if (overlaps(address, stored) || overlaps(address, ofPivots)) [[unlikely]] {
-                const Position found = findOwn(address, n + k, physical[k]);
+                const Position found = findOwn(address, n + k);
                 if (found.row < order) {
                     if (!passes(own(k, found.row, found.column))) return false;
                     continue;
                 }
                 if (isStored(address, n, k) || overlaps(address, ofPivots)) return false;
             }
-            if (!passes(loadAt<Real32>(reinterpret_cast<const std::byte *>(address)))) return false;
+            if (!passes(at<std::uint32_t>(address))) return false;
         }
         return true;
     }
@@ -96,6 +99,10 @@ private:
 
     AliasOperand factors, pivots;
     bool mayOverwriteEntries, mayPassClear;
+
+    template <class T> static T at(std::uintptr_t address) {
+        return loadAt<T>(reinterpret_cast<const std::byte *>(address));
+    }
 
     // Of equally spaced objects, what is looked at for an object begins after it in all but the first few, and so after
     // the objects before it; and it is nowhere a row index.
@@ -143,12 +150,11 @@ private:
             .extendedBy(distanceOf(testedLastColumn(order, view.count - 1), view.elementStride));
     }
 
-    // The element of object n at an address, with its logical row; row `order` if there is none.
-    VONKK3_NOINLINE Position findOwn(std::uintptr_t address, std::size_t n,
-                                     const std::uint32_t (&physical)[order]) const {
-        for (std::size_t column = order; column-- > 0;)
-            for (std::size_t row = 0; row < order; ++row)
-                if (address == addressOf(physical[row], column, n)) return {row, column};
+    // The element of object n at an address; row `order` if there is none.
+    VONKK3_NOINLINE Position findOwn(std::uintptr_t address, std::size_t n) const {
+        for (std::size_t row = 0; row < order; ++row)
+            for (std::size_t column = order; column-- > 0;)
+                if (address == addressOf(row, column, n)) return {row, column};
         return {order, order};
     }
     std::uintptr_t addressOf(std::size_t row, std::size_t column, std::size_t n) const {

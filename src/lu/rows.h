@@ -152,17 +152,12 @@ public:
         });
     }
 
-    // Of one object. Rarely asked for, from a copy: an index that is not known when compiling would keep the elements
-    // out of registers.
-    VONKK3_INLINE Real32 element(std::size_t object, std::size_t i, std::size_t j) const {
-        Packs<chains> copy[order][order];
-        copyElements(elements, copy);
-        if constexpr (rowsReturn)
-            forIndices(1, order - 1, fixed<order>, [&](std::size_t a) VONKK3_INLINED {
-                forIndices(a + 1, order, fixed<order>,
-                           [&](std::size_t row) VONKK3_INLINED { exchangeElements(copy, a, row, 0, a); });
-            });
-        return loadAt<Real32>(reinterpret_cast<const std::byte *>(&copy[i][j]) + object * sizeof(Real32));
+    // Of one object, an element of a physical row: of rows that return, once they have. Rarely asked for, in memory.
+    VONKK3_INLINE std::uint32_t bits(std::size_t object, std::size_t row, std::size_t column) const {
+        std::size_t i = row;
+        if constexpr (!rowsReturn)
+            for (i = 0; i + 1 < order && ofObject(rows[0][i], object) != row;) ++i;
+        return ofObject(elements[i][column], object);
     }
 
     Packs<chains> elements[order][order];
@@ -170,6 +165,10 @@ public:
 
 private:
     Mask exchanged[order][order];
+
+    static std::uint32_t ofObject(const Packs<chains> &pack, std::size_t object) {
+        return loadAt<std::uint32_t>(reinterpret_cast<const std::byte *>(&pack) + object * sizeof(Real32));
+    }
 
     VONKK3_INLINE void exchangeElements(Packs<chains> (&block)[order][order], std::size_t a, std::size_t i,
                                         std::size_t from, std::size_t to) const {
