@@ -114,7 +114,7 @@ template <class T> struct LeastSquaresWords : SystemWords {
 template <std::size_t order, bool isArray> struct LeastSquaresBatch : SystemBatch<order, isArray> {
     using System = SystemBatch<order, isArray>;
     using System::src1, System::src2, System::dst;
-    static constexpr std::size_t chains = 2;
+    static constexpr std::size_t chains = 4; // a quotient waits for the one before it
     ObjectsView workspace;
     Pack betasOfSingle[order];
 

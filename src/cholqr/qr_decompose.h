@@ -129,7 +129,7 @@ template <class T> struct ReflectWords : MatrixWords { T *work; };
 // `work` is left as the last object leaves it.
 template <std::size_t order> struct ReflectBatch : MatrixBatch<order> {
     using MatrixBatch<order>::src, MatrixBatch<order>::dst;
-    static constexpr std::size_t chains = 1;
+    static constexpr std::size_t chains = 4; // norms and roots wait for one another
     ObjectsView workspace;
 
     template <class Tables>
@@ -139,7 +139,7 @@ template <std::size_t order> struct ReflectBatch : MatrixBatch<order> {
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> d[order][order], v[1][order];
         src.template gather<access>(n, d);
-        if (!(access == Access::rows || order <= 4 ? reflect(d, v) : reflectByCall(d, v))) return false;
+        if (!(order <= 4 ? reflect(d, v) : reflectByCall(d, v))) return false;
         dst.template scatter<access>(n, d);
         storeLast(workspace, v[0]);
         return true;
