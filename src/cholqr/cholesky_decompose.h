@@ -114,7 +114,7 @@ VONKK3_NOINLINE VonkStatus factorByCall(Source source, Factor view, Order order)
 template <std::size_t order, bool throughTables> struct FactorBatch : MatrixBatch<order, Triangle::lower> {
     using Matrices = MatrixBatch<order, Triangle::lower>;
     using Matrices::Matrices, Matrices::src, Matrices::dst;
-    static constexpr std::size_t chains = 2; // a root waits for the one before it
+    static constexpr std::size_t chains = 4; // a root waits for the one before it
     static constexpr bool takesRows = !throughTables, takesPositions = throughTables;
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> f[order][order];

@@ -101,7 +101,7 @@ struct SolveWords : SystemWords {
 template <std::size_t order, bool isArray> struct SolveBatch : SystemBatch<order, true> {
     using System = SystemBatch<order, true>;
     using System::src1, System::src2, System::dst;
-    static constexpr std::size_t chains = hasMasks ? 4 : 2; // a quotient waits for the one before it
+    static constexpr std::size_t chains = 4; // a quotient waits for the one before it
     ObjectsView pivots;
     Pack single[order][order]; // the one matrix, in its logical order
     bool singleIsTrusted = false;

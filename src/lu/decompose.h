@@ -176,8 +176,8 @@ struct DecomposeWords : MatrixWords {
 
 template <std::size_t order> struct DecomposeBatch : MatrixBatch<order> {
     using MatrixBatch<order>::src, MatrixBatch<order>::dst;
-    // A pivot waits for the column before it; with masks two matrices fit in registers.
-    static constexpr std::size_t chains = hasMasks && order <= 4 ? 2 : 1, chainsOfAny = 1;
+    // A pivot waits for the column before it. Blends of two packs to a register take too long where there are no masks.
+    static constexpr std::size_t chains = order <= 4 && (hasMasks || packsToRegister == 1) ? 2 : 1, chainsOfAny = 1;
     ObjectsView pivots;
     LastPivots<order> lastPivots;
 
