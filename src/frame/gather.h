@@ -24,10 +24,7 @@ inline std::byte *address(std::uintptr_t bytes) { return reinterpret_cast<std::b
 
 template <std::size_t width>
 VONKK3_INLINE PackOf<width> gatherElement(const std::byte *const (&from)[width], std::ptrdiff_t offset) {
-    return ofQuads<Register<width>>([&](std::size_t q) VONKK3_INLINED {
-        const auto one = [&](std::size_t k) VONKK3_INLINED { return load1(from[4 * q + k] + offset); };
-        return _mm_movelh_ps(_mm_unpacklo_ps(one(0), one(1)), _mm_unpacklo_ps(one(2), one(3)));
-    });
+    return gatherLanes(from, offset, Register<width>());
 }
 
 template <std::size_t width>

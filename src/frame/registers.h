@@ -125,6 +125,21 @@ template <> inline __m256 loadInEveryQuad<__m256>(const std::byte *address) {
 inline void storeLanes(std::byte *address, __m256 lanes) { _mm256_storeu_ps(floats(address), lanes); }
 #endif
 
+// From as many addresses as there are lanes, one number each. Broadcasts from memory and blends run on more units of a
+// processor than shuffles.
+VONKK3_INLINE __m128 gatherLanes(const std::byte *const *from, std::ptrdiff_t offset, __m128) {
+    const auto one = [&](std::size_t k) VONKK3_INLINED { return load1(from[k] + offset); };
+    return _mm_movelh_ps(_mm_unpacklo_ps(one(0), one(1)), _mm_unpacklo_ps(one(2), one(3)));
+}
+#ifdef __AVX2__
+VONKK3_INLINE __m256 gatherLanes(const std::byte *const *from, std::ptrdiff_t offset, __m256) {
+    const auto one = [&](std::size_t k) VONKK3_INLINED { return _mm256_broadcast_ss(floats(from[k] + offset)); };
+    const __m256 ab = _mm256_blend_ps(one(0), one(1), 0b10), cd = _mm256_blend_ps(one(2), one(3), 0b1000);
+    const __m256 ef = _mm256_blend_ps(one(4), one(5), 0b100000), gh = _mm256_blend_ps(one(6), one(7), 0b10000000);
+    return _mm256_blend_ps(_mm256_blend_ps(ab, cd, 0b1100), _mm256_blend_ps(ef, gh, 0b11000000), 0b11110000);
+}
+#endif
+
 // One lane of every quad in all four of it. `lane` is known when compiling.
 template <class Lanes> VONKK3_INLINE Lanes broadcastLane(Lanes lanes, std::size_t lane) {
     switch (lane) {
