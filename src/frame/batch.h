@@ -61,13 +61,6 @@ template <class Batch>
 requires requires { Batch::takesAny; }
 inline constexpr bool takesAny<Batch> = Batch::takesAny;
 
-// Kernels that compute less than they gather, where elements come one by one, say so: putting several packs together to
-// a register costs more than it saves.
-template <class Batch> inline constexpr bool gathersMost = false;
-template <class Batch>
-requires requires { Batch::gathersMost; }
-inline constexpr bool gathersMost<Batch> = Batch::gathersMost;
-
 // Kernels that gain by several registers where elements are contiguous alone say so.
 template <class Batch> inline constexpr std::size_t chainsOfAny = Batch::chains;
 template <class Batch>
@@ -90,8 +83,7 @@ template <Access access, BatchKernel Batch, std::size_t operands>
 VONKK3_NOINLINE std::size_t workBatches(Batch &batch, const Aliasing<operands> &aliasing, std::size_t n,
                                         std::size_t count) {
     batch.template hoist<access>(); // again after every plain object, which may have written there
-    constexpr bool takesPacksSingly = objectsOfChain<Batch> == 1 || (access == Access::any && gathersMost<Batch>);
-    constexpr std::size_t toRegister = takesPacksSingly ? 1 : packsToRegister;
+    constexpr std::size_t toRegister = objectsOfChain<Batch> == 1 ? 1 : packsToRegister;
     constexpr std::size_t chains = access == Access::any ? chainsOfAny<Batch> : Batch::chains;
     if constexpr (chains > 1) n = workWhileAllowed<access, chains * toRegister>(batch, aliasing, n, count);
     if constexpr (toRegister > 1) n = workWhileAllowed<access, toRegister>(batch, aliasing, n, count);

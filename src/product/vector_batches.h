@@ -12,7 +12,6 @@ struct VectorBatch {
     static constexpr bool takesPositions = false; // products through tables have a faster path
     static constexpr bool takesAny = !firstIsArray || order <= 4;
     static constexpr bool takesRows = !throughTables;
-    static constexpr bool gathersMost = firstIsArray;
     BatchOperand<order, order, firstIsArray, Triangle::both, order <= 4> a;
     VectorsOfBatch<order, secondIsArray> v;
     VectorsOfBatch<order> w, d;
