@@ -91,7 +91,7 @@ VONKK3_INLINE bool invertSixOfBatch(Packs<chains> (&m)[6][6], Packs<chains> (&in
             forIndices(0, 3, fixed<3>, [&](std::size_t j) VONKK3_INLINED { body(i, j); });
         });
     };
-    const auto estimated = [](const W &divisor) VONKK3_INLINED { return reciprocalByEstimate(divisor); };
+    constexpr ByEstimate estimated;
     ColumnsOfBatchOfSix<chains> columns(m);
     if (!columns.choose()) return false;
 

@@ -114,7 +114,7 @@ VONKK3_INLINE bool invertBlock(const W (&block)[3][3], W (&inverse)[3][3], const
 template <class W, class Reciprocal>
 VONKK3_INLINE bool invertBlock(const W (&block)[2][2], W (&inverse)[2][2], const Reciprocal &reciprocal) {
     const W determinant = block[0][0] * block[1][1] - block[0][1] * block[1][0];
-    if (isInSingularInterval(determinant)) return false;
+    if (reciprocal.isSingular(determinant)) return false;
     const W r = reciprocal(determinant);
     inverse[0][0] = block[1][1] * r;
     inverse[0][1] = -block[0][1] * r;
@@ -179,7 +179,7 @@ template <class T, std::size_t order>
 [[gnu::noinline]] bool invertByBlocks(const SmallMatrix<T, order> &matrix, RowsView<T> inverse) {
     using W = Working<T>;
     const auto a = [&](std::size_t i, std::size_t j) VONKK3_INLINED { return W(matrix.elements[i][j]); };
-    const auto reciprocal = [](W divisor) { return W(1) / divisor; };
+    constexpr ByDivision reciprocal;
     ColumnOrder<order> c;
     chooseColumns<order - 3, W>(a, c, candidateColumns);
     Blocks<W, order> blocks(a, c);
@@ -213,7 +213,7 @@ VONKK3_INLINE bool invertByBlocks(Packs<chains> (&matrices)[order][order], Packs
                                                            RowsView<Real32> destination) {
     const SmallMatrix<Real32, 5> matrix(source);
     const auto a = [&](std::size_t i, std::size_t j) VONKK3_INLINED { return matrix.elements[i][j]; };
-    const auto estimated = [](Real32 divisor) VONKK3_INLINED { return reciprocalByEstimate(divisor); };
+    constexpr ByEstimate estimated;
     ColumnOrder<5> c;
     chooseColumns<2, Real32>(a, c, candidateColumns);
     Blocks<Real32, 5> blocks(a, c);

@@ -56,10 +56,12 @@ VONKK3_INLINE bool invertObject(const Source &source, const View &inverse, Fixed
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-// A matrix that is singular takes the plain path. Of the forms that are built for speed, 3x3 and 4x4 are as quick
-// there.
-template <bool builtForSpeed, std::size_t order> inline constexpr bool isWorthInverting = !builtForSpeed || order >= 5;
+// Where batches are quicker than one by one: not where few small matrices are worked together that lists lead to.
+template <bool builtForSpeed, std::size_t order> inline bool isWorthInverting(const MatrixWords &words) {
+    return !builtForSpeed || order >= 5 || packsToRegister > 1 || !words.dst.isList;
+}
 
+// A matrix that is singular takes the plain path.
 template <bool builtForSpeed, std::size_t order> struct InvertBatch : MatrixBatch<order> {
     using MatrixBatch<order>::MatrixBatch, MatrixBatch<order>::src, MatrixBatch<order>::dst;
     static constexpr std::size_t chains = order == 3 ? 2 : 1; // the larger ones fill the registers
@@ -76,13 +78,11 @@ template <bool builtForSpeed, std::size_t order> struct InvertBatch : MatrixBatc
 private:
     template <class Number>
     VONKK3_INLINE static bool invertGathered(Number (&matrices)[order][order], Number (&inverses)[order][order]) {
-        const auto reciprocal = [](const Number &divisor) VONKK3_INLINED {
-            if constexpr (builtForSpeed) return reciprocalByEstimate(divisor);
-            else return Number(1.0F) / divisor;
-        };
-        if constexpr (order <= 4) return invertClosed(matrices, inverses, reciprocal);
-        else if constexpr (order == 6 && builtForSpeed) return invertSixOfBatch(matrices, inverses);
-        else return invertByBlocks(matrices, inverses, reciprocal);
+        if constexpr (!builtForSpeed && order <= 4) return invertClosed(matrices, inverses, ByDivision());
+        else if constexpr (!builtForSpeed) return invertByBlocks(matrices, inverses, ByDivision());
+        else if constexpr (order <= 4) return invertClosed(matrices, inverses, ByEstimateUnlessZero<order>());
+        else if constexpr (order == 5) return invertByBlocks(matrices, inverses, ByEstimate());
+        else return invertSixOfBatch(matrices, inverses);
     }
     template <class Number>
     VONKK3_NOINLINE static bool invertByCall(Number (&matrices)[order][order], Number (&inverses)[order][order]) {
@@ -149,8 +149,8 @@ VONKK3_INLINE VonkStatus invert(const Source &src, Fixed<order> size, const Dest
         return invertObject<builtForSpeed>(src.view(0, order), dst.view(0, order), size) ? vonkOk : vonkErrSingular;
     else {
         const MatrixWords words{src.words(order), dst.words(order)};
-        if constexpr (worksInBatches<Destination> && isWorthInverting<builtForSpeed, order>)
-            if (count >= (order == 3 ? 2 : 1) * packWidth)
+        if constexpr (worksInBatches<Destination>)
+            if (count >= (order == 3 ? 2 : 1) * packWidth && isWorthInverting<builtForSpeed, order>(words))
                 return invertInBatches<builtForSpeed, throughTables, order>(words, count);
         return invertPlainly<T, builtForSpeed, throughTables, order>(words, 0, count);
     }

@@ -41,4 +41,28 @@ template <std::size_t packs> VONKK3_INLINE Packs<packs> reciprocalByEstimate(con
 }
 inline Real32 reciprocalByEstimate(Real32 d) { return _mm_cvtss_f32(reciprocalByEstimate(_mm_set1_ps(d))); }
 
+// What an inverse does with a divisor: whether it gives up, and else the reciprocal.
+struct ByDivision {
+    template <class W> VONKK3_INLINE static bool isSingular(const W &divisor) { return isInSingularInterval(divisor); }
+    template <class W> VONKK3_INLINE W operator()(const W &divisor) const { return W(1.0F) / divisor; }
+};
+struct ByEstimate {
+    template <class W> VONKK3_INLINE static bool isSingular(const W &divisor) { return isInSingularInterval(divisor); }
+    template <class W> VONKK3_INLINE W operator()(const W &divisor) const { return reciprocalByEstimate(divisor); }
+};
+
+// Of batches whose plain path takes all but zero.
+template <std::size_t order> struct ByEstimateUnlessZero {
+    template <std::size_t packs> VONKK3_INLINE static bool isSingular(const Packs<packs> &divisor) {
+        return inAnyLane(divisor, [](auto d) VONKK3_INLINED { return d == decltype(d)(0.0F); });
+    }
+    template <std::size_t packs> VONKK3_INLINE Packs<packs> operator()(const Packs<packs> &divisor) const {
+        using Value = typename Packs<packs>::Value;
+        return Packs<packs>::each([&](std::size_t c) VONKK3_INLINED {
+            if constexpr (order == 3) return Value(reciprocalByEstimateOfThree(divisor.chain[c].lanes));
+            else return Value(reciprocalByEstimate(divisor.chain[c].lanes));
+        });
+    }
+};
+
 } // namespace vonkk3::lu
