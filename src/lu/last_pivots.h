@@ -21,6 +21,9 @@ public:
         mayOverwriteEntries = factors.isTable() && !(disjoint(testedEntries(), this->factors.whole) &&
                                                      disjoint(testedEntries(), this->pivots.whole));
         mayPassClear = factors.isTable() ? !mayOverwriteEntries : factors.isList() || areTestedAhead();
+        if (!mayPassClear || factors.isTable() || factors.isList()) return;
+        const Distance bytes = Distance(this->factors.object.bytes()), step = distanceOf(order, factors.elementStride);
+        clearFrom = bytes <= Distance(order) * step ? order : std::size_t(bytes / step) + 1;
     }
 
     // The usual case: whether they pass, and nothing of what is read is stored by the batch. lastRow[k] is the row of
@@ -55,7 +58,7 @@ public:
             return allPass(factors.ofObject(n),
                            [&](std::size_t k) VONKK3_INLINED { return opaque(view.object(n + k) + inRow(k)); });
         }
-        if (column < Distance(factors.object.bytes())) return false; // the farther, the greater n
+        if (n < clearFrom) return false;
         // As numbers they wait for the units that eliminate, which has been slower where registers take several packs.
         using Tested = std::conditional_t<(packsToRegister > 1), std::uint32_t, Real32>;
         const std::uintptr_t first = view.object(n) + std::uintptr_t(column);
@@ -78,8 +81,8 @@ public:
         for (std::size_t k = 0; k < objects; ++k) {
             std::uintptr_t address;
             if (!findTested(n + k, lastRow[k], address)) return false;
-            if (k != 0) stored = stored.joinedWith(factors.ofObject(n + k));
-            if (overlaps(address, stored) || overlaps(address, ofPivots)) [[unlikely]] {
+            if (k != 0 && n + k < clearFrom) stored = stored.joinedWith(factors.ofObject(n + k));
+            if (n + k < clearFrom && (overlaps(address, stored) || overlaps(address, ofPivots))) [[unlikely]] {
                 const Position found = findOwn(address, n + k);
                 if (found.row < order) {
                     if (!passes(own(k, found.row, found.column))) return false;
@@ -99,6 +102,7 @@ private:
 
     AliasOperand factors, pivots;
     bool mayOverwriteEntries, mayPassClear;
+    std::size_t clearFrom = ~std::size_t(0); // objects from it on are clear of their own elements
 
     template <class T> static T at(std::uintptr_t address) {
         return loadAt<T>(reinterpret_cast<const std::byte *>(address));
@@ -152,8 +156,8 @@ private:
 
     // The element of object n at an address; row `order` if there is none.
     VONKK3_NOINLINE Position findOwn(std::uintptr_t address, std::size_t n) const {
-        for (std::size_t row = 0; row < order; ++row)
-            for (std::size_t column = order; column-- > 0;)
+        for (std::size_t column = order; column-- > 0;)
+            for (std::size_t row = 0; row < order; ++row)
                 if (address == addressOf(row, column, n)) return {row, column};
         return {order, order};
     }
