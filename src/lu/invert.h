@@ -56,10 +56,12 @@ VONKK3_INLINE bool invertObject(const Source &source, const View &inverse, Fixed
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
-// Where batches are quicker than one by one: not where few small matrices are worked together that lists lead to.
+// Where batches are quicker than one by one, and from how many objects on.
 template <bool builtForSpeed, std::size_t order> inline bool isWorthInverting(const MatrixWords &words) {
-    return !builtForSpeed || order >= 5 || packsToRegister > 1 || !words.dst.isList;
+    return !builtForSpeed || order >= 5 || packsToRegister > 1 || (order == 3 && !words.dst.isList);
 }
+template <bool builtForSpeed, std::size_t order>
+inline constexpr std::size_t leastToInvert = (order == 3 || (order == 4 && builtForSpeed) ? 2 : 1) * packWidth;
 
 // A matrix that is singular takes the plain path.
 template <bool builtForSpeed, std::size_t order> struct InvertBatch : MatrixBatch<order> {
@@ -150,7 +152,7 @@ VONKK3_INLINE VonkStatus invert(const Source &src, Fixed<order> size, const Dest
     else {
         const MatrixWords words{src.words(order), dst.words(order)};
         if constexpr (worksInBatches<Destination>)
-            if (count >= (order == 3 ? 2 : 1) * packWidth && isWorthInverting<builtForSpeed, order>(words))
+            if (count >= leastToInvert<builtForSpeed, order> && isWorthInverting<builtForSpeed, order>(words))
                 return invertInBatches<builtForSpeed, throughTables, order>(words, count);
         return invertPlainly<T, builtForSpeed, throughTables, order>(words, 0, count);
     }
