@@ -79,10 +79,13 @@ VONKK3_NOINLINE VonkStatus determinantsPlainly(const OperandWords &words, typena
 
 // ---- Batches --------------------------------------------------------------------------------------------------------
 
+// Where each element is a load of its own, small matrices gain by wide registers alone.
+template <std::size_t order> inline constexpr bool isWorthGathering = order >= 5 || (order == 4 && packsToRegister > 1);
+
 // Of fixed order, where Real32 is worked in Real32.
 template <std::size_t order> struct DeterminantBatch {
     static constexpr std::size_t chains = 1;
-    static constexpr bool takesAny = order >= 5;
+    static constexpr bool takesAny = isWorthGathering<order>;
     MatricesOfBatch<order> src;
     ObjectsView results;
 
@@ -148,11 +151,10 @@ private:
     }
 };
 
-// From how many objects on batches are quicker than one by one: of small matrices, not where each element or list entry
-// is a load of its own.
+// From how many objects on batches are quicker than one by one: of small matrices, not through lists.
 template <std::size_t order> std::size_t leastForDeterminants(const ObjectsView &matrices, Access access) {
     if (order >= 5) return (order == 5 ? 2 : 1) * packWidth;
-    if (access == Access::any || matrices.isList()) return std::size_t(-1);
+    if (matrices.isList() || (access == Access::any && !isWorthGathering<order>)) return std::size_t(-1);
     return 4 * packWidth;
 }
 
