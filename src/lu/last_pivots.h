@@ -23,7 +23,7 @@ public:
         mayPassClear = factors.isTable() ? !mayOverwriteEntries : factors.isList() || areTestedAhead();
         if (!mayPassClear || factors.isTable() || factors.isList()) return;
         const Distance bytes = Distance(this->factors.object.bytes()), step = distanceOf(order, factors.elementStride);
-        clearFrom = bytes <= Distance(order) * step ? order : std::size_t(bytes / step) + 1;
+        for (clearFrom = order; Distance(clearFrom) * step < bytes;) clearFrom *= 2; // quicker than a division
     }
 
     // The usual case: whether they pass, and nothing of what is read is stored by the batch. lastRow[k] is the row of
@@ -102,7 +102,7 @@ private:
 
     AliasOperand factors, pivots;
     bool mayOverwriteEntries, mayPassClear;
-    std::size_t clearFrom = ~std::size_t(0); // objects from it on are clear of their own elements
+    Address clearFrom = ~Address(0); // objects from it on are clear of their own elements
 
     template <class T> static T at(std::uintptr_t address) {
         return loadAt<T>(reinterpret_cast<const std::byte *>(address));
