@@ -9,7 +9,7 @@ namespace vonkk3::product {
 template <std::size_t order, bool throughTables, bool firstIsArray, bool secondIsArray, bool hasAddend>
 struct VectorBatch {
     static constexpr std::size_t chains = hasAddend ? 2 : 1; // an addend comes late
-    static constexpr bool takesPositions = false; // products through tables have a faster path
+    static constexpr bool takesPositions = false;            // products through tables have a faster path
     static constexpr bool takesAny = !firstIsArray || order <= 4;
     static constexpr bool takesRows = !throughTables;
     BatchOperand<order, order, firstIsArray, Triangle::both, order <= 4> a;
