@@ -3,7 +3,9 @@
 #include "support/accuracy.h"
 #include "support/family_test.h"
 
+#include <bit>
 #include <iostream>
+#include <random>
 
 namespace {
 
@@ -284,6 +286,38 @@ TEST(InverseRounding, IsTheCallers) {
         };
         EXPECT_EQ(at(Rounding::down), literal::nextElement(*function, at(Rounding::up), 0)) << function->name;
     }
+}
+
+// Where reciprocals are estimated, bounds alone are checked elsewhere: here the bits, of objects in lanes and alone.
+TEST(InverseRounding, OfFastFormsIsInArraysThatOfEachMatrixAlone) {
+    constexpr std::uint32_t count = 37;
+    const auto expectSame = [&](std::int32_t order, auto single, auto array, auto list) {
+        const std::int32_t length = order * order, row = order * std::int32_t(sizeof(float)), object = order * row;
+        std::vector<float> matrices(count * length), alone(matrices.size()), strided(matrices.size());
+        std::vector<float> listed(matrices.size());
+        std::minstd_rand random(7);
+        for (float &element : matrices) element = static_cast<float>(random() % 2001) / 64 - 15;
+        std::vector<const float *> sources;
+        std::vector<float *> destinations;
+        for (std::uint32_t n = 0; n < count; ++n) {
+            sources.push_back(&matrices[n * length]);
+            destinations.push_back(&listed[n * length]);
+        }
+        for (const Rounding rounding : {Rounding::nearest, Rounding::down, Rounding::up, Rounding::towardZero}) {
+            const SettingScope scope({Precision::bits64, rounding});
+            for (std::uint32_t n = 0; n < count; ++n)
+                ASSERT_EQ(single(sources[n], row, &alone[n * length], row), vonkOk);
+            ASSERT_EQ(array(matrices.data(), object, row, strided.data(), object, row, count), vonkOk);
+            ASSERT_EQ(list(sources.data(), 0, row, destinations.data(), 0, row, count), vonkOk);
+            for (std::size_t k = 0; k < alone.size(); ++k) {
+                const auto bits = std::bit_cast<std::uint32_t>(alone[k]);
+                EXPECT_EQ(std::bit_cast<std::uint32_t>(strided[k]), bits) << order << " " << k;
+                EXPECT_EQ(std::bit_cast<std::uint32_t>(listed[k]), bits) << order << " " << k;
+            }
+        }
+    };
+    expectSame(3, vonkInvert_m_32f_3x3, vonkInvert_ma_32f_3x3, vonkInvert_ma_32f_3x3_L);
+    expectSame(4, vonkInvert_m_32f_4x4, vonkInvert_ma_32f_4x4, vonkInvert_ma_32f_4x4_L);
 }
 
 // Cofactors, determinant and reciprocal of doubles stay in the extended type: the determinant is 2^-1200 or 2^1200, and
