@@ -76,9 +76,7 @@ std::string headerOf(std::string_view routine) {
 std::string opening(const catalogue::Family &family) {
     return "// Generated: exported functions of vonk" + std::string(family.operation) +
            ".\n"
-           "#pragma GCC visibility push(default)\n"
-           "#include \"vonkk3.h\"\n"
-           "#pragma GCC visibility pop\n\n"
+           "#include \"frame/exports.h\"\n"
            "#include \"" +
            headerOf(family.routine) +
            "\"\n\n"

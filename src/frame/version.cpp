@@ -1,7 +1,5 @@
 // The version record: constant, in read-only data, one for the life of the process.
-#pragma GCC visibility push(default)
-#include "vonkk3.h"
-#pragma GCC visibility pop
+#include "frame/exports.h"
 
 namespace {
 constexpr VonkLibVersion version = {4, 1, 11, 30, {'k', '3', '\0', '\0'}, "vonkk3.dll", "v4.1", "Jul 19 2004"};

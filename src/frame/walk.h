@@ -7,9 +7,9 @@
 //     return forEachObject(count, work, src, dst);
 #pragma once
 
+#include "frame/exports.h"
 #include "frame/operands.h"
 #include "frame/unroll.h"
-#include "vonkk3.h"
 
 #include <utility>
 

@@ -3,8 +3,8 @@
 // read again for every minor.
 #pragma once
 
+#include "frame/exports.h"
 #include "lu/scratch_elimination.h"
-#include "vonkk3.h"
 
 namespace vonkk3::lu {
 
