@@ -409,8 +409,8 @@ inline bool isAnyNegative(Addresses<2> lanes) { return _mm_movemask_pd(__m128d(l
 inline bool isAnyNegative(Addresses<4> lanes) { return _mm256_movemask_pd(__m256d(lanes)) != 0; }
 #endif
 
-// Whether each of more entries than there are lanes leads so many bytes, or more, beyond the one before it: the
-// distance is then not negative, and neither is distance - least.
+// Whether each of more entries than there are lanes leads so many bytes, or more, beyond the one before it: neither the
+// distance is negative then, nor distance - least, nor the entry, so that sums of distances do not wrap round.
 template <std::size_t lanes>
 VONKK3_INLINE bool doStepsReach(const std::byte *entries, std::size_t positions, std::uint64_t least) {
     const auto load = [&](std::size_t k) VONKK3_INLINED { // entries k to k + lanes - 1
@@ -419,7 +419,7 @@ VONKK3_INLINE bool doStepsReach(const std::byte *entries, std::size_t positions,
     Addresses<lanes> negative = {};
     const auto compare = [&](std::size_t k) VONKK3_INLINED {
         const Addresses<lanes> distances = load(k) - load(k - 1);
-        negative |= distances | (distances - least);
+        negative |= load(k) | distances | (distances - least);
     };
     for (std::size_t k = 1; k + lanes < positions; k += lanes) compare(k);
     compare(positions - lanes);
@@ -439,20 +439,22 @@ inline bool doStepsReach(const EntriesRead &read, Distance least) {
     Address before = ObjectsView::pointerAt(read.begin);
     for (std::size_t k = 1; k < positions; ++k) {
         const Address next = ObjectsView::pointerAt(read.begin + k * read.step);
-        if (Distance(next - before) < least) return false;
+        const Address distance = next - before;
+        if (Distance(next | distance | (distance - Address(least))) < 0) return false;
         before = next;
     }
     return true;
 }
 
 // Where `count` objects lie, `objectStride` bytes apart at each position, if positions ascend, and each position's
-// objects lie before the next one's, or each object before the next one; else nothing.
+// objects lie before the next one's, or each object before the next one; else nothing. No entry is null then.
 VONKK3_NOINLINE inline Extent extentOfAscending(const EntriesRead &read, std::ptrdiff_t shift,
                                                 std::ptrdiff_t objectStride, std::size_t count,
                                                 std::uint32_t elementBytes) {
     if (count > 1 && objectStride < std::ptrdiff_t(elementBytes)) return {1, 0};
     const Distance ofPosition = distanceOf(count - 1, objectStride) + Distance(elementBytes);
     const Address first = ObjectsView::pointerAt(read.begin);
+    if (Distance(first) <= 0) return {1, 0};
     const Address last = ObjectsView::pointerAt(read.begin + (read.positions - 1) * read.step);
     const bool isWrittenOnce =
         doStepsReach(read, ofPosition) ||

@@ -94,8 +94,14 @@ VONKK3_INLINE void workRowByRow(const Operation &operation, Fixed<rows>, Fixed<c
     });
 }
 
-// Whether the entries of lists are tested object by object.
+// Whether the entries of tables are tested before all objects, and those of lists object by object.
 enum class Entries { tested, trusted };
+
+template <Entries entries, class Rows, class Columns, class... Words>
+VONKK3_INLINE bool isAnyPositionNull(Rows rows, Columns columns, const Words &...operands) {
+    if constexpr (entries == Entries::trusted) return false;
+    else return anyTableEntryNull(opaque(std::size_t(columns) * rows), operands...);
+}
 
 template <class T, Entries entries, class Rows, class Columns, class Operation, class Destination, class... Sources>
 VONKK3_SHARED VonkStatus workObjects(const Operation &shared, Rows rows, Columns columns, std::size_t count,
@@ -103,6 +109,7 @@ VONKK3_SHARED VonkStatus workObjects(const Operation &shared, Rows rows, Columns
     const Operation operation = shared; // a local copy stays in registers
     constexpr bool isFixed = Columns::isFixed && Rows::isFixed;
     constexpr bool anyTable = (areOfTable<Destination> || ... || areOfTable<Sources>);
+    if (isAnyPositionNull<entries>(rows, columns, src..., dst)) return vonkErrNullPtr;
     const auto entriesToRow = [&](const auto &words) VONKK3_INLINED {
         using Words = std::remove_cvref_t<decltype(words)>;
         if constexpr (isFixed) return areOfTransposedTable<Words> ? Rows::value : Columns::value;
@@ -138,10 +145,12 @@ VONKK3_SHARED VonkStatus streamOrWorkObjects(const Operation &operation, Rows ro
             if constexpr (anyTable) return streamPositions(operation, views...);
             else return streamRanges(operation, views...);
         };
-        if (isWorthStreaming<areOfTable<Destination>>(dst.step, count) &&
-            stream(objectsOf<T, areOfTable<Destination>>(dst, rows, columns, count),
-                   objectsOf<T, areOfTable<Sources>>(src, rows, columns, count)...))
-            return vonkOk;
+        if (isWorthStreaming<areOfTable<Destination>>(dst.step, count)) {
+            if (isAnyPositionNull<entries>(rows, columns, src..., dst)) return vonkErrNullPtr;
+            if (stream(objectsOf<T, areOfTable<Destination>>(dst, rows, columns, count),
+                       objectsOf<T, areOfTable<Sources>>(src, rows, columns, count)...))
+                return vonkOk;
+        }
     }
     const auto work = [&](auto fixedColumns) VONKK3_INLINED {
         return workObjects<T, entries>(operation, rows, fixedColumns, count, dst, src...);
@@ -150,8 +159,8 @@ VONKK3_SHARED VonkStatus streamOrWorkObjects(const Operation &operation, Rows ro
     else return withFixedColumns<T>(columns, work);
 }
 
-// Arrays of `rows` by `columns` elements, after the argument checks. Fixed sizes of strided layouts are unrolled on the
-// plain path, which is as fast as a stream; Real64 is no faster for a fixed size.
+// Arrays of `rows` by `columns` elements, after the argument checks but for the entries of tables. Fixed sizes of
+// strided layouts are unrolled on the plain path, which is as fast as a stream; Real64 is no faster for a fixed size.
 template <class T, Entries entries = Entries::tested, class Rows, class Columns, class Operation, class Destination,
           class... Sources>
 VONKK3_INLINE VonkStatus workArrays(const Operation &operation, Rows rows, Columns columns, std::size_t count,

@@ -9,15 +9,21 @@ template <std::size_t rows, std::size_t columns> struct HoistedPositions {
     std::uintptr_t hoisted[rows][columns];
     std::ptrdiff_t step;
     bool isArray;
-    Extent entries; // that were read
+    Extent entries;        // that were read
+    std::uintptr_t ofNull; // where a null entry leads
 
     template <class Words>
     VONKK3_INLINE explicit HoistedPositions(const Words &words) : step(words.step), isArray(words.isArray) {
         const EntryStrides strides(words);
         readPositions(words.begin, strides.row, strides.element, words.rowStride, hoisted);
         entries = {words.begin, words.begin + Address(strides.offset(rows - 1, columns - 1)) + sizeof(void *)};
+        ofNull = std::uintptr_t(std::ptrdiff_t(words.rowStride));
     }
     std::uintptr_t position(std::size_t i, std::size_t j) const { return hoisted[i][j]; }
+    VONKK3_INLINE bool isAnyNull() const {
+        return !everyIndex(0, rows * columns, fixed<rows * columns>,
+                           [&](std::size_t k) VONKK3_INLINED { return hoisted[k / columns][k % columns] != ofNull; });
+    }
 
     // Of the objects of one position; they ascend, if that is not below an element.
     Distance bytesOfPosition(std::size_t count) const {

@@ -18,6 +18,7 @@ enum class Shape { vector, matrix };
 // The words of a call's operand in one form for all layouts, as small as they come, for code that is shared by several
 // layouts. Transposed operands have their strides exchanged here.
 struct OperandWords {
+    static constexpr bool isTable = false;
     std::uintptr_t begin;       // object 0, or the list or table
     std::int32_t step;          // from object to object; of a list the shift
     std::int32_t rowStride;     // of a table the shift
@@ -25,7 +26,12 @@ struct OperandWords {
     bool isArray, isList, isTransposed;
 };
 struct ListWords : OperandWords {};
-struct TableWords : OperandWords {};
+struct TableWords : OperandWords {
+    static constexpr bool isTable = true;
+    bool tableHasNull(std::size_t position) const {
+        return loadAt<std::uintptr_t>(reinterpret_cast<const std::byte *>(begin + position * sizeof(void *))) == 0;
+    }
+};
 struct TransposedTableWords : TableWords {};
 
 template <class Words> inline constexpr bool areOfList = std::is_same_v<Words, ListWords>;

@@ -254,21 +254,39 @@ struct PositionsInOrder {
     VONKK3_INLINE void nextRow() { entry = row += rowStep; }
 };
 
+// Those of a table without gaps that is not transposed.
+struct AdjacentPositions {
+    std::uintptr_t begin, shift;
+
+    VONKK3_INLINE explicit AdjacentPositions(const OperandWords &table)
+        : begin(table.begin), shift(std::uintptr_t(std::ptrdiff_t(table.rowStride))) {}
+    VONKK3_INLINE std::byte *at(std::size_t k) const {
+        return reinterpret_cast<std::byte *>(ObjectsView::pointerAt(begin + k * sizeof(void *)) + shift);
+    }
+};
+
 // The usual case of it, tables alone. False, with nothing done, where a look at the words does not show that they are
-// independent.
+// independent and that no entry is null.
 template <class Operation, class Destination, class... Sources>
 VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::size_t columns, std::size_t count,
                                 const Destination &dst, const Sources &...src) {
     if (!arePlainlyIndependent<true>(rows, columns, count, dst, src...)) return false;
     const Operation operation = shared;
     const auto forEachPosition = [&](const auto &work) VONKK3_INLINED {
-        const auto walk = [&](auto d, auto... sources) VONKK3_INLINED {
-            for (std::size_t i = 0; i < rows; ++i) {
-                for (std::size_t j = 0; j < columns; ++j) work(d.next(), sources.next()...);
-                d.nextRow(), (sources.nextRow(), ...);
-            }
-        };
-        walk(PositionsInOrder(dst), PositionsInOrder(src)...);
+        if constexpr (areOfTransposedTable<Destination> || (areOfTransposedTable<Sources> || ...)) {
+            const auto walk = [&](auto d, auto... sources) VONKK3_INLINED {
+                for (std::size_t i = 0; i < rows; ++i) {
+                    for (std::size_t j = 0; j < columns; ++j) work(d.next(), sources.next()...);
+                    d.nextRow(), (sources.nextRow(), ...);
+                }
+            };
+            walk(PositionsInOrder(dst), PositionsInOrder(src)...);
+        } else {
+            const auto walk = [&](auto d, auto... sources) VONKK3_INLINED {
+                for (std::size_t k = 0; k < rows * columns; ++k) work(d.at(k), sources.at(k)...);
+            };
+            walk(AdjacentPositions(dst), AdjacentPositions(src)...);
+        }
     };
     if (arePacked(dst) && (arePacked(src) && ...)) {
         if (sizeof...(src) == 1 || (src.isArray && ...))
@@ -298,6 +316,7 @@ VONKK3_SHARED bool streamVectors(const Operation &shared, std::size_t count, con
                                  const Sources &...src) {
     using Table = HoistedPositions<1, length>;
     const auto stream = [&](const Table &d, const auto &...sources) VONKK3_INLINED {
+        if (d.isAnyNull() || (sources.isAnyNull() || ...)) return false;
         if (!arePlainlyIndependent<true>(count, d, sources...)) return false;
         const Operation operation = shared;
         for (std::size_t j = 0; j < length; ++j)

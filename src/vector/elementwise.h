@@ -26,13 +26,11 @@ template <class F> inline constexpr std::size_t loadedAtOnce = F::sharesOne &&F:
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-// What the checks say before any work: a failure, or vonkOk with `count` still to be tested.
-template <class Length, class Count, class D, class... Sources>
-VONKK3_INLINE VonkStatus check(Length length, Count, const D &d, const Sources &...sources) {
+// What the checks say before any work: a failure, or vonkOk with `count` and the entries of tables still to be tested.
+template <class Length, class D, class... Sources>
+VONKK3_INLINE VonkStatus check(Length length, const D &d, const Sources &...sources) {
     if (anyNull(sources..., d)) return vonkErrNullPtr;
     if (length.isZero()) return vonkErrSize;
-    if constexpr (Count::isArray)
-        if (anyTableEntryNull(length, sources..., d)) return vonkErrNullPtr;
     return vonkOk;
 }
 
@@ -42,7 +40,7 @@ template <std::size_t step, bool holdsSingle, class Operation, class Length, cla
 VONKK3_INLINE VonkStatus combineObjects(const Operation &operation, Length length, Count count, const D &d,
                                         const Sources &...sources) {
     using F = Form<Length, D, Sources...>;
-    if (count == 0) return vonkOk; // nothing is read, not even a single vector
+    if (!D::isTable && count == 0) return vonkOk; // nothing is read, not even a single vector
     if constexpr (F::isReal32 && F::isStandard && (F::sharesOne ? F::isFixed : F::isArray || !F::isFixed))
         if ((!F::isFixed || count >= worthRepeating) && workAsOneRange<1>(operation, length, count, d, sources...))
             return vonkOk;
