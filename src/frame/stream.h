@@ -263,6 +263,10 @@ struct AdjacentPositions {
     VONKK3_INLINE std::byte *at(std::size_t k) const {
         return reinterpret_cast<std::byte *>(ObjectsView::pointerAt(begin + k * sizeof(void *)) + shift);
     }
+    // Whether so many positions, each so many bytes or more beyond the one before it, are exactly that.
+    VONKK3_INLINE bool areContiguous(std::size_t positions, std::size_t bytes) const {
+        return std::size_t(at(positions - 1) - at(0)) == (positions - 1) * bytes;
+    }
 };
 
 // The usual case of it, tables alone. False, with nothing done, where a look at the words does not show that they are
@@ -272,8 +276,10 @@ VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::
                                 const Destination &dst, const Sources &...src) {
     if (!arePlainlyIndependent<true>(rows, columns, count, dst, src...)) return false;
     const Operation operation = shared;
+    constexpr bool isAnyTransposed = areOfTransposedTable<Destination> || (areOfTransposedTable<Sources> || ...);
+    std::size_t positions = rows * columns;
     const auto forEachPosition = [&](const auto &work) VONKK3_INLINED {
-        if constexpr (areOfTransposedTable<Destination> || (areOfTransposedTable<Sources> || ...)) {
+        if constexpr (isAnyTransposed) {
             const auto walk = [&](auto d, auto... sources) VONKK3_INLINED {
                 for (std::size_t i = 0; i < rows; ++i) {
                     for (std::size_t j = 0; j < columns; ++j) work(d.next(), sources.next()...);
@@ -283,17 +289,23 @@ VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::
             walk(PositionsInOrder(dst), PositionsInOrder(src)...);
         } else {
             const auto walk = [&](auto d, auto... sources) VONKK3_INLINED {
-                for (std::size_t k = 0; k < rows * columns; ++k) work(d.at(k), sources.at(k)...);
+                for (std::size_t k = 0; k < positions; ++k) work(d.at(k), sources.at(k)...);
             };
             walk(AdjacentPositions(dst), AdjacentPositions(src)...);
         }
     };
     if (arePacked(dst) && (arePacked(src) && ...)) {
-        if (sizeof...(src) == 1 || (src.isArray && ...))
+        if (sizeof...(src) == 1 || (src.isArray && ...)) {
+            std::size_t elements = count;
+            const auto areContiguous = [&](const auto &table) VONKK3_INLINED {
+                return AdjacentPositions(table).areContiguous(positions, count * sizeof(Real32));
+            };
+            if (!isAnyTransposed && areContiguous(dst) && (areContiguous(src) && ...))
+                elements *= positions, positions = 1; // all of it is one range
             forEachPosition([&](std::byte *target, const auto *...first) VONKK3_INLINED {
-                streamInLanes(operation, target, count, ContiguousSource{first}...);
+                streamInLanes(operation, target, elements, ContiguousSource{first}...);
             });
-        else
+        } else
             forEachPosition([&](std::byte *target, const auto *...first) VONKK3_INLINED {
                 streamPosition(operation, target, count, PositionSource{first, src.isArray}...);
             });
