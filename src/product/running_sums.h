@@ -107,7 +107,18 @@ inline bool arePositionsContiguous(const GaxpyWords &words) {
     return arePositionsContiguous(static_cast<const ProductWords &>(words)) && arePacked(words.addend);
 }
 
-// The usual alias test of those.
+// Whether an entry of their tables is null.
+template <class Words, class Shape> inline bool isAnyPositionNull(const Words &words, const Shape &shape) {
+    const std::size_t rows = opaque(shape.rows()), columns = opaque(shape.columns()), terms = opaque(shape.terms());
+    const auto isAnyNull = [](std::size_t positions, const OperandWords &operand)
+                               VONKK3_INLINED { return anyTableEntryNull(positions, TableWords{operand}); };
+    if constexpr (std::is_same_v<Words, GaxpyWords>)
+        if (isAnyNull(rows, words.addend)) return true;
+    return isAnyNull(rows * terms, words.a) || isAnyNull(terms * columns, words.b) ||
+           isAnyNull(rows * columns, words.d);
+}
+
+// The usual alias test of those, which no null entry passes.
 template <class Words, class Shape>
 VONKK3_INLINE bool arePlainlyIndependent(const Words &words, const Shape &shape, std::size_t count) {
     const std::size_t rows = shape.rows(), columns = shape.columns(), terms = shape.terms();
@@ -252,13 +263,20 @@ VONKK3_SHARED VonkStatus sumArrays(const Words &words, const Shape &sizes, std::
     constexpr bool hasAddend = Operands::hasAddend;
     if constexpr (std::is_same_v<T, Real32> && throughTables)
         if (count >= worthBatches && arePositionsContiguous(words)) {
-            const bool mayWork = arePlainlyIndependent(words, shape, count) ||
-                                 Operands(words, shape, count).aliasing(count).allowsBatch(0, count);
+            bool mayWork = arePlainlyIndependent(words, shape, count);
+            if (!mayWork) {
+                if (isAnyPositionNull(words, shape)) return vonkErrNullPtr;
+                mayWork = Operands(words, shape, count).aliasing(count).allowsBatch(0, count);
+            }
             const std::size_t done = mayWork ? inWholePacks(count) : 0;
             if constexpr (Shape::ofVector) multiplyVectors<order, hasAddend>(words, done);
             else multiplyMatrices<SumBegins::withZero, order>(words, done);
             return done == count ? vonkOk : plainly(done, count);
         }
+    if constexpr (throughTables) {
+        if (isAnyPositionNull(words, shape)) return vonkErrNullPtr;
+        if (count < packWidth) return plainly(0, count);
+    }
     if constexpr (std::is_same_v<T, Real32> && Shape::ofVector) {
         const auto inVectorBatches = [&]<bool firstIsArray, bool secondIsArray>() VONKK3_INLINED {
             VectorBatch<order, throughTables, firstIsArray, secondIsArray, hasAddend> batch(words, count);
@@ -283,6 +301,9 @@ VONKK3_SHARED VonkStatus sumArrays(const Words &words, const Shape &sizes, std::
     }
 }
 
+// Sums of Real32 of fixed order find null entries of tables themselves, others have been tested for them.
+template <class T, class Order> inline constexpr bool testsTables = std::is_same_v<T, Real32> &&Order::isFixed;
+
 // Where disjoint operands gain: arrays of packs, and Real64 whose sums stay wide. Square Real32 matrices of order 3 to
 // 6 whose sizes come at run time are worked as those of fixed order.
 template <class T, bool inCell, bool throughTables, class Words, std::size_t order, bool isVector>
@@ -291,7 +312,8 @@ VONKK3_INLINE VonkStatus sumProducts(const Words &words, const SumShape<order, i
         if constexpr (!inCell && !throughTables) return sumArrays<T, inCell, throughTables>(words, shape, count);
         else return sumPlainly<T, inCell, throughTables>(words, shape, 0, count);
     } else {
-        if (count < packWidth) return sumPlainly<T, inCell, throughTables>(words, shape, 0, count);
+        if constexpr (order == 0 || !throughTables)
+            if (count < packWidth) return sumPlainly<T, inCell, throughTables>(words, shape, 0, count);
         if constexpr (order != 0) return sumArrays<T, inCell, throughTables>(words, shape, count);
         else {
             const auto otherwise = [&]() VONKK3_INLINED {
