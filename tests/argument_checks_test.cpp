@@ -241,6 +241,26 @@ TEST(ArgumentChecks, CatchNullEntriesOfTablesAheadOfAllWorkAndTheCountOrElementB
         }
 }
 
+// Ascending positions of many objects, with which fast paths begin; entries before the null one are negative.
+TEST(ArgumentChecks, CatchNullEntriesAmongAscendingOnesOfManyObjects) {
+    constexpr std::uint32_t many = 64;
+    for (const Function &function : allMembers()) {
+        if (!function.array()) continue;
+        for (const Operand &operand : function.operands) {
+            if (!hasTable(operand) || hasOtherShift(function)) continue;
+            Call call(function.name, runTimeSize, many);
+            fill(call);
+            const std::uint32_t entries = call[operand.name].rows * call[operand.name].cols;
+            for (const std::uint32_t entry : {0U, entries / 2, entries - 1}) {
+                if (!isChecked(function, operand, entry, call.size())) continue;
+                SCOPED_TRACE(function.name + ", " + operand.name + "[" + std::to_string(entry) + "] null");
+                EXPECT_EQ(literal::runThroughNull(call, operand.name, entry), vonkErrNullPtr);
+                EXPECT_TRUE(call.changedNothing());
+            }
+        }
+    }
+}
+
 TEST(ArgumentChecks, FindNullsInAllTablesOfASingleObjectAheadOfTheFirstStore) {
     for (const Function &function : allMembers()) {
         const bool stores = function.section->id == "trace"; // a zero, through no table
