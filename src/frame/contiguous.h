@@ -89,16 +89,14 @@ template <std::size_t length> struct HeldElements {
 
     VONKK3_INLINE WideRegister wide(std::size_t k) const { return wides[k]; }
     VONKK3_INLINE __m128 at(std::size_t k) const { return quads[k]; }
-    // In ascending order: where the compiler stores the last part first, objects that are not in the first-level cache
-    // take up to half as long again.
     VONKK3_INLINE void store(std::byte *d) const {
         forEachBelow<wideRegistersOf<length>>([&](auto k) VONKK3_INLINED {
             storeLanes(d + wideOffset<length>(k), wides[k]);
-            keepLoopPlain();
+            keepStoreOrder();
         });
         forEachBelow<quadsOf<length>>([&](auto k) VONKK3_INLINED {
             storeQuad<length>(d, k, quads[k]);
-            keepLoopPlain();
+            keepStoreOrder();
         });
     }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/real.h"
+#include "frame/unroll.h"
 
 #include <emmintrin.h>
 
@@ -25,6 +26,7 @@ inline void store1(std::byte *address, __m128 lanes) { storeAt<Real32>(address, 
 inline void store2(std::byte *address, __m128 lanes) { _mm_storel_pi(pair(address), lanes); }
 inline void store3(std::byte *address, __m128 lanes) {
     store1(address, lanes);
+    keepStoreOrder();
     _mm_storeh_pi(pair(address + 4), lanes);
 }
 inline void store4(std::byte *address, __m128 lanes) { _mm_storeu_ps(floats(address), lanes); }
@@ -45,6 +47,7 @@ template <std::size_t length> struct Lanes {
     void store(std::byte *address) const {
         if constexpr (length == 3) store3(address, head);
         else store4(address, head);
+        keepStoreOrder();
         if constexpr (length == 5) store1(address + 16, tail);
         if constexpr (length == 6) store2(address + 16, tail);
     }

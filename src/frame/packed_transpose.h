@@ -27,9 +27,9 @@ VONKK3_INLINE void transposePacked(const std::byte *from, std::byte *to, Fixed<3
     const __m128 e61 = _mm_shuffle_ps(high, low, _MM_SHUFFLE(1, 1, 2, 2));
     const __m128 e25 = _mm_shuffle_ps(low, high, _MM_SHUFFLE(1, 1, 2, 2));
     store4(to, _mm_shuffle_ps(low, e61, _MM_SHUFFLE(2, 0, 3, 0)));
-    keepLoopPlain(); // compilers would not store in ascending order, see HeldElements
+    keepStoreOrder();
     store4(to + laneBytes, _mm_shuffle_ps(high, e25, _MM_SHUFFLE(2, 0, 3, 0)));
-    keepLoopPlain();
+    keepStoreOrder();
 #endif
     storeAt<Real32>(to + 2 * laneBytes, last);
 }

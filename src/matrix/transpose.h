@@ -62,9 +62,12 @@ VONKK3_INLINE void transposeSix(const RowsView<const Real32> &from, const RowsVi
         const std::size_t i = 2 * across;
         const __m128 ends = _mm_shuffle_ps(lower, upper, _MM_SHUFFLE(3, 1, 2, 0));
         store4(to.at(i, 0), evenColumn(upper, middle));
+        keepStoreOrder();
         if constexpr (areAdjacent) store4(to.at(i, 4), ends);
         else store2(to.at(i, 4), ends), _mm_storeh_pi(pair(to.at(i + 1, 0)), ends);
+        keepStoreOrder();
         store4(to.at(i + 1, 2), oddColumn(middle, lower));
+        keepStoreOrder();
     });
 }
 

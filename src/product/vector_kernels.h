@@ -32,6 +32,7 @@ template <std::size_t order> VONKK3_INLINE ProductVector loadVector(const std::b
 template <std::size_t order> VONKK3_INLINE void storeVector(std::byte *address, ProductVector vector) {
     if constexpr (order == 3) {
         store2(address, vector.head);
+        keepStoreOrder();
         store1(address + 8, _mm_movehl_ps(vector.head, vector.head));
     } else Lanes<order>{vector.head, vector.tail}.store(address);
 }
