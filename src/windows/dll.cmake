@@ -29,10 +29,11 @@ function(add_vonkk3 target level folder)
     target_compile_options(${target}_objects PRIVATE -Wa,-muse-unaligned-vector-move)
   endif()
   file(MAKE_DIRECTORY ${folder})
+  set(objects "$<FILTER:$<TARGET_OBJECTS:${target}_objects>,INCLUDE,[.]obj$>") # a precompiled header is among them
   add_custom_command(OUTPUT ${folder}/vonkk3.dll BYPRODUCTS ${folder}/vonkk3.lib
     COMMAND ${VONKK3_LLD_LINK} -lldmingw -dll -noentry -nodefaultlib -machine:x64 -timestamp:0 -def:${vonkk3_def} ${vonkk3_resource}
-            -out:${folder}/vonkk3.dll -implib:${folder}/vonkk3.lib $<TARGET_OBJECTS:${target}_objects>
-    DEPENDS ${target}_objects $<TARGET_OBJECTS:${target}_objects> ${vonkk3_def} ${vonkk3_resource} vonkk3_windows_inputs
+            -out:${folder}/vonkk3.dll -implib:${folder}/vonkk3.lib ${objects}
+    DEPENDS ${target}_objects ${objects} ${vonkk3_def} ${vonkk3_resource} vonkk3_windows_inputs
     COMMENT "Linking ${folder}/vonkk3.dll"
     COMMAND_EXPAND_LISTS VERBATIM)
   add_custom_target(${target} ALL DEPENDS ${folder}/vonkk3.dll)
