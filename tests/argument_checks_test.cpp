@@ -261,6 +261,27 @@ TEST(ArgumentChecks, CatchNullEntriesAmongAscendingOnesOfManyObjects) {
     }
 }
 
+// The tables are far shorter than the sizes say: what follows the null entry is not looked at.
+TEST(ArgumentChecks, EndTheTestOfTablesAtANullEntryWhateverTheSize) {
+    constexpr std::uint32_t huge = 0xF0000000, count = 64;
+    float number = 1;
+    double wide = 1;
+    float *table[] = {&number, &number, nullptr};
+    double *wideTable[] = {&wide, &wide, nullptr};
+    EXPECT_EQ(vonkAdd_vac_32f_P(table, 0, 1, table, 0, huge, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkMul_vac_64f_P(wideTable, 0, 1, wideTable, 0, huge, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkSub_vava_32f_PS2(table, 0, 4, table, 0, 4, table, 0, 4, huge, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkSaxpy_vava_32f_P(table, 0, 2, table, 0, table, 0, huge, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkLComb_vava_32f_P(table, 0, 2, table, 0, 3, table, 0, huge, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkAdd_mama_32f_P(table, 0, table, 0, table, 0, huge, huge, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkMul_mac_32f_P(table, 0, 2, table, 0, huge, huge, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkTranspose_ma_32f_P(table, 0, huge, huge, table, 0, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkMul_mava_32f_P(table, 0, huge, huge, table, 0, huge, table, 0, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkDotProduct_vava_32f_P(table, 0, table, 0, &number, huge, count), vonkErrNullPtr);
+    EXPECT_EQ(number, 1);
+    EXPECT_EQ(wide, 1);
+}
+
 TEST(ArgumentChecks, FindNullsInAllTablesOfASingleObjectAheadOfTheFirstStore) {
     for (const Function &function : allMembers()) {
         const bool stores = function.section->id == "trace"; // a zero, through no table

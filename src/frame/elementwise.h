@@ -97,9 +97,10 @@ VONKK3_INLINE void workRowByRow(const Operation &operation, Fixed<rows>, Fixed<c
 // Whether the entries of tables are tested before all objects, and those of lists object by object.
 enum class Entries { tested, trusted };
 
+// The entries of tables of a fixed size, for which there is one loop: unrolled, it would be in every body.
 template <Entries entries, class Rows, class Columns, class... Words>
 VONKK3_INLINE bool isAnyPositionNull(Rows rows, Columns columns, const Words &...operands) {
-    if constexpr (entries == Entries::trusted) return false;
+    if constexpr (entries == Entries::trusted || !Columns::isFixed) return false;
     else return anyTableEntryNull(opaque(std::size_t(columns) * rows), operands...);
 }
 
@@ -159,7 +160,7 @@ VONKK3_SHARED VonkStatus streamOrWorkObjects(const Operation &operation, Rows ro
     else return withFixedColumns<T>(columns, work);
 }
 
-// Arrays of `rows` by `columns` elements, after the argument checks but for the entries of tables. Fixed sizes of
+// Arrays of `rows` by `columns` elements, after the argument checks, but for what testsTablesLater. Fixed sizes of
 // strided layouts are unrolled on the plain path, which is as fast as a stream; Real64 is no faster for a fixed size.
 template <class T, Entries entries = Entries::tested, class Rows, class Columns, class Operation, class Destination,
           class... Sources>

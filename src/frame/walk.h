@@ -29,6 +29,12 @@ template <class... Operands> inline bool anyTableEntryNull(std::size_t positions
     return false;
 }
 
+// Whether null entries of an array's tables are found later: in the few of a fixed size, when they are looked at for
+// overlap. All others are tested before anything else and in order, as a table that is shorter than its size says may
+// end at a null entry.
+template <class T, class Order>
+inline constexpr bool testsTablesLater = std::is_same_v<std::remove_const_t<T>, Real32> &&Order::isFixed;
+
 // Does the work for the objects in ascending order. The list entries of an object are tested when its turn comes, so
 // the objects before it are complete; `work` gets the object's number and returns a status, which ends the walk if it
 // is a failure. At `count` 0 nothing happens.

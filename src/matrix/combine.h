@@ -158,6 +158,8 @@ VONKK3_INLINE VonkStatus combine(const A &a, const B &b, const D &d, Columns col
     constexpr Operation operation;
     if (anyNull(a, b, d)) return vonkErrNullPtr;
     if (columns.isZero() || rows.isZero()) return vonkErrSize;
+    if constexpr (Count::isArray && !testsTablesLater<typename D::Element, Columns>)
+        if (anyTableEntryNull(std::size_t(columns) * rows, a, b, d)) return vonkErrNullPtr;
 
     if constexpr (isCrossed<F>) {
         constexpr auto &from = F::isArray ? scattered : repeatedRow;

@@ -40,6 +40,8 @@ VONKK3_INLINE VonkStatus scale(const A &a, typename D::Element value, const D &d
     const WithConstant<T, Product> times{Constant<T>(value)};
     if (anyNull(a, d)) return vonkErrNullPtr;
     if (columns.isZero() || rows.isZero()) return vonkErrSize;
+    if constexpr (Count::isArray && !testsTablesLater<T, Columns>)
+        if (anyTableEntryNull(std::size_t(columns) * rows, a, d)) return vonkErrNullPtr;
 
     if constexpr (scalesInLanes<D, Columns>) return scaleInLanes(a, times, d, columns, count);
     else if constexpr (Count::isArray)

@@ -103,6 +103,8 @@ template <class A, class D, class Columns, class RowCount, class Count>
 VONKK3_INLINE VonkStatus transpose(const A &a, Columns columns, RowCount rows, const D &d, Count count) {
     if (anyNull(a, d)) return vonkErrNullPtr;
     if (columns.isZero() || rows.isZero()) return vonkErrSize;
+    if constexpr (Count::isArray && !testsTablesLater<typename D::Element, Columns>)
+        if (anyTableEntryNull(std::size_t(columns) * rows, a, d)) return vonkErrNullPtr;
 
     constexpr bool isAdjacent = D::layout == Layout::Standard || D::layout == Layout::L;
     if constexpr (std::is_same_v<typename D::Element, Real32> && isAdjacent && Columns::isFixed) {

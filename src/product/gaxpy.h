@@ -49,7 +49,7 @@ inline VonkStatus gaxpy(const A &src1, const V &src2, const W &src3, const D &ds
     using T = typename D::Element;
     if (anyNull(src1, src2, src3, dst)) return vonkErrNullPtr;
     if (cols.isZero() || rows.isZero()) return vonkErrSize;
-    if constexpr (Count::isArray && !testsTables<T, Cols>)
+    if constexpr (Count::isArray && !testsTablesLater<T, Cols>)
         if (anyTableEntryNull(cols * rows, src1) || anyTableEntryNull(cols, src2) || anyTableEntryNull(rows, src3) ||
             anyTableEntryNull(rows, dst))
             return vonkErrNullPtr;

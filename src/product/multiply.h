@@ -161,7 +161,7 @@ inline VonkStatus multiply(const A &src1, Cols1 cols1, Rows1 rows1, const B &src
     const Dimensions<Cols1, Rows1, Cols2, Rows2> size{cols1, rows1, cols2, rows2};
     if constexpr (!Cols1::isFixed)
         if (size.template anyZero<P>() || !size.template agree<P>()) return vonkErrSize;
-    if constexpr (P::isArray && testsEntries<T, P, order> && !testsTables<T, Cols1>)
+    if constexpr (P::isArray && testsEntries<T, P, order> && !testsTablesLater<T, Cols1>)
         if (anyTableEntryNull(cols1 * rows1, src1) || anyTableEntryNull(cols2 * rows2, src2) ||
             anyTableEntryNull(size.template testedCells<P>(), dst))
             return vonkErrNullPtr;

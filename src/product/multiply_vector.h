@@ -76,7 +76,7 @@ inline VonkStatus multiplyVector(const A &src1, Cols cols, Rows rows, const V &s
     if (cols.isZero() || rows.isZero()) return vonkErrSize;
     // The length is compared with the stored shape, the loops below take the transposed one as it enters the product.
     if ((A::isTransposed ? std::size_t(rows) : std::size_t(cols)) != length) return vonkErrSize;
-    if constexpr (Count::isArray && !testsTables<T, Cols>)
+    if constexpr (Count::isArray && !testsTablesLater<T, Cols>)
         if (anyTableEntryNull(cols * rows, src1) || anyTableEntryNull(length, src2) || anyTableEntryNull(rows, dst))
             return vonkErrNullPtr;
 

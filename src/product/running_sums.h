@@ -301,9 +301,6 @@ VONKK3_SHARED VonkStatus sumArrays(const Words &words, const Shape &sizes, std::
     }
 }
 
-// Sums of Real32 of fixed order find null entries of tables themselves, others have been tested for them.
-template <class T, class Order> inline constexpr bool testsTables = std::is_same_v<T, Real32> &&Order::isFixed;
-
 // Where disjoint operands gain: arrays of packs, and Real64 whose sums stay wide. Square Real32 matrices of order 3 to
 // 6 whose sizes come at run time are worked as those of fixed order.
 template <class T, bool inCell, bool throughTables, class Words, std::size_t order, bool isVector>

@@ -10,7 +10,7 @@ namespace vonkk3::vector {
 // d(n, j) = operation(a(n, j), b(n, j)); a single operand serves all objects.
 template <class Operation, class A, class B, class D, class Length, class Count>
 VONKK3_INLINE VonkStatus combine(const A &a, const B &b, const D &d, Length length, Count count) {
-    if (const VonkStatus status = check(length, d, a, b); status != vonkOk) return status;
+    if (const VonkStatus status = check(length, count, d, a, b); status != vonkOk) return status;
     return combineObjects(Operation(), length, count, d, a, b);
 }
 

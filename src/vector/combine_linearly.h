@@ -11,7 +11,7 @@ template <class A, class T, class B, class D, class Length, class Count>
 VONKK3_INLINE VonkStatus combineLinearly(const A &a, T first, const B &b, T second, const D &d, Length length,
                                          Count count) {
     const LinearCombination<T> operation{Constant<T>(first), Constant<T>(second)};
-    if (const VonkStatus status = check(length, d, a, b); status != vonkOk) return status;
+    if (const VonkStatus status = check(length, count, d, a, b); status != vonkOk) return status;
     return combineObjects(operation, length, count, d, a, b);
 }
 

@@ -26,11 +26,13 @@ template <class F> inline constexpr std::size_t loadedAtOnce = F::sharesOne &&F:
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 
-// What the checks say before any work: a failure, or vonkOk with `count` and the entries of tables still to be tested.
-template <class Length, class D, class... Sources>
-VONKK3_INLINE VonkStatus check(Length length, const D &d, const Sources &...sources) {
+// What the checks say before any work: a failure, or vonkOk with `count` still to be tested, and what testsTablesLater.
+template <class Length, class Count, class D, class... Sources>
+VONKK3_INLINE VonkStatus check(Length length, Count, const D &d, const Sources &...sources) {
     if (anyNull(sources..., d)) return vonkErrNullPtr;
     if (length.isZero()) return vonkErrSize;
+    if constexpr (Count::isArray && !testsTablesLater<typename D::Element, Length>)
+        if (anyTableEntryNull(length, sources..., d)) return vonkErrNullPtr;
     return vonkOk;
 }
 

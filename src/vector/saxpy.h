@@ -27,7 +27,7 @@ template <class A, class B, class D> inline bool allAligned(const A &a, const B 
 template <class A, class T, class B, class D, class Length, class Count>
 VONKK3_INLINE VonkStatus saxpy(const A &a, T factor, const B &b, const D &d, Length length, Count count) {
     const ScaledSum<T> operation{Constant<T>(factor)};
-    if (const VonkStatus status = check(length, d, a, b); status != vonkOk) return status;
+    if (const VonkStatus status = check(length, count, d, a, b); status != vonkOk) return status;
     if constexpr (mayHoldSingleVector<Form<Length, D, A, B>, A>)
         if (allAligned(a, b, d)) return combineObjects<1, true>(operation, length, count, d, a, b);
     return combineObjects<1, false>(operation, length, count, d, a, b);
