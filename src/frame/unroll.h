@@ -38,8 +38,8 @@ template <class Word> inline Word opaque(Word value) {
 // In the body of a loop of a few rounds: without it, a compiler adds more code for lanes than the loop takes time.
 inline void keepLoopPlain() { __asm__ volatile(""); }
 
-// Between the stores of one object, which then ascend: a compiler stores first what is ready first, and objects that are
-// not in the first-level cache take up to twice as long.
+// Between the stores of one object, which then ascend: a compiler stores first what is ready first, and objects that
+// are not in the first-level cache take up to twice as long.
 inline void keepStoreOrder() { __asm__ volatile(""); }
 
 // body(i) for i from `from` to `to` - 1, as long as it returns true; whether it always did. Order says whether the
