@@ -4,6 +4,9 @@
 #include "support/family_test.h"
 #include "support/fill.h"
 
+#include <array>
+#include <bit>
+
 namespace {
 
 using namespace literal::names;
@@ -241,7 +244,7 @@ TEST(ArgumentChecks, CatchNullEntriesOfTablesAheadOfAllWorkAndTheCountOrElementB
         }
 }
 
-// Ascending positions of many objects, with which fast paths begin; entries before the null one are negative.
+// Ascending positions of many objects, with which fast paths begin.
 TEST(ArgumentChecks, CatchNullEntriesAmongAscendingOnesOfManyObjects) {
     constexpr std::uint32_t many = 64;
     for (const Function &function : allMembers()) {
@@ -259,6 +262,13 @@ TEST(ArgumentChecks, CatchNullEntriesAmongAscendingOnesOfManyObjects) {
             }
         }
     }
+}
+
+// Each entry leads a quarter of the address space beyond the one before it, the null one too.
+TEST(ArgumentChecks, CatchANullEntryWhereTheAddressSpaceEnds) {
+    std::array<float *, 9> table{};
+    for (std::size_t k = 0; k < table.size(); ++k) table[k] = std::bit_cast<float *>(std::uintptr_t(k + 1) << 62);
+    EXPECT_EQ(vonkAdd_mama_32f_3x3_P(table.data(), 0, table.data(), 0, table.data(), 0, 64), vonkErrNullPtr);
 }
 
 // The tables are far shorter than the sizes say: what follows the null entry is not looked at.
