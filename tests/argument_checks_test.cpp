@@ -267,7 +267,8 @@ TEST(ArgumentChecks, CatchNullEntriesAmongAscendingOnesOfManyObjects) {
 // Each entry leads a quarter of the address space beyond the one before it, the null one too.
 TEST(ArgumentChecks, CatchANullEntryWhereTheAddressSpaceEnds) {
     std::array<float *, 9> table{};
-    for (std::size_t k = 0; k < table.size(); ++k) table[k] = std::bit_cast<float *>(std::uintptr_t(k + 1) << 62);
+    for (std::size_t k = 0; k < table.size(); ++k)
+        table[k] = std::bit_cast<float *>(std::uintptr_t(k + 1) << (8 * sizeof(void *) - 2));
     EXPECT_EQ(vonkAdd_mama_32f_3x3_P(table.data(), 0, table.data(), 0, table.data(), 0, 64), vonkErrNullPtr);
 }
 
