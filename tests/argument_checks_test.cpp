@@ -284,10 +284,10 @@ TEST(ArgumentChecks, EndTheTestOfTablesAtANullEntryWhateverTheSize) {
     EXPECT_EQ(vonkSub_vava_32f_PS2(table, 0, 4, table, 0, 4, table, 0, 4, huge, count), vonkErrNullPtr);
     EXPECT_EQ(vonkSaxpy_vava_32f_P(table, 0, 2, table, 0, table, 0, huge, count), vonkErrNullPtr);
     EXPECT_EQ(vonkLComb_vava_32f_P(table, 0, 2, table, 0, 3, table, 0, huge, count), vonkErrNullPtr);
-    EXPECT_EQ(vonkAdd_mama_32f_P(table, 0, table, 0, table, 0, huge, huge, count), vonkErrNullPtr);
-    EXPECT_EQ(vonkMul_mac_32f_P(table, 0, 2, table, 0, huge, huge, count), vonkErrNullPtr);
-    EXPECT_EQ(vonkTranspose_ma_32f_P(table, 0, huge, huge, table, 0, count), vonkErrNullPtr);
-    EXPECT_EQ(vonkMul_mava_32f_P(table, 0, huge, huge, table, 0, huge, table, 0, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkAdd_mama_32f_P(table, 0, table, 0, table, 0, huge, 1, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkMul_mac_32f_P(table, 0, 2, table, 0, huge, 1, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkTranspose_ma_32f_P(table, 0, huge, 1, table, 0, count), vonkErrNullPtr);
+    EXPECT_EQ(vonkMul_mava_32f_P(table, 0, huge, 1, table, 0, huge, table, 0, count), vonkErrNullPtr);
     EXPECT_EQ(vonkDotProduct_vava_32f_P(table, 0, table, 0, &number, huge, count), vonkErrNullPtr);
     EXPECT_EQ(number, 1);
     EXPECT_EQ(wide, 1);
