@@ -5,7 +5,7 @@
 #include "frame/batch.h"
 #include "frame/rounding_control.h"
 #include "frame/shared_operand.h"
-#include "lu/bounded.h"
+#include "lu/determinant_filter.h"
 #include "lu/local_block.h"
 #include "lu/minors.h"
 #include "lu/scratch_elimination.h"
@@ -125,29 +125,13 @@ template <class Source, std::size_t order> struct FilteredDeterminants {
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> matrices[order][order];
         src.template gather<access>(n, matrices);
-        unsigned doubts = 0;
-        storeResults(results, n, Packs<chains>::each([&](std::size_t c) VONKK3_INLINED {
-                         const auto filtered = determinantOf(matrices, c);
-                         doubts |= filtered.doubts << c * lanesOf<decltype(filtered.results)>;
-                         return filtered.results;
-                     }));
-        for (; doubts != 0; doubts &= doubts - 1) {
+        const DeterminantFilter<Packs<chains>::width> filter(matrices);
+        storeResults(results, n, Packs<chains>(filter.results));
+        for (unsigned doubts = filter.doubts; doubts != 0; doubts &= doubts - 1) {
             const std::size_t doubtful = n + std::size_t(std::countr_zero(doubts));
             determinantsPlainly<true, Source, order>(words, dst, doubtful, doubtful + 1);
         }
         return true;
-    }
-
-private:
-    template <std::size_t chains>
-    VONKK3_INLINE static auto determinantOf(const Packs<chains> (&matrices)[order][order], std::size_t c) {
-        constexpr std::size_t width = Packs<chains>::width;
-        BoundedTerm<width> block[order][order];
-        for (std::size_t i = 0; i < order; ++i)
-            for (std::size_t j = 0; j < order; ++j) block[i][j] = {Doubles<width>(matrices[i][j].chain[c])};
-        const LocalBlock a{block};
-        if constexpr (order == 4) return Filtered<width>(determinantOfFour(a));
-        else return Filtered<width>(determinantByLevels<BoundedSum<width>, order>(a));
     }
 };
 
@@ -158,9 +142,9 @@ template <std::size_t order> std::size_t leastForDeterminants(const ObjectsView 
     return 4 * packWidth;
 }
 
-// The same of the filter; a determinant of order 3 is no longer work than its filter.
+// The same of the filter. Of order 3 it takes as long as the work in 80 bits, but with the registers of AVX-512.
 inline constexpr std::size_t leastForFilter = 2 * packWidth;
-template <std::size_t order> inline constexpr bool isWorthFilter = order >= 4;
+template <std::size_t order> inline constexpr bool isWorthFilter = order >= 4 || hasMasks;
 
 // ---- All objects ----------------------------------------------------------------------------------------------------
 

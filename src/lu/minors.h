@@ -62,7 +62,7 @@ template <Columns columns, std::size_t term> constexpr std::size_t columnOfTerm(
 }
 
 template <Columns columns, std::size_t term, class A, class W, std::size_t order>
-VONKK3_INLINE W minorTerm(const A &a, const Minors<W, order> &below) {
+VONKK3_INLINE auto minorTerm(const A &a, const Minors<W, order> &below) {
     constexpr std::size_t row = order - std::popcount(columns);
     constexpr std::size_t column = columnOfTerm<columns, term>();
     constexpr Columns others = columns & ~(1U << column);
