@@ -252,8 +252,19 @@ inline bool areIndependent(const AliasOperand &written, const AliasOperand &othe
     return areDisjointByParts(written, other);
 }
 
+// Whether elements ascend within rows, rows within objects, and objects; of a list, within objects. And the bytes of an
+// object.
+VONKK3_INLINE bool areStridesAscending(const ObjectsView &view, Distance &ofObject) {
+    const Distance ofRow = distanceOf(view.columns - 1, view.elementStride) + Distance(view.elementBytes);
+    ofObject = distanceOf(view.rows - 1, view.rowStride) + ofRow;
+    return (view.columns <= 1 || view.elementStride >= std::ptrdiff_t(view.elementBytes)) &&
+           (view.rows <= 1 || view.rowStride >= ofRow) &&
+           (!view.isArray || view.isList() || view.objectStride >= ofObject);
+}
+
 // Whether no two elements overlap, of one object or of two: strides, from the smallest, each step over all before it.
 inline bool areStridesDisjoint(const ObjectsView &view) {
+    if (Distance ofObject; areStridesAscending(view, ofObject)) return true;
     Address stride[] = {magnitudeOf(view.elementStride), magnitudeOf(view.rowStride), magnitudeOf(view.objectStride)};
     std::size_t number[] = {view.columns, view.rows, view.isList() ? 1 : view.count};
     Address covered = view.elementBytes;
@@ -478,12 +489,8 @@ VONKK3_NOINLINE inline Extent extentOfAscending(const ObjectsView &table) {
 // above. Whether it is one, and where it lies.
 VONKK3_INLINE bool isAscending(const ObjectsView &view, Extent &whole) {
     if (view.isTable()) return whole = extentOfAscending(view), !whole.isEmpty();
-    if (view.isList()) return false;
-    const Distance ofRow = distanceOf(view.columns - 1, view.elementStride) + Distance(view.elementBytes);
-    const Distance ofObject = distanceOf(view.rows - 1, view.rowStride) + ofRow;
-    if ((view.columns > 1 && view.elementStride < std::ptrdiff_t(view.elementBytes)) ||
-        (view.rows > 1 && view.rowStride < ofRow) || (view.isArray && view.objectStride < ofObject))
-        return false;
+    Distance ofObject;
+    if (view.isList() || !areStridesAscending(view, ofObject)) return false;
     whole = {view.begin, view.begin + Address(distanceOf(view.count - 1, view.objectStride) + ofObject)};
     return !whole.isEmpty();
 }
@@ -501,32 +508,56 @@ VONKK3_INLINE bool isClearOf(const AliasOperand &written, const Extent &whole, c
            (other.use == AliasOperand::Use::readInPlace && areSame(written.view, other.view));
 }
 
-template <std::size_t number> VONKK3_INLINE bool isPlainlyIndependent(const AliasOperand (&operands)[number]) {
-    Extent whole[number];
-    VONKK3_UNROLL_WHOLE
-    for (std::size_t k = 0; k < number; ++k)
-        if (!isAscending(operands[k].view, whole[k])) return false;
-    bool plain = true;
+// Whether each written operand is, given where all of them lie.
+template <class WholeOf>
+VONKK3_INLINE bool areClear(const AliasOperand *operands, std::size_t number, const WholeOf &wholeOf) {
+    bool clear = true;
     VONKK3_UNROLL_WHOLE
     for (std::size_t w = 0; w < number; ++w) {
         if (!operands[w].isWritten()) continue;
         VONKK3_UNROLL_WHOLE
         for (std::size_t k = 0; k < number; ++k) {
-            const bool isClear = k == w ? !operands[w].hasEntries() || disjoint(whole[w], operands[w].entries())
-                                        : isClearOf(operands[w], whole[w], operands[k], whole[k]);
-            plain = plain && isClear;
+            const bool isClear = k == w ? !operands[w].hasEntries() || disjoint(wholeOf(w), operands[w].entries())
+                                        : isClearOf(operands[w], wholeOf(w), operands[k], wholeOf(k));
+            clear = clear && isClear;
         }
     }
-    return plain;
+    return clear;
+}
+
+template <std::size_t number> VONKK3_INLINE bool isPlainlyIndependent(const AliasOperand (&operands)[number]) {
+    Extent whole[number];
+    VONKK3_UNROLL_WHOLE
+    for (std::size_t k = 0; k < number; ++k)
+        if (!isAscending(operands[k].view, whole[k])) return false;
+    return areClear(operands, number, [&](std::size_t k) VONKK3_INLINED -> const Extent & { return whole[k]; });
+}
+
+// The same where there are lists, if they ascend: of so many objects, or none.
+inline std::size_t plainlyIndependentThroughLists(AliasOperand *operands, std::size_t number) {
+    for (std::size_t k = 0; k < number; ++k) {
+        AliasOperand &operand = operands[k];
+        Distance ofObject;
+        if (!operand.view.isList()) {
+            if (!isAscending(operand.view, operand.whole)) return 0;
+        } else if (areStridesAscending(operand.view, ofObject)) operand.object = {0, Address(ofObject)};
+        else return 0;
+    }
+    const AscendingLists lists = scanLists(operands, number);
+    const auto wholeOf = [&](std::size_t k) VONKK3_INLINED -> const Extent & { return operands[k].whole; };
+    return lists.ascend && lists.length != 0 && areClear(operands, number, wholeOf) ? lists.length : 0;
 }
 
 VONKK3_NOINLINE inline Answer askOnce(AliasOperand *operands, std::size_t number, std::size_t count) {
     constexpr Answer no = {0, false};
     bool anyList = false;
+    for (std::size_t k = 0; k < number; ++k) anyList |= operands[k].view.isList();
+    if (anyList)
+        if (const std::size_t plain = plainlyIndependentThroughLists(operands, number); plain != 0)
+            return {plain, false};
     for (std::size_t k = 0; k < number; ++k) {
         operands[k].findExtents();
-        if (operands[k].view.isList()) anyList = true;
-        else if (operands[k].mayBeginAtNull()) return no;
+        if (!operands[k].view.isList() && operands[k].mayBeginAtNull()) return no;
     }
     for (std::size_t w = 0; w < number; ++w)
         if (operands[w].isWritten() && !isWrittenOnce(operands[w])) return no;
