@@ -9,6 +9,8 @@ if(VONKK3_INSTRUMENT)
   get_target_property(link_options vonkk3 LINK_OPTIONS)
   list(REMOVE_ITEM link_options -nostdlib -Wl,-z,defs)
   set_target_properties(vonkk3 PROPERTIES LINK_OPTIONS "${link_options}")
+  # Coverage of what is in a precompiled header is lost.
+  set_target_properties(vonkk3 PROPERTIES DISABLE_PRECOMPILE_HEADERS ON)
   target_compile_options(vonkk3 PRIVATE ${VONKK3_INSTRUMENT})
   target_link_options(vonkk3 PRIVATE ${VONKK3_INSTRUMENT})
 endif()
