@@ -30,7 +30,7 @@ STEPS = {
 # The lines of an output that say what came out.
 TELLING = re.compile(
     r"passed, |differences$|tests passed|^ok: |FAILED|FOUND|^together|reasons out of date|functions compared"
-    r"|^packages work|the same bytes twice|^stat::number_of_executed|^ended: |races? |without a reason"
+    r"|^packages work|the same bytes twice|^stat::number_of_executed|^ended: |\braces? |without a reason"
 )
 
 
