@@ -509,19 +509,17 @@ VONKK3_INLINE bool isClearOf(const AliasOperand &written, const Extent &whole, c
 }
 
 // Whether each written operand is, given where all of them lie.
-template <class WholeOf>
-VONKK3_INLINE bool areClear(const AliasOperand *operands, std::size_t number, const WholeOf &wholeOf) {
+template <class Number, class WholeOf>
+VONKK3_INLINE bool areClear(const AliasOperand *operands, Number number, const WholeOf &wholeOf) {
     bool clear = true;
-    VONKK3_UNROLL_WHOLE
-    for (std::size_t w = 0; w < number; ++w) {
-        if (!operands[w].isWritten()) continue;
-        VONKK3_UNROLL_WHOLE
-        for (std::size_t k = 0; k < number; ++k) {
+    forIndices(0, number, number, [&](std::size_t w) VONKK3_INLINED {
+        if (!operands[w].isWritten()) return;
+        forIndices(0, number, number, [&](std::size_t k) VONKK3_INLINED {
             const bool isClear = k == w ? !operands[w].hasEntries() || disjoint(wholeOf(w), operands[w].entries())
                                         : isClearOf(operands[w], wholeOf(w), operands[k], wholeOf(k));
             clear = clear && isClear;
-        }
-    }
+        });
+    });
     return clear;
 }
 
@@ -530,7 +528,7 @@ template <std::size_t number> VONKK3_INLINE bool isPlainlyIndependent(const Alia
     VONKK3_UNROLL_WHOLE
     for (std::size_t k = 0; k < number; ++k)
         if (!isAscending(operands[k].view, whole[k])) return false;
-    return areClear(operands, number, [&](std::size_t k) VONKK3_INLINED -> const Extent & { return whole[k]; });
+    return areClear(operands, fixed<number>, [&](std::size_t k) VONKK3_INLINED -> const Extent & { return whole[k]; });
 }
 
 // The same where there are lists, if they ascend: of so many objects, or none.
@@ -545,7 +543,7 @@ inline std::size_t plainlyIndependentThroughLists(AliasOperand *operands, std::s
     }
     const AscendingLists lists = scanLists(operands, number);
     const auto wholeOf = [&](std::size_t k) VONKK3_INLINED -> const Extent & { return operands[k].whole; };
-    return lists.ascend && lists.length != 0 && areClear(operands, number, wholeOf) ? lists.length : 0;
+    return lists.ascend && lists.length != 0 && areClear(operands, atRunTime(number), wholeOf) ? lists.length : 0;
 }
 
 VONKK3_NOINLINE inline Answer askOnce(AliasOperand *operands, std::size_t number, std::size_t count) {
