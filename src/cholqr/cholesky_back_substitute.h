@@ -46,7 +46,7 @@ VONKK3_NOINLINE void solveByCall(Factor factor, RightSide b, Solution x, Order o
 template <std::size_t order, bool isArray> struct SolveBatch : SystemBatch<order, isArray, Triangle::lower> {
     using System = SystemBatch<order, isArray, Triangle::lower>;
     using System::System, System::src1, System::src2, System::dst;
-    static constexpr std::size_t chains = hasMasks ? 3 : 2;
+    static constexpr std::size_t chains = 2;
     template <Access access, std::size_t chains> VONKK3_INLINE bool work(std::size_t n) const {
         Packs<chains> b[1][order], x[1][order];
         src2.template gather<access>(n, b);
