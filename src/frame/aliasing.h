@@ -660,9 +660,12 @@ template <std::size_t number> class Aliasing {
 public:
     template <class... Operands>
     VONKK3_INLINE explicit Aliasing(std::size_t count, const Operands &...each) : operands{each...} {
-        if (aliasing::isPlainlyIndependent(operands)) answer = {count, false};
-        else answer = aliasing::askOnce(operands, opaque(number), count);
+        isPlain = aliasing::isPlainlyIndependent(operands);
+        answer = isPlain ? aliasing::Answer{count, false} : aliasing::askOnce(operands, opaque(number), count);
     }
+
+    // Then no entry of a table is null.
+    bool isUsualCase() const { return isPlain; }
 
     bool rulesOutBatches() const { return answer.allowed == 0 && !answer.asksByBatch; }
 
@@ -673,6 +676,7 @@ public:
     }
 
 private:
+    bool isPlain;
     AliasOperand operands[number];
     aliasing::Answer answer;
 };

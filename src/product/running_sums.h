@@ -257,7 +257,10 @@ VONKK3_SHARED VonkStatus sumArrays(const Words &words, const Shape &sizes, std::
     const auto plainly = [&](std::size_t from, std::size_t to)
                              VONKK3_INLINED { return sumPlainly<T, inCell, throughTables>(words, shape, from, to); };
     const auto inBatches = [&](auto &batch) VONKK3_INLINED {
-        return forEachBatch(batch, batch.aliasing(count), count, [&](std::size_t n) { return plainly(n, n + 1); });
+        const auto aliasing = batch.aliasing(count);
+        if constexpr (throughTables)
+            if (!aliasing.isUsualCase() && isAnyPositionNull(words, shape)) return VonkStatus(vonkErrNullPtr);
+        return forEachBatch(batch, aliasing, count, [&](std::size_t n) { return plainly(n, n + 1); });
     };
     using Operands = ProductOperands<T, throughTables, Words, Shape>;
     constexpr bool hasAddend = Operands::hasAddend;
@@ -273,10 +276,8 @@ VONKK3_SHARED VonkStatus sumArrays(const Words &words, const Shape &sizes, std::
             else multiplyMatrices<SumBegins::withZero, order>(words, done);
             return done == count ? vonkOk : plainly(done, count);
         }
-    if constexpr (throughTables) {
-        if (isAnyPositionNull(words, shape)) return vonkErrNullPtr;
-        if (count < packWidth) return plainly(0, count);
-    }
+    if constexpr (throughTables)
+        if (count < packWidth) return isAnyPositionNull(words, shape) ? VonkStatus(vonkErrNullPtr) : plainly(0, count);
     if constexpr (std::is_same_v<T, Real32> && Shape::ofVector) {
         const auto inVectorBatches = [&]<bool firstIsArray, bool secondIsArray>() VONKK3_INLINED {
             VectorBatch<order, throughTables, firstIsArray, secondIsArray, hasAddend> batch(words, count);
