@@ -89,6 +89,9 @@ VONKK3_INLINE std::size_t workPacks(std::size_t count, const Work &work, const T
     return workPacks<1, false>(count, work, tables...);
 }
 
+// Beyond the first-level cache many positions are read faster a little at a time.
+inline constexpr std::size_t elementsInCache = 1 << 13;
+
 // Fewer objects are not worth the alias test.
 inline constexpr std::size_t worthPositions = 3 * packWidth;
 
@@ -123,12 +126,12 @@ VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results,
                     storeAt(results + n * sizeof(Real32), kernel(rows, columns, NumbersOfPositions(tables, n)...));
                 return count;
             }
-        constexpr std::size_t chains = 4; // sums wait for their last term
-        return workPacks<chains>(
-            count,
-            [&](std::size_t n, const auto &...sources)
-                VONKK3_INLINED { storePacks(results + n * sizeof(Real32), kernel(rows, columns, sources...)); },
-            tables...);
+        const auto work = [&](std::size_t n, const auto &...sources) VONKK3_INLINED {
+            storePacks(results + n * sizeof(Real32), kernel(rows, columns, sources...));
+        };
+        if constexpr (!isHoisted<Table>)
+            if (count * rows * columns > elementsInCache) return workPacks<2>(count, work, tables...);
+        return workPacks<4>(count, work, tables...); // sums wait for their last term
     };
     return reduce(Table(src)...);
 }
