@@ -287,4 +287,55 @@ TEST(ManyObjects, MayBeScaledOntoATableTheyAreFoundThrough) {
     }
 }
 
+// Far more objects than a cache holds are worked in smaller steps.
+TEST(ManyObjects, HaveTheirNormsTakenBeyondTheCache) {
+    constexpr std::uint32_t many = 1003;
+    std::vector<float> numbers(9 * many), together(many), alone(many);
+    for (std::size_t k = 0; k < numbers.size(); ++k) numbers[k] = static_cast<float>(k * 37 % 101) / 8.0F - 6.0F;
+    const Table table = tableFrom(numbers.data(), many, 9);
+    ASSERT_EQ(vonkFrobNorm_ma_32f_3x3_P(table.data(), 0, together.data(), many), vonkOk);
+    for (std::uint32_t n = 0; n < many; ++n)
+        ASSERT_EQ(vonkFrobNorm_ma_32f_3x3_P(table.data(), static_cast<std::int32_t>(n) * bytes, &alone[n], 1), vonkOk);
+    EXPECT_EQ(together, alone);
+    EXPECT_GT(together[many - 1], 0.0F);
+}
+
+// The lists of a call are looked at together, some objects at a time.
+TEST(ManyObjects, OfListsEndAtTheFirstNullEntry) {
+    const std::array<float, 16> matrix{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
+    std::vector<float> vectors(static_cast<std::size_t>(8 * objects), 1.0F);
+    for (const bool ofResults : {false, true})
+        for (std::uint32_t ending = 0; ending < objects; ++ending) {
+            SCOPED_TRACE(std::to_string(ending) + (ofResults ? " in the results" : " in the sources"));
+            std::vector<float> results(vectors.size(), -1.0F);
+            Table sources = tableFrom(vectors.data(), 8, objects), into = tableFrom(results.data(), 8, objects);
+            (ofResults ? into : sources)[ending] = nullptr;
+            ASSERT_EQ(vonkMul_mva_32f_4x4_LS2(matrix.data(), 16, 4, sources.data(), 0, 8, into.data(), 0, 8, objects),
+                      vonkErrNullPtr);
+            for (std::uint32_t n = 0; n < objects; ++n)
+                EXPECT_EQ(results[8 * n], n < ending ? 10.0F : -1.0F) << "object " << n;
+        }
+}
+
+// An object that is no farther than the one before it, anywhere in a list: results see what was written before.
+TEST(ManyObjects, OfListsMayStepBack) {
+    const std::array<float, 16> matrix{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
+    for (std::uint32_t again = 1; again < objects; ++again) {
+        SCOPED_TRACE(again);
+        const auto work = [&](bool together) {
+            std::vector<float> numbers(static_cast<std::size_t>(16 * objects));
+            for (std::size_t k = 0; k < numbers.size(); ++k) numbers[k] = static_cast<float>(k % 7);
+            Table sources = tableFrom(numbers.data(), 8, objects);
+            const Table into = tableFrom(numbers.data() + 8 * objects, 8, objects);
+            sources[again] = into[again - 1];
+            const std::uint32_t count = together ? objects : 1;
+            for (std::uint32_t n = 0; n < objects; n += count)
+                EXPECT_EQ(vonkMul_mva_32f_4x4_LS2(matrix.data(), 16, 4, &sources[n], 0, 8, &into[n], 0, 8, count),
+                          vonkOk);
+            return numbers;
+        };
+        EXPECT_EQ(work(true), work(false));
+    }
+}
+
 } // namespace

@@ -330,12 +330,47 @@ inline bool areObjectsDisjoint(const AliasOperand &written, std::size_t n, std::
     return true;
 }
 
+// Addresses, as many as a register takes.
+template <std::size_t lanes> using Addresses [[gnu::vector_size(lanes * sizeof(std::uint64_t))]] = std::uint64_t;
+inline bool isAnyNegative(Addresses<2> lanes) { return _mm_movemask_pd(__m128d(lanes)) != 0; }
+#ifdef __AVX2__
+inline bool isAnyNegative(Addresses<4> lanes) { return _mm256_movemask_pd(__m256d(lanes)) != 0; }
+inline constexpr std::size_t widestAddresses = 4;
+#else
+inline constexpr std::size_t widestAddresses = 2;
+#endif
+
 // ---- Lists that ascend are as good as arrays ------------------------------------------------------------------------
 
 struct AscendingLists {
     std::size_t length; // objects until one of the lists has a null entry
     bool ascend;        // and the objects of written lists are disjoint
 };
+
+// Blocks of objects from the second one on: none of their entries is null or leads less than the least step beyond the
+// one before it. The first object behind them. All lists are scanned in one loop, as the end of each is mispredicted.
+template <std::size_t lists>
+VONKK3_INLINE std::size_t scanBlocks(const std::uintptr_t (&entries)[lists], const Address (&leastStep)[lists],
+                                     std::size_t count) {
+    using Lanes = Addresses<widestAddresses>;
+    constexpr std::size_t block = 4;
+    std::size_t n = 1;
+    for (; n + block <= count; n += block) {
+        const auto load = [&]<class Entries>(std::size_t l, std::size_t k) VONKK3_INLINED {
+            return loadAt<Entries>(reinterpret_cast<const std::byte *>(entries[l]) + k * sizeof(Address));
+        };
+        for (std::size_t k = n; k < n + block; ++k)
+            for (std::size_t l = 0; l < lists; ++l)
+                if (load.template operator()<Address>(l, k) == 0) return n;
+        Lanes negative = {};
+        for (std::size_t l = 0; l < lists; ++l)
+            for (std::size_t k = n; k < n + block; k += widestAddresses)
+                negative |=
+                    load.template operator()<Lanes>(l, k) - load.template operator()<Lanes>(l, k - 1) - leastStep[l];
+        if (isAnyNegative(negative)) break;
+    }
+    return n;
+}
 
 // Entries are looked at object by object, none after the first that is null. A shift moves all objects of a list alike,
 // so entries are compared in place of objects; the objects ascend with them unless they wrap round at address 0. An
@@ -353,7 +388,10 @@ template <std::size_t lists> VONKK3_NOINLINE AscendingLists scanLists(AliasOpera
         if (before[l] == 0 || operand.view.object(0) == 0) return {0, true};
     }
     const std::size_t count = operands[0]->view.count;
-    for (std::size_t n = 1; n < count; ++n) {
+    std::size_t n = 1;
+    if constexpr (!isAddressSpaceSmall) n = scanBlocks(entries, leastStep, count);
+    for (std::size_t l = 0; l < lists; ++l) before[l] = ObjectsView::pointerAt(entries[l] + (n - 1) * sizeof(void *));
+    for (; n < count; ++n) {
         VONKK3_UNROLL_WHOLE
         for (std::size_t l = 0; l < lists; ++l) {
             const Address entry = ObjectsView::pointerAt(entries[l] + n * sizeof(void *));
@@ -407,18 +445,21 @@ inline bool areAllIndependent(const AliasOperand *operands, std::size_t number) 
 }
 
 // The entries that are read for an object: `positions` of them, so many bytes apart.
-struct EntriesRead {
+template <class Positions> struct EntriesRead {
     std::uintptr_t begin;
-    std::size_t positions;
+    Positions positions;
     std::size_t step;
+    bool areEquallySpaced = true; // without it, nothing of the rest counts
 };
 
-// Addresses, as many as a register takes.
-template <std::size_t lanes> using Addresses [[gnu::vector_size(lanes * sizeof(std::uint64_t))]] = std::uint64_t;
-inline bool isAnyNegative(Addresses<2> lanes) { return _mm_movemask_pd(__m128d(lanes)) != 0; }
-#ifdef __AVX2__
-inline bool isAnyNegative(Addresses<4> lanes) { return _mm256_movemask_pd(__m256d(lanes)) != 0; }
-#endif
+// Of few positions the compiler knows the number, and the test has a body of its own for it.
+template <class Rows, class Columns> constexpr auto positionsOf(Rows rows, Columns columns) {
+    if constexpr (requires { fixed<Rows::value * Columns::value>; })
+        if constexpr (Rows::isFixed && Columns::isFixed && Rows::value * Columns::value <= 6)
+            return fixed<Rows::value * Columns::value>;
+        else return std::size_t(rows) * columns;
+    else return std::size_t(rows) * columns;
+}
 
 // Whether each of more entries than there are lanes leads so many bytes, or more, beyond the one before it: neither the
 // distance is negative then, nor distance - least, nor the entry, so that sums of distances do not wrap round.
@@ -437,8 +478,22 @@ VONKK3_INLINE bool doStepsReach(const std::byte *entries, std::size_t positions,
     return !isAnyNegative(negative);
 }
 
-// The same for any number of entries.
-inline bool doStepsReach(const EntriesRead &read, Distance least) {
+// The same of entries that are few or have others between them.
+template <class Positions> VONKK3_INLINE bool doStepsReachOneByOne(const EntriesRead<Positions> &read, Distance least) {
+    Address before = ObjectsView::pointerAt(read.begin), negative = 0;
+    for (std::size_t k = 1; k < read.positions; ++k) {
+        const Address next = ObjectsView::pointerAt(read.begin + k * read.step);
+        const Address distance = next - before;
+        negative |= next | distance | (distance - Address(least));
+        before = next;
+    }
+    return Distance(negative) >= 0;
+}
+VONKK3_NOINLINE inline bool doManyStepsReach(EntriesRead<std::size_t> read, Distance least) {
+    return doStepsReachOneByOne(read, least);
+}
+
+template <class Positions> VONKK3_INLINE bool doStepsReach(const EntriesRead<Positions> &read, Distance least) {
     const std::size_t positions = read.positions;
     if (sizeof(void *) == sizeof(std::uint64_t) && read.step == sizeof(void *)) {
         const auto *const entries = reinterpret_cast<const std::byte *>(read.begin);
@@ -447,30 +502,22 @@ inline bool doStepsReach(const EntriesRead &read, Distance least) {
 #endif
         if (positions > 2) return doStepsReach<2>(entries, positions, std::uint64_t(least));
     }
-    Address before = ObjectsView::pointerAt(read.begin);
-    for (std::size_t k = 1; k < positions; ++k) {
-        const Address next = ObjectsView::pointerAt(read.begin + k * read.step);
-        const Address distance = next - before;
-        if (Distance(next | distance | (distance - Address(least))) < 0) return false;
-        before = next;
-    }
-    return true;
+    if constexpr (requires { Positions::isFixed; }) return doStepsReachOneByOne(read, least);
+    else return doManyStepsReach(read, least);
 }
 
 // Where `count` objects lie, `objectStride` bytes apart at each position, if positions ascend, and each position's
 // objects lie before the next one's, or each object before the next one; else nothing. No entry is null then.
-VONKK3_NOINLINE inline Extent extentOfAscending(const EntriesRead &read, std::ptrdiff_t shift,
-                                                std::ptrdiff_t objectStride, std::size_t count,
-                                                std::uint32_t elementBytes) {
-    if (count > 1 && objectStride < std::ptrdiff_t(elementBytes)) return {1, 0};
-    const Distance ofPosition = distanceOf(count - 1, objectStride) + Distance(elementBytes);
+template <class Positions>
+VONKK3_INLINE Extent extentOfAscending(const EntriesRead<Positions> &read, std::ptrdiff_t shift,
+                                       std::ptrdiff_t objectStride, std::size_t count, std::uint32_t elementBytes) {
+    const auto ofElement = Distance(elementBytes), ofPosition = distanceOf(count - 1, objectStride) + ofElement;
     const Address first = ObjectsView::pointerAt(read.begin);
-    if (Distance(first) <= 0) return {1, 0};
     const Address last = ObjectsView::pointerAt(read.begin + (read.positions - 1) * read.step);
-    const bool isWrittenOnce =
-        doStepsReach(read, ofPosition) ||
-        (Distance(last - first) + Distance(elementBytes) <= objectStride && doStepsReach(read, Distance(elementBytes)));
-    if (!isWrittenOnce) return {1, 0};
+    const bool isObjectBeforeNext = Distance(last - first) + ofElement <= objectStride;
+    if ((count > 1 && objectStride < ofElement) || Distance(first) <= 0 ||
+        !doStepsReach(read, isObjectBeforeNext ? ofElement : ofPosition))
+        return {1, 0};
     return Extent{first, last + Address(ofPosition)}.movedBy(std::uintptr_t(shift));
 }
 
@@ -481,7 +528,7 @@ VONKK3_NOINLINE inline Extent extentOfAscending(const ObjectsView &table) {
     const std::ptrdiff_t outer = isTransposed ? table.elementStride : table.rowStride;
     const std::size_t length = isTransposed ? table.rows : table.columns;
     if (length != 1 && table.rows != 1 && table.columns != 1 && outer != strides(length, inner)) return {1, 0};
-    const EntriesRead read{table.begin, std::size_t(table.rows) * table.columns, std::size_t(inner)};
+    const EntriesRead<std::size_t> read{table.begin, std::size_t(table.rows) * table.columns, std::size_t(inner)};
     return extentOfAscending(read, table.shift, table.objectStride, table.count, table.elementBytes);
 }
 
@@ -590,21 +637,34 @@ VONKK3_NOINLINE inline bool askForBatch(const AliasOperand *operands, std::size_
 
 // ---- Tables, from the words of a call -------------------------------------------------------------------------------
 
-// Of `rows` by `columns`, transposed or not; false where they are not equally spaced.
-VONKK3_INLINE bool areEquallySpaced(const OperandWords &table, std::size_t rows, std::size_t columns,
-                                    EntriesRead &entries) {
+// Of `rows` by `columns`, transposed or not.
+template <class Words, class Rows, class Columns>
+VONKK3_INLINE auto entriesRead(const Words &table, Rows rows, Columns columns) {
     const std::size_t entriesToRow = std::uint32_t(table.elementStride);
-    const std::size_t length = table.isTransposed ? rows : columns, number = table.isTransposed ? columns : rows;
-    entries = {table.begin, rows * columns, (length == 1 ? entriesToRow : 1) * sizeof(void *)};
-    return length == 1 || number == 1 || entriesToRow == length; // rows of the table as it lies
+    const bool isTransposed = areOfTable<Words> ? areOfTransposedTable<Words> : table.isTransposed;
+    const std::size_t length = isTransposed ? rows : columns, number = isTransposed ? columns : rows;
+    const auto positions = positionsOf(rows, columns);
+    return EntriesRead<std::remove_const_t<decltype(positions)>>{
+        table.begin, positions, (length == 1 ? entriesToRow : 1) * sizeof(void *),
+        length == 1 || number == 1 || entriesToRow == length}; // rows of the table as it lies
 }
 
-VONKK3_INLINE Extent extentOfAscending(const OperandWords &table, const EntriesRead &entries, std::size_t count) {
-    return extentOfAscending(entries, table.rowStride, table.step, table.isArray ? count : 1, sizeof(Real32));
+template <class Positions> VONKK3_INLINE Extent extentOfEntries(const EntriesRead<Positions> &read) {
+    return {read.begin, read.begin + Address(read.positions) * read.step};
 }
 
-inline Extent extentOfEntries(const EntriesRead &entries) {
-    return {entries.begin, entries.begin + Address(entries.positions) * entries.step};
+// Few positions are looked at in line.
+VONKK3_NOINLINE inline Extent extentOfMany(const EntriesRead<std::size_t> &read, std::ptrdiff_t shift,
+                                           std::ptrdiff_t objectStride, std::size_t count) {
+    return extentOfAscending(read, shift, objectStride, count, sizeof(Real32));
+}
+template <class Positions>
+VONKK3_INLINE Extent extentOfAscending(const OperandWords &table, const EntriesRead<Positions> &read,
+                                       std::size_t count) {
+    const std::size_t objects = table.isArray ? count : 1;
+    if constexpr (requires { Positions::isFixed; })
+        return extentOfAscending(read, table.rowStride, table.step, objects, sizeof(Real32));
+    else return extentOfMany(read, table.rowStride, table.step, objects);
 }
 
 } // namespace aliasing
@@ -616,38 +676,39 @@ inline bool arePacked(const OperandWords &table) {
 
 // The usual case: positions ascend, and what is written is disjoint from all else. Where it is not told by these two,
 // Aliasing tells. First where the positions of the result lie; nothing, if it is not that.
-VONKK3_INLINE Extent plainlyWritten(const OperandWords &d, std::size_t rows, std::size_t columns, std::size_t count) {
-    aliasing::EntriesRead entries;
-    if (!aliasing::areEquallySpaced(d, rows, columns, entries)) return {1, 0};
-    const Extent written = aliasing::extentOfAscending(d, entries, count);
-    return disjoint(written, aliasing::extentOfEntries(entries)) ? written : Extent{1, 0};
+template <class Words, class Rows, class Columns>
+VONKK3_INLINE Extent plainlyWritten(const Words &d, Rows rows, Columns columns, std::size_t count) {
+    const auto read = aliasing::entriesRead(d, rows, columns);
+    if (!read.areEquallySpaced) return {1, 0};
+    const Extent written = aliasing::extentOfAscending(d, read, count);
+    return disjoint(written, aliasing::extentOfEntries(read)) ? written : Extent{1, 0};
 }
 
 // Then whether a source is disjoint from that.
-VONKK3_INLINE bool isPlainlyDisjoint(const Extent &written, const OperandWords &source, std::size_t rows,
-                                     std::size_t columns, std::size_t count) {
-    aliasing::EntriesRead entries;
-    if (written.isEmpty() || !aliasing::areEquallySpaced(source, rows, columns, entries) ||
-        !disjoint(written, aliasing::extentOfEntries(entries)))
+template <class Words, class Rows, class Columns>
+VONKK3_INLINE bool isPlainlyDisjoint(const Extent &written, const Words &source, Rows rows, Columns columns,
+                                     std::size_t count) {
+    const auto read = aliasing::entriesRead(source, rows, columns);
+    if (written.isEmpty() || !read.areEquallySpaced || !disjoint(written, aliasing::extentOfEntries(read)))
         return false;
-    const Extent read = aliasing::extentOfAscending(source, entries, count);
-    return !read.isEmpty() && disjoint(written, read);
+    const Extent ofSource = aliasing::extentOfAscending(source, read, count);
+    return !ofSource.isEmpty() && disjoint(written, ofSource);
 }
 
 // Or the same entries. Elements of an object keep their order, so it does not matter which are transposed.
-VONKK3_INLINE bool isInPlace(const OperandWords &d, const OperandWords &source, std::size_t rows, std::size_t columns) {
-    aliasing::EntriesRead written, read;
+template <class Written, class Source, class Rows, class Columns>
+VONKK3_INLINE bool isInPlace(const Written &d, const Source &source, Rows rows, Columns columns) {
+    const auto written = aliasing::entriesRead(d, rows, columns), read = aliasing::entriesRead(source, rows, columns);
     return source.begin == d.begin && source.rowStride == d.rowStride && source.step == d.step && source.isArray &&
-           aliasing::areEquallySpaced(d, rows, columns, written) &&
-           aliasing::areEquallySpaced(source, rows, columns, read) && written.step == read.step;
+           written.areEquallySpaced && read.areEquallySpaced && written.step == read.step;
 }
 
 // All of it, for sources of the size of what is written.
-template <bool mayBeInPlace, class... Words>
-VONKK3_INLINE bool arePlainlyIndependent(std::size_t rows, std::size_t columns, std::size_t count,
-                                         const OperandWords &d, const Words &...sources) {
+template <bool mayBeInPlace, class Rows, class Columns, class Written, class... Sources>
+VONKK3_INLINE bool arePlainlyIndependent(Rows rows, Columns columns, std::size_t count, const Written &d,
+                                         const Sources &...sources) {
     const Extent written = plainlyWritten(d, rows, columns, count);
-    const auto isIndependent = [&](const OperandWords &source) VONKK3_INLINED {
+    const auto isIndependent = [&](const auto &source) VONKK3_INLINED {
         return isPlainlyDisjoint(written, source, rows, columns, count) ||
                (mayBeInPlace && !written.isEmpty() && isInPlace(d, source, rows, columns));
     };

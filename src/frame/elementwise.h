@@ -174,7 +174,7 @@ VONKK3_INLINE VonkStatus workArrays(const Operation &operation, Rows rows, Colum
         constexpr bool areVectors = Columns::isFixed && Rows::isFixed && Rows::value == 1;
         if constexpr (areVectors && areOfTable<Destination> && (areOfTable<Sources> && ...))
             if (count >= worthStreamingTables && (src.isArray && ...) && arePacked(dst) && (arePacked(src) && ...) &&
-                streamVectors<Columns::value>(operation, count, dst, src...))
+                streamVectors(operation, columns, count, dst, src...))
                 return vonkOk;
         return streamOrWorkObjects<T, entries>(operation, rows, columns, count, dst, src...);
     }

@@ -133,6 +133,20 @@ struct TablePositions {
     }
 };
 
+// The same of a small object's table, read once for all objects.
+template <std::size_t rows, std::size_t columns> struct HoistedPositions {
+    std::uintptr_t hoisted[rows][columns];
+    std::ptrdiff_t step;
+    bool isArray;
+
+    template <class Words>
+    VONKK3_INLINE explicit HoistedPositions(const Words &words) : step(words.step), isArray(words.isArray) {
+        const EntryStrides strides(words);
+        readPositions(words.begin, strides.row, strides.element, words.rowStride, hoisted);
+    }
+    std::uintptr_t position(std::size_t i, std::size_t j) const { return hoisted[i][j]; }
+};
+
 template <bool throughTable, class T> VONKK3_INLINE auto objectAt(const ObjectsView &view, std::size_t n) {
     if constexpr (throughTable) return EntriesView<T>(view, n);
     else return stridedObject<T>(view, n);

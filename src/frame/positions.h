@@ -4,7 +4,6 @@
 
 #include "frame/aliasing.h"
 #include "frame/gather.h"
-#include "frame/hoisted_positions.h"
 #include "frame/walk.h"
 
 namespace vonkk3 {
@@ -116,9 +115,7 @@ VONKK3_SHARED std::size_t reduceArrays(const Kernel &kernel, std::byte *results,
     using Table = PositionsOf<Rows, Columns>;
     const Extent written = extentOf(results, count * sizeof(Real32));
     const auto reduce = [&](const auto &...tables) VONKK3_INLINED -> std::size_t {
-        bool isPlain;
-        if constexpr (isHoisted<Table>) isPlain = (isPlainlyDisjoint(written, tables, count) && ...);
-        else isPlain = (isPlainlyDisjoint(written, src, rows, columns, count) && ...);
+        const bool isPlain = (isPlainlyDisjoint(written, src, rows, columns, count) && ...);
         if (!isPlain && !mayReduce(results, rows, columns, count, src...)) return 0;
         if constexpr (isHoisted<Table> && Kernel::isSum)
             if ((tables.isArray && ...) && !arePacked(tables...)) {
@@ -142,21 +139,19 @@ template <std::size_t rows, std::size_t columns, bool mayBeInPlace, class Kernel
 VONKK3_SHARED std::size_t workPositions(const Kernel &kernel, std::size_t count, const Destination &dst,
                                         const Words &...src) {
     if (count < worthPositions) return 0;
+    if (!arePlainlyIndependent<mayBeInPlace>(fixed<rows>, fixed<columns>, count, dst, src...)) {
+        const auto mayWork = [&](const ObjectsView &written, const auto &...views) VONKK3_INLINED {
+            const auto use = mayBeInPlace ? readsInPlace : reads;
+            return Aliasing(count, writes(written), use(views)...).allowsBatch(0, count);
+        };
+        if (!mayWork(objectsOf<Real32, true>(dst, rows, columns, count),
+                     objectsOf<Real32, true>(src, rows, columns, count)...))
+            return 0;
+    }
     using Table = HoistedPositions<rows, columns>;
-    const auto work = [&](const Table &d, const auto &...sources) VONKK3_INLINED -> std::size_t {
-        if (!arePlainlyIndependent<mayBeInPlace>(count, d, sources...)) {
-            const auto mayWork = [&](const ObjectsView &written, const auto &...views) VONKK3_INLINED {
-                const auto use = mayBeInPlace ? readsInPlace : reads;
-                return Aliasing(count, writes(written), use(views)...).allowsBatch(0, count);
-            };
-            if (!mayWork(objectsOf<Real32, true>(dst, rows, columns, count),
-                         objectsOf<Real32, true>(src, rows, columns, count)...))
-                return 0;
-        }
-        return workPacks<1>(
-            count, [&](std::size_t, const auto &...operands) VONKK3_INLINED { kernel(operands...); }, d, sources...);
-    };
-    return work(Table(dst), Table(src)...);
+    return workPacks<1>(
+        count, [&](std::size_t, const auto &...operands) VONKK3_INLINED { kernel(operands...); }, Table(dst),
+        Table(src)...);
 }
 
 } // namespace vonkk3

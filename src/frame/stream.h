@@ -4,7 +4,7 @@
 // one, over objects. Exactly the bytes of the elements are read and written.
 #pragma once
 
-#include "frame/hoisted_positions.h"
+#include "frame/aliasing.h"
 #include "frame/registers.h"
 #include "frame/straight.h"
 
@@ -271,13 +271,13 @@ struct AdjacentPositions {
 
 // The usual case of it, tables alone. False, with nothing done, where a look at the words does not show that they are
 // independent and that no entry is null.
-template <class Operation, class Destination, class... Sources>
-VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::size_t columns, std::size_t count,
-                                const Destination &dst, const Sources &...src) {
+template <class Operation, class Rows, class Columns, class Destination, class... Sources>
+VONKK3_INLINE bool streamPlainTables(const Operation &shared, Rows rows, Columns columns, std::size_t count,
+                                     const Destination &dst, const Sources &...src) {
     if (!arePlainlyIndependent<true>(rows, columns, count, dst, src...)) return false;
     const Operation operation = shared;
     constexpr bool isAnyTransposed = areOfTransposedTable<Destination> || (areOfTransposedTable<Sources> || ...);
-    std::size_t positions = rows * columns;
+    std::size_t positions = std::size_t(rows) * columns;
     const auto forEachPosition = [&](const auto &work) VONKK3_INLINED {
         if constexpr (isAnyTransposed) {
             const auto walk = [&](auto d, auto... sources) VONKK3_INLINED {
@@ -322,26 +322,22 @@ VONKK3_SHARED bool streamTables(const Operation &shared, std::size_t rows, std::
     return true;
 }
 
-// The same of arrays of vectors of a fixed length that are packed behind every position.
-template <std::size_t length, class Operation, class Destination, class... Sources>
-VONKK3_SHARED bool streamVectors(const Operation &shared, std::size_t count, const Destination &dst,
+// Of run-time size, in one body for all.
+template <class Operation, class Destination, class... Sources>
+VONKK3_SHARED bool streamTables(const Operation &operation, std::size_t rows, std::size_t columns, std::size_t count,
+                                const Destination &dst, const Sources &...src) {
+    return streamPlainTables(operation, rows, columns, count, dst, src...);
+}
+
+// Of vectors of a fixed length, packed behind every position, which the caller knows, and so the alias test does.
+template <class Operation, class Length, class Destination, class... Sources>
+VONKK3_SHARED bool streamVectors(const Operation &operation, Length length, std::size_t count, const Destination &dst,
                                  const Sources &...src) {
-    using Table = HoistedPositions<1, length>;
-    const auto stream = [&](const Table &d, const auto &...sources) VONKK3_INLINED {
-        if (d.isAnyNull() || (sources.isAnyNull() || ...)) return false;
-        if (!arePlainlyIndependent<true>(count, d, sources...)) return false;
-        const Operation operation = shared;
-        for (std::size_t j = 0; j < length; ++j)
-            streamInLanes(operation, reinterpret_cast<std::byte *>(d.position(0, j)), count,
-                          ContiguousSource{reinterpret_cast<const std::byte *>(sources.position(0, j))}...);
-        return true;
+    const auto packed = [](auto words) VONKK3_INLINED {
+        words.step = sizeof(Real32), words.isArray = true;
+        return words;
     };
-    const auto packed = [](const auto &words) VONKK3_INLINED { // which the caller knows, and so the alias test does
-        Table table(words);
-        table.step = sizeof(Real32), table.isArray = true;
-        return table;
-    };
-    return stream(packed(dst), packed(src)...);
+    return streamPlainTables(operation, fixed<1>, length, count, packed(dst), packed(src)...);
 }
 inline constexpr std::size_t worthStreamingTables = 12, worthStreamingStrided = 48; // objects
 

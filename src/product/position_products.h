@@ -3,7 +3,6 @@
 #pragma once
 
 #include "frame/batch.h"
-#include "frame/hoisted_positions.h"
 #include "product/sums.h"
 
 namespace vonkk3::product {
