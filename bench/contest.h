@@ -19,6 +19,9 @@ enum class Agreement {
     none       // a yardstick that does no work: measured, but neither compared nor a peer
 };
 
+// The yardstick of pointer and list layouts: tests for null entries and overlap, which peers leave out.
+inline constexpr const char *testsOfOperands = "tests of the operands";
+
 struct Contestant {
     std::string name;
     Agreement agreement;

@@ -160,6 +160,7 @@ template <Layout layout, class Kernel> struct LayoutData {
     Buffer<float> work;
     Extra extra{0.75F, -1.25F, nullptr, shapes.back().rows, shapes.back().columns};
     VonkStatus status = vonkOk;
+    bool isSafe = false;
     std::array<Place, sources + 1> places; // as peers have them
 
     explicit LayoutData(std::size_t count)
@@ -274,6 +275,12 @@ template <Layout layout, class F, class Call> Contest layoutContest(std::size_t 
              ...);
         },
         F::others());
+    if constexpr (isTable(layout) || isList(layout))
+        contest.contestants.push_back({testsOfOperands, Agreement::none, repeated([=] {
+                                           data->isSafe = plain::mayWork<typename F::Kernel, layout>(
+                                               data->places.data(), data->count);
+                                       }),
+                                       nullptr});
     if constexpr (F::branchesOnData) contest.renew = [=](std::uint32_t seed) { data->operands[0].fillRandomly(seed); };
     return contest;
 }

@@ -48,18 +48,21 @@ struct Entry {
     bool isApart;                   // a determinant, or the best peer rounds otherwise
     std::optional<double> sameBits; // the ratio to the best peer of the same bits
     std::optional<double> baseline; // the ratio of the other run
+    std::optional<double> tested;   // the ratio to the best peer, if it took the time of such tests as well
 };
 
 Entry entryOf(const Measured &measured, const Ratios &others) {
     const Timing &best = bestOf(measured.timings);
-    std::optional<double> sameBits;
+    std::optional<double> sameBits, tested;
+    for (const Timing &timing : measured.timings)
+        if (timing.peer == testsOfOperands) tested = best.ours / (best.theirs + timing.theirs);
     for (const Timing &timing : measured.timings)
         if (timing.agreement == Agreement::bits) sameBits = std::max(sameBits.value_or(0), timing.ratio());
     const Parts parts = partsOf(measured.row);
     const bool isApart = best.agreement != Agreement::bits || parts.family.rfind("Det_", 0) == 0;
     const auto other = others.find(measured.row);
     const auto baseline = other == others.end() ? std::nullopt : std::optional(other->second);
-    return {measured.row, best.peer, parts, best.ratio(), isApart, sameBits, baseline};
+    return {measured.row, best.peer, parts, best.ratio(), isApart, sameBits, baseline, tested};
 }
 
 class Mean {
@@ -141,6 +144,7 @@ void printLosers(Entries entries, bool isApart, const char *heading) {
         if (entry.baseline) std::printf("%7.2f ", *entry.baseline);
         std::printf("%7.2f  %s  (%s", entry.ratio, entry.row.c_str(), entry.peer.c_str());
         if (isApart && entry.sameBits) std::printf("; of the same bits %.2f", *entry.sameBits);
+        if (entry.tested) std::printf("; if it tested its operands %.2f", *entry.tested);
         std::printf(")\n");
     }
 }

@@ -212,5 +212,61 @@ template <class Kernel, Layout layout, Way way>
     return walkOver<Kernel, layout, way>(places, extra, count, std::make_index_sequence<Kernel::shapes.size() - 1>());
 }
 
+// ---- What the loops take for granted --------------------------------------------------------------------------------
+
+// The bytes from the first to the last of an operand that is found through a table, or is packed; and that no entry is
+// null and, of a result, that positions follow one another.
+struct Span {
+    std::uintptr_t begin, end;
+};
+template <Layout layout, Shape shape, bool isResult>
+[[gnu::always_inline]] inline Span spanOf(const Place &place, std::size_t count, bool &isSafe) {
+    const auto at = [](const float *p) { return reinterpret_cast<std::uintptr_t>(p); };
+    if constexpr (shape.extent == Extent::packed)
+        return {at(place.start), at(place.start) + count * shape.elements() * sizeof(float)};
+    else {
+        const std::size_t step = layout == Layout::P ? sizeof(float) : place.object;
+        const std::size_t bytes = (shape.extent == Extent::array ? (count - 1) * step : 0) + sizeof(float);
+        Span span{at(place.table[0]), at(place.table[0])};
+        std::uintptr_t before = at(place.table[0]) - bytes;
+        for (std::size_t k = 0; k < shape.elements(); ++k) {
+            const std::uintptr_t position = at(place.table[k]);
+            isSafe &= position != 0;
+            if constexpr (isResult) isSafe &= position - before >= bytes;
+            span.begin = position < span.begin ? position : span.begin;
+            span.end = position > span.end ? position : span.end;
+            before = position;
+        }
+        span.end += bytes;
+        return span;
+    }
+}
+
+// Whether a call may work its objects as the loops above do: what it must find out first if it is told nothing of its
+// operands. Through lists, object after object, that is whether an entry is null.
+template <class Kernel, Layout layout> [[gnu::noinline]] bool mayWork(const Place *places, std::size_t count) {
+    return [&]<std::size_t... source>(std::index_sequence<source...>) {
+        constexpr std::size_t result = sizeof...(source);
+        bool isSafe = true;
+        if constexpr (isList(layout)) {
+            const auto isNull = [&]<std::size_t k>(std::size_t n) {
+                return Kernel::shapes[k].extent == Extent::array && places[k].table[n] == nullptr;
+            };
+            for (std::size_t n = 0; n < count; ++n)
+                if ((isNull.template operator()<source>(n) || ...) || isNull.template operator()<result>(n))
+                    return false;
+        } else {
+            const Span written = spanOf<layout, Kernel::shapes[result], true>(places[result], count, isSafe);
+            const auto look = [&]<std::size_t k>() {
+                const Span read = spanOf<layout, Kernel::shapes[k], false>(places[k], count, isSafe);
+                isSafe &= read.end <= written.begin || written.end <= read.begin;
+            };
+            (look.template operator()<source>(), ...);
+        }
+        return isSafe;
+    }
+    (std::make_index_sequence<Kernel::shapes.size() - 1>());
+}
+
 } // namespace plain
 } // namespace bench
