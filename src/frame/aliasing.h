@@ -380,8 +380,10 @@ template <std::size_t lists> VONKK3_NOINLINE AscendingLists scanLists(AliasOpera
     constexpr Address farthest = Address(1) << 62; // a step down is farther
     std::uintptr_t entries[lists];
     Address before[lists], leastStep[lists];
+    bool mayScanBlocks = !isAddressSpaceSmall;
     for (std::size_t l = 0; l < lists; ++l) {
         const AliasOperand &operand = *operands[l];
+        mayScanBlocks = mayScanBlocks && operand.view.shift == 0; // the entry of an object at address 0 is null then
         entries[l] = operand.view.begin;
         leastStep[l] = operand.isWritten() ? operand.object.bytes() : 0;
         before[l] = operand.view.listEntry(0);
@@ -389,7 +391,7 @@ template <std::size_t lists> VONKK3_NOINLINE AscendingLists scanLists(AliasOpera
     }
     const std::size_t count = operands[0]->view.count;
     std::size_t n = 1;
-    if constexpr (!isAddressSpaceSmall) n = scanBlocks(entries, leastStep, count);
+    if (mayScanBlocks) n = scanBlocks(entries, leastStep, count);
     for (std::size_t l = 0; l < lists; ++l) before[l] = ObjectsView::pointerAt(entries[l] + (n - 1) * sizeof(void *));
     for (; n < count; ++n) {
         VONKK3_UNROLL_WHOLE
